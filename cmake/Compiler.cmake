@@ -1,0 +1,32 @@
+# One set of compiler options for everything that is ours: the figures must be the same in every build, so contraction
+# of a*b+c is off and no option may trade exactness for speed.
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_VERIFY_INTERFACE_HEADER_SETS ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+
+if(NOT CMAKE_BUILD_TYPE)
+  set(CMAKE_BUILD_TYPE Development CACHE STRING "Development, Release or Debug" FORCE)
+endif()
+set(CMAKE_CXX_FLAGS_DEVELOPMENT "-O1 -g1" CACHE STRING "Optimised a little, with line numbers and assertions")
+set(CMAKE_C_FLAGS_DEVELOPMENT "-O1 -g1" CACHE STRING "Optimised a little, with line numbers and assertions")
+
+find_program(CCACHE ccache)
+if(CCACHE)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env "CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime" "CCACHE_BASEDIR=${CMAKE_SOURCE_DIR}" ${CCACHE})
+endif()
+find_program(MOLD mold)
+if(MOLD)
+  add_link_options(-fuse-ld=mold)
+endif()
+
+add_library(marlowbeck_options INTERFACE)
+target_compile_options(marlowbeck_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror -ffp-contract=off -fno-fast-math
+  "$<$<BOOL:${CCACHE}>:-fpch-preprocess>")
+if(MARLOWBECK_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace assessment {
+
+/// One row of an itemised line. Which of the figures behind the amount a list keeps depends on its layout.
+struct ItemRow {
+    std::string IncomeSource;
+    double Amount = 0;
+    double Escalation = 0; ///< income lists: percent a year
+    double FromAge = 0;    ///< income lists: age or year
+    double ToAge = 0;      ///< income lists: age or year
+    double At = 0;         ///< timed lists: age or year (`OccurAge`, `MatAtAge`)
+};
+
+/// What an itemised list keeps behind text and amount.
+enum class ItemLayout { income, plain, occurrenceAge, maturityAge };
+
+/// A money line that may be itemised: 1 means that the rows count in place of the plain amount.
+struct ItemList {
+    std::int16_t flag = 0;
+    std::vector<ItemRow> rows;
+};
+
+/// Every itemised line of the three big analyses, each under the name of its flag without "Itemise".
+struct Itemised {
+    ItemList RNAFutMonInc, RNARealEst, RNAStocks, RNABussSale, RNAOtherCap, RNAMortgage, RNARetProp, RNANewCar,
+        RNATravel, RNAOtherExp, RNAMonIncReq;
+    ItemList DTHMonIncReq, DTHFutMonInc, DTHRealEst, DTHStocks, DTHInvestments, DTHCars, DTHOtherCap, DTHMortgage,
+        DTHOtherLoans, DTHCreditCard, DTHEstateDuty, DTHOtherExp;
+    ItemList DISAMonIncReq, DISAFutMonInc, DISARealEst, DISAStocks, DISAInvestments, DISACars, DISAOtherCap,
+        DISAMortgage, DISAOtherLoans, DISACreditCard, DISAEstateDuty, DISAOtherExp;
+    /// Fed by the policies: a flag, no rows and no table.
+    std::int16_t RNAPoliciesItemise = 0, DTHLifeAssItemise = 0, DISALifeAssItemise = 0;
+};
+
+} // namespace assessment

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace base {
+
+/// Text without the blanks at its two ends (blanks only, as names and headings are padded with nothing else).
+std::string trim(std::string_view text);
+
+/// Number of characters (Unicode code points) in UTF-8 text. A broken byte counts as one character.
+std::size_t characterCount(std::string_view utf8);
+
+/// The first `count` characters of UTF-8 text, whole characters only.
+std::string firstCharacters(std::string_view utf8, std::size_t count);
+
+/// ASCII letters folded to lower case; all else, accented letters too, as it is.
+std::string lowerAscii(std::string_view text);
+
+/// True if both are the same but for the case of ASCII letters. Field, table and file names are matched so.
+bool sameName(std::string_view a, std::string_view b);
+
+/// True if two stored words (a mode, "Yes", "annually") are the same: trimmed, without case.
+bool sameWord(std::string_view a, std::string_view b);
+
+/// Trims a path and appends `\` unless it ends in a slash of either kind. A string helper only: what it gives must
+/// pass through `store::nativePath` before the system sees it.
+std::string AppendBackslash(std::string_view path);
+
+/// A fixed buffer cut at its first NUL.
+std::string CutAtNull(std::string_view buffer);
+
+} // namespace base

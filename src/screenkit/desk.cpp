@@ -1,0 +1,1 @@
+#include "screenkit/desk.h"

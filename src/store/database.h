@@ -1,0 +1,104 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "store/value.h"
+
+namespace SQLite {
+class Database;
+class Statement;
+} // namespace SQLite
+
+namespace store {
+
+class Database;
+
+/// One prepared statement. Values are bound in order, from 1.
+class Statement {
+public:
+    Statement(Database& database, std::string_view sql);
+    ~Statement();
+    Statement(Statement&&) noexcept;
+    Statement& operator=(Statement&&) = delete;
+    Statement(const Statement&) = delete;
+    Statement& operator=(const Statement&) = delete;
+
+    Statement& bind(int index, const Value& value);
+    /// To the next row; false when there is none. Every failure is a store::Error.
+    bool step();
+    /// Ready to run again, with the old values still bound.
+    void reset();
+    /// Runs it to its end and resets it.
+    void run();
+
+    int columnCount() const;
+    std::string columnName(int column) const; ///< columns count from 0
+    Value column(int column) const;
+    double number(int column) const;    ///< 0 if it is not a number
+    std::string text(int column) const; ///< empty if it is not text
+
+private:
+    Database* m_database;
+    std::unique_ptr<SQLite::Statement> m_statement;
+};
+
+/// A column as the file declares it.
+struct Column {
+    std::string name;
+    Declared declared;
+};
+
+/// One connection to one database file, open for one operation only and closed with the object.
+///
+/// Opening never creates: a missing file is Error 3024, a missing folder 3044, an empty file or one that is no database
+/// 3343, a damaged one 3049, and the file is left byte for byte as it was. Rollback journal, synchronous=FULL.
+/// A busy file is waited for at most a second, then Error 3356.
+class Database {
+public:
+    explicit Database(const std::filesystem::path& path);
+    ~Database();
+    Database(const Database&) = delete;
+    Database& operator=(const Database&) = delete;
+
+    /// A new empty file, readable by its owner alone. Error 3204 if there is one already.
+    static void create(const std::filesystem::path& path);
+
+    const std::filesystem::path& path() const { return m_path; }
+
+    bool hasTable(std::string_view table);
+    /// Columns in the file's order; empty if there is no such table.
+    std::vector<Column> columns(std::string_view table);
+    void execute(std::string_view sql);
+    Statement prepare(std::string_view sql) { return {*this, sql}; }
+    /// Rowid of the row inserted last.
+    std::int64_t lastRow() const;
+
+private:
+    friend class Statement;
+    std::filesystem::path m_path;
+    std::unique_ptr<SQLite::Database> m_connection;
+};
+
+/// Undone unless committed: a crash, an error or an early return leaves the file as it was.
+class Transaction {
+public:
+    explicit Transaction(Database& database);
+    ~Transaction();
+    Transaction(const Transaction&) = delete;
+    Transaction& operator=(const Transaction&) = delete;
+    void commit();
+
+private:
+    Database& m_database;
+    bool m_open = true;
+};
+
+/// A name in brackets, as every statement writes it: quotes would turn a misspelt name into a text constant.
+std::string bracketed(std::string_view name);
+
+} // namespace store

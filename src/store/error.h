@@ -1,0 +1,62 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+
+namespace store {
+
+/// The numbers by which a failure of a database or a file is known; they stand last in every message.
+enum class Number {
+    fileNotFound53 = 53,
+    deviceError = 57,
+    diskFull61 = 61,
+    permissionDenied = 70,
+    fileExists58 = 58,
+    pathNotFound = 76,
+    null = 94,
+    reserved = 3000,
+    tableExists = 3010,
+    noSuchTable = 3011,
+    noCurrentRecord = 3021,
+    fileNotFound = 3024,
+    diskFull = 3026,
+    readOnly = 3027,
+    badPath = 3044,
+    corrupt = 3049,
+    heldByAnother = 3356,
+    cannotOpen = 3051,
+    noSuchTableInQuery = 3078,
+    textTooLong = 3163,
+    fieldDefined = 3191,
+    databaseExists = 3204,
+    noSuchField = 3265,
+    indexExists = 3284,
+    notADatabase = 3343,
+    wrongType = 3421,
+};
+
+/// The one error of the database and file floors: what failed, on which file, why, and what the user can do about it.
+class Error : public std::runtime_error {
+public:
+    /// why: one sentence in plain words. advice: what the user can do; taken from the number where it is empty.
+    Error(Number number, std::string file, const std::string& why, std::string advice = {});
+
+    int number() const { return static_cast<int>(m_number); }
+    bool is(Number number) const { return m_number == number; }
+    const std::string& file() const { return m_file; }
+    std::string why() const { return what(); }
+    const std::string& advice() const { return m_advice; }
+
+    /// The whole message: file, reason, advice, the number last in brackets; parts joined by line breaks.
+    std::string message() const;
+
+private:
+    Number m_number;
+    std::string m_file;
+    std::string m_advice;
+};
+
+/// The usual sentence for a number, used where the cause has no words of its own.
+std::string usualReason(Number number);
+
+} // namespace store

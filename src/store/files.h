@@ -1,0 +1,23 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace store {
+
+/// A path with `\` and `/` taken alike, made absolute from `folder` where it is relative.
+std::filesystem::path nativePath(std::string_view path, const std::filesystem::path& folder = {});
+
+/// The file that a path means: its last component is matched without case, the exact name first, else the first match
+/// in byte order. A path that matches nothing comes back as it is, so that a new file gets the spelling asked for.
+std::filesystem::path existingSpelling(const std::filesystem::path& path);
+
+/// The whole of a file. Throws Error 53, 70 or 57.
+std::string readFile(const std::filesystem::path& path);
+
+/// Writes a file whole or not at all: beside it first, flushed to the disk, then renamed over it. Readable by the
+/// owner alone unless `mode` says otherwise. Throws Error 61, 70, 75 or 76 and leaves the old file as it was.
+void writeFile(const std::filesystem::path& path, std::string_view bytes, unsigned mode = 0600);
+
+} // namespace store
