@@ -22,7 +22,7 @@ struct EvenStretch {
 /// additions; so are all sums below 1, of which there are few.
 EvenStretch evenStretch(double sum) {
     const double size = std::fabs(sum);
-    if (!(size >= 1) || std::isinf(sum)) return {};
+    if (size < 1) return {};
     const double lower = std::ldexp(1, std::ilogb(size));
     const double room = sum > 0 ? lower - (size - lower) : size - lower;
     const double step = (sum + cent) - sum;

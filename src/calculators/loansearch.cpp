@@ -37,8 +37,8 @@ CoveredMonths coveredMonths(double principal, double percentAYear, double repaym
 /// computed one lies within 1e-11 of it; so one that is below by 1e-9 tells the same of all lower (higher) rates.
 /// For figures of which this can't be said the ladder begins at 0.
 double surelyBelow(double principal, double months, double repayment) {
-    constexpr double leastPrincipal = 1e-290; // below it the product with the rate loses digits
-    if (!(std::fabs(principal) >= leastPrincipal && months >= 1)) return 0;
+    constexpr double leastRepayment = 1e-290; // below it 1e-9 of it is no longer wide beside the smallest doubles
+    if (!(std::fabs(repayment) >= leastRepayment && months >= 1)) return 0;
     const double bound = repayment > 0 ? repayment / (1 + 1e-9) : repayment * (1 + 1e-9);
     const auto sure = [=](int step) { return repaymentFor(principal, months, 5.0 * step) <= bound; };
     if (principal < 0) return sure(1) ? 5.0 * coarseSteps : 0;

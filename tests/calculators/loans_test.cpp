@@ -34,7 +34,7 @@ testing::AssertionResult sameBits(const Loans& a, const Loans& b) {
     const auto text = [](const Loans& l) {
         return ::testing::PrintToString(std::vector<double>{l.Num1, l.Num2, l.Num3, l.Num4});
     };
-    return testing::AssertionFailure() << std::hexfloat << text(a) << " is not " << text(b);
+    return testing::AssertionFailure() << text(a) << " is not " << text(b);
 }
 
 /// Loans as clients have them, and beyond: principals from cents to a million million, all rates and periods.
