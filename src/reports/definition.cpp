@@ -3,7 +3,6 @@
 #include <QSet>
 #include <QXmlStreamReader>
 
-#include "store/error.h"
 #include "store/files.h"
 
 namespace reports {
@@ -219,9 +218,8 @@ void Reader::addPiece(const QString& name, qint64 line) {
 
 } // namespace
 
-void failAt(const QString& file, qint64 line, const QString& why) {
-    throw store::Error(store::Number::invalidFileFormat, file.toStdString(),
-                       QString("Line %1: %2").arg(line).arg(why).toStdString(),
+void failAt(const QString& file, qint64 line, const QString& why, store::Number number) {
+    throw store::Error(number, file.toStdString(), QString("Line %1: %2").arg(line).arg(why).toStdString(),
                        "Put the report definition right, or install the program again.");
 }
 

@@ -4,8 +4,9 @@
 #include <QString>
 #include <QStringList>
 #include <filesystem>
-#include <memory>
 #include <vector>
+
+#include "store/error.h"
 
 namespace reports {
 
@@ -53,6 +54,7 @@ struct Definition {
 Definition readDefinition(const std::filesystem::path& file);
 
 /// A fault in a definition, told with its file and line.
-[[noreturn]] void failAt(const QString& file, qint64 line, const QString& why);
+[[noreturn]] void failAt(const QString& file, qint64 line, const QString& why,
+                         store::Number number = store::Number::invalidFileFormat);
 
 } // namespace reports

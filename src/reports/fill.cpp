@@ -5,7 +5,6 @@
 #include "reports/content.h"
 #include "reports/definition.h"
 #include "reports/snapshot.h"
-#include "store/error.h"
 
 namespace reports {
 namespace {
@@ -124,15 +123,18 @@ private:
 
     const TableRows& known(const QString& table, const QString& file, qint64 line) const {
         if (const TableRows* rows = m_snapshot.table(table)) return *rows;
-        failAt(file, line, QString("Print.mdb has no table \"%1\".").arg(table));
+        failAt(file, line, QString("Print.mdb has no table \"%1\".").arg(table), store::Number::noSuchTableInQuery);
     }
 
     void checkField(const Node& node, const QString& written, const TableRows* atHand) const {
         const Name name = parted(written);
         const TableRows* table = name.table.isEmpty() ? atHand : &known(name.table, node.file, node.line);
-        if (!table) failAt(node.file, node.line, QString("The field \"%1\" belongs to no table.").arg(written));
+        if (!table)
+            failAt(node.file, node.line, QString("The field \"%1\" belongs to no table.").arg(written),
+                   store::Number::noSuchField);
         if (table->column(name.field) < 0)
-            failAt(node.file, node.line, QString("The table \"%1\" has no field \"%2\".").arg(table->name, name.field));
+            failAt(node.file, node.line, QString("The table \"%1\" has no field \"%2\".").arg(table->name, name.field),
+                   store::Number::noSuchField);
     }
 
     const store::Value& value(const QString& written, const Scope& scope) const {

@@ -332,15 +332,29 @@ private:
 
 QSizeF Layout::pageSize() { return {millimetres(210), millimetres(297)}; }
 
-void Layout::paint(QPainter& painter, int index) const {
+void Layout::paint(QPainter& painter, int index, const QRectF& visible) const {
     const Page& page = pages[static_cast<std::size_t>(index)];
+    const bool all = visible.isEmpty();
     for (const PlacedFill& fill : page.fills)
-        painter.fillRect(fill.area, fill.colour);
+        if (all || fill.area.intersects(visible)) painter.fillRect(fill.area, fill.colour);
     for (const PlacedText& text : page.texts) {
+        const double reach = 2 * text.face->lineHeight; // accents and tails reach past the line
+        if (!all && (text.at.y() + reach < visible.top() || text.at.y() - reach > visible.bottom())) continue;
         painter.setFont(text.face->font);
         painter.setPen(text.face->ink);
         painter.drawText(text.at, text.text);
     }
+}
+
+QString Layout::textOf(int index) const {
+    QString text;
+    double line = -1;
+    for (const PlacedText& placed : pages[static_cast<std::size_t>(index)].texts) {
+        if (line >= 0) text += placed.at.y() == line ? ' ' : '\n';
+        text += placed.text;
+        line = placed.at.y();
+    }
+    return text;
 }
 
 Layout layOut(const Content& content) { return PageMaker(content).made(); }

@@ -37,8 +37,11 @@ struct Layout {
 
     /// A4, upright, in units of the page (see face.h).
     static QSizeF pageSize();
-    /// Paints a page on a painter whose units are those of the page. index from 0.
-    void paint(QPainter& painter, int index) const;
+    /// Paints a page on a painter whose units are those of the page; only what touches `visible` if that is given.
+    /// index from 0.
+    void paint(QPainter& painter, int index, const QRectF& visible = {}) const;
+    /// A page's text, line by line, for those who hear it.
+    QString textOf(int index) const;
     int count() const { return static_cast<int>(pages.size()); }
 };
 
