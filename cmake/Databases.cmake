@@ -1,0 +1,38 @@
+# What lies beside the program: the four databases, made from their readable sources, and the report definitions.
+#
+# Untouched databases stand in databases/, for packages; program/ gets a copy to work with. A copy is replaced only when
+# its source has changed, never because the generator was linked again: it may hold the rates that somebody has set.
+add_executable(makedatabase tools/makedatabase.cpp)
+target_link_libraries(makedatabase PRIVATE marlowbeck_options SQLiteCpp)
+set_target_properties(makedatabase PROPERTIES AUTOMOC OFF AUTORCC OFF)
+
+set(MARLOWBECK_DATABASE_DIR "${CMAKE_BINARY_DIR}/databases")
+set(MARLOWBECK_PROGRAM_DIR "${CMAKE_BINARY_DIR}/program")
+file(MAKE_DIRECTORY "${MARLOWBECK_DATABASE_DIR}" "${MARLOWBECK_PROGRAM_DIR}")
+
+set(MARLOWBECK_DATABASES Default.Mdb Print.mdb units.mdb Diary.mdb)
+set(placed_databases)
+foreach(database IN LISTS MARLOWBECK_DATABASES)
+  cmake_path(GET database STEM name)
+  set(source "${CMAKE_SOURCE_DIR}/data/databases/${name}.sql")
+  set(made "${MARLOWBECK_DATABASE_DIR}/${database}")
+  set(placed "${MARLOWBECK_PROGRAM_DIR}/${database}")
+  add_custom_command(OUTPUT "${made}" DEPENDS "${source}" VERBATIM
+    COMMAND makedatabase "${source}" "${made}" COMMENT "Making ${database}")
+  add_custom_command(OUTPUT "${placed}" DEPENDS "${made}" VERBATIM
+    COMMAND "${CMAKE_COMMAND}" -E rm -f "${placed}-journal"
+    COMMAND "${CMAKE_COMMAND}" -E copy "${made}" "${placed}" COMMENT "Placing ${database}")
+  list(APPEND placed_databases "${placed}")
+endforeach()
+add_custom_target(databases ALL DEPENDS ${placed_databases})
+
+file(GLOB report_definitions CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/data/reports/*.rpt")
+set(placed_reports)
+foreach(definition IN LISTS report_definitions)
+  cmake_path(GET definition FILENAME name)
+  set(placed "${MARLOWBECK_PROGRAM_DIR}/${name}")
+  add_custom_command(OUTPUT "${placed}" DEPENDS "${definition}" VERBATIM
+    COMMAND "${CMAKE_COMMAND}" -E copy "${definition}" "${placed}")
+  list(APPEND placed_reports "${placed}")
+endforeach()
+add_custom_target(report_definitions ALL DEPENDS ${placed_reports})

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+#include "datastore/row.h"
+#include "store/database.h"
+
+namespace datastore {
+
+/// The one row of a settings table, as read. Fields are found without case; Error 3265 for one that is not there.
+class SettingsRow {
+public:
+    SettingsRow(std::string file, std::string table, Row row)
+        : m_file(std::move(file)), m_table(std::move(table)), m_row(std::move(row)) {}
+
+    const store::Value& value(std::string_view field) const;
+    double number(std::string_view field) const;    ///< Error 94 if it is empty, 3421 if it is text
+    std::string text(std::string_view field) const; ///< empty if it is Null; Error 3421 if it is a number
+    const Row& row() const { return m_row; }
+
+private:
+    std::string m_file;
+    std::string m_table;
+    Row m_row;
+};
+
+/// Reads the first row of a table. Error 3011 if the table is missing, 3021 if it is empty: settings are never
+/// invented.
+SettingsRow readSettings(store::Database& database, std::string_view table);
+SettingsRow readSettings(const std::filesystem::path& path, std::string_view table);
+
+/// Writes the named fields into the first row of a table and leaves its other fields and rows as they are. Errors as
+/// for reading, and 3265 for an unknown field.
+void writeSettings(store::Database& database, std::string_view table, const Row& fields);
+/// The same in a transaction of its own.
+void writeSettings(const std::filesystem::path& path, std::string_view table, const Row& fields);
+
+/// Writes the named fields into the first row of a table, and adds that row if the table is empty.
+void editOrAddRow(store::Database& database, std::string_view table, const Row& fields);
+
+} // namespace datastore
