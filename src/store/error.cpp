@@ -37,6 +37,7 @@ constexpr Usual usual[] = {
     {Number::pathNotFound, "The folder was not found.",
      "Check that the disk or network share is connected and that the folder's name is right."},
     {Number::null, "A field that must have a value is empty.", seekRestore},
+    {Number::invalidFileFormat, "The file is not what the program expects.", reinstall},
     {Number::reserved, "The database could not do what was asked of it.", report},
     {Number::tableExists, "The table exists already.", "Nothing was changed; the table can be used as it is."},
     {Number::noSuchTable, "A table that the program needs is missing in this file.", reinstall},

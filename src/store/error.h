@@ -17,6 +17,7 @@ enum class Number {
     pathAccess = 75,
     pathNotFound = 76,
     null = 94,
+    invalidFileFormat = 321,
     reserved = 3000,
     tableExists = 3010,
     noSuchTable = 3011,

@@ -1,0 +1,72 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <optional>
+#include <vector>
+
+namespace reports {
+
+/// A stretch of text in one face.
+struct Run {
+    QString text; ///< '\n' breaks the line
+    bool bold = false;
+    bool italic = false;
+};
+
+enum class Align { left, centre, right };
+
+struct Cell {
+    std::vector<Run> runs;
+    Align align = Align::left;
+    int columns = 1; ///< how many columns it spans
+    /// The number behind the text, if the cell holds one field that is a number and nothing else.
+    std::optional<double> number;
+    QString mask; ///< by which that number was written
+
+    QString text() const;
+};
+
+struct Row {
+    std::vector<Cell> cells;
+    bool result = false; ///< the figure that the report was made for
+};
+
+struct Table {
+    std::vector<double> widths; ///< share of the width of each column; together 1
+    std::vector<Row> heads;     ///< repeated at the top of each page
+    std::vector<Row> rows;
+};
+
+/// A part of the page's flow. Columns stand side by side, each a flow of its own.
+struct Block {
+    enum class Kind { title, lead, heading, paragraph, note, rule, table, columns };
+
+    Kind kind = Kind::paragraph;
+    std::vector<Run> runs;
+    Table table;
+    std::vector<double> widths;              ///< of columns: their shares of the width
+    std::vector<std::vector<Block>> columns; ///< of columns: what each holds
+};
+
+/// A report filled with its figures: what the pages and all exports are made from. It holds no link to any file.
+struct Content {
+    QString title;
+    QStringList headerLines; ///< four; an empty one takes no room
+    QStringList footerLines; ///< four
+    std::vector<Block> blocks;
+};
+
+QString textOf(const std::vector<Run>& runs);
+
+struct Definition;
+class Snapshot;
+
+/// Tables that a definition reads.
+QStringList tablesOf(const Definition& definition);
+
+/// Puts the rows into the definition. A table or field that the rows lack is a store::Error with the definition's file
+/// and line, also where the section around it would not be printed; a header table without its row is error 3021.
+Content fill(const Definition& definition, const Snapshot& snapshot, const QString& printDatabase);
+
+} // namespace reports

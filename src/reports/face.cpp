@@ -1,0 +1,33 @@
+#include "reports/face.h"
+
+namespace reports {
+namespace {
+
+QFont fontOf(double pointSize, QFont::Weight weight, bool italic) {
+    QFont font;
+    font.setFamilies({"Open Sans", "DejaVu Sans", "sans-serif"});
+    font.setPixelSize(qRound(points(pointSize)));
+    font.setWeight(weight);
+    font.setItalic(italic);
+    // Widths must not depend on the size at which a page happens to be shown.
+    font.setHintingPreference(QFont::PreferNoHinting);
+    // A spacing too small to see keeps letters from being joined into one glyph: "fi" read back from a PDF stays "fi".
+    font.setLetterSpacing(QFont::AbsoluteSpacing, 0.05);
+    return font;
+}
+
+} // namespace
+
+Face::Face(double pointSize, QFont::Weight weight, const QColor& colour, bool slanted)
+    : font(fontOf(pointSize, weight, slanted)), ink(colour), lineHeight(points(pointSize) * 1.4), ascent(0),
+      metrics(font) {
+    // The capitals stand in the middle of their line, whatever room the font itself claims above and below.
+    ascent = (lineHeight + metrics.capHeight()) / 2;
+}
+
+const Faces& Faces::all() {
+    static const Faces faces;
+    return faces;
+}
+
+} // namespace reports

@@ -1,0 +1,74 @@
+#include "reports/paragraph.h"
+
+#include <QTextLayout>
+#include <algorithm>
+
+#include "reports/content.h"
+
+namespace reports {
+namespace {
+
+const Face& faceOf(const Run& run, const Face& base) {
+    const Faces& faces = Faces::all();
+    if (&base != &faces.body) return base; // headings have one face only
+    return run.bold ? faces.bold : run.italic ? faces.italic : base;
+}
+
+/// Most texts are a word or a number that fits: no line breaking is needed to see that.
+bool fitsOneLine(const std::vector<Run>& runs, const Face& face, double width, Paragraph& paragraph) {
+    if (runs.size() != 1 || runs.front().text.contains('\n')) return false;
+    const Face& own = faceOf(runs.front(), face);
+    const double advance = own.metrics.horizontalAdvance(runs.front().text);
+    if (advance > width) return false;
+    paragraph.lines.push_back({{{0, runs.front().text, &own}}, advance});
+    return true;
+}
+
+Line lineOf(const QTextLine& line, const QString& text, const std::vector<Run>& runs, const Face& base) {
+    Line made{.pieces = {}, .width = line.naturalTextWidth()};
+    const int lineStart = line.textStart();
+    const int lineEnd = lineStart + line.textLength();
+    int start = 0;
+    for (const Run& run : runs) {
+        const int end = start + static_cast<int>(run.text.size());
+        const int from = std::max(start, lineStart);
+        const int to = std::min(end, lineEnd);
+        if (from < to) {
+            QString part = text.mid(from, to - from);
+            part.remove(QChar::LineSeparator);
+            made.pieces.push_back({line.cursorToX(from), part, &faceOf(run, base)});
+        }
+        start = end;
+    }
+    return made;
+}
+
+} // namespace
+
+Paragraph broken(const std::vector<Run>& runs, const Face& face, double width) {
+    Paragraph paragraph{.lines = {}, .face = &face};
+    if (runs.empty() || fitsOneLine(runs, face, width, paragraph)) return paragraph;
+    const QString text = textOf(runs).replace('\n', QChar(QChar::LineSeparator));
+    QTextLayout layout(text, face.font);
+    QList<QTextLayout::FormatRange> formats;
+    int start = 0;
+    for (const Run& run : runs) {
+        QTextCharFormat format;
+        format.setFont(faceOf(run, face).font);
+        formats.append({start, static_cast<int>(run.text.size()), format});
+        start += static_cast<int>(run.text.size());
+    }
+    layout.setFormats(formats);
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    layout.setTextOption(option);
+    layout.beginLayout();
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(width);
+        paragraph.lines.push_back(lineOf(line, text, runs, face));
+    }
+    layout.endLayout();
+    return paragraph;
+}
+
+} // namespace reports

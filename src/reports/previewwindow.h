@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QMainWindow>
+#include <memory>
+
+#include "reports/export.h"
+
+class QSpinBox;
+class QToolButton;
+
+namespace screenkit {
+class Desk;
+}
+
+namespace reports {
+
+class PageView;
+class PrinterSession;
+
+/// A report on the screen: a window of its own that lives on when the screen that ran it is closed. Everything that it
+/// shows, prints or exports comes from the report that it holds.
+class PreviewWindow : public QMainWindow {
+    Q_OBJECT
+
+public:
+    PreviewWindow(std::shared_ptr<const Report> report, screenkit::Desk& desk, PrinterSession& printing);
+
+    const Report& report() const { return *m_report; }
+    PageView& view() { return *m_view; }
+
+    /// Asks for a file name, this kind first among those offered, and exports. False if cancelled or failed.
+    bool exportReport(Format first = Format::pdf);
+    /// Writes the export whole or not at all; a failure shows a box. The kind goes by the name's ending.
+    bool exportTo(const QString& fileName);
+
+private:
+    void addActions();
+    QAction* addAction(const char* name, const QString& icon, const QString& text, const QList<QKeySequence>& keys,
+                       std::function<void()> action);
+    QToolButton* exportButton();
+    QToolButton* zoomButton();
+    void addPageField();
+    void showPage(int page);
+    void showScale(double scale);
+    void zoomBy(double factor);
+
+    std::shared_ptr<const Report> m_report;
+    screenkit::Desk& m_desk;
+    PrinterSession& m_printing;
+    PageView* m_view;
+    QToolBar* m_bar;
+    QSpinBox* m_pageField = nullptr;
+    QToolButton* m_zoomButton = nullptr;
+    QAction* m_first = nullptr;
+    QAction* m_previous = nullptr;
+    QAction* m_next = nullptr;
+    QAction* m_last = nullptr;
+    QAction* m_pageWidth = nullptr;
+    QAction* m_wholePage = nullptr;
+};
+
+} // namespace reports

@@ -1,0 +1,60 @@
+#include "reports/snapshot.h"
+
+#include "store/database.h"
+
+namespace reports {
+namespace {
+
+TableRows readTable(store::Database& database, const QString& name) {
+    const std::string table = name.toStdString();
+    TableRows read{.name = name, .columns = {}, .rows = {}};
+    store::Statement rows = database.prepare("SELECT * FROM " + store::bracketed(table) + " ORDER BY rowid");
+    const int count = rows.columnCount();
+    for (int column = 0; column < count; ++column)
+        read.columns << QString::fromStdString(rows.columnName(column));
+    while (rows.step()) {
+        std::vector<store::Value>& row = read.rows.emplace_back();
+        row.reserve(static_cast<std::size_t>(count));
+        for (int column = 0; column < count; ++column)
+            row.push_back(rows.column(column));
+    }
+    return read;
+}
+
+QStringList lines(const TableRows& headFoot, const QString& prefix) {
+    QStringList result;
+    for (int line = 0; line < 4; ++line) {
+        const int column = headFoot.column(prefix + QString::number(line));
+        const bool stored = column >= 0 && !headFoot.rows.empty();
+        const store::Value value = stored ? headFoot.rows.front()[static_cast<std::size_t>(column)] : store::Value{};
+        const auto* text = std::get_if<std::string>(&value);
+        result << (text ? QString::fromStdString(*text).trimmed() : QString());
+    }
+    return result;
+}
+
+} // namespace
+
+int TableRows::column(const QString& field) const {
+    for (int column = 0; column < columns.size(); ++column)
+        if (columns[column].compare(field, Qt::CaseInsensitive) == 0) return column;
+    return -1;
+}
+
+Snapshot::Snapshot(const std::filesystem::path& printDatabase, const QStringList& tables) {
+    store::Database database(printDatabase);
+    database.execute("BEGIN"); // one state of the file, though several tables are read; closing ends it
+    for (const QString& name : tables)
+        if (database.hasTable(name.toStdString())) m_tables.push_back(readTable(database, name));
+    const TableRows headFoot = readTable(database, "HeadFoot");
+    m_headerLines = lines(headFoot, "HEADERV");
+    m_footerLines = lines(headFoot, "footv");
+}
+
+const TableRows* Snapshot::table(const QString& name) const {
+    for (const TableRows& table : m_tables)
+        if (table.name.compare(name, Qt::CaseInsensitive) == 0) return &table;
+    return nullptr;
+}
+
+} // namespace reports
