@@ -53,7 +53,8 @@ struct Column {
     Declared declared;
 };
 
-/// One connection to one database file, open for one operation only and closed with the object.
+/// One connection to one database file, open for one operation only and closed with the object. Statements and
+/// transactions must go before it. The file's name is matched without case.
 ///
 /// Opening never creates: a missing file is Error 3024, a missing folder 3044, an empty file or one that is no database
 /// 3343, a damaged one 3049, and the file is left byte for byte as it was. Rollback journal, synchronous=FULL.
@@ -80,14 +81,20 @@ public:
 
 private:
     friend class Statement;
+    friend class Transaction;
+    [[noreturn]] void fail() const; ///< the connection's last error as a store::Error
     std::filesystem::path m_path;
     std::unique_ptr<SQLite::Database> m_connection;
 };
 
+/// What a transaction is for. Reading gives one unchanging view of several tables, and works on a read-only file;
+/// writing takes the file's write lock at once, so that Error 3027 or 3356 comes before any work is done.
+enum class Access { write, read };
+
 /// Undone unless committed: a crash, an error or an early return leaves the file as it was.
 class Transaction {
 public:
-    explicit Transaction(Database& database);
+    explicit Transaction(Database& database, Access access = Access::write);
     ~Transaction();
     Transaction(const Transaction&) = delete;
     Transaction& operator=(const Transaction&) = delete;

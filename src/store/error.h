@@ -9,9 +9,12 @@ namespace store {
 enum class Number {
     fileNotFound53 = 53,
     deviceError = 57,
-    diskFull61 = 61,
-    permissionDenied = 70,
     fileExists58 = 58,
+    diskFull61 = 61,
+    deviceUnavailable = 68,
+    permissionDenied = 70,
+    diskNotReady = 71,
+    pathAccess = 75,
     pathNotFound = 76,
     null = 94,
     reserved = 3000,
@@ -38,8 +41,8 @@ enum class Number {
 /// The one error of the database and file floors: what failed, on which file, why, and what the user can do about it.
 class Error : public std::runtime_error {
 public:
-    /// why: one sentence in plain words. advice: what the user can do; taken from the number where it is empty.
-    Error(Number number, std::string file, const std::string& why, std::string advice = {});
+    /// why: one sentence in plain words; advice: what the user can do. Each is taken from the number where it is empty.
+    Error(Number number, std::string file, const std::string& why = {}, std::string advice = {});
 
     int number() const { return static_cast<int>(m_number); }
     bool is(Number number) const { return m_number == number; }
@@ -58,5 +61,8 @@ private:
 
 /// The usual sentence for a number, used where the cause has no words of its own.
 std::string usualReason(Number number);
+
+/// What a user can usually do about it.
+std::string usualAdvice(Number number);
 
 } // namespace store

@@ -13,11 +13,13 @@ std::filesystem::path nativePath(std::string_view path, const std::filesystem::p
 /// in byte order. A path that matches nothing comes back as it is, so that a new file gets the spelling asked for.
 std::filesystem::path existingSpelling(const std::filesystem::path& path);
 
-/// The whole of a file. Throws Error 53, 70 or 57.
+/// The whole of a file, its name matched without case. Throws Error 53, 70, 57 or 75. Not for a database in use:
+/// closing a second handle on it would drop the locks of this program's own connections.
 std::string readFile(const std::filesystem::path& path);
 
-/// Writes a file whole or not at all: beside it first, flushed to the disk, then renamed over it. Readable by the
-/// owner alone unless `mode` says otherwise. Throws Error 61, 70, 75 or 76 and leaves the old file as it was.
+/// Writes a file whole or not at all: beside it first, flushed to the disk, then renamed over it. An existing file
+/// keeps its spelling, a link stays a link. Readable by the owner alone unless `mode` says otherwise. Throws Error 57,
+/// 61, 70, 75 or 76 and leaves the old file as it was.
 void writeFile(const std::filesystem::path& path, std::string_view bytes, unsigned mode = 0600);
 
 } // namespace store

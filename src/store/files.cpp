@@ -1,0 +1,166 @@
+#include "store/files.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <optional>
+#include <system_error>
+
+#include "base/text.h"
+#include "store/error.h"
+
+namespace store {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+Number numberFor(int error) {
+    switch (error) {
+    case ENOENT: return Number::fileNotFound53;
+    case ENOTDIR: return Number::pathNotFound;
+    case EACCES:
+    case EPERM:
+    case EROFS: return Number::permissionDenied;
+    case ENOSPC:
+    case EDQUOT:
+    case EFBIG: return Number::diskFull61;
+    case ENODEV:
+    case ENXIO: return Number::deviceUnavailable;
+    case EIO: return Number::deviceError;
+    default: return Number::pathAccess;
+    }
+}
+
+[[noreturn]] void fail(const fs::path& path, int error) {
+    const Number number = numberFor(error);
+    throw Error(number, path.string(),
+                number == Number::pathAccess
+                    ? "The file cannot be used: " + std::generic_category().message(error) + "."
+                    : std::string());
+}
+
+/// An open file that is closed with its scope.
+class Handle {
+public:
+    explicit Handle(int handle) : m_handle(handle) {}
+    ~Handle() {
+        if (m_handle >= 0) ::close(m_handle);
+    }
+    Handle(const Handle&) = delete;
+    Handle& operator=(const Handle&) = delete;
+    int get() const { return m_handle; }
+    bool ok() const { return m_handle >= 0; }
+
+private:
+    int m_handle;
+};
+
+/// The file beside: gone with its scope unless it has taken the place of the real one.
+class TemporaryFile {
+public:
+    explicit TemporaryFile(const fs::path& target)
+        : m_name((target.parent_path() / ("." + target.filename().string() + ".XXXXXX")).string()),
+          m_handle(::mkostemp(m_name.data(), O_CLOEXEC)), m_target(target) {
+        if (!m_handle.ok()) fail(target, errno == ENOENT ? ENOTDIR : errno);
+    }
+    ~TemporaryFile() {
+        if (!m_kept) ::unlink(m_name.c_str());
+    }
+    TemporaryFile(const TemporaryFile&) = delete;
+    TemporaryFile& operator=(const TemporaryFile&) = delete;
+
+    void fill(std::string_view bytes, unsigned mode) {
+        while (!bytes.empty()) {
+            const ssize_t count = ::write(m_handle.get(), bytes.data(), bytes.size());
+            if (count < 0 && errno == EINTR) continue;
+            if (count < 0) fail(m_target, errno);
+            bytes.remove_prefix(static_cast<std::size_t>(count));
+        }
+        if (::fchmod(m_handle.get(), mode) != 0 || ::fsync(m_handle.get()) != 0) fail(m_target, errno);
+    }
+    void takePlace() {
+        if (::rename(m_name.c_str(), m_target.c_str()) != 0) fail(m_target, errno);
+        m_kept = true;
+    }
+
+private:
+    std::string m_name;
+    Handle m_handle;
+    fs::path m_target;
+    bool m_kept = false;
+};
+
+/// The folder's own entry must reach the disk too, or a power cut could bring the old name back. File systems that
+/// cannot flush a folder keep their entries in order by themselves.
+void flushFolder(const fs::path& folder) {
+    const Handle handle(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (handle.ok()) ::fsync(handle.get());
+}
+
+fs::path folderOf(const fs::path& path) { return path.has_parent_path() ? path.parent_path() : fs::path("."); }
+
+/// Where the bytes are to lie: an existing file under its own spelling, the end of a link rather than the link.
+fs::path targetOf(const fs::path& path) {
+    const fs::path spelled = existingSpelling(path);
+    std::error_code ignored;
+    if (!fs::is_symlink(spelled, ignored)) return spelled;
+    const fs::path end = fs::weakly_canonical(spelled, ignored);
+    return end.empty() ? spelled : end;
+}
+
+} // namespace
+
+fs::path nativePath(std::string_view path, const fs::path& folder) {
+    std::string native;
+    for (const char c : path) {
+        const char mapped = c == '\\' ? '/' : c;
+        if (mapped == '/' && !native.empty() && native.back() == '/') continue;
+        native += mapped;
+    }
+    const fs::path result(native);
+    return result.is_absolute() || folder.empty() ? result : folder / result;
+}
+
+fs::path existingSpelling(const fs::path& path) {
+    std::error_code ignored;
+    const std::string wanted = path.filename().string();
+    if (wanted.empty() || fs::exists(fs::symlink_status(path, ignored))) return path;
+    std::optional<std::string> found;
+    fs::directory_iterator entry(folderOf(path), ignored);
+    for (; !ignored && entry != fs::directory_iterator(); entry.increment(ignored)) {
+        std::string name = entry->path().filename().string();
+        if (base::sameName(name, wanted) && (!found || name < *found)) found = std::move(name);
+    }
+    return found ? path.parent_path() / *found : path;
+}
+
+std::string readFile(const fs::path& path) {
+    const fs::path spelled = existingSpelling(path);
+    const Handle file(::open(spelled.c_str(), O_RDONLY | O_CLOEXEC));
+    if (!file.ok()) fail(spelled, errno == ENOTDIR ? ENOENT : errno);
+    std::string bytes;
+    char part[16384];
+    for (;;) {
+        const ssize_t count = ::read(file.get(), part, sizeof part);
+        if (count < 0 && errno == EINTR) continue;
+        if (count < 0) fail(spelled, errno);
+        if (count == 0) return bytes;
+        bytes.append(part, static_cast<std::size_t>(count));
+    }
+}
+
+void writeFile(const fs::path& path, std::string_view bytes, unsigned mode) {
+    const fs::path target = targetOf(path);
+    // Renaming over a file asks leave of the folder only; a file that its owner has made read-only must stay as it is.
+    if (::faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS) != 0 && errno != ENOENT) fail(target, errno);
+    TemporaryFile beside(target);
+    beside.fill(bytes, mode);
+    beside.takePlace();
+    flushFolder(folderOf(target));
+}
+
+} // namespace store

@@ -1,0 +1,247 @@
+#include "store/database.h"
+
+#include <SQLiteCpp/SQLiteCpp.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+
+#include <csignal>
+#include <limits>
+
+#include "store/store_support.h"
+
+using namespace storetest;
+using store::Database;
+using store::Transaction;
+using store::Value;
+
+namespace {
+
+class DatabaseFile : public testing::Test {
+protected:
+    /// A database with one table and a row, closed again.
+    fs::path made(const std::string& name = "Data.Mdb") {
+        const fs::path path = folder / name;
+        Database::create(path);
+        Database(path).execute("CREATE TABLE Loans (Name VARCHAR(80), Num1 DOUBLE, [1 yr] DOUBLE, [TAXCOM4/2] DOUBLE);"
+                               "INSERT INTO Loans VALUES ('Êksteen', 1, 2, 3)");
+        return path;
+    }
+    static double number(const fs::path& path, const std::string& sql) {
+        Database database(path);
+        store::Statement statement = database.prepare(sql);
+        EXPECT_TRUE(statement.step());
+        return statement.number(0);
+    }
+    static int opening(const fs::path& path) {
+        return errorOf([&] { Database database(path); });
+    }
+    Folder folder;
+};
+
+int writing(const fs::path& path) {
+    return errorOf([&] { Database(path).execute("UPDATE Loans SET Num1 = 7"); });
+}
+
+} // namespace
+
+TEST_F(DatabaseFile, FaultsAtOpeningHaveTheirNumbersAndLeaveTheFileAlone) {
+    const std::string whole = bytesOf(made());
+    Database(folder / "Data.Mdb").execute("CREATE TABLE Big (A TEXT)");
+    const struct {
+        const char* name;
+        std::string bytes;
+        int number;
+    } cases[] = {
+        {"empty.mdb", "", 3343},
+        {"one.mdb", "S", 3343},
+        {"text.mdb", std::string(5000, 'x'), 3343},
+        {"head.mdb", whole.substr(0, 60), 3343},
+        {"cut.mdb", whole.substr(0, 4096), 3049},
+        {"page.mdb", whole.substr(0, whole.size() - 100), 3049},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        put(folder / c.name, c.bytes);
+        EXPECT_EQ(opening(folder / c.name), c.number);
+        EXPECT_EQ(bytesOf(folder / c.name), c.bytes);
+    }
+    EXPECT_EQ(opening(folder / "none.mdb"), 3024);
+    EXPECT_EQ(opening(folder / "no folder/Data.Mdb"), 3044);
+    EXPECT_EQ(opening(folder / "text.mdb/Data.Mdb"), 3044);
+    EXPECT_EQ(opening(folder.path()), 3051);
+    EXPECT_FALSE(fs::exists(folder / "none.mdb"));
+    EXPECT_FALSE(fs::exists(folder / "no folder"));
+}
+
+TEST_F(DatabaseFile, PermissionsAreToldApart) {
+    const fs::path path = made();
+    const OrdinaryUser user(folder);
+    ::chmod(path.c_str(), 0400);
+    EXPECT_EQ(number(path, "SELECT Num1 FROM Loans"), 1);
+    EXPECT_EQ(writing(path), 3027);
+    EXPECT_EQ(errorOf([&] {
+                  Database database(path);
+                  Transaction transaction(database);
+              }),
+              3027);
+    ::chmod(path.c_str(), 0000);
+    EXPECT_EQ(opening(path), 3051);
+    ::chmod(path.c_str(), 0600);
+    ::chmod(folder.path().c_str(), 0500); // no journal can be made
+    EXPECT_EQ(number(path, "SELECT Num1 FROM Loans"), 1);
+    EXPECT_EQ(writing(path), 3051);
+    EXPECT_EQ(errorOf([&] { Database::create(folder / "new.mdb"); }), 3051);
+}
+
+TEST_F(DatabaseFile, IsHeldByAnother) {
+    const fs::path path = made();
+    SQLite::Database other(path.string(), SQLite::OPEN_READWRITE);
+    other.exec("BEGIN EXCLUSIVE");
+    EXPECT_EQ(opening(path), 3356);
+    other.exec("COMMIT; BEGIN IMMEDIATE");
+    EXPECT_EQ(number(path, "SELECT Num1 FROM Loans"), 1); // reading goes on beside a writer
+    EXPECT_EQ(writing(path), 3356);
+}
+
+TEST_F(DatabaseFile, SecondConnectionKeepsTheLocksOfTheFirst) {
+    const fs::path path = made();
+    Database first(path);
+    Transaction transaction(first);
+    { Database second(path); }
+    // Another process asks, since locks are the process's own.
+    const pid_t child = ::fork();
+    if (child == 0) ::_exit(writing(path) == 3356 ? 0 : 1);
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    EXPECT_EQ(WEXITSTATUS(status), 0);
+}
+
+TEST_F(DatabaseFile, IsCreatedForItsOwnerAloneAndNeverTwice) {
+    Database::create(folder / "New.Mdb");
+    struct stat info {};
+    ASSERT_EQ(::stat((folder / "New.Mdb").c_str(), &info), 0);
+    EXPECT_EQ(info.st_mode & 0777U, 0600U);
+    EXPECT_EQ(opening(folder / "New.Mdb"), 0);
+    EXPECT_EQ(errorOf([&] { Database::create(folder / "new.mdb"); }), 3204); // the name counts without case
+    EXPECT_EQ(errorOf([&] { Database::create(folder / "none/New.Mdb"); }), 3044);
+    EXPECT_EQ(Database(folder / "NEW.MDB").path(), folder / "New.Mdb");
+}
+
+TEST_F(DatabaseFile, StatementsFailWithTheNumberOfTheirCause) {
+    Database database(made());
+    const struct {
+        const char* sql;
+        int number;
+    } cases[] = {
+        {"SELECT 1 FROM Nowhere", 3078},
+        {"SELECT [Num9] FROM Loans", 3265},
+        {"SELECT \"Num9\" FROM Loans", 3265}, // not the text "Num9"
+        {"INSERT INTO Loans (Num9) VALUES (1)", 3265},
+        {"CREATE TABLE LOANS (A)", 3010},
+        {"CREATE INDEX I ON Loans (Num1); CREATE INDEX I ON Loans (Num1)", 3284},
+        {"ALTER TABLE Loans ADD COLUMN NUM1 DOUBLE", 3191},
+        {"PRAGMA max_page_count=1; CREATE TABLE T (A)", 3026},
+        {"SELEKT", 3000},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(errorOf([&] { database.execute(c.sql); }), c.number) << c.sql;
+    EXPECT_EQ(errorOf([&] { database.prepare("SELECT \"Num9\" FROM Loans"); }), 3265);
+    EXPECT_EQ(errorOf([&] { database.prepare("SELECT 1 FROM Nowhere"); }), 3078);
+    EXPECT_EQ(errorOf([&] { database.prepare("SELECT 1").bind(2, 1.0); }), 3000);
+}
+
+TEST_F(DatabaseFile, ValuesComeBackBitForBit) {
+    Database database(made());
+    const Value values[] = {0.1 + 0.2,
+                            -36522.0,
+                            std::numeric_limits<double>::denorm_min(),
+                            std::numeric_limits<double>::max(),
+                            std::string("Ṱhoho-Nḓou O'Brien <b>&\"x\""),
+                            std::string(),
+                            Value{}};
+    database.execute("CREATE TABLE Any (A)");
+    store::Statement insert = database.prepare("INSERT INTO [Any] VALUES (?)");
+    for (const Value& value : values)
+        insert.bind(1, value).run();
+    store::Statement select = database.prepare("SELECT A FROM [Any] ORDER BY rowid");
+    for (const Value& value : values) {
+        ASSERT_TRUE(select.step());
+        EXPECT_EQ(select.column(0), value);
+    }
+    EXPECT_FALSE(select.step());
+    EXPECT_FALSE(select.step());
+}
+
+TEST_F(DatabaseFile, NamesWithBlanksAndSlashesWork) {
+    Database database(made());
+    for (const char* name : {"1 yr", "TAXCOM4/2", "1 YR", "num1"})
+        EXPECT_EQ(errorOf([&] { database.prepare("SELECT " + store::bracketed(name) + " FROM Loans"); }), 0) << name;
+    EXPECT_EQ(errorOf([&] { database.prepare("SELECT " + store::bracketed("a]\"b") + " FROM Loans"); }), 3265);
+    const auto columns = database.columns("LOANS");
+    ASSERT_EQ(columns.size(), 4U);
+    EXPECT_EQ(columns[0].declared.size, 80);
+    EXPECT_EQ(columns[2].name, "1 yr");
+    EXPECT_FALSE(database.hasTable("Nowhere"));
+}
+
+TEST_F(DatabaseFile, TransactionIsUndoneUnlessCommitted) {
+    const fs::path path = made();
+    Database database(path);
+    {
+        Transaction transaction(database);
+        database.execute("UPDATE Loans SET Num1 = 2");
+    }
+    EXPECT_EQ(number(path, "SELECT Num1 FROM Loans"), 1);
+    EXPECT_EQ(errorOf([&] {
+                  Transaction transaction(database);
+                  database.execute("UPDATE Loans SET Num1 = 3");
+                  database.execute("PRAGMA max_page_count=1; CREATE TABLE Full (A)"); // SQLite undoes this by itself
+              }),
+              3026);
+    EXPECT_EQ(number(path, "SELECT Num1 FROM Loans"), 1);
+    {
+        Transaction transaction(database);
+        database.execute("UPDATE Loans SET Num1 = 4");
+        transaction.commit();
+    }
+    EXPECT_EQ(number(path, "SELECT Num1 FROM Loans"), 4);
+}
+
+TEST_F(DatabaseFile, KilledInTheMiddleOfAWriteIsTheOldOneWhole) {
+    const fs::path path = made();
+    int ready[2];
+    ASSERT_EQ(::pipe(ready), 0);
+    const pid_t child = ::fork();
+    if (child == 0) {
+        Database database(path);
+        Transaction transaction(database);
+        // A cache of one page makes it write to the file before the commit.
+        database.execute("PRAGMA cache_size=1; UPDATE Loans SET Num1 = 99; CREATE TABLE Big (A TEXT);"
+                         "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 500)"
+                         "INSERT INTO Big SELECT hex(zeroblob(1000)) FROM n");
+        if (::write(ready[1], "x", 1) == 1) ::pause();
+        ::_exit(1);
+    }
+    char sign = 0;
+    ASSERT_EQ(::read(ready[0], &sign, 1), 1);
+    ::kill(child, SIGKILL);
+    ::waitpid(child, nullptr, 0);
+    ::close(ready[0]);
+    ::close(ready[1]);
+    ASSERT_TRUE(fs::exists(path.string() + "-journal"));
+    EXPECT_EQ(number(path, "SELECT Num1 FROM Loans"), 1);
+    EXPECT_FALSE(Database(path).hasTable("Big"));
+    EXPECT_FALSE(fs::exists(path.string() + "-journal"));
+}
+
+TEST_F(DatabaseFile, MessageNamesFileReasonAdviceAndNumber) {
+    try {
+        Database database(folder / "Data.Mdb");
+        FAIL();
+    } catch (const store::Error& error) {
+        EXPECT_EQ(error.message(),
+                  (folder / "Data.Mdb").string() + "\n" + error.why() + "\n" + error.advice() + "\nError (3024)");
+        EXPECT_FALSE(error.why().empty());
+        EXPECT_FALSE(error.advice().empty());
+    }
+}

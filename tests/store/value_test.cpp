@@ -1,0 +1,89 @@
+#include "store/value.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <optional>
+#include <string>
+
+#include "store/error.h"
+
+using store::Declared;
+using store::Type;
+using store::Value;
+
+namespace {
+
+std::string times(int count, const std::string& piece) {
+    std::string text;
+    for (int i = 0; i < count; ++i)
+        text += piece;
+    return text;
+}
+
+constexpr double infinity = std::numeric_limits<double>::infinity();
+
+struct Case {
+    Declared declared;
+    Value given;
+    std::optional<Value> kept; ///< none: refused with `number`
+    int number = 0;
+};
+
+} // namespace
+
+TEST(StoredValue, IsConvertedToTheTypeOfItsField) {
+    const Case cases[] = {
+        {{Type::Boolean}, -1.0, 1.0},
+        {{Type::Boolean}, 0.0, 0.0},
+        {{Type::Integer}, 7.5, 8.0}, // ties go to the even number
+        {{Type::Integer}, 6.5, 6.0},
+        {{Type::Integer}, -0.5, -0.0},
+        {{Type::Integer}, 32767.5, std::nullopt, 3421}, // 32768
+        {{Type::Integer}, 32767.4, 32767.0},
+        {{Type::Integer}, -32768.5, -32768.0},
+        {{Type::Integer}, -32769.0, std::nullopt, 3421},
+        {{Type::Single}, 0.1, static_cast<double>(0.1F)},
+        {{Type::Single}, 1e39, std::nullopt, 3421},
+        {{Type::Double}, 0.1 + 0.2, 0.1 + 0.2},
+        {{Type::Double}, infinity, std::nullopt, 3421},
+        {{Type::Date}, std::nan(""), std::nullopt, 3421},
+        {{Type::Date}, -36522.0, -36522.0},
+        {{Type::Double}, std::string("12"), std::nullopt, 3421},
+        {{Type::Text, 10}, 12.0, std::nullopt, 3421},
+        {{Type::Memo}, 12.0, std::nullopt, 3421},
+        {{Type::Text, 80}, times(80, "ê"), times(80, "ê")}, // characters count, not bytes
+        {{Type::Text, 80}, times(81, "ê"), std::nullopt, 3163},
+        {{Type::Text, 80}, std::string("  "), std::string("  ")},
+        {{Type::Text, 3}, std::string("a\0b", 3), std::nullopt, 3421},
+        {{Type::Memo, 2000}, times(2001, "x"), times(2001, "x")}, // a memo's size limits its entry field alone
+        {{Type::Integer}, Value{}, Value{}},
+        {{Type::Text, 1}, Value{}, Value{}},
+    };
+    int line = 0;
+    for (const Case& c : cases) {
+        SCOPED_TRACE(line++);
+        try {
+            const Value kept = store::toStored(c.given, c.declared, "Data.Mdb", "Field");
+            ASSERT_TRUE(c.kept.has_value());
+            EXPECT_EQ(kept, *c.kept);
+        } catch (const store::Error& error) {
+            EXPECT_EQ(error.number(), c.number) << error.message();
+            EXPECT_EQ(error.file(), "Data.Mdb");
+            EXPECT_NE(error.message().find("Field"), std::string::npos);
+        }
+    }
+}
+
+TEST(StoredValue, DeclarationLeadsBackToTheType) {
+    const Declared all[] = {{Type::Boolean}, {Type::Integer},  {Type::Single}, {Type::Double},
+                            {Type::Date},    {Type::Text, 80}, {Type::Text},   {Type::Memo}};
+    for (const Declared& declared : all) {
+        const Declared back = store::declaredFrom(store::declaration(declared));
+        EXPECT_EQ(back.type, declared.type) << store::declaration(declared);
+        EXPECT_EQ(back.size, declared.size) << store::declaration(declared);
+    }
+    EXPECT_EQ(store::declaredFrom("varchar( 80 )").type, Type::Text);
+    EXPECT_EQ(store::declaredFrom("MONEY").type, Type::Double);
+}
