@@ -14,18 +14,22 @@ set(CMAKE_SKIP_RPATH ON)
 
 # For all users.
 set(shared_folder lib/marlowbeck)
+foreach(folder bin lib lib/marlowbeck lib/marlowbeck/docs share share/applications share/doc share/doc/marlowbeck
+        share/icons share/icons/hicolor share/icons/hicolor/scalable share/icons/hicolor/scalable/apps)
+  # Readable by all of them, whatever the umask of the one who packs.
+  install(DIRECTORY DESTINATION ${folder} DIRECTORY_PERMISSIONS
+          OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+endforeach()
 install(TARGETS marlowbeck RUNTIME DESTINATION ${shared_folder})
 install(FILES ${marlowbeck_databases} ${marlowbeck_definitions} packaging/installed-for-all-users
         DESTINATION ${shared_folder})
 install(FILES docs/guide.md DESTINATION ${shared_folder}/docs)
-install(FILES README.md DESTINATION share/doc/marlowbeck)
-install(FILES packaging/copyright DESTINATION share/doc/marlowbeck)
+install(FILES README.md packaging/copyright DESTINATION share/doc/marlowbeck)
 install(FILES packaging/marlowbeck.desktop DESTINATION share/applications)
 install(FILES resources/icons/marlowbeck.svg DESTINATION share/icons/hicolor/scalable/apps)
-install(CODE [[
-  file(MAKE_DIRECTORY "$ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}/bin")
-  file(CREATE_LINK ../lib/marlowbeck/marlowbeck "$ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}/bin/marlowbeck" SYMBOLIC)
-]])
+file(MAKE_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
+file(CREATE_LINK ../lib/marlowbeck/marlowbeck "${CMAKE_BINARY_DIR}/bin/marlowbeck" SYMBOLIC)
+install(FILES "${CMAKE_BINARY_DIR}/bin/marlowbeck" DESTINATION bin)
 
 # For one user. The folder holds clients' affairs, so nobody else may look into it; and a database that is there already
 # holds the user's settings, so it stays.
@@ -56,15 +60,16 @@ if(TARGET marlowbeck_databases)
 endif()
 
 set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "${PROJECT_DESCRIPTION}")
 set(CPACK_PACKAGE_NAME marlowbeck)
 set(CPACK_PACKAGE_DIRECTORY "${CMAKE_BINARY_DIR}/package")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_MAINTAINER "Marlowbeck developers <developers@marlowbeck.invalid>")
-set(CPACK_DEBIAN_PACKAGE_DESCRIPTION "${PROJECT_DESCRIPTION}
- Keeps a file of clients, works out loans, and shows, prints and exports
- reports and graphs of them, on South African rules and in rand.")
+set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
+"Keeps a file of clients, works out loans, and shows, prints and exports
+reports and graphs of them, on South African rules and in rand.")
 set(CPACK_DEBIAN_PACKAGE_SECTION misc)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # libqt6svg6 also carries the plugins that draw the SVG icons.
