@@ -6,7 +6,9 @@
 #                        Debian package. A marker file beside the executable tells the program that its user cannot write
 #                        here, so that it keeps its files in the user's data folder
 set(marlowbeck_database_names Default.Mdb Print.mdb units.mdb Diary.mdb)
-set(MARLOWBECK_DATABASE_DIR "${CMAKE_BINARY_DIR}/program" CACHE INTERNAL "Where the build leaves the shipped databases")
+if(NOT MARLOWBECK_DATABASE_DIR)
+  set(MARLOWBECK_DATABASE_DIR "${CMAKE_BINARY_DIR}/program") # where the build leaves them
+endif()
 list(TRANSFORM marlowbeck_database_names PREPEND "${MARLOWBECK_DATABASE_DIR}/" OUTPUT_VARIABLE marlowbeck_databases)
 file(GLOB marlowbeck_definitions CONFIGURE_DEPENDS data/reports/*.rpt)
 
