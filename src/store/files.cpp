@@ -105,10 +105,10 @@ fs::path folderOf(const fs::path& path) { return path.has_parent_path() ? path.p
 
 /// Where the bytes are to lie: an existing file under its own spelling, the end of a link rather than the link.
 fs::path targetOf(const fs::path& path) {
-    const fs::path spelled = existingSpelling(path);
+    fs::path spelled = existingSpelling(path);
     std::error_code ignored;
     if (!fs::is_symlink(spelled, ignored)) return spelled;
-    const fs::path end = fs::weakly_canonical(spelled, ignored);
+    fs::path end = fs::weakly_canonical(spelled, ignored);
     return end.empty() ? spelled : end;
 }
 

@@ -55,7 +55,7 @@ public:
 };
 
 /// Element i is base + i; element 0, which no graph may show, is far out.
-Array counting(double base, int last = 51) {
+inline Array counting(double base, int last = 51) {
     Array array(static_cast<std::size_t>(last) + 1);
     std::iota(array.begin(), array.end(), base);
     array[0] = 9e9;
