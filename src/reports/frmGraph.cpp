@@ -1,12 +1,7 @@
 #include "reports/frmGraph.h"
 
 #include <QFileInfo>
-#include <QGroupBox>
-#include <QHBoxLayout>
 #include <QPrinter>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QVBoxLayout>
 
 #include "reports/graphexport.h"
 #include "reports/graphview.h"
@@ -30,47 +25,18 @@ QString withPictureEnding(const QString& name) {
 
 } // namespace
 
-frmGraph::frmGraph(screenkit::Desk& desk, QWidget* parent) : QWidget(parent), m_desk(desk), m_view(new GraphView) {
-    setObjectName("frmGraph");
-    setWindowTitle("Graph");
+frmGraph::frmGraph(screenkit::Workplace& workplace)
+    : Screen(workplace, "frmGraph", "Graph", screenkit::untracked()), m_view(new GraphView) {
     m_view->setObjectName("ChartFX1");
-    auto* column = new QVBoxLayout(this);
-    column->addWidget(m_view, 1);
-    auto* row = new QHBoxLayout;
-    row->addWidget(orientationFrame());
-    row->addStretch();
-    addButton(*row, "cmdExport", "&Export", &frmGraph::saveAs);
-    addButton(*row, "cmdPrint", "&Print", &frmGraph::print);
-    addButton(*row, "cmdOK", "&OK", &frmGraph::finish);
-    column->addLayout(row);
-    setFocusProxy(m_view);
+    auto* orientations = options("Option1", {"&Landscape", "Po&rtrait"}, m_portrait, {}, Qt::Horizontal);
+    using screenkit::Item;
+    body(screenkit::column(
+        {Item(m_view, 1), screenkit::row({screenkit::group("Frame1", "Print :", orientations), screenkit::spring(),
+                                          button("cmdExport", "&Export", [this] { saveAs(); }),
+                                          button("cmdPrint", "&Print", [this] { print(); }), okButton()})}));
 }
 
-QWidget* frmGraph::orientationFrame() {
-    auto* frame = new QGroupBox("Print :");
-    frame->setObjectName("Frame1");
-    auto* row = new QHBoxLayout(frame);
-    const auto add = [&](const char* name, const char* caption, QPageLayout::Orientation orientation) {
-        auto* option = new QRadioButton(caption);
-        option->setObjectName(name);
-        option->setAccessibleDescription("Page orientation of the printed or exported graph");
-        option->setChecked(orientation == m_orientation);
-        connect(option, &QRadioButton::toggled, this, [this, orientation](bool on) {
-            if (on) m_orientation = orientation;
-        });
-        row->addWidget(option);
-    };
-    add("Option1_0", "&Landscape", QPageLayout::Landscape);
-    add("Option1_1", "Po&rtrait", QPageLayout::Portrait);
-    return frame;
-}
-
-void frmGraph::addButton(QHBoxLayout& row, const char* name, const char* caption, void (frmGraph::*pressed)()) {
-    auto* button = new QPushButton(caption);
-    button->setObjectName(name);
-    connect(button, &QPushButton::clicked, this, pressed);
-    row.addWidget(button, 0, Qt::AlignBottom);
-}
+QWidget* frmGraph::firstField() { return m_view; }
 
 void frmGraph::draw(const Graph& graph) {
     m_graph = graph;
@@ -125,34 +91,34 @@ void frmGraph::DCAmortGraph(Yearly balance, Yearly capital, Yearly interest, int
 
 void frmGraph::print() {
     using screenkit::BoxStyle;
-    if (!m_desk.hasPrinter()) return m_desk.tell(BoxStyle::warning, "No printer is installed.", "Print");
+    if (!m_work.desk.hasPrinter()) return m_work.desk.tell(BoxStyle::warning, "No printer is installed.", "Print");
     QPrinter printer(QPrinter::HighResolution);
     printer.setDocName(QString::fromStdString(m_graph.title).trimmed());
-    printer.setPageOrientation(m_orientation);
-    if (!m_desk.choosePrinter(printer)) return;
+    printer.setPageOrientation(orientation());
+    if (!m_work.desk.choosePrinter(printer)) return;
     if (!printGraph(m_graph, printer))
-        m_desk.tell(BoxStyle::critical, "The printer did not accept the graph.", "Print");
+        m_work.desk.tell(BoxStyle::critical, "The printer did not accept the graph.", "Print");
 }
 
 // The file dialog has asked about the name that was typed, not about the one with the ending.
 bool frmGraph::mayReplace(const QString& name) {
     const QString text = QFileInfo(name).fileName() + " already exists. Replace it?";
-    return m_desk.box(screenkit::BoxStyle::question, text, exportTitle, screenkit::Buttons::yesNo,
-                      screenkit::Answer::no) == screenkit::Answer::yes;
+    return m_work.desk.box(screenkit::BoxStyle::question, text, exportTitle, screenkit::Buttons::yesNo,
+                           screenkit::Answer::no) == screenkit::Answer::yes;
 }
 
 void frmGraph::saveAs() {
     const QString suggested = QString::fromStdString(fileNameOf(m_graph)) + ".png";
     const auto chosen =
-        m_desk.fileToSave(exportTitle, suggested, {"PNG picture (*.png)", "SVG drawing (*.svg)", "PDF (*.pdf)"});
+        m_work.desk.fileToSave(exportTitle, suggested, {"PNG picture (*.png)", "SVG drawing (*.svg)", "PDF (*.pdf)"});
     if (!chosen) return;
     const QString name = withPictureEnding(*chosen);
     if (name != *chosen && QFileInfo::exists(name) && !mayReplace(name)) return;
-    const QByteArray bytes = exportedGraph(m_graph, graphFormatOf(name), m_orientation);
+    const QByteArray bytes = exportedGraph(m_graph, graphFormatOf(name), orientation());
     try {
         store::writeFile(name.toStdString(), {bytes.constData(), static_cast<std::size_t>(bytes.size())});
     } catch (const store::Error& error) {
-        m_desk.tell(screenkit::BoxStyle::critical, QString::fromStdString(error.message()), exportTitle);
+        m_work.desk.tell(screenkit::BoxStyle::critical, QString::fromStdString(error.message()), exportTitle);
     }
 }
 

@@ -1,17 +1,11 @@
 #pragma once
 
 #include <QPageLayout>
-#include <QWidget>
 #include <span>
 #include <string_view>
 
 #include "reports/graphdata.h"
-
-class QHBoxLayout;
-
-namespace screenkit {
-class Desk;
-}
+#include "screenkit/screen.h"
 
 namespace reports {
 
@@ -21,11 +15,12 @@ class GraphView;
 ///
 /// In every array element i is year (or month) i and element 0 is not used. `count` is the number of points: at most
 /// 50 are shown, and below 1 the window stands empty. The figures are copied.
-class frmGraph : public QWidget {
+class frmGraph : public screenkit::Screen {
+    Q_OBJECT
 public:
     using Yearly = std::span<const double>;
 
-    explicit frmGraph(screenkit::Desk& desk, QWidget* parent = nullptr);
+    explicit frmGraph(screenkit::Workplace& workplace);
 
     void NAEDUAmortGraph(Yearly capital, Yearly interest, Yearly required, int count);
     void LivAnnGraph(Yearly capital, Yearly income, int count);
@@ -44,21 +39,22 @@ public:
     void DCAmortGraph(Yearly balance, Yearly capital, Yearly interest, int DCShape, int DCYears, int lastYear);
 
     const Graph& graph() const { return m_graph; }
-    QPageLayout::Orientation orientation() const { return m_orientation; }
+    QPageLayout::Orientation orientation() const {
+        return m_portrait == 1 ? QPageLayout::Portrait : QPageLayout::Landscape;
+    }
+
+protected:
+    QWidget* firstField() override;
 
 private:
     void draw(const Graph& graph);
-    QWidget* orientationFrame();
-    void addButton(QHBoxLayout& row, const char* name, const char* caption, void (frmGraph::*pressed)());
     void print();
     bool mayReplace(const QString& name);
     void saveAs();
-    void finish() { close(); }
 
-    screenkit::Desk& m_desk;
     GraphView* m_view;
     Graph m_graph;
-    QPageLayout::Orientation m_orientation = QPageLayout::Landscape;
+    int m_portrait = 0; ///< index of the orientation chosen
 };
 
 } // namespace reports
