@@ -13,7 +13,7 @@ namespace {
 
 constexpr double highestRate = 1000000;
 constexpr int coarseSteps = 200000; // the steps of 5 that lead to the highest rate
-constexpr int mostSteps = coarseSteps + 100;
+constexpr int mostSteps = 20000;    // a loan needs some thirty; figures that are none could go on for millions
 
 /// The whole months that the repayment covers: found as they stand if the discounted amount meets the principal in
 /// the last digit, else one less than the first month that passes it.
@@ -33,15 +33,16 @@ CoveredMonths coveredMonths(double principal, double percentAYear, double repaym
 
 /// A rate on the grid of 5 up to which no repayment exceeds `repayment`: the ladder may begin there.
 ///
-/// The true repayment rises with the rate (falls, for a negative principal), and from 5 percent up and a month on the
-/// computed one lies within 1e-11 of it; so one that is below by 1e-9 tells the same of all lower (higher) rates.
-/// For figures of which this can't be said the ladder begins at 0.
+/// The true repayment rises with the rate (falls, for a negative principal), and from 5 percent up the computed one
+/// lies within 1e-10 of it; so one that is below by 1e-9 tells the same of all lower (higher) rates. Of a tiny part of
+/// a month, of part of a month to the negative, and of repayments among the smallest doubles this can't be said:
+/// there the ladder begins at 0.
 double surelyBelow(double principal, double months, double repayment) {
-    constexpr double leastRepayment = 1e-290; // below it 1e-9 of it is no longer wide beside the smallest doubles
-    if (!(std::fabs(repayment) >= leastRepayment && months >= 1)) return 0;
+    const bool told = (months >= 0.01 || months <= -1) && std::fabs(repayment) >= 1e-290;
+    if (!told) return 0;
     const double bound = repayment > 0 ? repayment / (1 + 1e-9) : repayment * (1 + 1e-9);
     const auto sure = [=](int step) { return repaymentFor(principal, months, 5.0 * step) <= bound; };
-    if (principal < 0) return sure(1) ? 5.0 * coarseSteps : 0;
+    if (principal < 0) return repaymentFor(principal, months, 5) <= repayment && sure(2) ? highestRate : 0;
     int below = 0, above = coarseSteps + 1;
     while (above - below > 1) {
         const int middle = (below + above) / 2;

@@ -28,7 +28,7 @@ LoanPeriod periodFor(double principal, double percentAYear, double repayment);
 /// `repayment`; it carries the noise of the additions that lead to it.
 ///
 /// 0 if any argument is 0, and where even a rate of 0.01 asks for more. `unsolvableRate` if the rate passes 1 000 000,
-/// or if figures that are no loan (less than a month, a negative principal) keep the search from settling.
+/// or if figures that are no loan, such as a period of a thousandth of a month, don't settle in 20 000 steps.
 double rateFor(double principal, double months, double repayment);
 
 /// Solves Num2, the period, from Num1, Num3 and Num4, and raises Num4 to clear the loan in it (see `periodFor`).
