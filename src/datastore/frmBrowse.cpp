@@ -34,8 +34,7 @@ public:
         const std::string wanted = base::folded(text);
         if (!wanted.empty() && m_folded.empty())
             for (const ClientLine& client : m_clients)
-                m_folded.push_back(
-                    base::folded(client.CLName + '\n' + client.Name + '\n' + client.Description));
+                m_folded.push_back(base::folded(client.CLName + '\n' + client.Name + '\n' + client.Description));
         for (std::size_t i = 0; i < m_clients.size(); ++i)
             if (wanted.empty() || m_folded[i].find(wanted) != std::string::npos) m_shown.push_back(i);
         endResetModel();

@@ -7,9 +7,13 @@
 #include <QStyleFactory>
 #include <QStyleOptionFrame>
 
+// A library's resources are linked in only where they are named; the macro wants the global namespace.
+static void nameResources() { Q_INIT_RESOURCE(marlowbeck); }
+
 namespace screenkit::look {
 
 void apply(QApplication& application) {
+    nameResources();
     QApplication::setStyle(QStyleFactory::create("Fusion"));
     QFont font("Open Sans", application.font().pointSize() > 0 ? application.font().pointSize() : 10);
     font.setStyleHint(QFont::SansSerif);

@@ -47,7 +47,7 @@ MDIForm1::MDIForm1(assessment::Assessment& record, const datastore::Paths& paths
     setObjectName("MDIForm1");
     m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     m_area->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-    m_area->setBackground(palette().brush(QPalette::Mid));
+    m_area->setBackground(palette().window().color().darker(108));
     setCentralWidget(m_area);
     m_commands = {
         {"mnuNewFile", [this] { mnuNewFile_Click(); }},

@@ -12,6 +12,7 @@
 #include "reports/frmGraph.h"
 #include "reports/graphview.h"
 #include "screenkit/desk.h"
+#include "screenkit/workbench.h"
 
 namespace graphtest {
 
@@ -64,7 +65,8 @@ inline Array counting(double base, int last = 51) {
 
 struct Fixture {
     GraphDesk desk;
-    frmGraph window{desk};
+    screenkit::Workbench bench{desk};
+    frmGraph window{bench.workplace};
     const Array a = counting(1000), b = counting(2000), c = counting(3000), d = counting(4000);
 
     reports::GraphView& view() const {

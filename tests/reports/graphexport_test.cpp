@@ -26,7 +26,7 @@ TEST(GraphExport, ExportsEveryFormatInTheChosenOrientation) {
     Fixture f;
     f.window.EMVGraph("R", GraphPeriod::years, f.a, f.b, f.c, f.d, 30);
     for (const bool landscape : {true, false}) {
-        f.window.findChild<QRadioButton*>(landscape ? "Option1_0" : "Option1_1")->click();
+        f.window.findChild<QRadioButton*>(landscape ? "Option1(0)" : "Option1(1)")->click();
         const QString base = folder.filePath(landscape ? "landscape" : "portrait");
         f.desk.files = {base + ".png", base + ".SVG", base + ".pdf"};
         for (int i = 0; i < 3; ++i)
@@ -113,7 +113,7 @@ TEST(GraphExport, PrintsInTheChosenOrientation) {
     EXPECT_EQ(f.window.orientation(), QPageLayout::Landscape);
     f.desk.printTo = folder.filePath("landscape.pdf");
     f.press("cmdPrint");
-    f.window.findChild<QRadioButton*>("Option1_1")->click();
+    f.window.findChild<QRadioButton*>("Option1(1)")->click();
     f.desk.printTo = folder.filePath("portrait.pdf");
     f.press("cmdPrint");
     for (const char* name : {"landscape", "portrait"}) {
