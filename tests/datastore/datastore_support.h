@@ -19,26 +19,49 @@ namespace fs = std::filesystem;
 using assessment::Assessment;
 using storetest::errorOf;
 
+inline void runSql(const fs::path& file, const std::string& sql) {
+    store::Database database(file);
+    store::Transaction transaction(database);
+    database.execute(sql);
+    transaction.commit();
+}
+
+/// The bytes of a database, made once: building one afresh for each test would take longer than the test.
+struct Template {
+    explicit Template(const std::function<void(const fs::path&)>& make) {
+        const storetest::Folder folder;
+        make(folder / "file");
+        bytes = storetest::bytesOf(folder / "file");
+    }
+    std::string bytes;
+};
+
 /// A program folder with the shipped databases as far as a start needs them.
 class ProgramFolder : public storetest::Folder {
 public:
     ProgramFolder() {
-        std::string fields;
-        std::string factory;
-        int number = 0;
-        for (const auto& line : assessment::mutualFundsTable().fields()) {
-            fields += (fields.empty() ? "" : ",") + store::bracketed(line.name);
-            factory += (factory.empty() ? "" : ",") + std::to_string(++number) + ".5";
-        }
-        run("Default.Mdb", "CREATE TABLE Setup(GRINC DOUBLE); INSERT INTO Setup VALUES(0.5);"
-                           "CREATE TABLE MutualFunds(" +
-                               fields + "); INSERT INTO MutualFunds VALUES(" + factory +
-                               ");"
-                               "CREATE TABLE TallowenDefault(" +
-                               fields + "); INSERT INTO TallowenDefault VALUES(" + factory + ")");
-        run("Print.mdb", "CREATE TABLE HeadFoot(HEADERV0 VARCHAR(80),HEADERV1 VARCHAR(80),HEADERV2 VARCHAR(80),"
+        static const Template settings([](const fs::path& file) {
+            std::string fields;
+            std::string factory;
+            int number = 0;
+            for (const auto& line : assessment::mutualFundsTable().fields()) {
+                fields += (fields.empty() ? "" : ",") + store::bracketed(line.name);
+                factory += (factory.empty() ? "" : ",") + std::to_string(++number) + ".5";
+            }
+            store::Database::create(file);
+            std::string sql = "CREATE TABLE Setup(GRINC DOUBLE); INSERT INTO Setup VALUES(0.5);";
+            for (const std::string table : {"MutualFunds", "TallowenDefault"})
+                sql += "CREATE TABLE " + table + "(" + fields + "); INSERT INTO " + table + " VALUES(" + factory + ");";
+            runSql(file, sql);
+        });
+        static const Template print([](const fs::path& file) {
+            store::Database::create(file);
+            runSql(file, "CREATE TABLE HeadFoot(HEADERV0 VARCHAR(80),HEADERV1 VARCHAR(80),HEADERV2 VARCHAR(80),"
                          "HEADERV3 VARCHAR(80),footv0 VARCHAR(80),footv1 VARCHAR(80),footv2 VARCHAR(80),"
                          "footv3 VARCHAR(80)); INSERT INTO HeadFoot(HEADERV0) VALUES('old')");
+        });
+        storetest::put(path() / "Default.Mdb", settings.bytes);
+        storetest::put(path() / "Print.mdb", print.bytes);
     }
     datastore::Paths paths() const {
         return {path(),
@@ -48,20 +71,15 @@ public:
                 path() / "units.mdb",
                 path() / "Diary.mdb"};
     }
-    /// Runs SQL on a file of the folder, made if it is not there.
-    void run(const std::string& name, const std::string& sql) const {
-        if (!fs::exists(path() / name)) store::Database::create(path() / name);
-        store::Database(path() / name).execute(sql);
-    }
+    void run(const std::string& name, const std::string& sql) const { runSql(path() / name, sql); }
     /// The client database with all tables and no client, as a start leaves it.
     void makeClientDb(double version = 18) const {
-        static const std::string bytes = [] {
-            const Folder folder;
-            datastore::createClientDb(folder / "Data.Mdb");
-            return storetest::bytesOf(folder / "Data.Mdb");
-        }();
-        storetest::put(path() / "Data.Mdb", bytes);
-        run("Data.Mdb", "UPDATE DataSetup SET UpDateDB=" + std::to_string(version));
+        static const Template clients([](const fs::path& file) {
+            datastore::createClientDb(file);
+            runSql(file, "UPDATE DataSetup SET UpDateDB=18");
+        });
+        storetest::put(path() / "Data.Mdb", clients.bytes);
+        if (version != 18) run("Data.Mdb", "UPDATE DataSetup SET UpDateDB=" + std::to_string(version));
     }
 };
 
