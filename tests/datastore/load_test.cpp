@@ -54,7 +54,7 @@ TEST_F(LoadTest, ReadsAsManyRowsAsTheListCountsAndNeverThoseOfAnother) {
          "DELETE FROM CGTDetailsOther; DELETE FROM LumpSumTax",
          1, 0, 0, 0},
     };
-    for (const auto& [sql, policies, assets, sources, stocks] : cases) {
+    for (const auto& [sql, policies, assets, sources, expenses] : cases) {
         folder.run("Data.Mdb", sql);
         const Assessment found = loaded();
         EXPECT_EQ(found.policies.size(), policies) << sql;
