@@ -22,10 +22,16 @@ if(MOLD)
   add_link_options(-fuse-ld=mold)
 endif()
 
+set(CMAKE_CXX_FLAGS_RELEASE "-O2 -DNDEBUG" CACHE STRING "What is installed and packaged" FORCE)
+
 add_library(marlowbeck_options INTERFACE)
 target_compile_options(marlowbeck_options INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror -ffp-contract=off -fno-fast-math
   "$<$<BOOL:${CCACHE}>:-fpch-preprocess>")
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+  # From -O2 on this compiler warns of overlapping copies inside the library's own std::string, where there are none.
+  target_compile_options(marlowbeck_options INTERFACE -Wno-restrict)
+endif()
 if(MARLOWBECK_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)

@@ -1,0 +1,80 @@
+# What leaves the build folder, in two shapes that hold the same files.
+#
+#   component "program"  one folder that its user owns and can write: ./run makes it, and
+#                        `cmake --install build/release --component program --prefix FOLDER` makes one anywhere
+#   all the rest         the system's own folders, for all users: `cmake --install build/release --prefix /usr`, and the
+#                        Debian package. A marker file beside the executable tells the program that its user cannot write
+#                        here, so that it keeps its files in the user's data folder
+set(marlowbeck_database_names Default.Mdb Print.mdb units.mdb Diary.mdb)
+if(NOT MARLOWBECK_DATABASE_DIR)
+  set(MARLOWBECK_DATABASE_DIR "${CMAKE_BINARY_DIR}/program") # where the build leaves them
+endif()
+list(TRANSFORM marlowbeck_database_names PREPEND "${MARLOWBECK_DATABASE_DIR}/" OUTPUT_VARIABLE marlowbeck_databases)
+file(GLOB marlowbeck_definitions CONFIGURE_DEPENDS data/reports/*.rpt)
+
+set(CMAKE_SKIP_RPATH ON)
+
+# For all users.
+set(shared_folder lib/marlowbeck)
+foreach(folder bin lib lib/marlowbeck lib/marlowbeck/docs share share/applications share/doc share/doc/marlowbeck
+        share/icons share/icons/hicolor share/icons/hicolor/scalable share/icons/hicolor/scalable/apps)
+  # Readable by all of them, whatever the umask of the one who packs.
+  install(DIRECTORY DESTINATION ${folder} DIRECTORY_PERMISSIONS
+          OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+endforeach()
+install(TARGETS marlowbeck RUNTIME DESTINATION ${shared_folder})
+install(FILES ${marlowbeck_databases} ${marlowbeck_definitions} packaging/installed-for-all-users
+        DESTINATION ${shared_folder})
+install(FILES docs/guide.md DESTINATION ${shared_folder}/docs)
+install(FILES README.md packaging/copyright DESTINATION share/doc/marlowbeck)
+install(FILES packaging/marlowbeck.desktop DESTINATION share/applications)
+install(FILES resources/icons/marlowbeck.svg DESTINATION share/icons/hicolor/scalable/apps)
+file(MAKE_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
+file(CREATE_LINK ../lib/marlowbeck/marlowbeck "${CMAKE_BINARY_DIR}/bin/marlowbeck" SYMBOLIC)
+install(FILES "${CMAKE_BINARY_DIR}/bin/marlowbeck" DESTINATION bin)
+
+# For one user. The folder holds clients' affairs, so nobody else may look into it; and a database that is there already
+# holds the user's settings, so it stays.
+install(CODE [[
+  set(folder "$ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}")
+  if(NOT EXISTS "${folder}")
+    file(MAKE_DIRECTORY "${folder}")
+    file(CHMOD "${folder}" DIRECTORY_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
+  endif()
+]] COMPONENT program EXCLUDE_FROM_ALL)
+install(TARGETS marlowbeck RUNTIME DESTINATION . COMPONENT program EXCLUDE_FROM_ALL)
+install(FILES ${marlowbeck_definitions} DESTINATION . COMPONENT program EXCLUDE_FROM_ALL)
+install(FILES docs/guide.md DESTINATION docs COMPONENT program EXCLUDE_FROM_ALL)
+install(CODE "set(databases \"${marlowbeck_databases}\")" COMPONENT program EXCLUDE_FROM_ALL)
+install(CODE [[
+  foreach(database IN LISTS databases)
+    cmake_path(GET database FILENAME name)
+    if(NOT EXISTS "${folder}/${name}")
+      file(INSTALL "${database}" DESTINATION "${folder}" PERMISSIONS OWNER_READ OWNER_WRITE)
+    endif()
+  endforeach()
+]] COMPONENT program EXCLUDE_FROM_ALL)
+
+# What must be built before either shape can be installed.
+add_custom_target(marlowbeck_program DEPENDS marlowbeck)
+if(TARGET marlowbeck_databases)
+  add_dependencies(marlowbeck_program marlowbeck_databases)
+endif()
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "${PROJECT_DESCRIPTION}")
+set(CPACK_PACKAGE_NAME marlowbeck)
+set(CPACK_PACKAGE_DIRECTORY "${CMAKE_BINARY_DIR}/package")
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_MAINTAINER "Marlowbeck developers <developers@marlowbeck.invalid>")
+set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
+"Keeps a file of clients, works out loans, and shows, prints and exports
+reports and graphs of them, on South African rules and in rand.")
+set(CPACK_DEBIAN_PACKAGE_SECTION misc)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+# libqt6svg6 also carries the plugins that draw the SVG icons.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "libqt6svg6, fonts-open-sans")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "xdg-utils")
+include(CPack)

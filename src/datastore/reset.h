@@ -2,6 +2,7 @@
 
 #include "assessment/assessment.h"
 #include "datastore/paths.h"
+#include "store/database.h"
 
 namespace datastore {
 
@@ -10,5 +11,9 @@ namespace datastore {
 ///
 /// Throws without touching the record if the settings can't be read.
 void ResetAssessment(assessment::Assessment& record, const Paths& paths);
+
+/// The two halves of a reset, for callers that have the client database open: a blank record with `GRINC`, and `CPI`.
+assessment::Assessment blankRecord(const std::filesystem::path& defaultDbPath);
+void readCPI(assessment::Assessment& record, store::Database& clients);
 
 } // namespace datastore

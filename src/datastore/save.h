@@ -3,6 +3,7 @@
 #include <filesystem>
 
 #include "assessment/assessment.h"
+#include "store/database.h"
 
 namespace datastore {
 
@@ -19,5 +20,8 @@ enum class Saved {
 /// file, record and flags stay as they were. `SaveThenNew` is cleared either way, so that a later plain save does not
 /// blank the client. Error 3021 if the client's row has vanished.
 Saved Save(assessment::Assessment& record, const std::filesystem::path& dataDbPath);
+
+/// The same on an open database.
+Saved Save(assessment::Assessment& record, store::Database& database);
 
 } // namespace datastore

@@ -8,11 +8,9 @@
 #include <memory>
 #include <vector>
 
-class QPrinter;
+#include "screenkit/desk.h"
 
-namespace screenkit {
-class Desk;
-}
+class QPrinter;
 
 namespace reports {
 
@@ -20,8 +18,7 @@ class PreviewWindow;
 class PrinterSession;
 struct Report;
 
-/// Where a report goes: a window of its own, or straight to the session's printer.
-enum class Destination { preview = 0, printer = 1 };
+using screenkit::Destination;
 
 /// Makes the session's printer; a test makes one that prints into a PDF file.
 using PrinterFactory = std::function<std::unique_ptr<QPrinter>()>;

@@ -10,6 +10,9 @@ class QWidget;
 
 namespace screenkit {
 
+/// Where a report goes: a window of its own, or straight to the session's printer.
+enum class Destination { preview = 0, printer = 1 };
+
 enum class BoxStyle { plain, information, question, warning, critical };
 enum class Answer { ok, yes, no, cancel };
 enum class Buttons { ok, yesNo, yesNoCancel };

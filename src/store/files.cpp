@@ -30,6 +30,7 @@ Number numberFor(int error) {
     case EFBIG: return Number::diskFull61;
     case ENODEV:
     case ENXIO: return Number::deviceUnavailable;
+    case EEXIST: return Number::fileExists58;
     case EIO: return Number::deviceError;
     default: return Number::pathAccess;
     }
@@ -105,10 +106,10 @@ fs::path folderOf(const fs::path& path) { return path.has_parent_path() ? path.p
 
 /// Where the bytes are to lie: an existing file under its own spelling, the end of a link rather than the link.
 fs::path targetOf(const fs::path& path) {
-    const fs::path spelled = existingSpelling(path);
+    fs::path spelled = existingSpelling(path);
     std::error_code ignored;
     if (!fs::is_symlink(spelled, ignored)) return spelled;
-    const fs::path end = fs::weakly_canonical(spelled, ignored);
+    fs::path end = fs::weakly_canonical(spelled, ignored);
     return end.empty() ? spelled : end;
 }
 
@@ -161,6 +162,17 @@ void writeFile(const fs::path& path, std::string_view bytes, unsigned mode) {
     beside.fill(bytes, mode);
     beside.takePlace();
     flushFolder(folderOf(target));
+}
+
+void moveIntoPlace(const fs::path& from, const fs::path& to) {
+    int failed = ::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE);
+    // Not every file system can refuse to replace.
+    if (failed != 0 && (errno == EINVAL || errno == ENOSYS)) {
+        errno = EEXIST;
+        if (!fs::exists(fs::symlink_status(to))) failed = ::rename(from.c_str(), to.c_str());
+    }
+    if (failed != 0) fail(to, errno);
+    flushFolder(folderOf(to));
 }
 
 } // namespace store

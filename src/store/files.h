@@ -22,4 +22,8 @@ std::string readFile(const std::filesystem::path& path);
 /// 61, 70, 75 or 76 and leaves the old file as it was.
 void writeFile(const std::filesystem::path& path, std::string_view bytes, unsigned mode = 0600);
 
+/// Gives a finished new file its name and flushes the folder. Throws Error 58 and leaves both as they are if there is a
+/// file of that name by now.
+void moveIntoPlace(const std::filesystem::path& from, const std::filesystem::path& to);
+
 } // namespace store

@@ -1,0 +1,176 @@
+#include "analyses/frmPersDet.h"
+
+#include <QTabWidget>
+
+#include "analyses/persdetreport.h"
+#include "datastore/paths.h"
+#include "reports/report.h"
+
+namespace analyses {
+
+using namespace screenkit;
+
+namespace {
+const QStringList maritalStates{"Single", "Widow/er", "M. ANC with Accrual", "M. ANC w/out Accrual", "Married COP"};
+const QStringList smokerStates{"Smoker", "Not smoked for 2 years", "Never smoked"};
+constexpr int narrow = 10; // characters of a title, initials or a postal code
+constexpr int phone = 20;
+} // namespace
+
+frmPersDet::frmPersDet(Workplace& workplace)
+    : Screen(workplace, "frmPersDet", "Personal details :", workplace.record.changed.PersDetChanged),
+      m_details(workplace.record.details), m_client(workplace.record.client) {
+    auto* pages = tabs("tabPersDet", {{"&Client", clientPage()},
+                                      {"&Spouse", spousePage()},
+                                      {"&Addresses and bank", addressPage()},
+                                      {"&Dependants", dependantsPage()},
+                                      {"&Review and notes", notesPage()}});
+    body(column(
+        {pages,
+         row({later("cmdOtherAssets", "Other Assets"), opener("cmdPolInvest", "&Policy/Investments", "frmPolInvest"),
+              button("cmdPrint", "Prin&t", [this] { m_printPanel->open(findChild<QWidget*>("chkNotes")); }), spring(),
+              okButton("cmOk", "&OK")})}));
+    buildPrintPanel();
+}
+
+TextField* frmPersDet::namePart(const QString& name, std::string& part, int size, int characters) {
+    return text(name,
+                {[&part] { return QString::fromStdString(part); },
+                 [this, &part](const QString& typed) {
+                     part = typed.toStdString();
+                     NameFunc();
+                 }},
+                size, characters);
+}
+
+Item frmPersDet::clientPage() {
+    auto& d = m_details;
+    auto* person = group("fraClient", "Client",
+                         form({{"T&itle", namePart("txtCTitle", d.CTitle, 10, narrow)},
+                               {"First &names", text("txtCFName", d.CFName, 50)},
+                               {"Initials", namePart("txtCInit", d.CInit, 10, narrow)},
+                               {"S&urname", namePart("txtCLName", d.CLName, 50)},
+                               {"Date of &birth", date("dtCDOB", m_client.BirthDate)},
+                               {"ID nu&mber", text("txtIDNum", m_client.IDNumber, 40)},
+                               {"Occupation", text("txtCOccupation", d.COccupation, 50)},
+                               {"Employer", text("txtCEmployer", d.CEmployer, 50)},
+                               {"Education", text("txtEducation", d.CEducation, 50)},
+                               {"Description", text("txtDescription", d.Description, 60)}}));
+    // Option 1 is deceased; any other value of an old file leaves both off.
+    auto* life = options("grpDeceased", {"Active client", "Deceased"}, d.Deceased);
+    life->option(0)->setObjectName("optActiveClientOther");
+    life->option(1)->setObjectName("optDeceased");
+    return page(person,
+                {"C", d.CTelWork, d.CTelHome, d.CFaxWork, d.CFaxHome, d.CCell, d.CEMail, d.CMaritalStat, d.CSmoker},
+                group("fraDeceased", "Status", life));
+}
+
+Item frmPersDet::spousePage() {
+    auto& d = m_details;
+    auto* person = group("fraSpouse", "Spouse",
+                         form({{"T&itle", text("txtSTitle", d.STitle, 10, narrow)},
+                               {"First &names", text("txtSFName", d.SFName, 50)},
+                               {"Initials", text("txtSInit", d.SInit, 10, narrow)},
+                               {"S&urname", text("txtSLName", d.SLName, 50)},
+                               {"Date of &birth", date("dtSDOB", d.SDOB)},
+                               {"ID nu&mber", text("txtSSinNum", d.SSinNum0, 50)},
+                               {"Occupation", text("txtSOccupation", d.SOccupation, 50)},
+                               {"Employer", text("txtSEmployer", d.SEmployer, 50)},
+                               {"Education", text("txtSEducation", d.SEducation, 50)}}));
+    return page(person,
+                {"S", d.STelWork, d.STelHome, d.SFaxWork, d.SFaxHome, d.SCell, d.SEMail, d.SMaritalStat, d.SSmoker},
+                nullptr);
+}
+
+Item frmPersDet::page(QWidget* person, const Contact& contact, QWidget* status) {
+    const QString who = contact.who;
+    const auto line = [&](const QString& name, std::string& place) {
+        return text("txt" + who + name, place, 20, phone);
+    };
+    auto* telephones = group("fra" + who + "Tel", "Telephone and e-mail",
+                             form({{"&Work", line("TelWork", contact.telWork)},
+                                   {"&Home", line("TelHome", contact.telHome)},
+                                   {"&Fax, work", line("FaxWork", contact.faxWork)},
+                                   {"Fa&x, home", line("FaxHome", contact.faxHome)},
+                                   {"Ce&ll", line("Cell", contact.cell)},
+                                   {"&E-mail", text("txt" + who + "EMail", contact.email, 50)}}));
+    auto* marital = group("fra" + who + "MaritalStat", "Marital status",
+                          options("opt" + who + "MaritalStat", maritalStates, contact.marital));
+    auto* smoker =
+        group("fra" + who + "Smoker", "Smoking", options("opt" + who + "Smoker", smokerStates, contact.smoker));
+    auto* habits = status != nullptr ? column({smoker, status, spring()}) : column({smoker, spring()});
+    auto* left = column({person, spring()});
+    auto* right = column({telephones, row({marital, habits}), spring()});
+    return row({Item(left, 1), Item(right, 1)});
+}
+
+Item frmPersDet::addressPage() {
+    auto* postal = form({{"Line &1", text("txtPAdd1", m_details.PAdd1, 50)},
+                         {"Line &2", text("txtPAdd2", m_details.PAdd2, 50)},
+                         {"Line &3", text("txtPAdd3", m_details.PAdd3, 50)},
+                         {"Postal cod&e", text("txtZipCode", m_details.PAddZip, 10, narrow)}});
+    auto* copy =
+        button("cmdCopyPtoR", "Cop&y Postal Address to Residential Address :", [this] { copyPostalToResidential(); });
+    m_residential[0] = text("txtResAdd1", m_details.ResAdd1, 50);
+    m_residential[1] = text("txtResAdd2", m_details.ResAdd2, 50);
+    m_residential[2] = text("txtResAdd3", m_details.ResAdd3, 50);
+    auto* residential =
+        form({{"Line &4", m_residential[0]}, {"Line &5", m_residential[1]}, {"Line &6", m_residential[2]}});
+    return column({row({group("fraPostal", "Postal address", column({postal, row({copy, spring()})})),
+                        group("fraResidential", "Residential address", residential)}),
+                   group("fraBank", "Bank and estate",
+                         form({{"&Bank", text("txtBank", m_details.CBank, 80)},
+                               {"Branc&h", text("txtBranch", m_details.CBranch, 80)},
+                               {"Account &number", text("txtAccNo", m_details.CAccNo, 80)},
+                               {"E&xecutors", text("txtExecutors", m_details.CExecutors, 80)}})),
+                   spring()});
+}
+
+Item frmPersDet::dependantsPage() {
+    std::vector<FormRow> names;
+    std::vector<FormRow> births;
+    for (std::size_t i = 0; i < m_details.DEP.size(); ++i) {
+        const auto number = static_cast<int>(i);
+        names.emplace_back(QString("Name &%1").arg(number + 1),
+                           text(QString("txtDepName(%1)").arg(number), m_details.DEP[i], 50));
+        births.emplace_back(QString("Date of birth %1").arg(number + 1),
+                            date(QString("dtDepDOB%1").arg(number + 1), m_details.DEPDOB[i]));
+    }
+    return column({group("fraDependants", "Dependants", row({Item(form(names), 2), Item(form(births), 1)})), spring()});
+}
+
+Item frmPersDet::notesPage() {
+    return column(
+        {group("fraReview", "Review",
+               form({{"Re&view date", date("dtReviewDate", m_details.ReviewDate)},
+                     {"&Next appointment", date("dtNextApp", m_details.NextApp)}})),
+         Item(group("fraNotes", "Notes", form({{"Co&mments", memo("txtMemo", m_details.Comments, 2000)}})), 1)});
+}
+
+void frmPersDet::buildPrintPanel() {
+    auto* notes = check("chkNotes", "&Include Notes", m_includeNotes);
+    untrackedField(notes);
+    m_printPanel = printPanel({notes}, [this](Destination to) { print(to); });
+}
+
+void frmPersDet::NameFunc() {
+    m_client.Name = assessment::displayName(m_details.CTitle, m_details.CInit, m_details.CLName);
+    m_work.shell.showClientName();
+}
+
+void frmPersDet::copyPostalToResidential() {
+    const std::string* postal[] = {&m_details.PAdd1, &m_details.PAdd2, &m_details.PAdd3};
+    for (int line = 0; line < 3; ++line)
+        m_residential[line]->enter(QString::fromStdString(*postal[line]));
+}
+
+void frmPersDet::print(Destination destination) {
+    feedPersonalDetails(m_work.paths.PrintDbPath, m_client, m_details,
+                        {maritalStates.value(m_details.CMaritalStat).toStdString(),
+                         maritalStates.value(m_details.SMaritalStat).toStdString(),
+                         smokerStates.value(m_details.CSmoker).toStdString(),
+                         smokerStates.value(m_details.SSmoker).toStdString(), m_includeNotes == 1});
+    m_work.reports.run("\\PersDetl.rpt", "Personal Details ", destination);
+}
+
+} // namespace analyses

@@ -1,0 +1,187 @@
+#include "calculators/frmLoans.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+
+#include "calculators/amortisation.h"
+#include "calculators/loanreport.h"
+#include "calculators/loans.h"
+#include "datastore/paths.h"
+#include "reports/frmGraph.h"
+#include "reports/report.h"
+
+namespace calculators {
+
+using namespace screenkit;
+
+namespace {
+
+const QStringList modeCaptions{"Monthly repayment", "Principal amount", "Repayment period", "Interest rate"};
+const NumberKind months = whole.upTo(600, "The maximum period  allowed is 600 months", "Incorrect Period!");
+const NumberKind rate =
+    percent.upTo(highestEnteredRate, "The maximum interest rate allowed is 50%", "Incorrect Interest Rate!");
+constexpr double monthsOfAnAnnualTable = 13; // twelve months make no second row to compare with
+constexpr const char* figures = "# ### ### ###.00";
+
+std::vector<std::vector<double>> gridRows(const std::vector<AmortisationRow>& table) {
+    std::vector<std::vector<double>> rows;
+    rows.reserve(table.size());
+    for (const AmortisationRow& line : table)
+        rows.push_back({static_cast<double>(line.number), line.capital, line.interest, line.balance});
+    return rows;
+}
+
+int modeIndex(const assessment::Loans& loan) {
+    const auto mode = loanMode(loan.Heading);
+    return mode ? static_cast<int>(*mode) : -1;
+}
+
+} // namespace
+
+frmLoans::frmLoans(Workplace& workplace)
+    : Screen(workplace, "frmLoans", "Loan Calculations", workplace.record.changed.LoansChanged),
+      m_loans(workplace.record.loans) {
+    buildBody();
+    buildPrintPanel();
+}
+
+void frmLoans::buildBody() {
+    m_modes = options("optLoanCalc", modeCaptions,
+                      {[this] { return modeIndex(m_loans); },
+                       [this](int mode) { m_loans.Heading = modeCaptions[mode].toStdString(); }},
+                      [this](int mode) { pickMode(mode); });
+    m_principal = number("numPrinAmount", m_loans.Num1, money);
+    m_period = number("numPeriod", m_loans.Num2, months);
+    m_rate = number("numIntRate", m_loans.Num3, rate);
+    m_repayment = number("numMonRePay", m_loans.Num4, money);
+    m_interest = result("numAns1", m_totalInterest, money);
+    m_repayments = result("numAns2", m_totalRepayments, money);
+    m_modeLabel = heading("Label12(1)");
+    m_rateError = over(m_rate, "Text1", "   Error");
+    auto* calculate = button("cmdCalculate", "&Calculate", [this] { solve(m_loans); });
+    m_ok = okButton();
+    body(column({
+        m_modeLabel,
+        row({group("fraLoanCalcMode", "Calculate Mode", m_modes), group("fraLoan", "Loan",
+                                                                        form({{"Princ&ipal amount", m_principal},
+                                                                              {"P&eriod", m_period, "months."},
+                                                                              {"Interest &rate", m_rate, "% a year"},
+                                                                              {"Monthly repa&yment", m_repayment},
+                                                                              {"Total Interest", m_interest},
+                                                                              {"Total Repayments", m_repayments}}))}),
+        spring(),
+        row({calculate, button("cmdFinCharge", "&Fin. charges", [this] { toggleCharges(); }),
+             button("cmdMonAmort", "Mo&nthly Amort.", [this] { monthlyTable(); }),
+             button("cmdAnnAmort", "&Annual Amort.", [this] { annualTable(); }),
+             button("cmdLoanGraph", "Annual &Graph", [this] { graph(); }),
+             button("cmdPrint", "&Print", [this] { m_printPanel->open(findChild<QWidget*>("Check1")); }), spring(),
+             m_ok}),
+    }));
+    defaultButton(calculate);
+}
+
+void frmLoans::buildPrintPanel() {
+    auto* kinds = options("Option1", {"Annual", "Monthly "}, m_amortOption);
+    m_amortChoice = group("fraIncAmort", "Amortisation", kinds);
+    auto* include = check("Check1", "Include Amorti&zation", m_includeAmort, [this, kinds](bool on) {
+        if (on && m_amortChoice->isHidden()) m_amortOption = 0;
+        kinds->fill();
+        m_amortChoice->setVisible(on);
+    });
+    untrackedField(kinds);
+    untrackedField(include);
+    m_printPanel = printPanel({include, m_amortChoice}, [this](Destination to) { print(to); });
+    m_amortChoice->hide();
+}
+
+QWidget* frmLoans::firstField() { return modeIndex(m_loans) == 1 ? m_period : m_principal; }
+
+void frmLoans::filled() {
+    showMode();
+    assessment::Loans copy = m_loans; // to look is not to change: a period's search takes a cent off the repayment
+    solve(copy);
+}
+
+void frmLoans::pickMode(int) {
+    showMode();
+    auto* first = dynamic_cast<Field*>(firstField());
+    if (!m_modes->pickedByArrow()) first->takeFocus(); // the arrows walk on to the next mode
+}
+
+void frmLoans::showMode() {
+    const int mode = modeIndex(m_loans);
+    m_modeLabel->setText(QString::fromStdString(m_loans.Heading));
+    m_repayment->setResult(mode == 0);
+    m_principal->setResult(mode == 1);
+    m_period->setResult(mode == 2);
+    m_rate->setResult(mode == 3);
+}
+
+void frmLoans::solve(assessment::Loans& loan) {
+    const bool tooHigh = LoanCalc(loan);
+    m_principal->present(loan.Num1);
+    m_period->present(loan.Num2);
+    m_rate->present(loan.Num3);
+    m_repayment->present(loan.Num4);
+    m_rateError->setVisible(tooHigh);
+    showCharges(loan);
+}
+
+bool frmLoans::charged() const { return m_work.record.FinChargeState == "DOWN"; }
+
+void frmLoans::showCharges(const assessment::Loans& loan) {
+    m_interest->present(totalInterest(loan));
+    m_repayments->present(totalRepayments(loan));
+    setRowVisible(m_interest, charged());
+    setRowVisible(m_repayments, charged());
+}
+
+void frmLoans::toggleCharges() {
+    m_work.record.FinChargeState = charged() ? "UP" : "DOWN";
+    showCharges(m_loans);
+}
+
+bool frmLoans::complete() const {
+    return m_loans.Num1 != 0 && m_loans.Num2 != 0 && m_loans.Num3 != 0 && m_loans.Num4 != 0;
+}
+
+bool frmLoans::hasAnnualTable() const { return complete() && m_loans.Num2 >= monthsOfAnAnnualTable; }
+
+void frmLoans::monthlyTable() {
+    if (!complete()) return m_principal->takeFocus();
+    showGrid("Monthly Amortisation",
+             {{" Month   ", "##"},
+              {"Capital payment ", figures},
+              {"Interest payment", figures},
+              {"    Balance    ", figures}},
+             gridRows(monthRows(monthlyAmortisation(m_loans.Num1, m_loans.Num2, m_loans.Num3))), m_ok);
+}
+
+void frmLoans::annualTable() {
+    if (!hasAnnualTable()) return m_principal->takeFocus();
+    showGrid("Annual Amortisation",
+             {{" Year ", "##"},
+              {"Capital payments", figures},
+              {"Interest payment", figures},
+              {"    Balance      ", figures}},
+             gridRows(yearRows(CalcAnnAmort(m_loans))), m_ok);
+}
+
+void frmLoans::graph() {
+    if (!hasAnnualTable()) return m_ok->setFocus(Qt::OtherFocusReason);
+    const Amortisation table = CalcAnnAmort(m_loans);
+    m_work.shell.open("frmGraph");
+    if (auto* window = qobject_cast<reports::frmGraph*>(m_work.shell.screen("frmGraph")))
+        window->LoanAmortGraph(table.MonthBalance, table.YearCapital, table.YearInterest, table.AmortShape,
+                               table.AmortYears, table.years());
+}
+
+void frmLoans::print(Destination destination) {
+    if (!complete()) return focusLater(m_ok);
+    const LoanReportOptions wanted{charged(), m_includeAmort == 1, m_amortOption == 1};
+    feedLoanReport(m_work.paths.PrintDbPath, m_loans, wanted);
+    const LoanReport report = loanReport(m_loans, wanted);
+    m_work.reports.run(QString::fromStdString(report.definition), QString::fromStdString(report.title), destination);
+}
+
+} // namespace calculators

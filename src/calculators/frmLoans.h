@@ -1,0 +1,47 @@
+#pragma once
+
+#include "assessment/assessment.h"
+#include "screenkit/screen.h"
+
+namespace calculators {
+
+/// The loan calculator: any one of repayment, principal, period and rate from the other three, the amortisation by
+/// month and by year, its graph and its report.
+class frmLoans : public screenkit::Screen {
+    Q_OBJECT
+public:
+    explicit frmLoans(screenkit::Workplace& workplace);
+
+protected:
+    void filled() override;
+    QWidget* firstField() override;
+
+private:
+    void buildBody();
+    void buildPrintPanel();
+    void pickMode(int mode);
+    void showMode();
+    /// Solves a loan and shows it; the record's own, or a copy where looking must not change the record.
+    void solve(assessment::Loans& loan);
+    void showCharges(const assessment::Loans& loan);
+    void toggleCharges();
+    void monthlyTable();
+    void annualTable();
+    void graph();
+    void print(screenkit::Destination destination);
+    bool complete() const;
+    bool hasAnnualTable() const;
+    bool charged() const;
+
+    assessment::Loans& m_loans;
+    double m_totalInterest = 0, m_totalRepayments = 0;
+    int m_includeAmort = 0; ///< `IncludeAmort`
+    int m_amortOption = 0;  ///< 0 annual, 1 monthly
+    screenkit::OptionGroup* m_modes;
+    screenkit::NumberField *m_principal, *m_period, *m_rate, *m_repayment, *m_interest, *m_repayments;
+    QLabel *m_modeLabel, *m_rateError;
+    QWidget *m_ok = nullptr, *m_amortChoice = nullptr;
+    screenkit::Panel* m_printPanel = nullptr;
+};
+
+} // namespace calculators

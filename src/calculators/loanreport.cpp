@@ -1,0 +1,74 @@
+#include "calculators/loanreport.h"
+
+#include <array>
+#include <vector>
+
+#include "calculators/amortisation.h"
+#include "calculators/loans.h"
+#include "datastore/printfeed.h"
+
+namespace calculators {
+
+namespace {
+
+struct ModeReport {
+    const char* definition;
+    const char* annualTitle;
+    const char* monthlyTitle;
+};
+
+// By the modes' order on the screen.
+constexpr std::array<ModeReport, 4> reports{{
+    {"Lonrepa", "Annual repayment of Loan with Amortisation", "Annual repayment of Loan with Monthly Amortisation"},
+    {"LonPrAm", "Principal calculation of Loan with Annual Amortisation",
+     "Principal calculation of Loan with Monthly Amortisation"},
+    {"LonRPer", "Repayment period calculation of Loan with Annual Amortisation",
+     "Repayment period calculation of Loan with Monthly Amortisation"},
+    {"LonInRt", "Interest rate calculation of Loan with Annual Amortisation",
+     "Interest rate calculation of Loan with Monthly Amortisation"},
+}};
+
+std::vector<datastore::Row> amortRows(const std::vector<AmortisationRow>& table) {
+    std::vector<datastore::Row> rows;
+    rows.reserve(table.size());
+    for (const AmortisationRow& line : table)
+        rows.push_back({{"Year", static_cast<double>(line.number)},
+                        {"Capital", line.capital},
+                        {"Interest", line.interest},
+                        {"Required", line.balance}});
+    return rows;
+}
+
+} // namespace
+
+LoanReport loanReport(const assessment::Loans& loan, const LoanReportOptions& options) {
+    const auto mode = loanMode(loan.Heading).value_or(LoanMode::MonthlyRepayment);
+    const ModeReport& report = reports[static_cast<std::size_t>(mode)];
+    const std::string suffix = options.amortised ? "A" : "";
+    return {"\\" + (report.definition + suffix) + ".rpt",
+            options.amortised && options.monthly ? report.monthlyTitle : report.annualTitle};
+}
+
+void feedLoanReport(const std::filesystem::path& printDbPath, const assessment::Loans& loan,
+                    const LoanReportOptions& options) {
+    const std::string none;
+    datastore::PrintFeed feed(printDbPath);
+    feed.replace("Loans", {{"Heading", loan.Heading},
+                           {"Num1", loan.Num1},
+                           {"Num2", loan.Num2},
+                           {"Num3", loan.Num3},
+                           {"Num4", loan.Num4},
+                           {"FinText1", options.charges ? "Total Interest" : none},
+                           {"FinText1A", options.charges ? ": " : none},
+                           {"FinNum1", options.charges ? totalInterest(loan) : 0},
+                           {"FinText2", options.charges ? "Total Repayments" : none},
+                           {"FinNum2", options.charges ? totalRepayments(loan) : 0},
+                           {"YearMon", options.amortised ? (options.monthly ? "Month" : "Year") : none}});
+    if (options.amortised && options.monthly)
+        feed.replace("Amort", amortRows(monthRows(monthlyAmortisation(loan.Num1, loan.Num2, loan.Num3))));
+    else if (options.amortised)
+        feed.replace("Amort", amortRows(yearRows(CalcAnnAmort(loan))));
+    feed.commit();
+}
+
+} // namespace calculators

@@ -1,0 +1,91 @@
+#include "datastore/load.h"
+
+#include <algorithm>
+
+#include "assessment/rows.h"
+#include "assessment/tables.h"
+#include "datastore/reset.h"
+#include "store/error.h"
+
+namespace datastore {
+
+using assessment::Assessment;
+using assessment::FieldTable;
+using assessment::RowReader;
+
+namespace {
+
+/// One load from one unchanging view of the file.
+class ClientReader {
+public:
+    ClientReader(store::Database& database, double key) : m_database(database), m_key(key) {}
+
+    void read(Assessment& record) {
+        record.DCLNO = readClientRow(assessment::dataTable(), record);
+        readClientRow(assessment::persDetailsTable(), record);
+        readItemLists(record.itemised);
+        constexpr double fewestPolicies = 1;
+        const auto policies = readList(assessment::polsInvestsTable(), fewestPolicies);
+        if (!policies.empty()) record.policies = policies;
+        assessment::CapitalGains& gains = record.capitalGains;
+        gains.assets = readList(assessment::cgtDetailsTable());
+        RowReader(m_database, assessment::cgtDetailsOtherTable(), m_key).next(gains);
+        RowReader(m_database, assessment::lumpSumTaxTable(), m_key).next(record.lumpSums);
+        if (gains.ItemiseAdditCapGain == 1) gains.trustOther = readList(assessment::cgtTrustOtherTable());
+    }
+
+private:
+    double readClientRow(const FieldTable<Assessment>& table, Assessment& record) {
+        RowReader reader(m_database, table, m_key);
+        if (!reader.next(record))
+            throw store::Error(store::Number::noCurrentRecord, m_database.path().string(),
+                               "The client is no longer in the table " + table.name() + ".",
+                               "Open Browse again and choose another client.");
+        return reader.key();
+    }
+
+    /// Rows in the order of adding, as many as the first of them tells, or fewer if there are fewer.
+    template <class Row>
+    std::vector<Row> readList(const FieldTable<Row>& table, double atLeast = 0) {
+        std::vector<Row> rows;
+        RowReader reader(m_database, table, m_key);
+        double count = 0;
+        for (Row row; reader.next(row); row = Row()) {
+            if (rows.empty()) count = std::max(reader.rowCount(), atLeast);
+            if (static_cast<double>(rows.size()) >= count) break;
+            rows.push_back(std::move(row));
+        }
+        return rows;
+    }
+
+    void readItemLists(assessment::Itemised& itemised) {
+        for (const assessment::ItemTable& line : assessment::itemTables()) {
+            if (line.table == nullptr || !line.isKept) continue;
+            assessment::ItemList& list = line.list(itemised);
+            if (list.flag == 1) list.rows = readList(*line.table);
+        }
+    }
+
+    store::Database& m_database;
+    double m_key;
+};
+
+} // namespace
+
+void load(Assessment& record, const Paths& paths, double key) {
+    Assessment blank = blankRecord(paths.DefaultDbPath);
+    try {
+        store::Database database(paths.DataDbPath);
+        const store::Transaction oneView(database, store::Access::read);
+        readCPI(blank, database);
+        Assessment loaded = blank;
+        ClientReader(database, key).read(loaded);
+        loaded.ClientOnFile = 1;
+        record = std::move(loaded);
+    } catch (...) {
+        record = std::move(blank);
+        throw;
+    }
+}
+
+} // namespace datastore

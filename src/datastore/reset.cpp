@@ -1,0 +1,37 @@
+#include "datastore/reset.h"
+
+#include "assessment/rows.h"
+#include "assessment/tables.h"
+#include "store/error.h"
+
+namespace datastore {
+
+assessment::Assessment blankRecord(const std::filesystem::path& defaultDbPath) {
+    assessment::Assessment blank;
+    store::Database settings(defaultDbPath);
+    assessment::RowReader setup(settings, assessment::setupTable(), {}, assessment::Lacking::isError);
+    if (!setup.next(blank))
+        throw store::Error(store::Number::noCurrentRecord, defaultDbPath.string(), "The table Setup has no row.");
+    return blank;
+}
+
+void readCPI(assessment::Assessment& record, store::Database& clients) {
+    try {
+        assessment::RowReader(clients, assessment::cpiDefaultTable()).next(record);
+    } catch (const store::Error&) {
+        record.CPI = 0; // a practice that has never entered it works without
+    }
+}
+
+void ResetAssessment(assessment::Assessment& record, const Paths& paths) {
+    assessment::Assessment blank = blankRecord(paths.DefaultDbPath);
+    try {
+        store::Database clients(paths.DataDbPath);
+        readCPI(blank, clients);
+    } catch (const store::Error&) {
+        blank.CPI = 0;
+    }
+    record = std::move(blank);
+}
+
+} // namespace datastore

@@ -1,0 +1,84 @@
+#pragma once
+
+#include <initializer_list>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace reports {
+
+/// What a graph says around its lines. A blank Y title means that the axis has none.
+struct GraphDescription {
+    std::string_view title, yTitle, xTitle;
+    std::vector<std::string_view> series; ///< names in the order of the legend
+};
+
+/// One for each public procedure of the graph window.
+enum class GraphKind {
+    NAEDUAmort,
+    LivAnn,
+    EMV,
+    NADAmort,
+    NADISAmort,
+    NARAAmort,
+    LoanAmort,
+    IncFromSharesAmort,
+    EMVAmort,
+    DCAmort
+};
+
+const GraphDescription& graphDescription(GraphKind kind);
+
+enum class GraphPeriod { years, months };
+
+/// The graph of a quotation, whose title follows the investment's letter "E", "B", "R" or "U" (blank for any other).
+GraphDescription investmentGraph(std::string_view typeInvest, GraphPeriod period);
+
+struct GraphSeries {
+    std::string name;
+    std::vector<double> values; ///< values[0] is point 1
+};
+
+/// A graph's own copy of what it shows, so that the caller's arrays may change while the window stays open.
+struct Graph {
+    std::string title, yTitle, xTitle;
+    int points = 0;
+    std::vector<GraphSeries> series;
+};
+
+/// The most points a graph shows; the year arrays can hold one more.
+inline constexpr int mostGraphPoints = 50;
+
+/// Copies points 1 to `count` of each array; element 0 is not used. At most 50 points, none for a count below 1, and
+/// never more than the shortest array holds. An empty array leaves its series out of the graph.
+Graph makeGraph(const GraphDescription& description, std::initializer_list<std::span<const double>> arrays, int count);
+
+/// False for what no axis can hold: an overflowed projection, a missing figure. Such points are left out.
+bool drawable(double value);
+
+/// The points whose number stands under the X axis: every one above 20 points, else every second from point 2.
+std::vector<int> labelledPoints(int points);
+
+/// The Y axis: round steps from `minimum` to `maximum` that take in every value, and 0 as the base line.
+struct AxisScale {
+    std::vector<double> ticks;
+    int places = 0; ///< decimals that the tick labels need
+
+    double minimum() const { return ticks.front(); }
+    double maximum() const { return ticks.back(); }
+    std::string label(double tick) const;
+};
+
+AxisScale valueScale(const Graph& graph);
+
+/// "Year" or "Month": what one point of the graph is.
+std::string_view pointUnit(const Graph& graph);
+
+/// An amount as the callout shows it: "1 234 567.89".
+std::string amountText(double value);
+
+/// A file name made of the title: trimmed, without the characters that file systems refuse.
+std::string fileNameOf(const Graph& graph);
+
+} // namespace reports

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QChartView>
+
+#include "reports/graphchart.h"
+
+class QGraphicsEllipseItem;
+class QGraphicsPathItem;
+class QGraphicsTextItem;
+
+namespace reports {
+
+/// A graph on the screen. The value nearest to the pointer is shown in a callout; by keyboard Left and Right, Home and
+/// End move along the points, Up and Down from line to line, and Escape takes the callout away.
+class GraphView : public QChartView {
+public:
+    explicit GraphView(QWidget* parent = nullptr);
+
+    void show(const Graph& graph);
+    /// The callout's text, line by line: "Year 12", then each series with its value. Empty while none is shown.
+    QString callout() const { return m_calloutText; }
+
+protected:
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    struct Cursor {
+        int point = 0; ///< 1 and up; 0 while nothing is pointed at
+        int series = 0;
+    };
+
+    void redraw();
+    Cursor nearestTo(QPointF position) const;
+    QPointF positionOf(int point, int series) const;
+    bool hasValue(int point, int series) const;
+    void moveAlong(int point);
+    void moveAcross(int by);
+    void pointAt(Cursor cursor);
+    void buildCallout();
+    void placeCallout();
+    QString calloutHtml() const;
+
+    Graph m_graph;
+    ChartLook m_look;
+    Cursor m_cursor;
+    QString m_calloutText;
+    QGraphicsEllipseItem* m_ring = nullptr;
+    QGraphicsPathItem* m_box = nullptr;
+    QGraphicsTextItem* m_label = nullptr;
+};
+
+} // namespace reports

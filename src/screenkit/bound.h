@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QString>
+#include <cmath>
+#include <concepts>
+#include <functional>
+#include <limits>
+#include <string>
+
+namespace screenkit {
+
+/// A number put into a record's member: whole numbers are rounded half to even and held at the ends of their width, so
+/// that a figure too large to keep never turns into another one before the field has had its say about it.
+template <class T>
+T narrowed(double number) {
+    if constexpr (std::integral<T>) {
+        const double whole = std::nearbyint(number);
+        if (!(whole > static_cast<double>(std::numeric_limits<T>::min()))) return std::numeric_limits<T>::min();
+        if (!(whole < static_cast<double>(std::numeric_limits<T>::max()))) return std::numeric_limits<T>::max();
+        return static_cast<T>(whole);
+    } else {
+        return static_cast<T>(number);
+    }
+}
+
+/// Where a field's value lives. Made from a member of the record, or from a pair of functions where the place itself
+/// moves (the policy shown, a row of a list).
+template <class T>
+struct Bound {
+    std::function<T()> get;
+    std::function<void(T)> set;
+
+    Bound(std::function<T()> getter, std::function<void(T)> setter) : get(std::move(getter)), set(std::move(setter)) {}
+
+    template <class Member>
+    requires std::is_arithmetic_v<Member> && std::is_arithmetic_v<T>
+    Bound(Member& member) // NOLINT(google-explicit-constructor): a declaration reads better without it
+        : get([&member] { return static_cast<T>(member); }),
+          set([&member](T value) { member = narrowed<Member>(static_cast<double>(value)); }) {}
+
+    Bound(std::string& member) // NOLINT(google-explicit-constructor)
+        requires std::same_as<T, QString> : get([&member] { return QString::fromStdString(member); }),
+                                            set([&member](const QString& text) { member = text.toStdString(); }) {}
+};
+
+} // namespace screenkit

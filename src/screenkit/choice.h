@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QRadioButton>
+#include <QWidget>
+#include <functional>
+
+#include "screenkit/bound.h"
+#include "screenkit/field.h"
+
+namespace screenkit {
+
+/// Options of which one holds, named `name(0)`, `name(1)`, ... from the top (or the left, if it lies flat).
+///
+/// The record holds the index; an index that names no option leaves all of them off. Picking one writes it, then calls
+/// `picked`.
+class OptionGroup : public QWidget, public Field {
+    Q_OBJECT
+public:
+    OptionGroup(const QString& name, const QStringList& captions, Bound<int> place, Qt::Orientation orientation,
+                QWidget* parent = nullptr);
+
+    QWidget* widget() override { return this; }
+    void fill() override;
+    void takeFocus() override;
+    int chosen() const { return m_group.checkedId(); }
+    QRadioButton* option(int index) const { return qobject_cast<QRadioButton*>(m_group.button(index)); }
+
+    /// True while `picked` runs for an option that the arrow keys moved to.
+    bool pickedByArrow() const { return m_byArrow; }
+
+    std::function<void(int)> picked;
+
+protected:
+    bool eventFilter(QObject* option, QEvent* event) override;
+
+private:
+    void choose(int index);
+
+    Bound<int> m_place;
+    QButtonGroup m_group;
+    bool m_byArrow = false;
+};
+
+/// A yes or no, 1 or 0 in the record.
+class CheckField : public QCheckBox, public Field {
+    Q_OBJECT
+public:
+    CheckField(const QString& name, const QString& caption, Bound<int> place, QWidget* parent = nullptr);
+
+    QWidget* widget() override { return this; }
+    void fill() override;
+    void takeFocus() override { setFocus(Qt::OtherFocusReason); }
+
+    std::function<void(bool)> ticked;
+
+private:
+    Bound<int> m_place;
+};
+
+} // namespace screenkit

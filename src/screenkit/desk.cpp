@@ -1,1 +1,0 @@
-#include "screenkit/desk.h"

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+#include <optional>
+
+class QWidget;
+
+namespace screenkit {
+
+/// Why a field's content can't stand: the box that says so.
+struct Complaint {
+    QString text;
+    QString title;
+};
+
+/// What the screen does with every entry field, whatever it holds.
+///
+/// A field writes to the record at each of the user's edits and calls `edited`; being filled never counts as an edit.
+/// When the user leaves it, `left` is called; the screen then asks for a complaint, shows it and brings the focus back.
+class Field {
+public:
+    virtual ~Field() = default;
+    virtual QWidget* widget() = 0;
+    /// Shows what the record holds.
+    virtual void fill() = 0;
+    /// What is wrong with the content, if anything. A field may clear itself here (a date that is none).
+    virtual std::optional<Complaint> complaint() { return {}; }
+    /// A result: yellow, read-only and out of the tab order. The four figures of a loan take turns at it.
+    virtual void setResult(bool) {}
+    /// The focus, with the whole content selected.
+    virtual void takeFocus() = 0;
+
+    std::function<void()> edited;
+    std::function<void()> left;
+};
+
+} // namespace screenkit

@@ -1,0 +1,103 @@
+#include "screenkit/layout.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QRegularExpression>
+
+namespace screenkit {
+
+namespace {
+
+void add(QBoxLayout* layout, const Item& item) {
+    if (item.widget != nullptr)
+        layout->addWidget(item.widget, item.stretch);
+    else if (item.layout != nullptr)
+        layout->addLayout(item.layout, item.stretch);
+    else
+        layout->addStretch(item.stretch);
+}
+
+QLayout* withUnit(const FormRow& row) {
+    auto* cell = new QHBoxLayout;
+    const bool grows = row.field.widget != nullptr &&
+                       (row.field.widget->sizePolicy().horizontalPolicy() & QSizePolicy::ExpandFlag) != 0 &&
+                       qobject_cast<QGroupBox*>(row.field.widget) == nullptr && row.unit.isEmpty();
+    if (row.field.widget != nullptr && !grows)
+        row.field.widget->setSizePolicy(QSizePolicy::Fixed, row.field.widget->sizePolicy().verticalPolicy());
+    add(cell, Item(row.field));
+    if (!row.unit.isEmpty()) {
+        auto* unit = new QLabel(row.unit);
+        if (row.field.widget != nullptr) unit->setBuddy(row.field.widget);
+        cell->addWidget(unit);
+    }
+    if (!grows) cell->addStretch(1);
+    return cell;
+}
+
+} // namespace
+
+Item spring() { return {static_cast<QWidget*>(nullptr), 1}; }
+
+QLayout* row(std::initializer_list<Item> items) {
+    auto* layout = new QHBoxLayout;
+    for (const Item& item : items)
+        add(layout, item);
+    return layout;
+}
+
+QLayout* column(std::initializer_list<Item> items) {
+    auto* layout = new QVBoxLayout;
+    for (const Item& item : items)
+        add(layout, item);
+    return layout;
+}
+
+QLayout* form(const std::vector<FormRow>& rows) {
+    auto* layout = new QGridLayout;
+    layout->setColumnStretch(1, 1);
+    int line = 0;
+    for (const FormRow& row : rows) {
+        auto* label = new QLabel(row.label);
+        if (row.field.widget != nullptr) {
+            label->setBuddy(row.field.widget);
+            if (row.field.widget->accessibleName().isEmpty())
+                row.field.widget->setAccessibleName(spokenLabel(row.label));
+        }
+        const bool tall = row.field.widget != nullptr &&
+                          (row.field.widget->sizePolicy().verticalPolicy() & QSizePolicy::ExpandFlag) != 0;
+        layout->addWidget(label, line, 0, tall ? Qt::AlignTop : Qt::AlignVCenter);
+        layout->addLayout(withUnit(row), line++, 1);
+    }
+    layout->setRowStretch(line, 1);
+    return layout;
+}
+
+void setRowVisible(QWidget* field, bool visible) {
+    field->setVisible(visible);
+    if (field->parentWidget() == nullptr) return;
+    for (auto* label : field->parentWidget()->findChildren<QLabel*>())
+        if (label->buddy() == field) label->setVisible(visible);
+}
+
+QWidget* group(const QString& name, const QString& title, Item content) {
+    auto* box = new QGroupBox(title);
+    box->setObjectName(name);
+    auto* layout = new QVBoxLayout(box);
+    add(layout, content);
+    return box;
+}
+
+QLabel* note(const QString& text) {
+    auto* label = new QLabel(text);
+    label->setWordWrap(true);
+    return label;
+}
+
+QString spokenLabel(const QString& label) {
+    QString spoken = label;
+    spoken.replace("&&", QString(QChar(1))).remove('&').replace(QChar(1), "&");
+    return spoken.remove(QRegularExpression("[\\s:]+$")).trimmed();
+}
+
+} // namespace screenkit

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QString>
+#include <initializer_list>
+#include <vector>
+
+class QHBoxLayout;
+class QLabel;
+class QLayout;
+class QVBoxLayout;
+class QWidget;
+
+namespace screenkit {
+
+/// A part of a screen: a control or a group of them. Blanks between parts come from the style.
+struct Item {
+    QWidget* widget = nullptr;
+    QLayout* layout = nullptr;
+    int stretch = 0;
+
+    Item(QWidget* control, int share = 0) : widget(control), stretch(share) {} // NOLINT(google-explicit-constructor)
+    Item(QLayout* group, int share = 0) : layout(group), stretch(share) {}     // NOLINT(google-explicit-constructor)
+};
+
+/// Room that gives way: what follows goes to the far end.
+Item spring();
+
+/// One line of a form: a label that is its field's buddy (with its access key), the field, and close behind it the
+/// unit.
+struct FormRow {
+    QString label;
+    Item field;
+    QString unit;
+
+    FormRow(QString text, Item control, QString unitText = {})
+        : label(std::move(text)), field(control), unit(std::move(unitText)) {}
+};
+
+QLayout* row(std::initializer_list<Item> items);
+QLayout* column(std::initializer_list<Item> items);
+/// Labels in one column, fields in the next. A field without a label of its own (a check box) has an empty label.
+QLayout* form(const std::vector<FormRow>& rows);
+/// Shows or hides a line of a form: the field, its label and its unit.
+void setRowVisible(QWidget* field, bool visible);
+/// A titled frame around a part, named `name`.
+QWidget* group(const QString& name, const QString& title, Item content);
+/// A note or heading; wraps.
+QLabel* note(const QString& text);
+/// A label's text without its access key and colon: what a screen reader says.
+QString spokenLabel(const QString& label);
+
+} // namespace screenkit

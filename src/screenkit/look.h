@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QSize>
+
+class QApplication;
+class QLineEdit;
+class QWidget;
+
+/// The look that all screens share. Sizes follow the font, colours the palette, so that every screen holds at 200 % and
+/// in a dark theme.
+namespace screenkit::look {
+
+/// Style, font and icon of the whole program; once, before the first window.
+void apply(QApplication& application);
+
+/// Size of an entry field that shows this many figures.
+QSize fieldSize(const QLineEdit* field, int characters);
+
+/// A result is yellow with black text, read-only and out of the tab order; an entry takes the palette's colours.
+void setResult(QLineEdit* field, bool result);
+
+/// One line's height in the widget's font: the measure for spaces and panels.
+int lineHeight(const QWidget* widget);
+
+} // namespace screenkit::look

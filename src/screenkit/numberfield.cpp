@@ -1,0 +1,128 @@
+#include "screenkit/numberfield.h"
+
+#include <QKeyEvent>
+#include <QValidator>
+
+#include "base/numberformat.h"
+#include "screenkit/look.h"
+
+namespace screenkit {
+
+namespace {
+
+/// Lets through what can become a number, so that a stray letter is simply not taken.
+class NumberValidator : public QValidator {
+public:
+    NumberValidator(bool whole, QObject* parent) : QValidator(parent), m_whole(whole) {}
+    State validate(QString& text, int&) const override {
+        if (m_whole && (text.contains('.') || text.contains(','))) return Invalid;
+        const QString bare = text.trimmed();
+        if (bare.isEmpty() || bare == "-" || bare == "+" || bare == "." || bare == "," || bare == "-." || bare == "-,")
+            return Acceptable;
+        return base::parseNumber(text.toStdString()) ? Acceptable : Invalid;
+    }
+
+private:
+    bool m_whole;
+};
+
+constexpr int longestNumber = 24; // more digits than a double can tell apart
+
+} // namespace
+
+const NumberKind money{"# ### ### ##0.00", false, 16, {}, {}, {}, {}};
+const NumberKind whole{"# ### ### ##0", true, 8, {}, {}, {}, {}};
+const NumberKind percent{"0.000", false, 8, {}, {}, {}, {}};
+
+NumberKind NumberKind::upTo(double maximum, const QString& boxText, const QString& boxTitle) const {
+    NumberKind kind = *this;
+    kind.most = maximum;
+    kind.text = boxText;
+    kind.title = boxTitle;
+    return kind;
+}
+
+NumberKind NumberKind::between(double minimum, double maximum, const QString& boxText, const QString& boxTitle) const {
+    NumberKind kind = upTo(maximum, boxText, boxTitle);
+    kind.least = minimum;
+    return kind;
+}
+
+NumberKind NumberKind::shownAs(const std::string& otherMask) const {
+    NumberKind kind = *this;
+    kind.mask = otherMask;
+    return kind;
+}
+
+NumberField::NumberField(const QString& name, Bound<double> place, NumberKind kind, QWidget* parent)
+    : QLineEdit(parent), m_place(std::move(place)), m_kind(std::move(kind)) {
+    setObjectName(name);
+    setAlignment(Qt::AlignRight);
+    setMaxLength(longestNumber);
+    setValidator(new NumberValidator(m_kind.isWhole, this));
+    connect(this, &QLineEdit::textEdited, this, &NumberField::typed);
+}
+
+void NumberField::fill() { present(m_place.get()); }
+
+void NumberField::present(double value) {
+    m_value = value;
+    show(value);
+}
+
+void NumberField::show(double value) { setText(QString::fromStdString(base::formatNumber(value, m_kind.mask))); }
+
+void NumberField::typed(const QString& text) {
+    m_value = base::parseNumber(text.toStdString()).value_or(0);
+    m_place.set(m_value);
+    if (edited) edited();
+}
+
+void NumberField::enter(double value) {
+    m_value = value;
+    m_place.set(value);
+    show(value);
+    if (edited) edited();
+}
+
+std::optional<Complaint> NumberField::complaint() {
+    const bool tooMuch = m_kind.most && m_value > *m_kind.most;
+    const bool tooLittle = m_kind.least && m_value < *m_kind.least;
+    if (isReadOnly() || (!tooMuch && !tooLittle)) return {};
+    return Complaint{m_kind.text, m_kind.title};
+}
+
+void NumberField::setResult(bool result) { look::setResult(this, result); }
+
+void NumberField::takeFocus() {
+    setFocus(Qt::OtherFocusReason);
+    selectAll();
+}
+
+QSize NumberField::sizeHint() const { return look::fieldSize(this, m_kind.characters); }
+
+void NumberField::focusInEvent(QFocusEvent* event) {
+    QLineEdit::focusInEvent(event);
+    if (event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason) return;
+    QMetaObject::invokeMethod(this, &QLineEdit::selectAll, Qt::QueuedConnection); // after the mouse has set its cursor
+}
+
+void NumberField::focusOutEvent(QFocusEvent* event) {
+    QLineEdit::focusOutEvent(event);
+    if (event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason) return;
+    if (isModified()) show(m_value);
+    if (left) left();
+}
+
+void NumberField::keyPressEvent(QKeyEvent* event) {
+    if (event->text() == ",") { // one decimal sign on screen, so that figures can be compared at a glance
+        QKeyEvent point(QEvent::KeyPress, Qt::Key_Period, event->modifiers(), ".");
+        QLineEdit::keyPressEvent(&point);
+        return;
+    }
+    QLineEdit::keyPressEvent(event);
+}
+
+void NumberField::wheelEvent(QWheelEvent* event) { event->ignore(); }
+
+} // namespace screenkit

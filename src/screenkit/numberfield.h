@@ -1,0 +1,67 @@
+#pragma once
+
+#include <QLineEdit>
+#include <optional>
+#include <string>
+
+#include "screenkit/bound.h"
+#include "screenkit/field.h"
+
+namespace screenkit {
+
+/// How a number is shown and what range it may take. Kinds are values: `whole.upTo(600, "...", "...")`.
+struct NumberKind {
+    std::string mask;     ///< see base::formatNumber
+    bool isWhole = false; ///< no decimal sign can be typed
+    int characters = 16;  ///< width of the field
+    std::optional<double> least, most;
+    QString text, title; ///< the box for a value outside least and most
+
+    NumberKind upTo(double maximum, const QString& boxText, const QString& boxTitle) const;
+    NumberKind between(double minimum, double maximum, const QString& boxText, const QString& boxTitle) const;
+    NumberKind shownAs(const std::string& otherMask) const;
+};
+
+extern const NumberKind money;   ///< rand, shown with cents and grouped by blanks
+extern const NumberKind whole;   ///< a count: months, years, an age
+extern const NumberKind percent; ///< percent a year to three places
+
+/// A number entry. The full double stays behind the display: what the user does not retype keeps every bit.
+///
+/// `.`, `,` and the keypad's decimal key are all the decimal sign, whatever the system's locale. A text that means
+/// nothing yet ("-", empty) counts as 0. The wheel does nothing.
+class NumberField : public QLineEdit, public Field {
+    Q_OBJECT
+public:
+    NumberField(const QString& name, Bound<double> place, NumberKind kind, QWidget* parent = nullptr);
+
+    double value() const { return m_value; }
+    /// As if the user had typed it: spin buttons use it.
+    void enter(double value);
+
+    /// Shows a figure without writing it to the record.
+    void present(double value);
+
+    QWidget* widget() override { return this; }
+    void fill() override;
+    std::optional<Complaint> complaint() override;
+    void setResult(bool result) override;
+    void takeFocus() override;
+    QSize sizeHint() const override;
+
+protected:
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+private:
+    void show(double value);
+    void typed(const QString& text);
+
+    Bound<double> m_place;
+    NumberKind m_kind;
+    double m_value = 0;
+};
+
+} // namespace screenkit

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "screenkit/desk.h"
+
+class QPrinter;
+
+namespace screenkit {
+
+/// The program's own desk: real boxes over the main window, the system's file and print dialogs, the system's clock.
+class RealDesk : public Desk {
+public:
+    explicit RealDesk(QWidget* window = nullptr) : m_window(window) {}
+    void setWindow(QWidget* window) { m_window = window; }
+
+    Answer box(BoxStyle style, const QString& text, const QString& title, Buttons buttons,
+               std::optional<Answer> defaultAnswer) override;
+    std::optional<QString> fileToOpen(const QString& title, const QString& folder, const QStringList& filters) override;
+    std::optional<QString> fileToSave(const QString& title, const QString& suggested,
+                                      const QStringList& filters) override;
+    std::optional<QString> input(const QString& text, const QString& title, const QString& initial) override;
+    bool choosePrinter(QPrinter& printer) override;
+    bool hasPrinter() override;
+    void bell() override;
+    QDate today() override;
+    void openOnDesktop(const QString& address) override;
+    bool startProgram(const QStringList& candidates) override;
+
+private:
+    QWidget* m_window;
+};
+
+} // namespace screenkit

@@ -1,0 +1,143 @@
+#pragma once
+
+#include <QPushButton>
+#include <QWidget>
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <utility>
+#include <vector>
+
+#include "screenkit/choice.h"
+#include "screenkit/datefield.h"
+#include "screenkit/desk.h"
+#include "screenkit/grid.h"
+#include "screenkit/layout.h"
+#include "screenkit/numberfield.h"
+#include "screenkit/panel.h"
+#include "screenkit/spinbuttons.h"
+#include "screenkit/textfield.h"
+#include "screenkit/workplace.h"
+
+class QLabel;
+class QScrollArea;
+class QTabWidget;
+
+namespace screenkit {
+
+/// A child screen: a live view of the record, made of declarations.
+///
+/// It fills itself when it comes to the front and keeps its changed flag over that. Each edit is in the record at once.
+/// A field's limits are checked when the user leaves it and before any button, menu or close acts; a failed check shows
+/// its box, puts the focus back and stops what was asked for. Enter moves to the next field, from the last one it
+/// presses the default button.
+class Screen : public QWidget {
+    Q_OBJECT
+public:
+    /// changed: the screen's flag in the record; screens that set none pass `untracked()`.
+    Screen(Workplace& workplace, const QString& name, const QString& caption, std::int16_t& changed);
+    ~Screen() override;
+
+    /// Another child screen was in front before: fill from the record.
+    void activate();
+    /// Fills every field again, with the changed flag as it was.
+    void refill();
+    /// Checks every field; false after showing the first complaint.
+    bool checkFields();
+    /// Closes without asking or checking (the client it shows is gone).
+    void drop();
+    QSize sizeHint() const override;
+
+signals:
+    void closed(Screen* screen);
+
+protected:
+    // What a screen is declared with.
+    NumberField* number(const QString& name, Bound<double> place, const NumberKind& kind);
+    NumberField* result(const QString& name, Bound<double> place, const NumberKind& kind);
+    TextField* text(const QString& name, Bound<QString> place, int size, int characters = 0);
+    MemoField* memo(const QString& name, Bound<QString> place, int size);
+    DateField* date(const QString& name, Bound<double> place);
+    OptionGroup* options(const QString& name, const QStringList& captions, Bound<int> place,
+                         std::function<void(int)> picked = {}, Qt::Orientation orientation = Qt::Vertical);
+    CheckField* check(const QString& name, const QString& caption, Bound<int> place,
+                      std::function<void(bool)> ticked = {});
+    /// A button that acts only when every field stands its check.
+    QPushButton* button(const QString& name, const QString& caption, std::function<void()> action);
+    /// A button that leaves or drops: no check stops it, and going to it raises no complaint.
+    QPushButton* cancelButton(const QString& name, const QString& caption, std::function<void()> action);
+    /// Closes the screen.
+    QPushButton* okButton(const QString& name = "cmdOK", const QString& caption = "&OK");
+    /// Opens another screen; greyed out while that screen does not exist.
+    QPushButton* opener(const QString& name, const QString& caption, const QString& screen);
+    /// A button of what does not exist yet: greyed out, so that nothing pretends.
+    QPushButton* later(const QString& name, const QString& caption);
+    /// A line that shows a text and takes none.
+    QLineEdit* shown(const QString& name, int characters);
+    /// Spin buttons that step a field, then `stepped` (recalculate).
+    SpinButtons* spin(const QString& name, NumberField* field, std::function<void(int)> step);
+    /// A line in bold above what it heads.
+    QLabel* heading(const QString& name);
+    /// A warning that covers a field while it is shown; hidden at first.
+    QLabel* over(QWidget* field, const QString& name, const QString& text);
+    /// Choices of how to print and the like: no edit of the client's record.
+    void untrackedField(Field* field);
+    QTabWidget* tabs(const QString& name, const std::vector<std::pair<QString, Item>>& pages);
+    void body(QLayout* content);
+    void defaultButton(QPushButton* button) { m_default = button; }
+
+    /// A panel over the screen; `buttons` stand at its foot, the last being the one that Escape presses.
+    Panel* panel(const QString& name, const QString& title, Item content, std::initializer_list<QPushButton*> buttons);
+    /// `fraPrint`: choices of the screen's own, view, print and cancel. `print` runs under the busy cursor with
+    /// " PROCESSING !" shown; the panel is hidden afterwards, whatever came of it.
+    Panel* printPanel(std::initializer_list<Item> choices, std::function<void(Destination)> print);
+    /// `fraGrid`: a table of figures, `grdPayments`, with its OK; closing it clears it and puts the focus on
+    /// focusAfter.
+    void showGrid(const QString& title, std::vector<GridColumn> columns, std::vector<std::vector<double>> rows,
+                  QWidget* focusAfter);
+
+    /// The field that has the focus when the screen is opened; by default the first one.
+    virtual QWidget* firstField();
+    /// Moves the focus once what is under way (a panel that closes) is done.
+    static void focusLater(QWidget* widget);
+    /// After the fields are filled: run a calculation, set what depends on them. Edits made here do not count.
+    virtual void filled() {}
+    /// A field was edited by the user.
+    virtual void edited() {}
+    /// The user asks to close; false stays. Fields have passed their checks.
+    virtual bool mayClose() { return true; }
+
+    Workplace& m_work;
+
+    void keyPressEvent(QKeyEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    template <class F>
+    F* keep(F* field);
+    void leave(Field* field);
+    bool complain(Field* field);
+    void runPrint(Panel* panel, const std::function<void(Destination)>& print, Destination destination);
+    void bringToView(QWidget* widget);
+    void enterPressed();
+
+    std::int16_t& m_changed;
+    std::vector<Field*> m_fields;
+    std::vector<Panel*> m_panels;
+    Panel* m_gridPanel = nullptr;
+    Grid* m_grid = nullptr;
+    QWidget* m_afterGrid = nullptr;
+    Field* m_toCheck = nullptr; ///< left by the user, its check still to come
+    QScrollArea* m_area = nullptr;
+    QPushButton* m_default = nullptr;
+    bool m_dropped = false;
+    bool m_complaining = false;
+    bool m_filling = false;
+    bool m_opened = false;
+};
+
+/// A flag for screens that track no changes.
+std::int16_t& untracked();
+
+} // namespace screenkit

@@ -1,0 +1,37 @@
+#include "screenkit/spinbuttons.h"
+
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include "screenkit/look.h"
+
+namespace screenkit {
+
+SpinButtons::SpinButtons(const QString& name, std::function<void(int)> step, QWidget* parent) : QWidget(parent) {
+    setObjectName(name);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    const auto add = [&](Qt::ArrowType arrow, const QString& part, const QString& tip, int direction) {
+        auto* button = new QToolButton(this);
+        button->setObjectName(name + part);
+        button->setArrowType(arrow);
+        button->setAutoRepeat(true);
+        button->setFocusPolicy(Qt::NoFocus);
+        button->setToolTip(tip);
+        button->setAccessibleName(tip);
+        button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+        connect(button, &QToolButton::clicked, this, [step, direction] { step(direction); });
+        layout->addWidget(button);
+    };
+    add(Qt::UpArrow, "Up", tr("More"), 1);
+    add(Qt::DownArrow, "Down", tr("Less"), -1);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+QSize SpinButtons::sizeHint() const {
+    const int line = look::lineHeight(this);
+    return {line, line * 3 / 2};
+}
+
+} // namespace screenkit

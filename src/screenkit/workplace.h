@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QString>
+
+#include "assessment/assessment.h"
+
+class QWidget;
+
+namespace datastore {
+struct Paths;
+}
+namespace reports {
+class Engine;
+}
+
+namespace screenkit {
+
+class Desk;
+
+/// What a screen may ask of the main window.
+class Shell {
+public:
+    virtual ~Shell() = default;
+    /// Opens a screen by its name at the top left, or brings it to the front if it is open.
+    virtual void open(const QString& screen) = 0;
+    /// The screen if it is open, built but perhaps behind others.
+    virtual QWidget* screen(const QString& name) = 0;
+    /// True if there is such a screen.
+    virtual bool exists(const QString& screen) = 0;
+    /// Fills every open screen from the record again.
+    virtual void refillScreens() = 0;
+    /// Shows the client's display name in the status bar.
+    virtual void showClientName() = 0;
+    /// All toolbar buttons on or off; menus stay.
+    virtual void enableToolbar(bool on) = 0;
+    /// Writes the client to the file; afterwards, if a new client was asked for, blanks it. Shows what went wrong and
+    /// gives false.
+    virtual bool Save() = 0;
+    /// Closes the client's screens, so that each fills itself afresh when it is opened next.
+    virtual void CLEARLOAD() = 0;
+};
+
+/// The table that a screen works at: the client's record, the files, and the ways out to the user and to paper. It
+/// outlives every screen.
+struct Workplace {
+    assessment::Assessment& record;
+    const datastore::Paths& paths;
+    Desk& desk;
+    reports::Engine& reports;
+    Shell& shell;
+};
+
+} // namespace screenkit

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <string>
+
+namespace shell {
+
+/// The right to be the one Marlowbeck of this user on this machine.
+///
+/// Held as a name that the kernel drops when the process dies, however it dies, so that a start after a crash works at
+/// once. Another user's Marlowbeck does not count.
+class Instance {
+public:
+    /// name: what stands before the user's number; only tests give another.
+    explicit Instance(const std::string& name = "marlowbeck");
+    ~Instance();
+    Instance(const Instance&) = delete;
+    Instance& operator=(const Instance&) = delete;
+
+    /// False if another process of this user holds it.
+    bool isFirst() const { return m_first; }
+
+private:
+    int m_socket = -1;
+    bool m_first = true;
+};
+
+} // namespace shell

@@ -1,0 +1,341 @@
+#include "shell/mainwindow.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QLabel>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenuBar>
+#include <QStatusBar>
+#include <QStyle>
+#include <QToolBar>
+#include <QToolButton>
+
+#include "assessment/assessment.h"
+#include "base/text.h"
+#include "datastore/paths.h"
+#include "datastore/reset.h"
+#include "datastore/save.h"
+#include "reports/report.h"
+#include "screenkit/desk.h"
+#include "screenkit/look.h"
+#include "screenkit/screen.h"
+#include "screenkit/trouble.h"
+#include "shell/commands.h"
+#include "shell/screens.h"
+
+namespace shell {
+
+using screenkit::Answer;
+using screenkit::BoxStyle;
+using screenkit::BusyCursor;
+using screenkit::Buttons;
+using screenkit::Screen;
+
+namespace {
+constexpr const char* lecturesAddress = "https://www.marlowbeck.example/lectures";
+constexpr const char* unsavedChanges = "Current changes have not been saved. Do you want to save them. ?";
+const QStringList calculators{
+    "gnome-calculator", "kcalc",       "mate-calc",         "galculator",      "qalculate-gtk", "qalculate-qt",
+    "xfce4-calculator", "speedcrunch", "deepin-calculator", "lxqt-calculator", "xcalc"};
+} // namespace
+
+MDIForm1::MDIForm1(assessment::Assessment& record, const datastore::Paths& paths, screenkit::Desk& desk,
+                   reports::Engine& reports)
+    : m_work{record, paths, desk, reports, *this}, m_area(new QMdiArea(this)) {
+    setObjectName("MDIForm1");
+    m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    m_area->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    m_area->setBackground(palette().window().color().darker(108));
+    setCentralWidget(m_area);
+    m_commands = {
+        {"mnuNewFile", [this] { mnuNewFile_Click(); }},
+        {"mnuBrowse", [this] { mnuBrowse_Click(); }},
+        {"mnuRetrieve", [this] { mnuBrowse_Click(); }},
+        {"mnuSave", [this] { mnuSave_Click(); }},
+        {"mnuPrintSetup", [this] { m_work.reports.setUpPrinter(); }},
+        {"mnuExit", [this] { close(); }},
+        {"mnuCalculator", [this] { startCalculator(); }},
+        {"mnuViewToolBar", [this] { m_toolbar->setVisible(m_actions["mnuViewToolBar"]->isChecked()); }},
+        {"mnuCascade", [this] { m_area->cascadeSubWindows(); }},
+        {"mnuIcon", [this] { arrangeIcons(); }},
+        {"mnuVideoLectures", [this] { m_work.desk.openOnDesktop(lecturesAddress); }},
+        {"mnuAbout", [this] { about(); }},
+    };
+    buildMenu();
+    buildToolbar();
+    buildStatusBar();
+    connect(m_area, &QMdiArea::subWindowActivated, this, &MDIForm1::activated);
+}
+
+void MDIForm1::buildMenu() {
+    QHash<QString, QMenu*> menus;
+    QSet<QString> parents;
+    for (const MenuItem& item : menuItems())
+        if (item.parent != nullptr) parents.insert(item.parent);
+    for (const MenuItem& item : menuItems()) {
+        const bool popUp = item.parent == nullptr;
+        QMenu* under = popUp ? nullptr : menus.value(item.parent);
+        if (parents.contains(item.name)) {
+            auto* menu = new QMenu(item.caption, this);
+            menu->setObjectName(item.name);
+            menus[item.name] = menu;
+            m_actions[item.name] = menu->menuAction();
+            if (under != nullptr) under->addMenu(menu);
+            if (under == nullptr && !popUp) menuBar()->addMenu(menu);
+            continue;
+        }
+        QAction* action = addItem(item);
+        if (under != nullptr)
+            under->addAction(action);
+        else
+            menuBar()->addAction(action);
+    }
+    m_actions["mnuViewToolBar"]->setCheckable(true);
+    m_actions["mnuViewToolBar"]->setChecked(true);
+}
+
+QAction* MDIForm1::addItem(const MenuItem& item) {
+    auto* action = new QAction(item.caption, this);
+    action->setObjectName(item.name);
+    action->setShortcut(QKeySequence(item.shortcut));
+    m_actions[item.name] = action;
+    const QString screen = item.screen;
+    if (!m_commands.contains(item.name)) {
+        if (screenEntry(screen) == nullptr) {
+            action->setEnabled(false); // its screen does not exist yet: nothing pretends
+            return action;
+        }
+        m_commands[item.name] = [this, screen] { open(screen); };
+    }
+    connect(action, &QAction::triggered, this, [this, name = QString(item.name)] { act(m_commands[name]); });
+    return action;
+}
+
+void MDIForm1::buildToolbar() {
+    m_toolbar = addToolBar("Toolbar");
+    m_toolbar->setObjectName("Toolbar2");
+    m_toolbar->setMovable(false);
+    m_toolbar->setContextMenuPolicy(Qt::PreventContextMenu);
+    for (const ToolButton& entry : toolButtons()) {
+        QAction* item = m_actions.value(entry.item);
+        auto* action = m_toolbar->addAction(QIcon(QString(":/icons/%1.svg").arg(entry.icon)), entry.tip);
+        action->setObjectName(QString("tb_") + entry.icon);
+        action->setEnabled(item->isEnabled());
+        auto* button = qobject_cast<QToolButton*>(m_toolbar->widgetForAction(action));
+        button->setAccessibleName(entry.tip);
+        if (item->menu() != nullptr) {
+            const auto entries = item->menu()->actions();
+            action->setMenu(item->menu());
+            action->setEnabled(std::any_of(entries.begin(), entries.end(), [](auto* a) { return a->isEnabled(); }));
+            button->setPopupMode(QToolButton::InstantPopup);
+            for (QAction* choice : entries)
+                connect(choice, &QAction::triggered, this, &MDIForm1::afterToolbarCommand);
+        } else {
+            connect(action, &QAction::triggered, this, [this, item] {
+                item->trigger();
+                afterToolbarCommand();
+            });
+        }
+    }
+}
+
+void MDIForm1::buildStatusBar() {
+    statusBar()->setObjectName("StatusBar1");
+    auto* caption = new QLabel(tr("Client:"));
+    m_clientName = new QLabel;
+    m_clientName->setObjectName("StatusBar1.Panels(2)");
+    m_clientName->setTextFormat(Qt::PlainText);
+    caption->setBuddy(m_clientName);
+    statusBar()->addWidget(caption);
+    statusBar()->addWidget(m_clientName, 1);
+}
+
+void MDIForm1::act(const std::function<void()>& command) {
+    Screen* front = activeScreen();
+    if (front != nullptr && !front->checkFields()) return;
+    screenkit::guarded(m_work.desk, tr("carry out the command"), command);
+}
+
+void MDIForm1::afterToolbarCommand() {
+    while (QGuiApplication::overrideCursor() != nullptr)
+        QGuiApplication::restoreOverrideCursor();
+    if (screens().size() == 2) m_area->cascadeSubWindows(); // two screens side by side can both be seen
+}
+
+QList<Screen*> MDIForm1::screens() const {
+    QList<Screen*> open;
+    for (QMdiSubWindow* window : m_area->subWindowList())
+        if (auto* screen = qobject_cast<Screen*>(window->widget()); screen != nullptr && window->isVisible())
+            open << screen;
+    return open;
+}
+
+QWidget* MDIForm1::screen(const QString& name) {
+    for (Screen* open : screens())
+        if (open->objectName() == name) return open;
+    return nullptr;
+}
+
+Screen* MDIForm1::activeScreen() const {
+    return m_front != nullptr && m_front->isVisible() ? qobject_cast<Screen*>(m_front->widget()) : nullptr;
+}
+
+void MDIForm1::open(const QString& name) {
+    const BusyCursor busy;
+    auto* present = qobject_cast<Screen*>(screen(name));
+    if (present == nullptr) {
+        const ScreenEntry* entry = screenEntry(name);
+        if (entry == nullptr) return;
+        place(entry->build(m_work));
+        return;
+    }
+    auto* window = qobject_cast<QMdiSubWindow*>(present->parentWidget());
+    if (window->isMinimized()) window->showNormal();
+    m_area->setActiveSubWindow(window);
+    window->raise();
+}
+
+void MDIForm1::place(Screen* screen) {
+    QMdiSubWindow* window = m_area->addSubWindow(screen);
+    window->setAttribute(Qt::WA_DeleteOnClose);
+    window->setObjectName(screen->objectName() + "Window");
+    const QSize frame = window->sizeHint() - screen->sizeHint();
+    window->resize((screen->sizeHint() + frame).boundedTo(m_area->viewport()->size()));
+    window->move(0, 0);
+    window->show();
+    m_area->setActiveSubWindow(window);
+}
+
+void MDIForm1::activated(QMdiSubWindow* window) {
+    // Nothing in front means that another program or a box is: when the window comes back to the same screen, what the
+    // user was typing there must not be filled over.
+    if (window == nullptr || window == m_front) return;
+    m_front = window;
+    auto* screen = qobject_cast<Screen*>(window->widget());
+    if (screen != nullptr) screenkit::guarded(m_work.desk, tr("show the screen"), [&] { screen->activate(); });
+}
+
+bool MDIForm1::exists(const QString& screen) { return screenEntry(screen) != nullptr; }
+
+void MDIForm1::refillScreens() {
+    for (Screen* open : screens())
+        open->refill();
+}
+
+void MDIForm1::showClientName() {
+    const auto& details = m_work.record.details;
+    m_clientName->setText(
+        QString::fromStdString(assessment::displayName(details.CTitle, details.CInit, details.CLName)));
+}
+
+void MDIForm1::enableToolbar(bool on) { m_toolbar->setEnabled(on); }
+
+MDIForm1::Changes MDIForm1::askAboutChanges(const QString& title, const std::function<void()>& save) {
+    assessment::CheckChanges(m_work.record);
+    if (m_work.record.ClientChanged != 1) return Changes::none;
+    switch (m_work.desk.box(BoxStyle::question, unsavedChanges, title, Buttons::yesNoCancel)) {
+    case Answer::yes: {
+        const BusyCursor busy;
+        save();
+        return Changes::saved;
+    }
+    case Answer::no: return Changes::dropped;
+    default: return Changes::kept;
+    }
+}
+
+void MDIForm1::mnuNewFile_Click() {
+    const auto saveThenNew = [this] {
+        m_work.record.SaveThenNew = 1;
+        mnuSave_Click();
+    };
+    const Changes changes = askAboutChanges("NEW ?", saveThenNew);
+    if (changes == Changes::saved || changes == Changes::kept) return;
+    if (!NEWUNLOAD()) return;
+    open("frmPersDet");
+}
+
+void MDIForm1::mnuBrowse_Click() {
+    bool failed = false;
+    const Changes changes = askAboutChanges("BROWSE ?", [&] { failed = !Save(); });
+    if (changes != Changes::kept && !failed) open("frmBrowse");
+}
+
+void MDIForm1::mnuSave_Click() {
+    const BusyCursor busy;
+    if (!base::trim(m_work.record.client.Name).empty()) {
+        Save();
+        return;
+    }
+    m_work.record.SaveThenNew = 0; // a later plain save must not blank the client
+    m_work.desk.tell(BoxStyle::warning, "To save a file a Name is required !", "No Name !");
+    open("frmPersDet");
+}
+
+bool MDIForm1::Save() {
+    auto saved = datastore::Saved::nothing;
+    const bool done = screenkit::guarded(m_work.desk, tr("save the client"),
+                                         [&] { saved = datastore::Save(m_work.record, m_work.paths.DataDbPath); });
+    if (done && saved == datastore::Saved::thenNew) NEWUNLOAD();
+    return done;
+}
+
+bool MDIForm1::NEWUNLOAD() {
+    const BusyCursor busy;
+    const bool blank = screenkit::guarded(m_work.desk, tr("start a new client"),
+                                          [this] { datastore::ResetAssessment(m_work.record, m_work.paths); });
+    if (blank) CLEARLOAD();
+    return blank;
+}
+
+void MDIForm1::CLEARLOAD() {
+    const BusyCursor busy;
+    for (const char* name : clientScreens())
+        if (auto* open = qobject_cast<Screen*>(screen(name)); open != nullptr) open->drop();
+    refillScreens(); // no old client's figures beside a new one
+    m_clientName->clear();
+}
+
+bool MDIForm1::mayExit() {
+    if (m_exitWithoutAsking) return true;
+    if (Screen* front = activeScreen(); front != nullptr && !front->checkFields()) return false;
+    if (m_work.desk.box(BoxStyle::question, "Are you sure you want to exit ?", "EXIT ?", Buttons::yesNo) != Answer::yes)
+        return false;
+    assessment::CheckChanges(m_work.record);
+    if (m_work.record.ClientChanged != 1) return true;
+    // Two answers only, unlike New and Browse: whoever wants to keep the changes answers No and saves.
+    return m_work.desk.box(BoxStyle::question, "Current changes have not been saved. Do you still want to exit. ?",
+                           "Exit ?", Buttons::yesNo) == Answer::yes;
+}
+
+void MDIForm1::closeEvent(QCloseEvent* event) {
+    if (!mayExit()) {
+        event->ignore();
+        return;
+    }
+    m_exitWithoutAsking = true;
+    m_work.reports.closePreviews();
+    event->accept();
+}
+
+void MDIForm1::arrangeIcons() {
+    int left = 0;
+    for (QMdiSubWindow* window : m_area->subWindowList()) {
+        if (!window->isMinimized() || !window->isVisible()) continue;
+        if (left + window->width() > m_area->viewport()->width()) left = 0;
+        window->move(left, m_area->viewport()->height() - window->height());
+        left += window->width();
+    }
+}
+
+void MDIForm1::startCalculator() {
+    if (!m_work.desk.startProgram(calculators))
+        m_work.desk.tell(BoxStyle::warning, "The Microsoft Calculator is not installed or in the Windows directory",
+                         "Marlowbeck");
+}
+
+void MDIForm1::about() { m_work.desk.tell(BoxStyle::information, windowTitle(), tr("About Marlowbeck")); }
+
+} // namespace shell

@@ -1,0 +1,79 @@
+#pragma once
+
+#include <QHash>
+#include <QMainWindow>
+#include <QPointer>
+#include <functional>
+
+#include "screenkit/workplace.h"
+
+class QLabel;
+class QMdiArea;
+class QMdiSubWindow;
+
+namespace screenkit {
+class Screen;
+} // namespace screenkit
+
+namespace shell {
+
+/// The one main window: menu, toolbar, status bar and the area of the child screens. It holds no client logic; it
+/// routes commands to screens, guards unsaved changes and shows the client's name.
+class MDIForm1 : public QMainWindow, public screenkit::Shell {
+    Q_OBJECT
+public:
+    MDIForm1(assessment::Assessment& record, const datastore::Paths& paths, screenkit::Desk& desk,
+             reports::Engine& reports);
+
+    // What screens ask of it.
+    void open(const QString& screen) override;
+    QWidget* screen(const QString& name) override;
+    bool exists(const QString& screen) override;
+    void refillScreens() override;
+    void showClientName() override;
+    void enableToolbar(bool on) override;
+    bool Save() override;
+    void CLEARLOAD() override;
+
+    void mnuNewFile_Click();
+    void mnuBrowse_Click();
+    void mnuSave_Click();
+    /// Blanks the record and closes the client's screens; false, after a box, if the settings can't be read.
+    bool NEWUNLOAD();
+
+    /// Closing asks nothing from here on.
+    void exitWithoutAsking() { m_exitWithoutAsking = true; }
+    QList<screenkit::Screen*> screens() const;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void buildMenu();
+    void buildToolbar();
+    void buildStatusBar();
+    QAction* addItem(const struct MenuItem& item);
+    /// Runs a command once the screen in front has passed its checks.
+    void act(const std::function<void()>& command);
+    void afterToolbarCommand();
+    void place(screenkit::Screen* screen);
+    void activated(QMdiSubWindow* window);
+    screenkit::Screen* activeScreen() const;
+    enum class Changes { none, saved, dropped, kept };
+    Changes askAboutChanges(const QString& title, const std::function<void()>& save);
+    bool mayExit();
+    void arrangeIcons();
+    void startCalculator();
+    void about();
+
+    screenkit::Workplace m_work;
+    QMdiArea* m_area;
+    QToolBar* m_toolbar = nullptr;
+    QLabel* m_clientName = nullptr;
+    QHash<QString, QAction*> m_actions;
+    QHash<QString, std::function<void()>> m_commands;
+    QPointer<QMdiSubWindow> m_front; ///< the child screen last in front, also while another program is
+    bool m_exitWithoutAsking = false;
+};
+
+} // namespace shell

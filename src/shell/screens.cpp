@@ -1,0 +1,48 @@
+#include "shell/screens.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "analyses/frmPersDet.h"
+#include "calculators/frmLoans.h"
+#include "datastore/frmBrowse.h"
+#include "datastore/frmSaveFileAs.h"
+#include "reports/frmGraph.h"
+#include "reports/frmHeadFoot.h"
+#include "shell/frmBrowser.h"
+
+namespace shell {
+
+namespace {
+
+template <class S>
+screenkit::Screen* build(screenkit::Workplace& workplace) {
+    return new S(workplace);
+}
+
+constexpr ScreenEntry entries[] = {
+    {"frmBrowse", build<datastore::frmBrowse>},   {"frmSaveFileAs", build<datastore::frmSaveFileAs>},
+    {"frmPersDet", build<analyses::frmPersDet>},  {"frmLoans", build<calculators::frmLoans>},
+    {"frmHeadFoot", build<reports::frmHeadFoot>}, {"frmGraph", build<reports::frmGraph>},
+    {"frmBrowser", build<shell::frmBrowser>},
+};
+
+constexpr const char* closedWithTheClient[] = {
+    "frmBrowse",     "frmDayBal",        "frmDebtCon",    "frmGraph",         "frmHeadFoot", "frmInflation",
+    "frmKwikQuotes", "frmLoans",         "frmNADeath",    "frmNAEd",          "frmNARA",     "frmNomEffec",
+    "frmPremium",    "frmKwikTax",       "frmInvestComp", "frmDDLivAnn",      "frmOffShore", "frmRRROLD",
+    "frmRRRNEW",     "frmBondAna",       "frmBondBuster", "frmNADisability",  "frmPersDet",  "frmIncomeShares",
+    "frmPolInvest",  "frmEstateDutyEst", "frmRATaxAdv",   "frmCGTCalcIncome", "frmLumpSum",
+};
+
+} // namespace
+
+const ScreenEntry* screenEntry(const QString& name) {
+    const auto found = std::find_if(std::begin(entries), std::end(entries),
+                                    [&](const ScreenEntry& entry) { return name == entry.name; });
+    return found == std::end(entries) ? nullptr : found;
+}
+
+std::span<const char* const> clientScreens() { return closedWithTheClient; }
+
+} // namespace shell

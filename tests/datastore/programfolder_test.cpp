@@ -1,0 +1,149 @@
+#include "datastore/programfolder.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <iterator>
+#include <map>
+#include <string>
+#include <unistd.h>
+
+#include "store/error.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string contentOf(const fs::path& file) {
+    std::ifstream in(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
+void put(const fs::path& file, const std::string& content) { std::ofstream(file, std::ios::binary) << content; }
+
+unsigned modeOf(const fs::path& path) { return static_cast<unsigned>(fs::status(path).permissions()) & 0777U; }
+
+fs::path newFolder() {
+    std::string name = (fs::temp_directory_path() / "programfolder XXXXXX").string();
+    return ::mkdtemp(name.data());
+}
+
+/// An installation for all users, and a user who has never started the program.
+class ProgramFolder : public testing::Test {
+protected:
+    ProgramFolder() {
+        fs::create_directories(installed / "docs");
+        put(installed / "installed-for-all-users", "");
+        for (const auto& [file, content] : shipped)
+            put(installed / file, content);
+        if (const char* before = std::getenv("XDG_DATA_HOME")) dataHomeBefore = before;
+        ::setenv("XDG_DATA_HOME", (scratch / "home/data").c_str(), 1);
+    }
+    ~ProgramFolder() override {
+        dataHomeBefore.empty() ? ::unsetenv("XDG_DATA_HOME") : ::setenv("XDG_DATA_HOME", dataHomeBefore.c_str(), 1);
+        fs::remove_all(scratch);
+    }
+
+    fs::path start() const { return datastore::programFolder(installed / "marlowbeck"); }
+
+    const std::map<std::string, std::string> shipped = {{"Default.Mdb", std::string("settings\0 1", 11)},
+                                                        {"Print.mdb", "print"},
+                                                        {"units.mdb", "units"},
+                                                        {"Diary.mdb", "diary"},
+                                                        {"Lonrepa.rpt", "<p>first</p>"},
+                                                        {"docs/guide.md", "# Guide"}};
+    fs::path scratch = newFolder();
+    fs::path installed = scratch / "lib/marlowbeck";
+    fs::path own = scratch / "home/data/marlowbeck";
+
+private:
+    std::string dataHomeBefore;
+};
+
+TEST_F(ProgramFolder, IsTheExecutablesOwnFolderWhereNoMarkerLies) {
+    fs::remove(installed / "installed-for-all-users");
+    EXPECT_EQ(start(), installed);
+    EXPECT_FALSE(fs::exists(scratch / "home"));
+}
+
+TEST_F(ProgramFolder, FirstStartSeedsTheUsersFolderForItsOwnerAlone) {
+    EXPECT_EQ(start(), own);
+    for (const auto& [file, content] : shipped) {
+        EXPECT_EQ(contentOf(own / file), content) << file;
+        EXPECT_EQ(modeOf(own / file), 0600U) << file;
+    }
+    for (const auto& folder : {own, own / "docs", own.parent_path()})
+        EXPECT_EQ(modeOf(folder), 0700U) << folder;
+    EXPECT_FALSE(fs::exists(own / "installed-for-all-users"));
+    EXPECT_FALSE(fs::exists(own / "Data.Mdb")) << "the client database is made by the start-up, never copied";
+}
+
+TEST_F(ProgramFolder, AnUpgradeRefreshesDefinitionsAndHelpAndLeavesEveryDatabase) {
+    start();
+    fs::rename(own / "Default.Mdb", own / "DEFAULT.MDB"); // as an older system may have spelt it
+    for (const char* database : {"DEFAULT.MDB", "Print.mdb", "units.mdb", "Diary.mdb", "Data.Mdb"})
+        put(own / database, "the user's");
+    for (const auto& [file, content] : shipped)
+        put(installed / file, "upgraded " + content);
+    put(installed / "LonPrAm.rpt", "new in the upgrade");
+
+    start();
+    for (const char* database : {"DEFAULT.MDB", "Print.mdb", "units.mdb", "Diary.mdb", "Data.Mdb"})
+        EXPECT_EQ(contentOf(own / database), "the user's") << database;
+    EXPECT_FALSE(fs::exists(own / "Default.Mdb"));
+    EXPECT_EQ(contentOf(own / "Lonrepa.rpt"), "upgraded <p>first</p>");
+    EXPECT_EQ(contentOf(own / "LonPrAm.rpt"), "new in the upgrade");
+    EXPECT_EQ(contentOf(own / "docs/guide.md"), "upgraded # Guide");
+}
+
+TEST_F(ProgramFolder, ALaterStartWritesNothingThatIsUpToDate) {
+    start();
+    const auto longAgo = fs::file_time_type::clock::now() - std::chrono::hours(1000);
+    for (const auto& [file, content] : shipped)
+        fs::last_write_time(own / file, longAgo);
+    start();
+    for (const auto& [file, content] : shipped)
+        EXPECT_EQ(fs::last_write_time(own / file), longAgo) << file;
+}
+
+TEST_F(ProgramFolder, AMissingInstalledDatabaseIsAnErrorThatNamesIt) {
+    for (const std::string name : {"Default.Mdb", "Print.mdb", "units.mdb", "Diary.mdb"}) {
+        fs::remove_all(own);
+        fs::rename(installed / name, installed / "away");
+        try {
+            start();
+            ADD_FAILURE() << "started without " << name;
+        } catch (const store::Error& error) {
+            EXPECT_TRUE(error.is(store::Number::fileNotFound53)) << error.message();
+            EXPECT_NE(error.file().find(name), std::string::npos) << error.message();
+        }
+        EXPECT_FALSE(fs::exists(own / name));
+        fs::rename(installed / "away", installed / name);
+    }
+    EXPECT_EQ(start(), own) << "the next start goes on from there";
+}
+
+TEST_F(ProgramFolder, AFileInThePlaceOfTheFolderIsAnErrorThatNamesIt) {
+    fs::create_directories(own.parent_path());
+    put(own, "in the way");
+    try {
+        start();
+        ADD_FAILURE() << "seeded into a file";
+    } catch (const store::Error& error) {
+        EXPECT_EQ(error.file(), own.string());
+    }
+    EXPECT_EQ(contentOf(own), "in the way");
+}
+
+TEST_F(ProgramFolder, WithoutADataHomeItLiesUnderTheHomeFolder) {
+    const std::string home = std::getenv("HOME") ? std::getenv("HOME") : "";
+    ::setenv("HOME", (scratch / "home").c_str(), 1);
+    for (const char* useless : {"", "relative/folder"}) {
+        ::setenv("XDG_DATA_HOME", useless, 1);
+        EXPECT_EQ(start(), scratch / "home/.local/share/marlowbeck") << '"' << useless << '"';
+    }
+    home.empty() ? ::unsetenv("HOME") : ::setenv("HOME", home.c_str(), 1);
+}
+
+} // namespace

@@ -1,0 +1,91 @@
+#pragma once
+
+#include <QCategoryAxis>
+#include <QChart>
+#include <QChartView>
+#include <QLineSeries>
+#include <QPrinter>
+#include <QPushButton>
+#include <deque>
+#include <numeric>
+
+#include "reports/frmGraph.h"
+#include "reports/graphview.h"
+#include "screenkit/desk.h"
+#include "screenkit/workbench.h"
+
+namespace graphtest {
+
+using reports::frmGraph;
+using reports::GraphPeriod;
+using Array = std::vector<double>;
+
+/// Keeps what the window says, names files from a queue and prints into a file.
+class GraphDesk : public screenkit::Desk {
+public:
+    std::deque<QString> files;
+    QStringList boxes;
+    QString suggested;
+    QString printTo;
+    screenkit::Answer answer = screenkit::Answer::no;
+
+    screenkit::Answer box(screenkit::BoxStyle, const QString& text, const QString&, screenkit::Buttons,
+                          std::optional<screenkit::Answer>) override {
+        boxes << text;
+        return answer;
+    }
+    std::optional<QString> fileToSave(const QString&, const QString& name, const QStringList&) override {
+        suggested = name;
+        if (files.empty()) return {};
+        const QString next = files.front();
+        files.pop_front();
+        return next;
+    }
+    bool choosePrinter(QPrinter& printer) override {
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(printTo);
+        return true;
+    }
+    bool hasPrinter() override { return !printTo.isEmpty(); }
+    std::optional<QString> fileToOpen(const QString&, const QString&, const QStringList&) override { return {}; }
+    std::optional<QString> input(const QString&, const QString&, const QString&) override { return {}; }
+    void bell() override {}
+    QDate today() override { return {}; }
+    void openOnDesktop(const QString&) override {}
+    bool startProgram(const QStringList&) override { return false; }
+};
+
+/// Element i is base + i; element 0, which no graph may show, is far out.
+inline Array counting(double base, int last = 51) {
+    Array array(static_cast<std::size_t>(last) + 1);
+    std::iota(array.begin(), array.end(), base);
+    array[0] = 9e9;
+    return array;
+}
+
+struct Fixture {
+    GraphDesk desk;
+    screenkit::Workbench bench{desk};
+    frmGraph window{bench.workplace};
+    const Array a = counting(1000), b = counting(2000), c = counting(3000), d = counting(4000);
+
+    reports::GraphView& view() const {
+        return *static_cast<reports::GraphView*>(window.findChild<QChartView*>("ChartFX1"));
+    }
+    QChart& chart() const { return *view().chart(); }
+    QCategoryAxis& axis(Qt::Orientation side) const {
+        return *qobject_cast<QCategoryAxis*>(chart().axes(side).constFirst());
+    }
+    void press(const char* button) const { window.findChild<QPushButton*>(button)->click(); }
+    void open() {
+        window.resize(900, 600);
+        window.show();
+        QApplication::processEvents();
+    }
+    QPoint pixelOf(int point, std::size_t series) const {
+        auto* line = reports::linesOf(chart())[series];
+        return view().mapFromScene(chart().mapToScene(chart().mapToPosition(line->at(point - 1), line)));
+    }
+};
+
+} // namespace graphtest

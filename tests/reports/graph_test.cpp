@@ -1,0 +1,237 @@
+#include "reports/graph_support.h"
+
+#include <gtest/gtest.h>
+
+#include <QLegendMarker>
+#include <QTest>
+#include <limits>
+#include <set>
+
+namespace {
+
+using namespace graphtest;
+
+QStringList legendOf(const QChart& chart) {
+    QStringList names;
+    for (const QLegendMarker* marker : chart.legend()->markers())
+        if (marker->isVisible()) names << marker->label();
+    return names;
+}
+
+struct ProcedureCase {
+    const char* name;
+    std::function<void(frmGraph&, const Array&, const Array&, const Array&, const Array&)> call;
+    const char *title, *yTitle, *xTitle;
+    QStringList legend;
+    int points;
+    std::vector<double> firsts; ///< the value at point 1 of each line
+};
+
+TEST(Graph, EveryProcedureDrawsItsArraysUnderItsTexts) {
+    const char* const cii = "CAPITAL, INTEREST, INCOME";
+    const QStringList needs{"Capital Growth", "Interest on Capital", "Income Required", "Income Available"};
+    const QStringList quote{"Total Investment", "Capital Growth", "Estmated Mat. Value", "+Re-invested Div."};
+    const QStringList debt{"Balance", "Capital Payments", "Interest Payments"};
+    const std::vector<double> three{1001, 2001, 3001}, four{1001, 2001, 3001, 4001};
+    const std::vector<double> requiredFirst{1001, 2001, 4001, 3001};
+#define CALL(procedure)                                                                                                \
+    [](frmGraph& g, const Array& a, const Array& b, const Array& c, const Array& d) {                                  \
+        (void)a, (void)b, (void)c, (void)d;                                                                            \
+        g.procedure;                                                                                                   \
+    }
+    const ProcedureCase cases[] = {
+        {"education",
+         CALL(NAEDUAmortGraph(a, b, c, 7)),
+         "Illustration of Education Needs ",
+         cii,
+         "TERM OF INVESTMENT (years)",
+         {"Capital Growth", "Interest on Capital", "Income Required"},
+         7,
+         three},
+        {"annuity",
+         CALL(LivAnnGraph(a, b, 30)),
+         "Illustration of Living Annuity",
+         "CAPITAL / ANNUAL INCOME",
+         "PERIOD (years)",
+         {"Capital", "Annual Income"},
+         30,
+         {1001, 2001}},
+        {"endowment", CALL(EMVGraph("E", GraphPeriod::years, a, b, c, d, 40)), "Illustration of Endowment Type",
+         "RETURNS ON INVESTMENT", "TERM OF INVESTMENT (years)", quote, 40, four},
+        {"bank, two lines",
+         CALL(EMVGraph("B", GraphPeriod::months, a, {}, c, {}, 24)),
+         "Illustration of a Bank Investment",
+         "RETURNS ON INVESTMENT",
+         "TERM OF INVESTMENT (months)",
+         {"Total Investment", "Estmated Mat. Value"},
+         24,
+         {1001, 3001}},
+        {"retirement annuity", CALL(EMVGraph("R", GraphPeriod::months, a, b, c, d, 24)),
+         "Illustration of a Retirement Annuity/Superannuation type", "RETURNS ON INVESTMENT",
+         "TERM OF INVESTMENT (months)", quote, 24, four},
+        {"unit trust", CALL(EMVGraph("U", GraphPeriod::years, a, b, c, d, 3)),
+         "Illustration of a Unit Trust/Mutual Fund type", "RETURNS ON INVESTMENT", "TERM OF INVESTMENT (years)", quote,
+         3, four},
+        {"death", CALL(NADAmortGraph(a, b, c, d, 20)), "Illustration of Life of Capital", "", "TERM OF COVER (years)",
+         needs, 20, requiredFirst},
+        {"disability", CALL(NADISAmortGraph(a, b, c, d, 21)), "Illustration of Life of Capital", "",
+         "TERM OF COVER (years)", needs, 21, requiredFirst},
+        {"retirement", CALL(NARAAmortGraph(a, b, c, d, 51)), "Illustration of Life of Capital for Retirement", "",
+         "TERM OF Retirement (years)", needs, 50, requiredFirst}, // the window's cap, not the arrays' 51
+        {"loan, whole years", CALL(LoanAmortGraph(a, b, c, 1, 20, 21)), "Illustration of Loan Repayment", cii,
+         "REPAYMENT PERIOD (years)", debt, 20, three},
+        {"loan, part year", CALL(LoanAmortGraph(a, b, c, 2, 2, 3)), "Illustration of Loan Repayment", cii,
+         "REPAYMENT PERIOD (years)", debt, 3, three},
+        {"shares",
+         CALL(IncFromSharesAmortGraph(a, b, c, 10)),
+         "Illustration of Income From Shares",
+         cii,
+         "REPAYMENT PERIOD (years)",
+         {"Capital", "Income Drawn", "Tax Due on Income"},
+         10,
+         three},
+        {"life of capital",
+         CALL(EMVAmortGraph(a, b, c, 45)),
+         "Illustration of Life of Capital",
+         cii,
+         "LIFE OF CAPITAL (years)",
+         {"Capital", "Interest on Capital", "Income Required"},
+         45,
+         three},
+        {"debts", CALL(DCAmortGraph(a, b, c, 2, 4, 5)), "Illustration of Debt Consolidation", cii,
+         "REPAYMENT PERIOD (years)", debt, 5, three},
+    };
+#undef CALL
+    Fixture f;
+    for (const ProcedureCase& k : cases) {
+        SCOPED_TRACE(k.name);
+        k.call(f.window, f.a, f.b, f.c, f.d);
+        EXPECT_EQ(f.chart().title(), k.title);
+        EXPECT_EQ(f.axis(Qt::Vertical).titleText(), k.yTitle);
+        EXPECT_EQ(f.axis(Qt::Vertical).isTitleVisible(), *k.yTitle != 0);
+        EXPECT_EQ(f.axis(Qt::Horizontal).titleText(), k.xTitle);
+        EXPECT_EQ(legendOf(f.chart()), k.legend);
+        const auto lines = reports::linesOf(f.chart());
+        ASSERT_EQ(lines.size(), k.firsts.size());
+        for (std::size_t i = 0; i < lines.size(); ++i) {
+            ASSERT_EQ(lines[i]->count(), k.points);
+            EXPECT_EQ(lines[i]->at(0), QPointF(1, k.firsts[i]));
+            EXPECT_EQ(lines[i]->at(k.points - 1), QPointF(k.points, k.firsts[i] + k.points - 1));
+        }
+    }
+}
+
+TEST(Graph, LabelsEveryPointAboveTwentyAndEverySecondBelow) {
+    struct LabelCase {
+        int count;
+        QString first, last;
+        int labels;
+    };
+    const LabelCase cases[] = {{20, "2", "20", 10}, {21, "1", "21", 21}, {7, "2", "6", 3}, {51, "1", "50", 50}};
+    Fixture f;
+    for (const LabelCase& k : cases) {
+        f.window.LivAnnGraph(f.a, f.b, k.count);
+        const QStringList labels = f.axis(Qt::Horizontal).categoriesLabels();
+        EXPECT_EQ(labels.size(), k.labels) << k.count;
+        EXPECT_EQ(labels.first(), k.first) << k.count;
+        EXPECT_EQ(labels.last(), k.last) << k.count;
+    }
+}
+
+TEST(Graph, OpensEmptyAndSurvivesWhatNoAxisHolds) {
+    Fixture f;
+    f.open();
+    for (const int count : {0, -3}) {
+        f.window.LoanAmortGraph(f.a, f.b, f.c, 1, count, 0);
+        EXPECT_EQ(reports::linesOf(f.chart())[0]->count(), 0);
+        QTest::keyClick(&f.view(), Qt::Key_Right);
+        EXPECT_EQ(f.view().callout(), "");
+    }
+    f.window.LivAnnGraph(Array{0, 5, 6}, Array{0, 7, 8}, 40); // fewer than told
+    EXPECT_EQ(f.window.graph().points, 2);
+    const double inf = std::numeric_limits<double>::infinity(), nan = std::numeric_limits<double>::quiet_NaN();
+    f.window.LivAnnGraph(Array{0, 1, inf, 3}, Array{0, nan, nan, nan}, 3);
+    EXPECT_EQ(reports::linesOf(f.chart())[0]->count(), 2);
+    QTest::keyClick(&f.view(), Qt::Key_End);
+    EXPECT_TRUE(f.view().callout().contains("3.00"));
+    f.window.grab();
+}
+
+TEST(Graph, KeepsItsOwnFigures) {
+    Fixture f;
+    Array mine = f.a;
+    f.window.LivAnnGraph(mine, f.b, 5);
+    mine.assign(mine.size(), 0);
+    EXPECT_EQ(f.window.graph().series[0].values, (Array{1001, 1002, 1003, 1004, 1005}));
+}
+
+struct ScaleCase {
+    Array values;
+    std::vector<std::string> labels;
+};
+
+TEST(Graph, ScalesInRoundStepsFromNought) {
+    const ScaleCase cases[] = {
+        {{1180000, 20000}, {"0", "200 000", "400 000", "600 000", "800 000", "1 000 000", "1 200 000"}},
+        {{-450, 900}, {"-600", "-400", "-200", "0", "200", "400", "600", "800", "1 000"}},
+        {{0.3, 0.1}, {"0.00", "0.05", "0.10", "0.15", "0.20", "0.25", "0.30"}},
+        {{-5}, {"-5", "-4", "-3", "-2", "-1", "0"}},
+        {{0, 0}, {"0.0", "0.2", "0.4", "0.6", "0.8", "1.0"}},
+    };
+    for (const ScaleCase& k : cases) {
+        reports::Graph graph;
+        graph.series.push_back({"", k.values});
+        const reports::AxisScale scale = reports::valueScale(graph);
+        std::vector<std::string> labels;
+        for (const double tick : scale.ticks)
+            labels.push_back(scale.label(tick));
+        EXPECT_EQ(labels, k.labels);
+    }
+    // whatever the figures, the ticks take them in and no two read alike
+    for (const double top : {0.011, 1.0, 7.77, 99.999, 1e6, 3.3e9, 4e14, 8e18, 9e299}) {
+        reports::Graph graph;
+        graph.series.push_back({"", {top, -top / 3}});
+        const reports::AxisScale scale = reports::valueScale(graph);
+        std::set<std::string> different;
+        for (const double tick : scale.ticks)
+            different.insert(scale.label(tick));
+        EXPECT_GE(scale.maximum(), top);
+        EXPECT_LE(scale.minimum(), -top / 3);
+        EXPECT_EQ(different.size(), scale.ticks.size()) << top;
+        EXPECT_LE(scale.ticks.size(), 12U) << top;
+    }
+}
+
+TEST(Graph, ShowsTheValueUnderThePointer) {
+    Fixture f;
+    f.window.LoanAmortGraph(Array{0, 1234567.891, 900000, 400000}, Array{0, 100, 200, 300}, f.c, 1, 3, 4);
+    f.open();
+    QTest::mouseMove(&f.view(), f.pixelOf(1, 0) + QPoint(3, -4));
+    EXPECT_EQ(f.view().callout().section('\n', 0, 0), "Year 1");
+    EXPECT_TRUE(f.view().callout().contains("1 234 567.89")) << f.view().callout().toStdString();
+    EXPECT_TRUE(f.view().callout().contains("Balance"));
+    QTest::mouseMove(&f.view(), f.pixelOf(3, 0));
+    EXPECT_EQ(f.view().callout().section('\n', 0, 0), "Year 3");
+    QTest::mouseMove(&f.view(), QPoint(1, 1)); // beside the plot
+    EXPECT_EQ(f.view().callout(), "");
+}
+
+TEST(Graph, ShowsTheValuesByKeyboard) {
+    Fixture f;
+    f.window.EMVGraph("U", GraphPeriod::months, f.a, f.b, f.c, f.d, 12);
+    f.open();
+    const auto year = [&](Qt::Key key) {
+        QTest::keyClick(&f.view(), key);
+        return f.view().callout().section('\n', 0, 0);
+    };
+    EXPECT_EQ(year(Qt::Key_Right), "Month 1");
+    EXPECT_EQ(year(Qt::Key_Left), "Month 1");
+    EXPECT_EQ(year(Qt::Key_End), "Month 12");
+    EXPECT_EQ(year(Qt::Key_Right), "Month 12");
+    EXPECT_EQ(year(Qt::Key_Left), "Month 11");
+    EXPECT_EQ(f.view().accessibleDescription(), f.view().callout());
+    EXPECT_EQ(year(Qt::Key_Home), "Month 1");
+    EXPECT_EQ(year(Qt::Key_Escape), "");
+}
+
+} // namespace

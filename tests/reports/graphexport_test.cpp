@@ -1,0 +1,133 @@
+#include "reports/graphexport.h"
+
+#include <gtest/gtest.h>
+
+#include <QImageReader>
+#include <QProcess>
+#include <QRadioButton>
+#include <QTemporaryDir>
+#include <set>
+
+#include "reports/graph_support.h"
+
+namespace {
+
+using namespace graphtest;
+
+QString textOfPdf(const QString& file) {
+    QProcess reader;
+    reader.start("pdftotext", {"-layout", file, "-"});
+    EXPECT_TRUE(reader.waitForFinished());
+    return QString::fromUtf8(reader.readAllStandardOutput());
+}
+
+TEST(GraphExport, ExportsEveryFormatInTheChosenOrientation) {
+    const QTemporaryDir folder;
+    Fixture f;
+    f.window.EMVGraph("R", GraphPeriod::years, f.a, f.b, f.c, f.d, 30);
+    for (const bool landscape : {true, false}) {
+        f.window.findChild<QRadioButton*>(landscape ? "Option1(0)" : "Option1(1)")->click();
+        const QString base = folder.filePath(landscape ? "landscape" : "portrait");
+        f.desk.files = {base + ".png", base + ".SVG", base + ".pdf"};
+        for (int i = 0; i < 3; ++i)
+            f.press("cmdExport");
+        EXPECT_EQ(f.desk.suggested, "Illustration of a Retirement Annuity-Superannuation type.png");
+
+        const QImage picture(base + ".png");
+        EXPECT_EQ(picture.width() > picture.height(), landscape);
+        EXPECT_EQ(picture.pixelColor(2, 2), QColor(Qt::white));
+        std::set<QRgb> colours;
+        for (int y = 0; y < picture.height(); y += 3)
+            for (int x = 0; x < picture.width(); x += 3)
+                colours.insert(picture.pixel(x, y));
+        EXPECT_TRUE(colours.contains(0xff0072b2) && colours.contains(0xffd55e00)); // two of the lines
+
+        QFile svg(base + ".SVG");
+        ASSERT_TRUE(svg.open(QIODevice::ReadOnly));
+        const QString drawing = QString::fromUtf8(svg.readAll());
+        const QString paper = textOfPdf(base + ".pdf");
+        for (const QString& text : QStringList{f.chart().title(), "RETURNS ON INVESTMENT", "TERM OF INVESTMENT (years)",
+                                               "Estmated Mat. Value", "+Re-invested Div.", "4 000"}) {
+            EXPECT_TRUE(drawing.contains('>' + text + "</text>")) << text.toStdString();
+            EXPECT_TRUE(paper.contains(text)) << text.toStdString();
+        }
+    }
+    EXPECT_TRUE(f.desk.boxes.isEmpty());
+}
+
+TEST(GraphExport, ExportStaysWhiteUnderADarkDesktop) {
+    Fixture f;
+    QPalette dark;
+    dark.setColor(QPalette::Base, QColor(30, 30, 30));
+    dark.setColor(QPalette::Text, Qt::white);
+    f.window.setPalette(dark);
+    f.window.LivAnnGraph(f.a, f.b, 30);
+    f.open();
+    EXPECT_EQ(f.view().grab().toImage().pixelColor(4, 4), QColor(30, 30, 30));
+    const QImage picture =
+        QImage::fromData(reports::exportedGraph(f.window.graph(), reports::GraphFormat::png, QPageLayout::Landscape));
+    EXPECT_EQ(picture.pixelColor(4, 4), QColor(Qt::white));
+}
+
+TEST(GraphExport, AFailedExportTellsAndLeavesNothing) {
+    const QTemporaryDir folder;
+    Fixture f;
+    f.window.LivAnnGraph(f.a, f.b, 30);
+    f.press("cmdExport"); // cancelled
+    EXPECT_TRUE(f.desk.boxes.isEmpty());
+    QDir(folder.path()).mkdir("taken.pdf"); // no file can take a folder's place, whoever runs the test
+    f.desk.files = {folder.filePath("no such folder/x.png"), folder.filePath("taken.pdf")};
+    f.press("cmdExport");
+    f.press("cmdExport");
+    EXPECT_EQ(f.desk.boxes.size(), 2);
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+              QStringList{"taken.pdf"});
+}
+
+TEST(GraphExport, ANameWithoutAnEndingBecomesAPicture) {
+    const QTemporaryDir folder;
+    Fixture f;
+    f.window.LivAnnGraph(f.a, f.b, 30);
+    f.desk.files = {folder.filePath("Bond v2.1"), folder.filePath("Bond v2.1"), folder.filePath("Bond v2.1")};
+    f.press("cmdExport");
+    const QString file = folder.filePath("Bond v2.1.png");
+    EXPECT_EQ(QImageReader::imageFormat(file), "png");
+    const QDateTime written = QDateTime::currentDateTime().addDays(-1);
+    QFile old(file);
+    ASSERT_TRUE(old.open(QIODevice::ReadWrite) && old.setFileTime(written, QFileDevice::FileModificationTime));
+    old.close();
+    f.press("cmdExport"); // answered No
+    EXPECT_EQ(f.desk.boxes, QStringList{"Bond v2.1.png already exists. Replace it?"});
+    EXPECT_LT(QFileInfo(file).lastModified(), written.addSecs(60));
+    f.desk.answer = screenkit::Answer::yes;
+    f.press("cmdExport");
+    EXPECT_GT(QFileInfo(file).lastModified(), written.addSecs(60));
+}
+
+TEST(GraphExport, PrintsInTheChosenOrientation) {
+    const QTemporaryDir folder;
+    Fixture f;
+    f.window.LoanAmortGraph(f.a, f.b, f.c, 1, 20, 21);
+    f.press("cmdPrint");
+    EXPECT_EQ(f.desk.boxes, QStringList{"No printer is installed."});
+    EXPECT_EQ(f.window.orientation(), QPageLayout::Landscape);
+    f.desk.printTo = folder.filePath("landscape.pdf");
+    f.press("cmdPrint");
+    f.window.findChild<QRadioButton*>("Option1(1)")->click();
+    f.desk.printTo = folder.filePath("portrait.pdf");
+    f.press("cmdPrint");
+    for (const char* name : {"landscape", "portrait"}) {
+        const QString file = folder.filePath(QString(name) + ".pdf");
+        QProcess reader;
+        reader.start("pdfinfo", {file});
+        ASSERT_TRUE(reader.waitForFinished());
+        static const QRegularExpression pageSize("Pages: +1\n(?:.*\n)*Page size: +([0-9.]+) x ([0-9.]+)");
+        const auto found = pageSize.match(QString::fromUtf8(reader.readAllStandardOutput()));
+        ASSERT_TRUE(found.hasMatch());
+        EXPECT_EQ(found.captured(1).toDouble() > found.captured(2).toDouble(), std::string_view(name) == "landscape");
+        EXPECT_TRUE(textOfPdf(file).contains("Illustration of Loan Repayment"));
+    }
+    EXPECT_EQ(f.desk.boxes.size(), 1);
+}
+
+} // namespace

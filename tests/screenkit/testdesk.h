@@ -1,0 +1,97 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QPrinter>
+#include <QStringList>
+#include <deque>
+#include <vector>
+
+#include "screenkit/desk.h"
+
+namespace screenkit {
+
+/// A desk whose answers a test queues and whose boxes it reads back. A box that nobody expected fails the test, and so
+/// does an answer that was never asked for.
+class TestDesk : public Desk {
+public:
+    struct Box {
+        BoxStyle style;
+        QString text;
+        QString title;
+        Buttons buttons;
+        std::optional<Answer> defaultAnswer;
+    };
+
+    ~TestDesk() override {
+        EXPECT_TRUE(m_answers.empty()) << m_answers.size() << " expected boxes never came";
+        EXPECT_TRUE(m_files.empty()) << "an expected file chooser never came";
+    }
+
+    /// The next box is answered so.
+    void expect(Answer answer) { m_answers.push_back(answer); }
+    /// The next file chooser gives this name; nothing: the user cancels.
+    void expectFile(std::optional<QString> name) { m_files.push_back(std::move(name)); }
+    /// The box shown last.
+    const Box& last() const { return boxes.back(); }
+
+    Answer box(BoxStyle style, const QString& text, const QString& title, Buttons buttons,
+               std::optional<Answer> defaultAnswer) override {
+        boxes.push_back({style, text, title, buttons, defaultAnswer});
+        if (m_answers.empty()) {
+            ADD_FAILURE() << "unexpected box \"" << title.toStdString() << "\": " << text.toStdString();
+            return buttons == Buttons::ok ? Answer::ok : buttons == Buttons::yesNo ? Answer::no : Answer::cancel;
+        }
+        const Answer answer = m_answers.front();
+        m_answers.pop_front();
+        return answer;
+    }
+    std::optional<QString> fileToOpen(const QString&, const QString&, const QStringList&) override {
+        return nextFile();
+    }
+    std::optional<QString> fileToSave(const QString&, const QString& suggested, const QStringList& filters) override {
+        suggestedName = suggested;
+        offeredFilters = filters;
+        return nextFile();
+    }
+    std::optional<QString> input(const QString&, const QString&, const QString&) override { return {}; }
+    bool choosePrinter(QPrinter& printer) override {
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(printTo);
+        return hasPrinter();
+    }
+    bool hasPrinter() override { return !printTo.isEmpty(); }
+    void bell() override { ++bells; }
+    QDate today() override { return day; }
+    void openOnDesktop(const QString& address) override { opened << address; }
+    bool startProgram(const QStringList&) override {
+        ++programsStarted;
+        return programStarts;
+    }
+
+    std::vector<Box> boxes;
+    QString suggestedName;
+    QStringList offeredFilters;
+    QStringList opened;
+    QDate day{2026, 11, 22};
+    int bells = 0;
+    int programsStarted = 0;
+    bool programStarts = true;
+    QString printTo; ///< the file that stands for a printer; empty: none is installed
+
+private:
+    std::optional<QString> nextFile() {
+        if (m_files.empty()) {
+            ADD_FAILURE() << "unexpected file chooser";
+            return {};
+        }
+        auto name = m_files.front();
+        m_files.pop_front();
+        return name;
+    }
+
+    std::deque<Answer> m_answers;
+    std::deque<std::optional<QString>> m_files;
+};
+
+} // namespace screenkit

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QStringList>
+
+#include "datastore/paths.h"
+#include "reports/report.h"
+#include "screenkit/desk.h"
+#include "screenkit/workplace.h"
+
+namespace screenkit {
+
+/// A main window that only keeps what screens asked of it.
+class RecordingShell : public Shell {
+public:
+    void open(const QString& screen) override { opened << screen; }
+    QWidget* screen(const QString&) override { return nullptr; }
+    bool exists(const QString&) override { return false; }
+    void refillScreens() override {}
+    void showClientName() override { ++namesShown; }
+    void enableToolbar(bool on) override { toolbar = on; }
+    bool Save() override { return false; }
+    void CLEARLOAD() override {}
+
+    QStringList opened;
+    int namesShown = 0;
+    bool toolbar = true;
+};
+
+/// What one screen needs to stand alone in a test.
+struct Workbench {
+    explicit Workbench(Desk& desk) : reports(desk, {}), workplace{record, paths, desk, reports, shell} {}
+
+    assessment::Assessment record;
+    datastore::Paths paths;
+    RecordingShell shell;
+    reports::Engine reports;
+    Workplace workplace;
+};
+
+} // namespace screenkit
