@@ -41,7 +41,7 @@ public:
         m_xml.addData("<piece>" + bytes + "</piece>");
         Node root = node(Node::Kind::element, "piece");
         m_open = {&root};
-        m_xml.readNext();
+        m_xml.readNextStartElement();
         m_xml.readNext();
         while (!m_xml.atEnd() && !(m_xml.isEndElement() && m_xml.name() == u"piece")) {
             readToken();

@@ -3,6 +3,7 @@
 #include <QColor>
 #include <QFont>
 #include <QFontMetricsF>
+#include <memory>
 
 namespace reports {
 
@@ -12,16 +13,24 @@ inline constexpr double unitsPerInch = 1200;
 constexpr double points(double value) { return value * unitsPerInch / 72; }
 constexpr double millimetres(double value) { return value * unitsPerInch / 25.4; }
 
-/// The type of the pages: Open Sans, with DejaVu Sans for the letters that it lacks (Venda's and others').
-struct Face {
+/// The type of the pages: Open Sans, and DejaVu Sans for a text with letters that it lacks (Venda's and others').
+class Face {
+public:
     explicit Face(double pointSize, QFont::Weight weight = QFont::Normal, const QColor& ink = QColor(0x1f, 0x23, 0x2b),
                   bool italic = false);
+
+    /// This face, or its like in the other family if the text has letters that this one lacks: a name looks patched
+    /// when single letters come from another family.
+    const Face& forText(const QString& text) const;
 
     QFont font;
     QColor ink;
     double lineHeight; ///< from one baseline to the next
     double ascent;     ///< from the top of the line to its baseline, the line's room shared out above and below
     QFontMetricsF metrics;
+
+private:
+    std::shared_ptr<Face> m_wide;
 };
 
 /// The few faces that all reports share.

@@ -288,7 +288,12 @@ private:
             } else {
                 failAt(child.file, child.line, QString("<%1> cannot stand in a line of text.").arg(child.name));
             }
-            if (!run.text.isEmpty()) made.push_back(run);
+            if (run.text.isEmpty()) return;
+            const bool sameFace = !made.empty() && made.back().bold == run.bold && made.back().italic == run.italic;
+            if (sameFace)
+                made.back().text += run.text;
+            else
+                made.push_back(run);
         });
     }
 

@@ -15,7 +15,7 @@ constexpr double marginRight = millimetres(20);
 constexpr double marginTop = millimetres(14);
 constexpr double marginBottom = millimetres(12);
 constexpr double cellPadding = points(5);  // left and right of a cell's text
-constexpr double rowPadding = points(2.6); // above and below it
+constexpr double rowPadding = points(2.0); // above and below it
 constexpr double gutter = millimetres(9);  // between columns of the page
 constexpr double hairline = points(0.5);
 

@@ -12,7 +12,7 @@ class QPainter;
 namespace reports {
 
 struct Content;
-struct Face;
+class Face;
 
 /// A line of text at its place; the point is the start of its baseline.
 struct PlacedText {

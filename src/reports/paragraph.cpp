@@ -10,8 +10,8 @@ namespace {
 
 const Face& faceOf(const Run& run, const Face& base) {
     const Faces& faces = Faces::all();
-    if (&base != &faces.body) return base; // headings have one face only
-    return run.bold ? faces.bold : run.italic ? faces.italic : base;
+    if (&base != &faces.body) return base.forText(run.text); // headings have one face only
+    return (run.bold ? faces.bold : run.italic ? faces.italic : base).forText(run.text);
 }
 
 /// Most texts are a word or a number that fits: no line breaking is needed to see that.

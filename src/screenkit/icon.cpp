@@ -7,6 +7,9 @@
 #include <QPalette>
 #include <QSvgRenderer>
 
+// A library's resources are linked in only where they are named; the macro wants the global namespace.
+static void nameResources() { Q_INIT_RESOURCE(marlowbeck); }
+
 namespace screenkit {
 namespace {
 
@@ -42,6 +45,7 @@ private:
 } // namespace
 
 QIcon icon(const QString& name) {
+    nameResources();
     QFile file(":/icons/" + name + ".svg");
     if (!file.open(QIODevice::ReadOnly)) return {};
     return QIcon(new LineIcon(file.readAll()));

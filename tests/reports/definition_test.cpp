@@ -1,0 +1,102 @@
+#include "reports/report_support.h"
+
+using namespace reporttest;
+
+namespace {
+
+class Definition : public ReportTest {
+protected:
+    /// The message of the error that a definition ends in; empty if it runs.
+    std::string messageOf(const std::string& body, const std::string& table = "Loans") {
+        define("Own.rpt", page(body, table));
+        try {
+            engine.prepare("Own.rpt");
+            return {};
+        } catch (const store::Error& error) {
+            return error.message();
+        }
+    }
+};
+
+} // namespace
+
+// The body begins on line 5 of the file.
+TEST_F(Definition, NamesFileAndLineOfEveryFault) {
+    define("piece.rpt", "<p>sound</p>\n<p>{{Nowhere}}</p>\n");
+    define("loop.rpt", "<p>x</p>\n{{>loop}}\n");
+    feedLoan();
+    const struct {
+        const char *body, *file, *line, *names, *number;
+    } faults[] = {
+        {"<p>ok</p>\n<p>{{Num9}}</p>", "Own.rpt", "Line 6:", "\"Num9\"", "3265"},
+        {"<p>{{Amount.Num1}}</p>", "Own.rpt", "Line 5:", "\"Amount\"", "3078"},
+        {"\n\n{{#Amorts}}\n<p>x</p>{{/Amorts}}", "Own.rpt", "Line 7:", "\"Amorts\"", "3078"},
+        {"{{#Amort}}<p>{{Num1}}</p>{{/Amort}}", "Own.rpt", "Line 5:", "\"Num1\"", "3265"},
+        {"{{?Filled}}<p>x</p>{{/Filled}}", "Own.rpt", "Line 5:", "\"Filled\"", "3265"},
+        // also in a section that is not printed now
+        {"{{?FinText3}}x{{/FinText3}}", "Own.rpt", "Line 5:", "\"FinText3\"", "3265"},
+        {"<p>a</p>\n{{#Amort}}\n<p>b</p>\n", "Own.rpt", "Line 6:", "{{#Amort}}", "321"},
+        {"<table>\n{{#Amort}}\n<tr><td>{{Year}}</td></tr>\n</table>\n{{/Amort}}", "Own.rpt", "Line 6:", "{{#Amort}}",
+         "321"},
+        {"{{?Heading}}<p>a</p>{{#Amort}}\n{{/Heading}}{{/Amort}}", "Own.rpt", "Line 5:", "{{#Amort}}", "321"},
+        {"<p>a</p>\n{{/Amort}}", "Own.rpt", "Line 6:", "{{/Amort}}", "321"},
+        {"<p>{{Num1</p>", "Own.rpt", "Line 5:", "}}", "321"},
+        {"<p>one\n<b>two</p>", "Own.rpt", "Line 6:", "", "321"},
+        {"<p>a</p>\n<blink>a</blink>", "Own.rpt", "Line 6:", "<blink>", "321"},
+        {"<p class=\"loud\">a</p>", "Own.rpt", "Line 5:", "<p.loud>", "321"},
+        {"stray words", "Own.rpt", "Line", "paragraph", "321"},
+        {"<table><col width=\"x\"/></table>", "Own.rpt", "Line 5:", "30%", "321"},
+        {"<p>a</p>\n\n{{>absent}}", "Own.rpt", "Line 7:", "absent.rpt", "321"},
+        {"{{>piece}}", "piece.rpt", "Line 2:", "\"Nowhere\"", "3265"},
+        {"{{>loop}}", "loop.rpt", "Line 2:", "\"loop\"", "321"},
+    };
+    for (const auto& fault : faults) {
+        const std::string message = messageOf(fault.body);
+        EXPECT_THAT(message, testing::HasSubstr(fault.file)) << fault.body;
+        EXPECT_THAT(message, testing::HasSubstr(fault.line)) << fault.body;
+        EXPECT_THAT(message, testing::HasSubstr(fault.names)) << fault.body;
+        EXPECT_THAT(message, testing::EndsWith(std::string("(") + fault.number + ")")) << fault.body;
+    }
+    EXPECT_THAT(messageOf("<p>a</p>", "Lones"), testing::HasSubstr("Line 3: Print.mdb has no table \"Lones\""));
+    EXPECT_EQ(messageOf("<p>{{Num1}}</p>"), "");
+}
+
+TEST_F(Definition, PrintsFieldsByMaskAndSectionsWhenFilled) {
+    feed("Loans", {{"Heading", "  Two blanks"},
+                   {"Num1", 1234567.125},
+                   {"Num2", 0},
+                   {"Num3", 0.1},
+                   {"FinText1", " "},
+                   {"FinText2", "shown"}});
+    feedAmortisation(3);
+    define("own.rpt", page("<!-- a comment {{Num1}} -->\n"
+                           "<p>A{{num1:R # ### ### ##0.00}}Z</p><p>B{{Num1}}Z</p><p>C{{Num3:0.000 %}}Z</p>\n"
+                           "<p>D{{Num4:0.00}}Z</p><p>E{{Heading}}Z</p><p>F{{Loans.Num3}} of {{Amort.Year}}Z</p>\n"
+                           "{{?FinText1}}<p>blank text</p>{{/FinText1}}{{?Num2}}<p>nought</p>{{/Num2}}\n"
+                           "{{?FinText1A}}<p>null</p>{{/FinText1A}}{{?FinText2}}<p>G{{FinText2}}Z</p>{{/FinText2}}\n"
+                           "{{?Num2|FinText2}}<p>either</p>{{/Num2|FinText2}}\n"
+                           "{{#AMORT}}<p>row{{Year:##}} {{Loans.FinText2}}</p>{{/AMORT}}"));
+    const QString text = this->text("own.rpt");
+    for (const char* expected : {"AR 1 234 567.12Z", "B1234567.125Z", "C0.100 %Z", "DZ", "Two blanksZ", "F0.1 of 1Z",
+                                 "GshownZ", "either", "row1 shown", "row3 shown"})
+        EXPECT_TRUE(text.contains(expected)) << expected << "\n" << text.toStdString();
+    for (const char* absent : {"comment", "blank text", "nought", "null"})
+        EXPECT_FALSE(text.contains(absent)) << absent;
+}
+
+TEST_F(Definition, FindsFilesWithoutRegardToCaseOrSeparator) {
+    feedLoan();
+    for (const char* name : {"Lonrepa.rpt", "\\Lonrepa.rpt", "/LONREPA.RPT"}) {
+        const auto report = engine.prepare(name);
+        EXPECT_EQ(report->title, "Monthly repayment of a loan") << name;
+        EXPECT_EQ(report->baseName, "Lonrepa") << name;
+    }
+    EXPECT_EQ(engine.prepare("Lonrepa.rpt", "Given ")->title, "Given ");
+}
+
+TEST_F(Definition, HeaderTableWithoutItsRowIsAnError) {
+    PrintFeed empty(print);
+    empty.clear("Loans");
+    empty.commit();
+    EXPECT_EQ(storetest::errorOf([&] { engine.prepare("Lonrepa.rpt"); }), 3021);
+}

@@ -1,0 +1,118 @@
+#include "reports/report_support.h"
+
+using namespace reporttest;
+
+namespace {
+
+class Engine : public ReportTest {
+protected:
+    QString printedText() { return runTool("pdftotext", {"-layout", printed, "-"}); }
+};
+
+} // namespace
+
+TEST_F(Engine, EachFailureShowsOneBoxThatNamesTheFileAndTheProgramGoesOn) {
+    feedLoan();
+    define("Broken.rpt", page("<p>{{Num1}}"));
+    define("Unknown.rpt", page("<p>{{Num77}}</p>"));
+    const struct {
+        const char *definition, *names, *number;
+        bool withoutPrintMdb;
+    } failures[] = {
+        {"\\Missing.rpt", "Missing.rpt", "(53)", false},
+        {"Broken.rpt", "Broken.rpt", "(321)", false},
+        {"Unknown.rpt", "Num77", "(3265)", false},
+        {"Lonrepa.rpt", "Print.mdb", "(3024)", true},
+    };
+    for (const auto& failure : failures)
+        for (const Destination destination : {Destination::preview, Destination::printer}) {
+            desk.boxes.clear();
+            if (failure.withoutPrintMdb) fs::rename(print, folder / "away");
+            engine.CopiesToPrinter = 7;
+            EXPECT_FALSE(engine.run(failure.definition, "Title", destination)) << failure.definition;
+            if (failure.withoutPrintMdb) fs::rename(folder / "away", print);
+            ASSERT_EQ(desk.boxes.size(), 1u) << failure.definition;
+            EXPECT_EQ(desk.boxes[0].style, screenkit::BoxStyle::critical);
+            EXPECT_EQ(desk.boxes[0].title, "Marlowbeck");
+            EXPECT_TRUE(desk.boxes[0].text.contains(failure.names)) << desk.boxes[0].text.toStdString();
+            EXPECT_TRUE(desk.boxes[0].text.endsWith(failure.number)) << desk.boxes[0].text.toStdString();
+            EXPECT_EQ(engine.CopiesToPrinter, 1);
+            EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+        }
+    EXPECT_TRUE(engine.previews().empty());
+    EXPECT_FALSE(QFile::exists(printed));
+    EXPECT_TRUE(engine.run("Lonrepa.rpt", "Title", Destination::preview));
+    EXPECT_EQ(engine.previews().size(), 1u);
+}
+
+TEST_F(Engine, APreviewKeepsTheRowsOfItsOwnRun) {
+    feedLoan();
+    ASSERT_TRUE(engine.run("\\Lonrepa.rpt", "Personal Details ", Destination::preview));
+    feed("Loans", {{"Heading", "x"}, {"Num1", 7.0}, {"Num2", 1}, {"Num3", 1}, {"Num4", 1}});
+    ASSERT_TRUE(engine.run("\\Lonrepa.rpt", "", Destination::preview));
+    fs::remove(print);
+    const auto windows = engine.previews();
+    ASSERT_EQ(windows.size(), 2u);
+    EXPECT_TRUE(textOfPdf(reports::toPdf(windows[0]->report())).contains("R 250 000.00"));
+    EXPECT_TRUE(textOfPdf(reports::toPdf(windows[1]->report())).contains("R 7.00"));
+    EXPECT_EQ(windows[0]->windowTitle(), "Personal Details ");           // its last blank too
+    EXPECT_EQ(windows[1]->windowTitle(), "Monthly repayment of a loan"); // none given: its own, not the one before
+    for (auto* window : windows) {
+        EXPECT_TRUE(window->isWindow());
+        EXPECT_FALSE(window->isModal());
+        EXPECT_EQ(window->parentWidget(), nullptr);
+    }
+    windows[0]->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(engine.previews().size(), 1u);
+}
+
+TEST_F(Engine, PrintsOnTheSessionsPrinter) {
+    feedLoan();
+    feedAmortisation(100);
+    engine.CopiesToPrinter = 3;
+    EXPECT_TRUE(engine.run("LonrepaA.rpt", "Title", Destination::printer));
+    EXPECT_EQ(engine.CopiesToPrinter, 1);
+    EXPECT_EQ(engine.printer().copyCount(), 1);
+    EXPECT_TRUE(engine.previews().empty());
+    const QStringList onPaper = printedText().split('\f', Qt::SkipEmptyParts);
+    const QStringList inPdf = pages("LonrepaA.rpt");
+    ASSERT_EQ(onPaper.size(), inPdf.size());
+    for (int page = 0; page < inPdf.size(); ++page) // paper breaks where the PDF does
+        EXPECT_EQ(onPaper[page].simplified(), inPdf[page].simplified());
+
+    // Printer Setup's choice holds for what is printed later.
+    const QString other = QString::fromStdString((folder / "other.pdf").string());
+    desk.printDialog = [&](QPrinter& printer) {
+        printer.setOutputFileName(other);
+        return true;
+    };
+    engine.setUpPrinter();
+    QFile::remove(printed);
+    EXPECT_TRUE(engine.run("Lonrepa.rpt", "Title", Destination::printer));
+    EXPECT_TRUE(QFile::exists(other));
+    EXPECT_FALSE(QFile::exists(printed));
+    EXPECT_TRUE(desk.boxes.empty());
+}
+
+TEST_F(Engine, WithoutAPrinterAWarningSaysSoAndViewingWorks) {
+    feedLoan();
+    desk.printerInstalled = false;
+    EXPECT_FALSE(engine.run("Lonrepa.rpt", "Title", Destination::printer));
+    engine.setUpPrinter();
+    ASSERT_EQ(desk.boxes.size(), 2u);
+    for (const auto& box : desk.boxes) {
+        EXPECT_EQ(box.style, screenkit::BoxStyle::warning);
+        EXPECT_TRUE(box.text.contains("No printer is installed"));
+    }
+    EXPECT_TRUE(engine.run("Lonrepa.rpt", "Title", Destination::preview));
+    EXPECT_EQ(desk.boxes.size(), 2u);
+}
+
+TEST_F(Engine, APrinterThatCannotStartIsTold) {
+    feedLoan();
+    printed = QString::fromStdString((folder / "no such folder/x.pdf").string());
+    EXPECT_FALSE(engine.run("Lonrepa.rpt", "Title", Destination::printer));
+    ASSERT_EQ(desk.boxes.size(), 1u);
+    EXPECT_EQ(desk.boxes[0].style, screenkit::BoxStyle::critical);
+}

@@ -1,0 +1,132 @@
+#include <sys/resource.h>
+
+#include <csignal>
+
+#include "reports/report_support.h"
+
+using namespace reporttest;
+using reports::Format;
+
+namespace {
+
+class Export : public ReportTest {
+protected:
+    Export() {
+        feed("Loans",
+             {{"Heading", "O'Brien, \"Êksteen\"\nṰhoho-Nḓou <b>&\"x\""}, {"Num1", 1234567.125}, {"Num3", 0.1}});
+        feedAmortisation(2);
+        define("Own.rpt",
+               page("<h1>Title</h1><p>{{Heading}}</p><table><thead><tr><th>Year</th><th>Capital</th></tr></thead>"
+                    "{{#Amort}}<tr><td>{{Year:##}}</td><td>{{Capital:R # ##0.00 %}}</td></tr>{{/Amort}}"
+                    "<tr class=\"result\"><td>Sum</td><td>{{Loans.Num1:# ### ##0.00}}</td></tr></table>"));
+    }
+    QByteArray bytes(Format format) { return reports::exported(*engine.prepare("Own.rpt", "Shown title"), format); }
+    /// One file out of a zipped document.
+    QString part(Format format, const QString& name) {
+        const fs::path file = folder / "zipped";
+        storetest::put(file, bytes(format).toStdString());
+        return runTool("unzip", {"-p", QString::fromStdString(file.string()), name});
+    }
+};
+
+} // namespace
+
+TEST_F(Export, CsvHoldsRawValuesQuotedByTheRules) {
+    EXPECT_EQ(bytes(Format::csv).toStdString(), "Title\r\n"
+                                                "\"O'Brien, \"\"Êksteen\"\"\nṰhoho-Nḓou <b>&\"\"x\"\"\"\r\n"
+                                                "Year,Capital\r\n"
+                                                "1,1001.005\r\n"
+                                                "2,1002.005\r\n"
+                                                "Sum,1234567.125\r\n");
+}
+
+TEST_F(Export, HtmlEscapesTextsAndKeepsHeadsAndFigures) {
+    const QString html = QString::fromUtf8(bytes(Format::html));
+    EXPECT_TRUE(html.contains("<title>Shown title</title>"));
+    EXPECT_TRUE(html.contains("O'Brien, &quot;Êksteen&quot;<br>Ṱhoho-Nḓou &lt;b&gt;&amp;&quot;x&quot;"));
+    EXPECT_TRUE(html.contains("R 1 001.00 %")); // half to even
+    EXPECT_TRUE(html.contains("<thead>"));
+    EXPECT_TRUE(html.contains("<tr class=\"result\">"));
+    EXPECT_TRUE(html.contains("information supplied by the undersigned client."));
+}
+
+TEST_F(Export, OdtHoldsTheTexts) {
+    EXPECT_EQ(bytes(Format::odt).left(2), "PK");
+    const QString content = part(Format::odt, "content.xml");
+    QString plain = content;
+    plain.replace("<text:line-break/>", "\n")
+        .remove(QRegularExpression("<[^>]*>"))
+        .replace("&lt;", "<")
+        .replace("&gt;", ">");
+    plain.replace("&quot;", "\"").replace("&amp;", "&");
+    EXPECT_TRUE(plain.contains("Ṱhoho-Nḓou <b>&\"x\"")) << plain.toStdString();
+    EXPECT_TRUE(plain.contains("O'Brien, \"Êksteen\""));
+    EXPECT_TRUE(plain.contains("1 234 567.12"));
+    EXPECT_TRUE(content.contains("table:table"));
+}
+
+TEST_F(Export, XlsxHoldsNumbersWithTheirFormat) {
+    const QString sheet = part(Format::xlsx, "xl/worksheets/sheet1.xml");
+    EXPECT_TRUE(sheet.contains("<v>1001.005</v>")) << sheet.toStdString();
+    EXPECT_TRUE(sheet.contains("<v>1234567.125</v>"));
+    const QString styles = part(Format::xlsx, "xl/styles.xml");
+    EXPECT_TRUE(styles.contains("formatCode=\"&quot;R &quot;#,##0.00&quot; %&quot;\"")) << styles.toStdString();
+    const QString texts = part(Format::xlsx, "xl/sharedStrings.xml");
+    EXPECT_TRUE(texts.contains("O'Brien, \"Êksteen\"\nṰhoho-Nḓou &lt;b&gt;&amp;\"x\"")) << texts.toStdString();
+}
+
+TEST_F(Export, PdfKeepsTheLettersAndItsTitle) {
+    const QByteArray pdf = bytes(Format::pdf);
+    const QString text = textOfPdf(pdf);
+    EXPECT_TRUE(text.contains("O'Brien, \"Êksteen\"")) << text.toStdString();
+    EXPECT_TRUE(text.contains("Ṱhoho-Nḓou <b>&\"x\""));
+    storetest::put(folder / "own.pdf", pdf.toStdString());
+    const QString info = runTool("pdfinfo", {QString::fromStdString((folder / "own.pdf").string())});
+    EXPECT_EQ(simplifiedLine(info, "Title:"), "Title: Shown title");
+    EXPECT_TRUE(simplifiedLine(info, "Page size:").contains("A4"));
+}
+
+TEST_F(Export, AFailedWriteShowsABoxAndLeavesNothing) {
+    ASSERT_TRUE(engine.run("Own.rpt", "x", Destination::preview));
+    reports::PreviewWindow* window = engine.previews().front();
+    const auto files = [&] { return std::distance(fs::directory_iterator(folder / "out"), fs::directory_iterator{}); };
+    fs::create_directory(folder / "out");
+    storetest::put(folder / "out/kept.pdf", "old");
+    const QString target = QString::fromStdString((folder / "out/kept.pdf").string());
+    fs::permissions(folder / "out", fs::perms::owner_read | fs::perms::owner_exec);
+    {
+        const storetest::OrdinaryUser user(folder);
+        EXPECT_FALSE(window->exportTo(target));
+    }
+    ASSERT_EQ(desk.boxes.size(), 1u);
+    EXPECT_EQ(desk.boxes[0].style, screenkit::BoxStyle::critical);
+    EXPECT_EQ(desk.boxes[0].title, "Marlowbeck");
+    EXPECT_TRUE(desk.boxes[0].text.contains("kept.pdf"));
+    EXPECT_TRUE(desk.boxes[0].text.endsWith("(70)")) << desk.boxes[0].text.toStdString();
+    EXPECT_EQ(storetest::bytesOf(folder / "out/kept.pdf"), "old");
+    EXPECT_FALSE(window->exportTo(QString::fromStdString((folder / "nowhere/x.csv").string())));
+    EXPECT_TRUE(desk.boxes.back().text.endsWith("(76)")) << desk.boxes.back().text.toStdString();
+    fs::permissions(folder / "out", fs::perms::owner_all);
+    EXPECT_EQ(files(), 1);
+}
+
+// A full disk, by way of the largest file that this process may write.
+TEST_F(Export, AFullDiskLeavesTheOldFileWhole) {
+    ASSERT_TRUE(engine.run("Own.rpt", "x", Destination::preview));
+    fs::create_directory(folder / "out");
+    storetest::put(folder / "out/kept.html", "old");
+    rlimit before{};
+    getrlimit(RLIMIT_FSIZE, &before);
+    const rlimit small{100, before.rlim_max};
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    setrlimit(RLIMIT_FSIZE, &small);
+    const bool written =
+        engine.previews().front()->exportTo(QString::fromStdString((folder / "out/kept.html").string()));
+    setrlimit(RLIMIT_FSIZE, &before);
+    std::signal(SIGXFSZ, handler);
+    EXPECT_FALSE(written);
+    ASSERT_EQ(desk.boxes.size(), 1u);
+    EXPECT_TRUE(desk.boxes[0].text.endsWith("(61)")) << desk.boxes[0].text.toStdString();
+    EXPECT_EQ(storetest::bytesOf(folder / "out/kept.html"), "old");
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder / "out"), fs::directory_iterator{}), 1);
+}

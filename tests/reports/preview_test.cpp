@@ -1,0 +1,167 @@
+#include <QScrollBar>
+#include <QToolBar>
+#include <QToolButton>
+
+#include "reports/pageview.h"
+#include "reports/report_support.h"
+
+using namespace reporttest;
+
+namespace {
+
+class Preview : public ReportTest {
+protected:
+    Preview() {
+        feedLoan();
+        feedAmortisation(200);
+        EXPECT_TRUE(engine.run("LonrepaA.rpt", "Title", Destination::preview));
+        window = engine.previews().front();
+        window->resize(800, 700);
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(window));
+        window->activateWindow();
+        view = &window->view();
+    }
+    QWidget* buttonOf(const char* action) {
+        auto* bar = window->findChild<QToolBar*>("reportToolBar");
+        return bar->widgetForAction(window->findChild<QAction*>(action));
+    }
+    void click(const char* action) { QTest::mouseClick(buttonOf(action), Qt::LeftButton); }
+
+    reports::PreviewWindow* window = nullptr;
+    reports::PageView* view = nullptr;
+};
+
+} // namespace
+
+TEST_F(Preview, TurnsPagesByButtonAndKey) {
+    const int last = view->pageCount() - 1;
+    ASSERT_GE(last, 4);
+    auto* field = window->findChild<QSpinBox*>("pageField");
+    EXPECT_FALSE(buttonOf("previousPage")->isEnabled());
+    click("nextPage");
+    EXPECT_EQ(view->currentPage(), 1);
+    EXPECT_EQ(field->text(), QString("Page 2 of %1").arg(last + 1));
+    click("lastPage");
+    EXPECT_EQ(view->currentPage(), last);
+    EXPECT_FALSE(buttonOf("nextPage")->isEnabled());
+    click("previousPage");
+    EXPECT_EQ(view->currentPage(), last - 1);
+    QTest::keyClick(view, Qt::Key_Home);
+    EXPECT_EQ(view->currentPage(), 0);
+    QTest::keyClick(view, Qt::Key_PageDown, Qt::ControlModifier);
+    EXPECT_EQ(view->currentPage(), 1);
+    QTest::keyClick(view, Qt::Key_End);
+    EXPECT_EQ(view->currentPage(), last);
+    field->setFocus();
+    field->selectAll();
+    QTest::keyClicks(field, "3");
+    QTest::keyClick(field, Qt::Key_Return);
+    EXPECT_EQ(view->currentPage(), 2);
+}
+
+TEST_F(Preview, FitsAndZoomsKeepingThePlace) {
+    view->showPage(2);
+    const double wide = view->scale();
+    click("wholePage");
+    EXPECT_LT(view->scale(), wide);
+    EXPECT_EQ(view->currentPage(), 2);
+    EXPECT_EQ(view->horizontalScrollBar()->maximum(), 0);
+    const double whole = view->scale();
+    window->resize(800, 500);
+    EXPECT_LT(view->scale(), whole); // it goes on fitting
+    click("zoomIn");
+    const double zoomed = view->scale();
+    EXPECT_GT(zoomed, whole * 0.8);
+    EXPECT_EQ(view->zoomMode(), reports::PageView::Zoom::fixed);
+    window->resize(800, 700);
+    EXPECT_EQ(view->scale(), zoomed);
+    EXPECT_EQ(view->currentPage(), 2);
+    QTest::keyClick(view, Qt::Key_1, Qt::ControlModifier);
+    EXPECT_EQ(view->scale(), 1);
+    EXPECT_EQ(window->findChild<QToolButton*>("zoomButton")->text(), "100 %");
+    for (int times = 0; times < 40; ++times)
+        click("zoomIn");
+    EXPECT_EQ(view->scale(), 8);
+    click("pageWidth");
+    EXPECT_NEAR(view->scale(), wide, 1e-9);
+}
+
+TEST_F(Preview, PaintsThePageInViewWhiteInADarkThemeToo) {
+    QPalette dark;
+    dark.setColor(QPalette::Dark, Qt::black);
+    view->setPalette(dark);
+    const auto ink = [&] {
+        const QImage image = view->viewport()->grab().toImage().convertToFormat(QImage::Format_RGB32);
+        int written = 0, white = 0;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = image.width() / 8; x < image.width() * 7 / 8; ++x) {
+                const int grey = qGray(image.pixel(x, y));
+                written += grey < 128;
+                white += grey > 250;
+            }
+        return std::pair(written, white);
+    };
+    const auto [first, paper] = ink();
+    EXPECT_GT(paper, 10 * first);
+    EXPECT_GT(first, 500); // there is writing on it
+    view->showPage(view->pageCount() - 1);
+    EXPECT_GT(ink().first, 100);
+}
+
+TEST_F(Preview, TellsAReaderWhatIsInViewAndWhatEachButtonDoes) {
+    EXPECT_EQ(view->accessibleName(), QString("Page 1 of %1").arg(view->pageCount()));
+    EXPECT_TRUE(view->accessibleDescription().contains("Monthly repayment R 2 709.27"));
+    for (const QAction* action : window->actions())
+        EXPECT_FALSE(action->text().isEmpty()) << action->objectName().toStdString();
+    for (QToolButton* button : window->findChildren<QToolButton*>()) {
+        if (button->objectName().startsWith("qt_")) continue;
+        EXPECT_FALSE(button->toolTip().isEmpty()) << button->objectName().toStdString();
+        EXPECT_FALSE(button->accessibleName().isEmpty() && button->text().isEmpty());
+        EXPECT_EQ(button->icon().isNull(), button->objectName() == "zoomButton");
+    }
+    EXPECT_EQ(window->findChild<QToolButton*>("exportButton")->toolTip(), "Export Report");
+}
+
+TEST_F(Preview, ExportsUnderTheNameThatTheUserPicks) {
+    const auto path = [&](const char* name) { return QString::fromStdString((folder / name).string()); };
+    auto* button = window->findChild<QToolButton*>("exportButton");
+    desk.fileNames = {path("own.PDF")};
+    QTest::mouseClick(button, Qt::LeftButton, {}, {8, button->height() / 2});
+    EXPECT_EQ(desk.suggested, "LonrepaA.pdf");
+    EXPECT_EQ(desk.filters,
+              QStringList({"PDF (*.pdf)", "HTML (*.html)", "ODT (*.odt)", "CSV (*.csv)", "XLSX (*.xlsx)"}));
+    EXPECT_EQ(storetest::bytesOf(folder / "own.PDF").substr(0, 5), "%PDF-");
+
+    desk.fileNames = {path("table.csv")};
+    QTest::keyClick(view, Qt::Key_E, Qt::ControlModifier);
+    EXPECT_EQ(storetest::bytesOf(folder / "table.csv").substr(0, 8), "Monthly ");
+
+    desk.fileNames = {path("Smith 1.2")}; // no ending of ours: the first kind's is added
+    EXPECT_TRUE(window->exportReport(reports::Format::xlsx));
+    EXPECT_EQ(desk.filters.first(), "XLSX (*.xlsx)");
+    EXPECT_EQ(storetest::bytesOf(folder / "Smith 1.2.xlsx").substr(0, 2), "PK");
+
+    desk.fileNames = {std::nullopt};
+    EXPECT_FALSE(window->exportReport());
+    EXPECT_TRUE(desk.boxes.empty());
+}
+
+TEST_F(Preview, PrintsThePagesChosenInTheDialog) {
+    desk.printDialog = [](QPrinter& printer) {
+        printer.setPrintRange(QPrinter::PageRange);
+        printer.setFromTo(2, 3);
+        return true;
+    };
+    click("printReport");
+    QString text = runTool("pdftotext", {"-layout", printed, "-"});
+    EXPECT_TRUE(text.contains("Page 2 of") && text.contains("Page 3 of"));
+    EXPECT_FALSE(text.contains("Page 1 of") || text.contains("Page 4 of"));
+
+    // The range was this printout's; the next one straight to the printer is whole again.
+    EXPECT_TRUE(engine.run("LonrepaA.rpt", "Title", Destination::printer));
+    EXPECT_TRUE(runTool("pdftotext", {"-layout", printed, "-"}).contains("Page 1 of"));
+    desk.printDialog = [](QPrinter&) { return false; };
+    QFile::remove(printed);
+    click("printReport");
+    EXPECT_FALSE(QFile::exists(printed));
+}
