@@ -164,7 +164,7 @@ void frmPersDet::copyPostalToResidential() {
 }
 
 void frmPersDet::print(Destination destination) {
-    feedPersonalDetails(m_work.paths.PrintDbPath, m_client, m_details,
+    feedPersonalDetails(m_work.paths.PrintDbPath, m_work.record,
                         {maritalStates.value(m_details.CMaritalStat).toStdString(),
                          maritalStates.value(m_details.SMaritalStat).toStdString(),
                          smokerStates.value(m_details.CSmoker).toStdString(),

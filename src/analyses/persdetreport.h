@@ -14,8 +14,8 @@ struct PersDetWords {
 };
 
 /// Writes the client's front page into Print.mdb: texts as they are, dates dd/mm/yyyy or a blank, comments only if the
-/// notes are wanted. Throws store::Error; nothing is written then.
-void feedPersonalDetails(const std::filesystem::path& printDbPath, const assessment::Client& client,
-                         const assessment::PersonalDetails& details, const PersDetWords& words);
+/// notes are wanted. The record is only read. Throws store::Error; nothing is written then.
+void feedPersonalDetails(const std::filesystem::path& printDbPath, assessment::Assessment& record,
+                         const PersDetWords& words);
 
 } // namespace analyses
