@@ -38,7 +38,6 @@ foreach(definition IN LISTS report_definitions)
 endforeach()
 add_custom_target(report_definitions ALL DEPENDS ${placed_reports})
 
-file(MAKE_DIRECTORY "${MARLOWBECK_PROGRAM_DIR}/docs")
-add_custom_command(OUTPUT "${MARLOWBECK_PROGRAM_DIR}/docs/guide.md" DEPENDS docs/guide.md VERBATIM
-  COMMAND "${CMAKE_COMMAND}" -E copy "${CMAKE_SOURCE_DIR}/docs/guide.md" "${MARLOWBECK_PROGRAM_DIR}/docs")
-add_custom_target(help_pages ALL DEPENDS "${MARLOWBECK_PROGRAM_DIR}/docs/guide.md")
+add_custom_command(OUTPUT "${MARLOWBECK_PROGRAM_DIR}/guide.md" DEPENDS docs/guide.md VERBATIM
+  COMMAND "${CMAKE_COMMAND}" -E copy "${CMAKE_SOURCE_DIR}/docs/guide.md" "${MARLOWBECK_PROGRAM_DIR}")
+add_custom_target(help_pages ALL DEPENDS "${MARLOWBECK_PROGRAM_DIR}/guide.md")

@@ -11,16 +11,15 @@ set(CMAKE_SKIP_RPATH ON)
 
 # For all users.
 set(shared_folder lib/marlowbeck)
-foreach(folder bin lib lib/marlowbeck lib/marlowbeck/docs share share/applications share/doc share/doc/marlowbeck
+foreach(folder bin lib lib/marlowbeck share share/applications share/doc share/doc/marlowbeck
         share/icons share/icons/hicolor share/icons/hicolor/scalable share/icons/hicolor/scalable/apps)
   # Readable by all of them, whatever the umask of the one who packs.
   install(DIRECTORY DESTINATION ${folder} DIRECTORY_PERMISSIONS
           OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 endforeach()
 install(TARGETS marlowbeck RUNTIME DESTINATION ${shared_folder})
-install(FILES ${untouched_databases} ${report_definitions} packaging/installed-for-all-users
+install(FILES ${untouched_databases} ${report_definitions} docs/guide.md packaging/installed-for-all-users
         DESTINATION ${shared_folder})
-install(FILES docs/guide.md DESTINATION ${shared_folder}/docs)
 install(FILES README.md packaging/copyright DESTINATION share/doc/marlowbeck)
 install(FILES packaging/marlowbeck.desktop DESTINATION share/applications)
 install(FILES resources/icons/marlowbeck.svg DESTINATION share/icons/hicolor/scalable/apps)
@@ -38,8 +37,7 @@ install(CODE [[
   endif()
 ]] COMPONENT program EXCLUDE_FROM_ALL)
 install(TARGETS marlowbeck RUNTIME DESTINATION . COMPONENT program EXCLUDE_FROM_ALL)
-install(FILES ${report_definitions} DESTINATION . COMPONENT program EXCLUDE_FROM_ALL)
-install(FILES docs/guide.md DESTINATION docs COMPONENT program EXCLUDE_FROM_ALL)
+install(FILES ${report_definitions} docs/guide.md DESTINATION . COMPONENT program EXCLUDE_FROM_ALL)
 install(CODE "set(databases \"${untouched_databases}\")" COMPONENT program EXCLUDE_FROM_ALL)
 install(CODE [[
   file(GLOB present RELATIVE "${folder}" "${folder}/*")

@@ -58,24 +58,15 @@ void refresh(const fs::path& installed, const fs::path& folder) {
     if (!fs::exists(own) || store::readFile(own) != bytes) store::writeFile(own, bytes);
 }
 
-bool isDefinition(const fs::path& file) {
-    const std::string extension = file.extension().string();
-    return extension == ".rpt" || extension == ".RPT";
-}
+/// Report definitions and help pages.
+bool isThePackages(const fs::path& file) { return file.extension() == ".rpt" || file.extension() == ".md"; }
 
 void seed(const fs::path& installed, const fs::path& folder) {
     makePrivateFolder(folder);
     for (const char* database : databases)
         seedDatabase(installed / database, folder);
     for (const auto& entry : fs::directory_iterator(installed))
-        if (isDefinition(entry.path())) refresh(entry.path(), folder);
-
-    std::error_code noHelp;
-    for (const auto& page : fs::directory_iterator(installed / "docs", noHelp)) {
-        if (!page.is_regular_file()) continue;
-        makePrivateFolder(folder / "docs");
-        refresh(page.path(), folder / "docs");
-    }
+        if (isThePackages(entry.path())) refresh(entry.path(), folder);
 }
 
 } // namespace

@@ -33,7 +33,7 @@ fs::path newFolder() {
 class ProgramFolder : public testing::Test {
 protected:
     ProgramFolder() {
-        fs::create_directories(installed / "docs");
+        fs::create_directories(installed);
         put(installed / "installed-for-all-users", "");
         for (const auto& [file, content] : shipped)
             put(installed / file, content);
@@ -56,7 +56,7 @@ protected:
                                                         {"units.mdb", "units"},
                                                         {"Diary.mdb", "diary"},
                                                         {"Lonrepa.rpt", "<p>first</p>"},
-                                                        {"docs/guide.md", "# Guide"}};
+                                                        {"guide.md", "# Guide"}};
     fs::path scratch = newFolder();
     fs::path installed = scratch / "lib/marlowbeck";
     fs::path own = scratch / "home/data/marlowbeck";
@@ -82,7 +82,7 @@ TEST_F(ProgramFolder, FirstStartSeedsTheUsersFolderForItsOwnerAlone) {
         EXPECT_EQ(contentOf(own / file), content) << file;
         EXPECT_EQ(modeOf(own / file), 0600U) << file;
     }
-    for (const auto& folder : {own, own / "docs", own.parent_path()})
+    for (const auto& folder : {own, own.parent_path()})
         EXPECT_EQ(modeOf(folder), 0700U) << folder;
     EXPECT_FALSE(fs::exists(own / "installed-for-all-users"));
     EXPECT_FALSE(fs::exists(own / "Data.Mdb")) << "the client database is made by the start-up, never copied";
@@ -103,7 +103,7 @@ TEST_F(ProgramFolder, AnUpgradeRefreshesDefinitionsAndHelpAndLeavesEveryDatabase
     EXPECT_FALSE(fs::exists(own / "Default.Mdb"));
     EXPECT_EQ(contentOf(own / "Lonrepa.rpt"), "upgraded <p>first</p>");
     EXPECT_EQ(contentOf(own / "LonPrAm.rpt"), "new in the upgrade");
-    EXPECT_EQ(contentOf(own / "docs/guide.md"), "upgraded # Guide");
+    EXPECT_EQ(contentOf(own / "guide.md"), "upgraded # Guide");
 }
 
 TEST_F(ProgramFolder, ALaterStartWritesNothingThatIsUpToDate) {
