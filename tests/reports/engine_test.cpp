@@ -26,7 +26,7 @@ TEST_F(Engine, EachFailureShowsOneBoxThatNamesTheFileAndTheProgramGoesOn) {
     };
     for (const auto& failure : failures)
         for (const Destination destination : {Destination::preview, Destination::printer}) {
-            desk.boxes.clear();
+            desk.expectBoxes(1);
             if (failure.withoutPrintMdb) fs::rename(print, folder / "away");
             engine.CopiesToPrinter = 7;
             EXPECT_FALSE(engine.run(failure.definition, "Title", destination)) << failure.definition;
@@ -92,12 +92,12 @@ TEST_F(Engine, PrintsOnTheSessionsPrinter) {
     EXPECT_TRUE(engine.run("Lonrepa.rpt", "Title", Destination::printer));
     EXPECT_TRUE(QFile::exists(other));
     EXPECT_FALSE(QFile::exists(printed));
-    EXPECT_TRUE(desk.boxes.empty());
 }
 
 TEST_F(Engine, WithoutAPrinterAWarningSaysSoAndViewingWorks) {
     feedLoan();
-    desk.printerInstalled = false;
+    desk.printTo.clear();
+    desk.expectBoxes(2);
     EXPECT_FALSE(engine.run("Lonrepa.rpt", "Title", Destination::printer));
     engine.setUpPrinter();
     ASSERT_EQ(desk.boxes.size(), 2u);
@@ -112,6 +112,7 @@ TEST_F(Engine, WithoutAPrinterAWarningSaysSoAndViewingWorks) {
 TEST_F(Engine, APrinterThatCannotStartIsTold) {
     feedLoan();
     printed = QString::fromStdString((folder / "no such folder/x.pdf").string());
+    desk.expectBoxes(1);
     EXPECT_FALSE(engine.run("Lonrepa.rpt", "Title", Destination::printer));
     ASSERT_EQ(desk.boxes.size(), 1u);
     EXPECT_EQ(desk.boxes[0].style, screenkit::BoxStyle::critical);
