@@ -1,4 +1,5 @@
-# What lies beside the program: the four databases, made from their readable sources, and the report definitions.
+# What lies beside the program: the four databases, made from their readable sources, the report definitions and the
+# guide that it shows as its help.
 #
 # Untouched databases stand in databases/, for packages; program/ gets a copy to work with. A copy is replaced only when
 # its source has changed, never because the generator was linked again: it may hold the rates that somebody has set.
@@ -36,3 +37,8 @@ foreach(definition IN LISTS report_definitions)
   list(APPEND placed_reports "${placed}")
 endforeach()
 add_custom_target(report_definitions ALL DEPENDS ${placed_reports})
+
+file(MAKE_DIRECTORY "${MARLOWBECK_PROGRAM_DIR}/docs")
+add_custom_command(OUTPUT "${MARLOWBECK_PROGRAM_DIR}/docs/guide.md" DEPENDS docs/guide.md VERBATIM
+  COMMAND "${CMAKE_COMMAND}" -E copy "${CMAKE_SOURCE_DIR}/docs/guide.md" "${MARLOWBECK_PROGRAM_DIR}/docs")
+add_custom_target(help_pages ALL DEPENDS "${MARLOWBECK_PROGRAM_DIR}/docs/guide.md")

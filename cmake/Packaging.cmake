@@ -5,12 +5,7 @@
 #   all the rest         the system's own folders, for all users: `cmake --install build/release --prefix /usr`, and the
 #                        Debian package. A marker file beside the executable tells the program that its user cannot write
 #                        here, so that it keeps its files in the user's data folder
-set(marlowbeck_database_names Default.Mdb Print.mdb units.mdb Diary.mdb)
-if(NOT MARLOWBECK_DATABASE_DIR)
-  set(MARLOWBECK_DATABASE_DIR "${CMAKE_BINARY_DIR}/program") # where the build leaves them
-endif()
-list(TRANSFORM marlowbeck_database_names PREPEND "${MARLOWBECK_DATABASE_DIR}/" OUTPUT_VARIABLE marlowbeck_databases)
-file(GLOB marlowbeck_definitions CONFIGURE_DEPENDS data/reports/*.rpt)
+list(TRANSFORM MARLOWBECK_DATABASES PREPEND "${MARLOWBECK_DATABASE_DIR}/" OUTPUT_VARIABLE untouched_databases)
 
 set(CMAKE_SKIP_RPATH ON)
 
@@ -23,7 +18,7 @@ foreach(folder bin lib lib/marlowbeck lib/marlowbeck/docs share share/applicatio
           OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 endforeach()
 install(TARGETS marlowbeck RUNTIME DESTINATION ${shared_folder})
-install(FILES ${marlowbeck_databases} ${marlowbeck_definitions} packaging/installed-for-all-users
+install(FILES ${untouched_databases} ${report_definitions} packaging/installed-for-all-users
         DESTINATION ${shared_folder})
 install(FILES docs/guide.md DESTINATION ${shared_folder}/docs)
 install(FILES README.md packaging/copyright DESTINATION share/doc/marlowbeck)
@@ -43,13 +38,17 @@ install(CODE [[
   endif()
 ]] COMPONENT program EXCLUDE_FROM_ALL)
 install(TARGETS marlowbeck RUNTIME DESTINATION . COMPONENT program EXCLUDE_FROM_ALL)
-install(FILES ${marlowbeck_definitions} DESTINATION . COMPONENT program EXCLUDE_FROM_ALL)
+install(FILES ${report_definitions} DESTINATION . COMPONENT program EXCLUDE_FROM_ALL)
 install(FILES docs/guide.md DESTINATION docs COMPONENT program EXCLUDE_FROM_ALL)
-install(CODE "set(databases \"${marlowbeck_databases}\")" COMPONENT program EXCLUDE_FROM_ALL)
+install(CODE "set(databases \"${untouched_databases}\")" COMPONENT program EXCLUDE_FROM_ALL)
 install(CODE [[
+  file(GLOB present RELATIVE "${folder}" "${folder}/*")
+  string(TOLOWER "${present}" present)
   foreach(database IN LISTS databases)
     cmake_path(GET database FILENAME name)
-    if(NOT EXISTS "${folder}/${name}")
+    string(TOLOWER "${name}" folded)
+    list(FIND present "${folded}" at)
+    if(at EQUAL -1)
       file(INSTALL "${database}" DESTINATION "${folder}" PERMISSIONS OWNER_READ OWNER_WRITE)
     endif()
   endforeach()
@@ -57,9 +56,7 @@ install(CODE [[
 
 # What must be built before either shape can be installed.
 add_custom_target(marlowbeck_program DEPENDS marlowbeck)
-if(TARGET marlowbeck_databases)
-  add_dependencies(marlowbeck_program marlowbeck_databases)
-endif()
+add_dependencies(marlowbeck_program databases)
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "${PROJECT_DESCRIPTION}")

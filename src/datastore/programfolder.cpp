@@ -19,6 +19,11 @@ constexpr auto marker = "installed-for-all-users";
 constexpr auto userFolder = "marlowbeck";
 constexpr const char* databases[] = {"Default.Mdb", "Print.mdb", "units.mdb", "Diary.mdb"};
 
+bool isInstalledForAll(const fs::path& realExecutable) {
+    std::error_code ignored;
+    return fs::exists(realExecutable.parent_path() / marker, ignored);
+}
+
 fs::path homeFolder() {
     if (const char* home = std::getenv("HOME"); home && *home == '/') return home;
     if (const passwd* user = ::getpwuid(::getuid()); user && user->pw_dir) return user->pw_dir;
@@ -76,15 +81,16 @@ void seed(const fs::path& installed, const fs::path& folder) {
 } // namespace
 
 fs::path programFolder(const fs::path& realExecutable) {
-    const fs::path beside = realExecutable.parent_path();
-    if (!fs::exists(beside / marker)) return beside;
-    fs::path folder = userDataFolder();
+    return isInstalledForAll(realExecutable) ? userDataFolder() : realExecutable.parent_path();
+}
+
+void seedProgramFolder(const fs::path& realExecutable, const fs::path& folder) {
+    if (!isInstalledForAll(realExecutable)) return;
     try {
-        seed(beside, folder);
+        seed(realExecutable.parent_path(), folder);
     } catch (const fs::filesystem_error& error) {
         throw store::Error(store::Number::deviceError, error.path1().string(), error.code().message() + ".");
     }
-    return folder;
 }
 
 } // namespace datastore

@@ -20,7 +20,7 @@ OptionGroup::OptionGroup(const QString& name, const QStringList& captions, Bound
         option->installEventFilter(this);
         layout->addWidget(option);
     }
-    if (orientation == Qt::Horizontal) layout->addStretch(1);
+    layout->addStretch(1);
     connect(&m_group, &QButtonGroup::idClicked, this, &OptionGroup::choose);
 }
 

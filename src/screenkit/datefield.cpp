@@ -27,6 +27,7 @@ DateField::DateField(const QString& name, Bound<double> place, Desk& desk, QWidg
     : QLineEdit(parent), m_place(std::move(place)), m_desk(desk) {
     setObjectName(name);
     setMaxLength(10);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setPlaceholderText("dd/mm/yyyy");
     setToolTip(tr("T is today, + and - a day on and back, F4 the calendar"));
     QAction* calendar = addAction(QIcon(":/icons/calendar.svg"), TrailingPosition);

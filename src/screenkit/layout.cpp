@@ -20,11 +20,8 @@ void add(QBoxLayout* layout, const Item& item) {
 
 QLayout* withUnit(const FormRow& row) {
     auto* cell = new QHBoxLayout;
-    const bool grows = row.field.widget != nullptr &&
-                       (row.field.widget->sizePolicy().horizontalPolicy() & QSizePolicy::ExpandFlag) != 0 &&
-                       qobject_cast<QGroupBox*>(row.field.widget) == nullptr && row.unit.isEmpty();
-    if (row.field.widget != nullptr && !grows)
-        row.field.widget->setSizePolicy(QSizePolicy::Fixed, row.field.widget->sizePolicy().verticalPolicy());
+    const bool grows =
+        row.field.widget == nullptr || (row.field.widget->sizePolicy().horizontalPolicy() & QSizePolicy::ExpandFlag) != 0;
     add(cell, Item(row.field));
     if (!row.unit.isEmpty()) {
         auto* unit = new QLabel(row.unit);

@@ -59,6 +59,7 @@ NumberField::NumberField(const QString& name, Bound<double> place, NumberKind ki
     setObjectName(name);
     setAlignment(Qt::AlignRight);
     setMaxLength(longestNumber);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setValidator(new NumberValidator(m_kind.isWhole, this));
     connect(this, &QLineEdit::textEdited, this, &NumberField::typed);
 }

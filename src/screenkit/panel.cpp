@@ -4,6 +4,7 @@
 #include <QGraphicsDropShadowEffect>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMdiSubWindow>
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -40,7 +41,7 @@ void Panel::setContent(QLayout* content) { static_cast<QVBoxLayout*>(layout())->
 void Panel::open(QWidget* first) {
     if (!isVisible()) m_focusBefore = QApplication::focusWidget();
     m_over->setEnabled(false);
-    parentWidget()->updateGeometry();
+    makeRoom();
     place();
     show();
     raise();
@@ -52,6 +53,15 @@ void Panel::close() {
     hide();
     if (m_focusBefore != nullptr) m_focusBefore->setFocus(Qt::OtherFocusReason);
     m_focusBefore = nullptr;
+}
+
+void Panel::makeRoom() {
+    QWidget* screen = parentWidget();
+    auto* window = qobject_cast<QMdiSubWindow*>(screen->parentWidget());
+    if (window == nullptr || window->isMaximized()) return;
+    const QSize lacking = (sizeHint() + QSize(1, 1) * look::lineHeight(this) - screen->size()).expandedTo({0, 0});
+    const QSize most = window->parentWidget()->size() - QSize(window->x(), window->y());
+    window->resize((window->size() + lacking).boundedTo(most.expandedTo(window->size())));
 }
 
 void Panel::place() {

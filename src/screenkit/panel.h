@@ -31,6 +31,9 @@ protected:
     bool focusNextPrevChild(bool next) override;
 
 private:
+    /// Lets the child window grow where the panel is larger than its screen.
+    void makeRoom();
+
     QWidget* m_over;
     QLabel* m_title;
     QPointer<QWidget> m_focusBefore;

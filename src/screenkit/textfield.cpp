@@ -12,7 +12,7 @@ TextField::TextField(const QString& name, Bound<QString> place, int size, int ch
     : QLineEdit(parent), m_place(std::move(place)), m_characters(characters) {
     setObjectName(name);
     setMaxLength(size);
-    if (characters == 0) setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    setSizePolicy(characters == 0 ? QSizePolicy::Expanding : QSizePolicy::Fixed, QSizePolicy::Fixed);
     connect(this, &QLineEdit::textEdited, this, &TextField::typed);
 }
 

@@ -18,6 +18,7 @@
 #include "datastore/reset.h"
 #include "datastore/save.h"
 #include "reports/report.h"
+#include "screenkit/accesskeys.h"
 #include "screenkit/desk.h"
 #include "screenkit/look.h"
 #include "screenkit/screen.h"
@@ -63,6 +64,7 @@ MDIForm1::MDIForm1(assessment::Assessment& record, const datastore::Paths& paths
         {"mnuVideoLectures", [this] { m_work.desk.openOnDesktop(lecturesAddress); }},
         {"mnuAbout", [this] { about(); }},
     };
+    new screenkit::AccessKeys(this);
     buildMenu();
     buildToolbar();
     buildStatusBar();

@@ -7,6 +7,7 @@
 
 #include "base/rounding.h"
 #include "calculators/inflation.h"
+#include "datastore/programfolder.h"
 #include "datastore/startup.h"
 #include "reports/report.h"
 #include "screenkit/desk.h"
@@ -61,8 +62,10 @@ bool Program::MDIForm_Load() {
     const auto notice = [this](const std::string& title, const std::string& text) {
         m_desk.tell(BoxStyle::critical, QString::fromStdString(text), QString::fromStdString(title));
     };
-    const bool started = screenkit::guarded(
-        m_desk, QObject::tr("start"), [&] { m_paths = datastore::startUp(m_programFolder, m_record, notice).paths; });
+    const bool started = screenkit::guarded(m_desk, QObject::tr("start"), [&] {
+        datastore::seedProgramFolder(std::filesystem::read_symlink("/proc/self/exe"), m_programFolder);
+        m_paths = datastore::startUp(m_programFolder, m_record, notice).paths;
+    });
     if (!started) {
         m_window->exitWithoutAsking();
         return false;

@@ -45,7 +45,11 @@ protected:
         fs::remove_all(scratch);
     }
 
-    fs::path start() const { return datastore::programFolder(installed / "marlowbeck"); }
+    fs::path start() const {
+        fs::path folder = datastore::programFolder(installed / "marlowbeck");
+        datastore::seedProgramFolder(installed / "marlowbeck", folder);
+        return folder;
+    }
 
     const std::map<std::string, std::string> shipped = {{"Default.Mdb", std::string("settings\0 1", 11)},
                                                         {"Print.mdb", "print"},
@@ -65,6 +69,11 @@ TEST_F(ProgramFolder, IsTheExecutablesOwnFolderWhereNoMarkerLies) {
     fs::remove(installed / "installed-for-all-users");
     EXPECT_EQ(start(), installed);
     EXPECT_FALSE(fs::exists(scratch / "home"));
+}
+
+TEST_F(ProgramFolder, IsNamedWithoutBeingMade) {
+    EXPECT_EQ(datastore::programFolder(installed / "marlowbeck"), own);
+    EXPECT_FALSE(fs::exists(scratch / "home")) << "a refused second instance must leave no trace";
 }
 
 TEST_F(ProgramFolder, FirstStartSeedsTheUsersFolderForItsOwnerAlone) {

@@ -1,0 +1,81 @@
+#include "screenkit/accesskeys.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QTabBar>
+#include <functional>
+
+#include "screenkit/panel.h"
+#include "screenkit/screen.h"
+
+namespace screenkit {
+
+namespace {
+
+struct Target {
+    QWidget* focus; ///< has or takes the focus; tells which of several comes next
+    std::function<void()> act;
+};
+
+/// The panel or else the screen that holds the focus: only its keys count.
+QWidget* scopeOf(QWidget* focused) {
+    for (QWidget* widget = focused; widget != nullptr; widget = widget->parentWidget())
+        if (qobject_cast<Panel*>(widget) != nullptr || qobject_cast<Screen*>(widget) != nullptr) return widget;
+    return nullptr;
+}
+
+bool means(const QString& caption, const QKeySequence& pressed) {
+    const QKeySequence key = QKeySequence::mnemonic(caption);
+    return !key.isEmpty() && key == pressed;
+}
+
+bool reachable(const QWidget* widget) { return widget->isVisible() && widget->isEnabled(); }
+
+std::vector<Target> targets(QWidget* scope, const QKeySequence& pressed) {
+    std::vector<Target> found;
+    for (auto* widget : scope->findChildren<QWidget*>()) {
+        if (!reachable(widget)) continue;
+        auto* button = qobject_cast<QAbstractButton*>(widget);
+        auto* label = qobject_cast<QLabel*>(widget);
+        auto* bar = qobject_cast<QTabBar*>(widget);
+        if (button != nullptr && means(button->text(), pressed))
+            found.push_back({button, [button] {
+                                 button->setFocus(Qt::ShortcutFocusReason);
+                                 button->click();
+                             }});
+        if (label != nullptr && label->buddy() != nullptr && reachable(label->buddy()) && means(label->text(), pressed))
+            found.push_back({label->buddy(), [label] { label->buddy()->setFocus(Qt::ShortcutFocusReason); }});
+        for (int tab = 0; bar != nullptr && tab < bar->count(); ++tab)
+            if (means(bar->tabText(tab), pressed)) found.push_back({bar, [bar, tab] { bar->setCurrentIndex(tab); }});
+    }
+    return found;
+}
+
+/// Of several with the same letter the one behind the focus, round and round.
+const Target& nextOf(const std::vector<Target>& found, const QWidget* focused) {
+    for (std::size_t i = 0; i + 1 < found.size(); ++i)
+        if (found[i].focus == focused) return found[i + 1];
+    return found.front();
+}
+
+} // namespace
+
+AccessKeys::AccessKeys(QObject* parent) : QObject(parent) { qApp->installEventFilter(this); }
+
+bool AccessKeys::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::ShortcutOverride && event->type() != QEvent::KeyPress) return false;
+    auto* key = static_cast<QKeyEvent*>(event);
+    auto* focused = QApplication::focusWidget();
+    if (key->modifiers() != Qt::AltModifier || watched != focused) return false;
+    QWidget* scope = scopeOf(focused);
+    if (scope == nullptr) return false;
+    const auto found = targets(scope, QKeySequence(key->keyCombination()));
+    if (found.empty()) return false;
+    event->accept();
+    if (event->type() == QEvent::KeyPress) nextOf(found, focused).act();
+    return true;
+}
+
+} // namespace screenkit

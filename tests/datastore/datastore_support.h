@@ -1,0 +1,246 @@
+#pragma once
+
+#include <cmath>
+#include <cstring>
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "assessment/assessment.h"
+#include "assessment/tables.h"
+#include "datastore/create.h"
+#include "datastore/paths.h"
+#include "store/store_support.h"
+
+namespace datastoretest {
+
+namespace fs = std::filesystem;
+using assessment::Assessment;
+using storetest::errorOf;
+
+inline void runSql(const fs::path& file, const std::string& sql) {
+    store::Database database(file);
+    store::Transaction transaction(database);
+    database.execute(sql);
+    transaction.commit();
+}
+
+/// The bytes of a database, made once: building one afresh for each test would take longer than the test.
+struct Template {
+    explicit Template(const std::function<void(const fs::path&)>& make) {
+        const storetest::Folder folder;
+        make(folder / "file");
+        bytes = storetest::bytesOf(folder / "file");
+    }
+    std::string bytes;
+};
+
+/// A program folder with the shipped databases as far as a start needs them.
+class ProgramFolder : public storetest::Folder {
+public:
+    ProgramFolder() {
+        static const Template settings([](const fs::path& file) {
+            std::string fields;
+            std::string factory;
+            int number = 0;
+            for (const auto& line : assessment::mutualFundsTable().fields()) {
+                fields += (fields.empty() ? "" : ",") + store::bracketed(line.name);
+                factory += (factory.empty() ? "" : ",") + std::to_string(++number) + ".5";
+            }
+            store::Database::create(file);
+            std::string sql = "CREATE TABLE Setup(GRINC DOUBLE); INSERT INTO Setup VALUES(0.5);";
+            for (const std::string table : {"MutualFunds", "TallowenDefault"})
+                sql += "CREATE TABLE " + table + "(" + fields + "); INSERT INTO " + table + " VALUES(" + factory + ");";
+            runSql(file, sql);
+        });
+        static const Template print([](const fs::path& file) {
+            store::Database::create(file);
+            runSql(file, "CREATE TABLE HeadFoot(HEADERV0 VARCHAR(80),HEADERV1 VARCHAR(80),HEADERV2 VARCHAR(80),"
+                         "HEADERV3 VARCHAR(80),footv0 VARCHAR(80),footv1 VARCHAR(80),footv2 VARCHAR(80),"
+                         "footv3 VARCHAR(80)); INSERT INTO HeadFoot(HEADERV0) VALUES('old')");
+        });
+        storetest::put(path() / "Default.Mdb", settings.bytes);
+        storetest::put(path() / "Print.mdb", print.bytes);
+    }
+    datastore::Paths paths() const {
+        return {path(),
+                path() / "Data.Mdb",
+                path() / "Default.Mdb",
+                path() / "Print.mdb",
+                path() / "units.mdb",
+                path() / "Diary.mdb"};
+    }
+    void run(const std::string& name, const std::string& sql) const { runSql(path() / name, sql); }
+    /// The client database with all tables and no client, as a start leaves it.
+    void makeClientDb(double version = 18) const {
+        static const Template clients([](const fs::path& file) {
+            datastore::createClientDb(file);
+            runSql(file, "UPDATE DataSetup SET UpDateDB=18");
+        });
+        storetest::put(path() / "Data.Mdb", clients.bytes);
+        if (version != 18) run("Data.Mdb", "UPDATE DataSetup SET UpDateDB=" + std::to_string(version));
+    }
+};
+
+/// One cell of the first row that a query gives, as text; "none" without a row.
+inline std::string cell(const fs::path& path, const std::string& sql) {
+    store::Database database(path);
+    store::Statement select = database.prepare(sql);
+    if (!select.step()) return "none";
+    const store::Value value = select.column(0);
+    if (store::isNull(value)) return "Null";
+    if (const double* number = std::get_if<double>(&value)) {
+        char text[40];
+        std::snprintf(text, sizeof text, "%.17g", *number);
+        return text;
+    }
+    return std::get<std::string>(value);
+}
+
+/// Every table's definition and rows, so that two states of a file can be compared.
+inline std::string dump(const fs::path& path) {
+    store::Database database(path);
+    std::string text;
+    std::vector<std::string> tables;
+    {
+        store::Statement schema = database.prepare("SELECT name, sql, type FROM sqlite_master ORDER BY name");
+        while (schema.step()) {
+            text += schema.text(0) + ": " + schema.text(1) + "\n";
+            if (schema.text(2) == "table") tables.push_back(schema.text(0));
+        }
+    }
+    for (const std::string& table : tables) {
+        store::Statement rows = database.prepare("SELECT rowid, * FROM " + store::bracketed(table));
+        while (rows.step()) {
+            text += table;
+            for (int column = 0; column < rows.columnCount(); ++column) {
+                const store::Value value = rows.column(column);
+                const double* number = std::get_if<double>(&value);
+                text += "|" + (number != nullptr ? std::to_string(*number) : rows.text(column));
+            }
+            text += "\n";
+        }
+    }
+    return text;
+}
+
+/// A text that fills a field of that many characters: accents of one to four bytes, apostrophes, markup.
+inline std::string longText(const std::string& name, int size) {
+    const std::string pieces[] = {"Ê", "'", "ḓ", "\"", "<", "x", "€", "&", "𝄞", "ß"};
+    std::string text;
+    int length = 0;
+    for (const char c : name)
+        if (length < size) text += c, ++length;
+    for (std::size_t i = 0; length < size; ++length, ++i)
+        text += pieces[i % 10];
+    return text;
+}
+
+/// Writes a value of its own into each field that comes back from the file, taking turns at the ends of its width.
+class Filler {
+public:
+    template <class Row>
+    void fill(const assessment::FieldTable<Row>& table, Row& row) {
+        for (const assessment::FieldLine& line : table.fields())
+            if (line.at != nullptr && line.rule != assessment::Rule::writtenOnly)
+                std::visit([&](auto* place) { set(*place, line); }, line.at(&row));
+    }
+
+private:
+    void set(double& place, const assessment::FieldLine& line) {
+        ++m_next;
+        if (line.kind.declared.type == store::Type::Date || line.rule == assessment::Rule::assetDate)
+            place = -36000 + m_next * 7;
+        else if (m_next % 17 == 0)
+            place = 1.7976931348623157e308 / m_next;
+        else if (m_next % 19 == 0)
+            place = 2.2250738585072014e-308 * m_next;
+        else
+            place = (m_next % 2 == 0 ? 1 : -1) * (m_next * 1e7 + 1.0 / (3 * m_next));
+    }
+    void set(float& place, const assessment::FieldLine& line) {
+        ++m_next;
+        const bool whole = line.kind.declared.type == store::Type::Integer;
+        place = whole ? static_cast<float>(m_next % 100) : 1.0F / static_cast<float>(3 * m_next);
+        if (!whole && m_next % 2 == 0) place = 3.4028235e38F / static_cast<float>(m_next);
+    }
+    void set(std::int16_t& place, const assessment::FieldLine&) {
+        ++m_next;
+        place = static_cast<std::int16_t>(m_next % 3 == 0   ? 32767 - m_next
+                                          : m_next % 3 == 1 ? -32768 + m_next
+                                                            : m_next);
+    }
+    void set(std::int32_t& place, const assessment::FieldLine&) { place = 2147483647 - ++m_next; }
+    void set(std::string& place, const assessment::FieldLine& line) {
+        const int size = line.kind.declared.type == store::Type::Memo ? 3000 : line.kind.declared.size;
+        place = longText(size < 9 ? std::to_string(++m_next) : std::to_string(++m_next) + line.name, size);
+    }
+    int m_next = 0;
+};
+
+/// A client with a value in every field of every group, its own in each: ten policies, five assets, all lists.
+inline Assessment fullClient() {
+    Assessment record;
+    Filler filler;
+    filler.fill(assessment::dataTable(), record);
+    filler.fill(assessment::persDetailsTable(), record);
+    std::size_t length = 0;
+    for (const assessment::ItemTable& line : assessment::itemTables()) {
+        if (line.table == nullptr || !line.isKept) continue;
+        assessment::ItemList& list = line.list(record.itemised);
+        list.flag = 1;
+        list.rows.resize(1 + length++ % 4);
+        for (auto& row : list.rows)
+            filler.fill(*line.table, row);
+    }
+    record.policies.resize(10);
+    for (auto& policy : record.policies)
+        filler.fill(assessment::polsInvestsTable(), policy);
+    assessment::CapitalGains& gains = record.capitalGains;
+    gains.assets.resize(5);
+    for (std::size_t i = 0; i < gains.assets.size(); ++i) {
+        filler.fill(assessment::cgtDetailsTable(), gains.assets[i]);
+        gains.assets[i].CGTAssetNum = static_cast<std::int16_t>(i + 1);
+    }
+    filler.fill(assessment::cgtDetailsOtherTable(), gains);
+    gains.ItemiseAdditCapGain = 1;
+    gains.trustOther.resize(3);
+    for (auto& row : gains.trustOther)
+        filler.fill(assessment::cgtTrustOtherTable(), row);
+    filler.fill(assessment::lumpSumTaxTable(), record.lumpSums);
+    return record;
+}
+
+template <class Row>
+void expectSameRow(const assessment::FieldTable<Row>& table, Row& left, Row& right) {
+    for (const assessment::FieldLine& line : table.fields()) {
+        if (line.at == nullptr || line.rule == assessment::Rule::writtenOnly) continue;
+        const store::Value a = assessment::valueAt(line.at(&left));
+        const store::Value b = assessment::valueAt(line.at(&right));
+        EXPECT_EQ(a, b) << table.name() << "." << line.name;
+    }
+}
+
+template <class Row>
+void expectSameRows(const assessment::FieldTable<Row>& table, std::vector<Row>& left, std::vector<Row>& right) {
+    ASSERT_EQ(left.size(), right.size()) << table.name();
+    for (std::size_t i = 0; i < left.size(); ++i)
+        expectSameRow(table, left[i], right[i]);
+}
+
+/// Every field of every group that comes back from the file.
+inline void expectSameClient(Assessment& left, Assessment& right) {
+    expectSameRow(assessment::dataTable(), left, right);
+    expectSameRow(assessment::persDetailsTable(), left, right);
+    for (const assessment::ItemTable& line : assessment::itemTables())
+        if (line.table != nullptr && line.isKept)
+            expectSameRows(*line.table, line.list(left.itemised).rows, line.list(right.itemised).rows);
+    expectSameRows(assessment::polsInvestsTable(), left.policies, right.policies);
+    expectSameRows(assessment::cgtDetailsTable(), left.capitalGains.assets, right.capitalGains.assets);
+    expectSameRow(assessment::cgtDetailsOtherTable(), left.capitalGains, right.capitalGains);
+    expectSameRows(assessment::cgtTrustOtherTable(), left.capitalGains.trustOther, right.capitalGains.trustOther);
+    expectSameRow(assessment::lumpSumTaxTable(), left.lumpSums, right.lumpSums);
+}
+
+} // namespace datastoretest

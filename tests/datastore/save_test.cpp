@@ -1,0 +1,187 @@
+#include "datastore/save.h"
+
+#include "assessment/rows.h"
+#include "datastore/datastore_support.h"
+#include "datastore/load.h"
+
+namespace {
+
+using namespace datastoretest;
+using datastore::Save;
+using datastore::Saved;
+
+class SaveTest : public ::testing::Test {
+protected:
+    SaveTest() { folder.makeClientDb(); }
+    std::string rowCount(const std::string& table, double key) const {
+        return cell(file, "SELECT count(*) FROM [" + table + "] WHERE DCLNO=" + std::to_string(key));
+    }
+    Assessment loaded(double key) const {
+        Assessment record;
+        datastore::load(record, folder.paths(), key);
+        return record;
+    }
+    ProgramFolder folder;
+    fs::path file = folder / "Data.Mdb";
+};
+
+TEST_F(SaveTest, KeysCountUpFromTheHighest) {
+    for (double key = 1; key <= 3; ++key) {
+        Assessment record;
+        ASSERT_EQ(Save(record, file), Saved::written);
+        EXPECT_EQ(record.DCLNO, key);
+    }
+    folder.run("Data.Mdb", "DELETE FROM Data WHERE DCLNO IN (1,3)");
+    Assessment record;
+    Save(record, file);
+    EXPECT_EQ(record.DCLNO, 3); // a key is used again only if it was the highest
+    EXPECT_EQ(cell(file, "SELECT count(*) FROM PersDetails WHERE DCLNO=3"), "2");
+}
+
+TEST_F(SaveTest, WritesOnlyWhatChangedAndClearsAllFlagsButTheAnnuitys) {
+    Assessment record;
+    Save(record, file);
+    EXPECT_EQ(record.ClientOnFile, 1);
+    const std::string before = storetest::bytesOf(file);
+    EXPECT_EQ(Save(record, file), Saved::nothing);
+    EXPECT_EQ(storetest::bytesOf(file), before);
+    record.changed.DDLivAnnChanged = record.changed.LoansChanged = record.changed.SpareChanged = 1;
+    EXPECT_EQ(Save(record, file), Saved::written);
+    EXPECT_EQ(record.ClientChanged, 0);
+    EXPECT_EQ(record.changed.LoansChanged + record.changed.SpareChanged, 0);
+    EXPECT_EQ(record.changed.DDLivAnnChanged, 1);
+    EXPECT_EQ(Save(record, file), Saved::written); // so it is asked for, and saved, again
+    EXPECT_EQ(rowCount("Data", 1), "1");
+}
+
+TEST_F(SaveTest, EmptyDatesAreStoredAsTheFirstOfJanuary1800) {
+    const std::string marker = "-36522";
+    for (const double born : {base::NoDate, base::NoDate - 1, base::blankDate}) {
+        Assessment record;
+        record.client.BirthDate = born;
+        record.dailyBalance.StartDateDB = record.dailyBalance.EndDateDB = static_cast<std::int32_t>(base::NoDate);
+        record.retirement.NaraLastReview = record.education.EducNextReview = base::NoDate;
+        record.details.DEPDOB[7] = record.details.NextApp = base::NoDate;
+        record.capitalGains.assets.resize(1);
+        Save(record, file);
+        const std::string where = " WHERE DCLNO=" + std::to_string(record.DCLNO);
+        for (const char* field : {"BirthDate", "StartDateDB", "EndDateDB", "NaraLastReview", "EducNextReview"})
+            EXPECT_EQ(cell(file, "SELECT " + std::string(field) + " FROM Data" + where), marker) << field;
+        for (const char* field : {"BirthDate", "DEPDOB8", "NextApp"})
+            EXPECT_EQ(cell(file, "SELECT " + std::string(field) + " FROM PersDetails" + where), marker) << field;
+        for (const char* field : {"DateAquired", "DateSale"})
+            EXPECT_EQ(cell(file, "SELECT " + std::string(field) + " FROM CGTDetails" + where), marker) << field;
+        EXPECT_EQ(cell(file, "SELECT InceptionDate FROM PolsInvests" + where), "-693959");
+        EXPECT_EQ(record.client.BirthDate, base::blankDate);
+        const Assessment again = loaded(record.DCLNO);
+        EXPECT_EQ(again.capitalGains.assets.at(0).DateSale, base::NoDate); // the gain's arithmetic tests for it
+        EXPECT_EQ(again.policies[0].InceptionDate, base::NoDate);
+        EXPECT_EQ(again.dailyBalance.StartDateDB, base::blankDate);
+    }
+}
+
+TEST_F(SaveTest, AListIsKeptOnlyWhileItsFlagIsOne) {
+    Assessment record = fullClient();
+    record.itemised.DTHInvestments = {1, {{"unit trusts"}}};
+    Save(record, file);
+    EXPECT_EQ(rowCount("DTHInvestments", 1), "0"); // this list and its flag are never written
+    EXPECT_EQ(cell(file, "SELECT DTHInvestmentsItemise FROM Data"), "0");
+    folder.run("Data.Mdb", "INSERT INTO DTHInvestments(DCLNO) VALUES(1); INSERT INTO CGTTrustOther(DCLNO) VALUES(9)");
+    EXPECT_NE(rowCount("RNAStocks", 1), "0");
+    record.itemised.RNAStocks.flag = 0;
+    record.itemised.DISACars.flag = 2; // neither on nor off: stored as it is, without rows
+    record.itemised.RNATravel.rows.clear();
+    record.capitalGains.ItemiseAdditCapGain = 0;
+    record.capitalGains.assets.resize(2);
+    record.policies.resize(1);
+    record.ClientChanged = 1;
+    Save(record, file);
+    for (const char* table : {"RNAStocks", "DISACars", "RNATravel", "CGTTrustOther", "DTHInvestments"})
+        EXPECT_EQ(rowCount(table, 1), "0") << table;
+    EXPECT_EQ(rowCount("CGTTrustOther", 9), "1");
+    EXPECT_EQ(rowCount("CGTDetails", 1), "2");
+    EXPECT_EQ(rowCount("PolsInvests", 1), "1");
+    Assessment again = loaded(1);
+    EXPECT_EQ(again.itemised.RNAStocks.rows.size(), 0U);
+    EXPECT_EQ(again.itemised.DISACars.flag, 2);
+    EXPECT_EQ(again.itemised.RNATravel.flag, 1);
+    EXPECT_TRUE(again.itemised.RNATravel.rows.empty());
+    EXPECT_EQ(again.itemised.DTHInvestments.flag, 0);
+}
+
+TEST_F(SaveTest, RowsLeftBehindByADeletedClientDoNotHideTheNewOnes) {
+    for (const char* table : {"CGTDetailsOther", "LumpSumTax", "CGTDetails"})
+        folder.run("Data.Mdb", "INSERT INTO " + std::string(table) + "(DCLNO) VALUES(1)");
+    Assessment record = fullClient();
+    Save(record, file);
+    EXPECT_EQ(rowCount("LumpSumTax", 1), "1");
+    Assessment again = loaded(1);
+    expectSameClient(record, again);
+}
+
+TEST_F(SaveTest, AClientWithoutRowsIsAddedToAnEmptyTableAndElseAnError) {
+    Assessment record;
+    Save(record, file);
+    folder.run("Data.Mdb", "DELETE FROM Data; DELETE FROM PersDetails; DELETE FROM LumpSumTax");
+    record.ClientChanged = 1;
+    EXPECT_EQ(Save(record, file), Saved::written);
+    EXPECT_EQ(rowCount("PersDetails", 1), "1");
+    Assessment other;
+    Save(other, file);
+    for (const char* table : {"Data", "PersDetails"}) {
+        folder.run("Data.Mdb", "UPDATE " + std::string(table) + " SET DCLNO=99 WHERE DCLNO=1");
+        const std::string before = dump(file);
+        record.ClientChanged = record.SaveThenNew = 1;
+        EXPECT_EQ(errorOf([&] { Save(record, file); }), 3021);
+        EXPECT_EQ(dump(file), before);
+        EXPECT_EQ(record.ClientChanged, 1);
+        EXPECT_EQ(record.SaveThenNew, 0);
+        folder.run("Data.Mdb", "UPDATE " + std::string(table) + " SET DCLNO=1 WHERE DCLNO=99");
+    }
+}
+
+TEST_F(SaveTest, TellsWhenNewIsToFollow) {
+    Assessment record;
+    record.SaveThenNew = 1;
+    EXPECT_EQ(Save(record, file), Saved::thenNew);
+    EXPECT_EQ(record.SaveThenNew, 0);
+    record.ClientChanged = 1;
+    EXPECT_EQ(Save(record, file), Saved::written); // a plain save must not blank the client
+}
+
+TEST_F(SaveTest, RefusesWhatAFieldCannotHold) {
+    const struct {
+        std::function<void(Assessment&)> spoil;
+        int error;
+    } cases[] = {
+        {[](Assessment& a) { a.client.Name = longText("n", 81); }, 3163},
+        {[](Assessment& a) { a.policies.at(9).PolIncAddNote = longText("n", 121); }, 3163},
+        {[](Assessment& a) { a.policies.at(9).PremInvAmtMonthlyAnnEsc = 32768; }, 3421},
+        {[](Assessment& a) { a.lumpSums.FstLumpTaken = std::nan(""); }, 3421},
+        {[](Assessment& a) { a.loans.Num4 = std::numeric_limits<double>::infinity(); }, 3421},
+    };
+    Assessment good = fullClient();
+    Save(good, file);
+    const std::string before = dump(file);
+    for (const auto& [spoil, error] : cases) {
+        Assessment bad = good;
+        spoil(bad);
+        bad.ClientChanged = 1;
+        EXPECT_EQ(errorOf([&] { Save(bad, file); }), error);
+        EXPECT_EQ(dump(file), before);
+        EXPECT_EQ(bad.ClientChanged, 1);
+    }
+    good.policies[0].PremInvAmtMonthlyAnnEsc = 7.5F; // kept as a whole percentage, ties to even
+    good.ClientChanged = 1;
+    Save(good, file);
+    EXPECT_EQ(loaded(1).policies[0].PremInvAmtMonthlyAnnEsc, 8);
+}
+
+TEST_F(SaveTest, AMissingFieldIsAnErrorAndNotATextOfItsName) {
+    folder.run("Data.Mdb", "ALTER TABLE LumpSumTax DROP COLUMN FstLumpTaken");
+    Assessment record;
+    EXPECT_EQ(errorOf([&] { Save(record, file); }), 3265);
+    EXPECT_EQ(record.ClientOnFile, 0);
+}
+
+} // namespace

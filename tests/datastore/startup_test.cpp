@@ -1,0 +1,159 @@
+#include "datastore/startup.h"
+
+#include "calculators/inflation.h"
+#include "datastore/datastore_support.h"
+#include "datastore/reset.h"
+
+namespace {
+
+using namespace datastoretest;
+
+unsigned modeOf(const fs::path& path) { return static_cast<unsigned>(fs::status(path).permissions()); }
+
+TEST(StartUp, AFirstRunMakesTheClientDatabaseAndReadsTheSettings) {
+    const ProgramFolder folder;
+    Assessment record;
+    record.client.Name = "of an earlier life";
+    const datastore::StartUpResult result = datastore::startUp(folder.path(), record);
+    EXPECT_EQ(result.UpDateDBValue, 18);
+    EXPECT_EQ(result.paths.DataDbPath, folder / "Data.Mdb");
+    EXPECT_EQ(storetest::bytesOf(folder / "DataPath.txt"), "\"" + (folder / "Data.Mdb").string() + "\"\r\n");
+    EXPECT_EQ(cell(folder / "Data.Mdb", "SELECT UpDateDB FROM DataSetup"), "18");
+    EXPECT_EQ(cell(folder / "Data.Mdb", "SELECT count(*)||footv0||footv1||footv2||HEADERV0 FROM HeadFoot"),
+              "1This report was prepared in accordance with information supplied by the undersigned client.");
+    EXPECT_EQ(modeOf(folder / "Data.Mdb"), 0600U);
+    EXPECT_EQ(modeOf(folder / "DataPath.txt"), 0600U);
+    EXPECT_EQ(record.client.Name, "");
+    EXPECT_EQ(record.GRINC, 0.5);
+    EXPECT_EQ(record.CPI, 0);
+    EXPECT_EQ(record.funds.ESPremCom, 1.5);
+    EXPECT_EQ(record.funds.LumpSumPort, 18.5);
+    EXPECT_EQ(record.funds.UTAComPortVal, 24.5);
+    folder.run("Data.Mdb", "INSERT INTO CPIDefault(CPI) VALUES(4.25),(9)");
+    datastore::startUp(folder.path(), record);
+    EXPECT_EQ(record.CPI, 4.25);
+    datastore::ResetAssessment(record, result.paths);
+    EXPECT_EQ(record.CPI, 4.25);
+    EXPECT_EQ(record.funds.ESPremCom, 0); // read again at the next start only
+}
+
+TEST(StartUp, FindsTheClientDatabaseByTheLineOfDataPath) {
+    const struct {
+        const char* text;
+        const char* path; ///< null: the default one
+    } cases[] = {
+        {"\"/a/b c.mdb\"\r\n", "/a/b c.mdb"},
+        {"/a/b,c.mdb", "/a/b,c.mdb"},
+        {"\xEF\xBB\xBF  \"/Êksteen's/Data.Mdb\"  \nsecond line\n", "/Êksteen's/Data.Mdb"},
+        {"\t/a/b.mdb \r\n", "/a/b.mdb"},
+        {"\"/no/end.mdb", "/no/end.mdb"},
+        {"\"sub\\Data.Mdb\"\r\n", "sub\\Data.Mdb"},
+        {"", nullptr},
+        {"\r\n\"/a/b.mdb\"", nullptr},
+        {"\"\"\r\n", nullptr},
+        {"  \"  \" \n", nullptr},
+    };
+    for (const auto& [text, path] : cases) {
+        const auto found = datastore::parseDataPath(text);
+        EXPECT_EQ(found.has_value(), path != nullptr) << text;
+        EXPECT_EQ(found.value_or(""), path == nullptr ? "" : path);
+    }
+}
+
+TEST(StartUp, UsesTheFilesUnderTheirOwnSpelling) {
+    const ProgramFolder folder;
+    folder.makeClientDb();
+    fs::create_directory(folder / "Sub");
+    fs::rename(folder / "Data.Mdb", folder / "Sub/DATA.MDB");
+    fs::rename(folder / "Default.Mdb", folder / "DEFAULT.mdb");
+    storetest::put(folder / "datapath.TXT", "Sub\\data.mdb\n"); // relative to the program's folder
+    Assessment record;
+    const auto result = datastore::startUp(folder.path(), record);
+    EXPECT_EQ(result.paths.DataDbPath, folder / "Sub/DATA.MDB");
+    EXPECT_EQ(storetest::bytesOf(folder / "datapath.TXT"), "Sub\\data.mdb\n"); // never rewritten by a start
+    EXPECT_FALSE(fs::exists(folder / "DataPath.txt"));
+    fs::rename(folder / "Sub/DATA.MDB", folder / "DATA.MDB");
+    storetest::put(folder / "datapath.TXT", "\"\"\r\n");
+    EXPECT_EQ(datastore::startUp(folder.path(), record).paths.DataDbPath, folder / "DATA.MDB");
+    EXPECT_EQ(storetest::bytesOf(folder / "datapath.TXT"), "\"" + (folder / "DATA.MDB").string() + "\"\r\n");
+    EXPECT_FALSE(fs::exists(folder / "Data.Mdb"));
+}
+
+TEST(StartUp, CreatesWhatIsMissingButNeverInAMissingFolder) {
+    const ProgramFolder folder;
+    Assessment record;
+    fs::create_directory(folder / "Elsewhere");
+    storetest::put(folder / "DataPath.txt", "\"" + (folder / "Elsewhere/Mine.Mdb").string() + "\"\r\n");
+    datastore::startUp(folder.path(), record);
+    EXPECT_EQ(cell(folder / "Elsewhere/Mine.Mdb", "SELECT UpDateDB FROM DataSetup"), "18");
+    for (const std::string& path :
+         {"\"" + (folder / "gone/Data.Mdb").string() + "\"", std::string("C:\\Data\\Data.Mdb")}) {
+        storetest::put(folder / "DataPath.txt", path);
+        EXPECT_EQ(errorOf([&] { datastore::startUp(folder.path(), record); }), 3044) << path;
+        EXPECT_EQ(storetest::bytesOf(folder / "DataPath.txt"), path);
+    }
+    EXPECT_FALSE(fs::exists(folder / "gone"));
+    EXPECT_FALSE(fs::exists(folder / "C:"));
+    EXPECT_FALSE(fs::exists(folder / "Data.Mdb"));
+}
+
+TEST(StartUp, AFolderThatMayNotBeWrittenIsToldAndEndsTheStart) {
+    const ProgramFolder folder;
+    fs::permissions(folder.path(), fs::perms::owner_read | fs::perms::owner_exec);
+    const storetest::OrdinaryUser user(folder);
+    Assessment record;
+    std::string told;
+    EXPECT_EQ(errorOf([&] {
+                  datastore::startUp(folder.path(), record,
+                                     [&](const std::string&, const std::string& text) { told += text; });
+              }),
+              3024);
+    EXPECT_EQ(told, "Cannot Update " + (folder / "Data.Mdb").string() + " at this stage.Please try again later");
+    EXPECT_FALSE(fs::exists(folder / "DataPath.txt"));
+}
+
+TEST(StartUp, NeedsTheSettingsAndMustBeAbleToWriteThem) {
+    const struct {
+        const char* spoil;
+        int error;
+    } cases[] = {{"DELETE FROM Setup", 3021},
+                 {"DROP TABLE Setup", 3078},
+                 {"ALTER TABLE Setup RENAME GRINC TO Other", 3265},
+                 {"DELETE FROM MutualFunds", 3021},
+                 {"ALTER TABLE MutualFunds RENAME UTDiv TO Other", 3265},
+                 {"DELETE FROM TallowenDefault", 3021},
+                 {"DROP TABLE TallowenDefault", 3078}};
+    for (const auto& [spoil, error] : cases) {
+        const ProgramFolder folder;
+        folder.makeClientDb();
+        folder.run("Default.Mdb", spoil);
+        Assessment record;
+        EXPECT_EQ(errorOf([&] { datastore::startUp(folder.path(), record); }), error) << spoil;
+    }
+    const ProgramFolder folder;
+    folder.makeClientDb();
+    fs::permissions(folder / "Default.Mdb", fs::perms::owner_read);
+    Assessment record;
+    {
+        const storetest::OrdinaryUser user(folder);
+        EXPECT_EQ(errorOf([&] { datastore::startUp(folder.path(), record); }), 3027);
+    }
+    fs::remove(folder / "Default.Mdb");
+    record.client.Name = "kept";
+    EXPECT_EQ(errorOf([&] { datastore::ResetAssessment(record, folder.paths()); }), 3024);
+    EXPECT_EQ(record.client.Name, "kept"); // a New that fails loses nothing
+}
+
+TEST(Inflation, CarriesACostAndItsBuyingPowerYearByYear) {
+    const auto check = calculators::LTLINFL({10000, 10, 10}); // the figures by which a start checks the arithmetic
+    EXPECT_EQ(std::nearbyint(check.futureValue), 25937);
+    EXPECT_EQ(std::nearbyint(check.buyingPower), 3855);
+    EXPECT_NEAR(check.futureValue * check.buyingPower, 1e8, 1e-4); // what a cost grows by, money shrinks by
+    for (const int years : {0, 1, 40})
+        EXPECT_EQ(calculators::LTLINFL({100, static_cast<std::int16_t>(years), 0}).futureValue, 100);
+    const auto falling = calculators::LTLINFL({100, 1, -5});
+    EXPECT_DOUBLE_EQ(falling.futureValue, 95);
+    EXPECT_DOUBLE_EQ(falling.buyingPower, 100 + 5 * 100 / 95.0);
+}
+
+} // namespace
