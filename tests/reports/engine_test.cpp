@@ -9,7 +9,39 @@ protected:
     QString printedText() { return runTool("pdftotext", {"-layout", printed, "-"}); }
 };
 
+/// Tells how many copies it was printing when a page ended.
+class CountingPrinter : public QPrinter {
+public:
+    CountingPrinter(const QString& file, int& copies) : QPrinter(QPrinter::HighResolution), m_copies(copies) {
+        setOutputFormat(QPrinter::PdfFormat);
+        setOutputFileName(file);
+    }
+    bool newPage() override {
+        m_copies = copyCount();
+        return QPrinter::newPage();
+    }
+
+private:
+    int& m_copies;
+};
+
 } // namespace
+
+TEST_F(Engine, CopiesHoldForOnePrintout) {
+    feedLoan();
+    feedAmortisation(100);
+    int copies = 0;
+    reports::Engine counted(desk, folder.path(), [&] { return std::make_unique<CountingPrinter>(printed, copies); });
+    counted.CopiesToPrinter = 3;
+    EXPECT_TRUE(counted.run("LonrepaA.rpt", "Title", Destination::printer));
+    EXPECT_EQ(copies, 3);
+    EXPECT_TRUE(counted.run("LonrepaA.rpt", "Title", Destination::printer));
+    EXPECT_EQ(copies, 1);
+    counted.CopiesToPrinter = 5;
+    EXPECT_TRUE(counted.run("LonrepaA.rpt", "Title", Destination::preview)); // a view uses them up too
+    EXPECT_TRUE(counted.run("LonrepaA.rpt", "Title", Destination::printer));
+    EXPECT_EQ(copies, 1);
+}
 
 TEST_F(Engine, EachFailureShowsOneBoxThatNamesTheFileAndTheProgramGoesOn) {
     feedLoan();
@@ -70,10 +102,7 @@ TEST_F(Engine, APreviewKeepsTheRowsOfItsOwnRun) {
 TEST_F(Engine, PrintsOnTheSessionsPrinter) {
     feedLoan();
     feedAmortisation(100);
-    engine.CopiesToPrinter = 3;
     EXPECT_TRUE(engine.run("LonrepaA.rpt", "Title", Destination::printer));
-    EXPECT_EQ(engine.CopiesToPrinter, 1);
-    EXPECT_EQ(engine.printer().copyCount(), 1);
     EXPECT_TRUE(engine.previews().empty());
     const QStringList onPaper = printedText().split('\f', Qt::SkipEmptyParts);
     const QStringList inPdf = pages("LonrepaA.rpt");
