@@ -115,7 +115,7 @@ Item frmPersDet::addressPage() {
     m_residential[1] = text("txtResAdd2", m_details.ResAdd2, 50);
     m_residential[2] = text("txtResAdd3", m_details.ResAdd3, 50);
     auto* residential =
-        form({{"Line &4", m_residential[0]}, {"Line &5", m_residential[1]}, {"Line &6", m_residential[2]}});
+        form({{"Line 1", m_residential[0]}, {"Line 2", m_residential[1]}, {"Line 3", m_residential[2]}});
     return column({row({group("fraPostal", "Postal address", column({postal, row({copy, spring()})})),
                         group("fraResidential", "Residential address", residential)}),
                    group("fraBank", "Bank and estate",
@@ -127,16 +127,15 @@ Item frmPersDet::addressPage() {
 }
 
 Item frmPersDet::dependantsPage() {
-    std::vector<FormRow> names;
-    std::vector<FormRow> births;
+    std::vector<FormRow> rows;
     for (std::size_t i = 0; i < m_details.DEP.size(); ++i) {
         const auto number = static_cast<int>(i);
-        names.emplace_back(QString("Name &%1").arg(number + 1),
-                           text(QString("txtDepName(%1)").arg(number), m_details.DEP[i], 50));
-        births.emplace_back(QString("Date of birth %1").arg(number + 1),
-                            date(QString("dtDepDOB%1").arg(number + 1), m_details.DEPDOB[i]));
+        auto* name = text(QString("txtDepName(%1)").arg(number), m_details.DEP[i], 50);
+        auto* birth = date(QString("dtDepDOB%1").arg(number + 1), m_details.DEPDOB[i]);
+        rows.emplace_back(QString("Name &%1").arg(number + 1), row({name, labelled("Date of birth", birth)}));
+        birth->setAccessibleName(QString("Date of birth %1").arg(number + 1));
     }
-    return column({group("fraDependants", "Dependants", row({Item(form(names), 2), Item(form(births), 1)})), spring()});
+    return column({group("fraDependants", "Dependants", form(rows)), spring()});
 }
 
 Item frmPersDet::notesPage() {

@@ -18,10 +18,24 @@ void add(QBoxLayout* layout, const Item& item) {
         layout->addStretch(item.stretch);
 }
 
+QWidget* firstWidget(const Item& item) {
+    if (item.layout == nullptr) return item.widget;
+    const QLayoutItem* first = item.layout->itemAt(0);
+    return first != nullptr ? first->widget() : nullptr;
+}
+
+QLabel* buddyLabel(const QString& text, QWidget* field) {
+    auto* label = new QLabel(text);
+    if (field == nullptr) return label;
+    label->setBuddy(field);
+    if (field->accessibleName().isEmpty()) field->setAccessibleName(spokenLabel(text));
+    return label;
+}
+
 QLayout* withUnit(const FormRow& row) {
     auto* cell = new QHBoxLayout;
-    const bool grows =
-        row.field.widget == nullptr || (row.field.widget->sizePolicy().horizontalPolicy() & QSizePolicy::ExpandFlag) != 0;
+    const bool grows = row.field.widget == nullptr ||
+                       (row.field.widget->sizePolicy().horizontalPolicy() & QSizePolicy::ExpandFlag) != 0;
     add(cell, Item(row.field));
     if (!row.unit.isEmpty()) {
         auto* unit = new QLabel(row.unit);
@@ -50,17 +64,19 @@ QLayout* column(std::initializer_list<Item> items) {
     return layout;
 }
 
+QLayout* labelled(const QString& label, QWidget* field) {
+    auto* layout = new QHBoxLayout;
+    layout->addWidget(buddyLabel(label, field));
+    layout->addWidget(field);
+    return layout;
+}
+
 QLayout* form(const std::vector<FormRow>& rows) {
     auto* layout = new QGridLayout;
     layout->setColumnStretch(1, 1);
     int line = 0;
     for (const FormRow& row : rows) {
-        auto* label = new QLabel(row.label);
-        if (row.field.widget != nullptr) {
-            label->setBuddy(row.field.widget);
-            if (row.field.widget->accessibleName().isEmpty())
-                row.field.widget->setAccessibleName(spokenLabel(row.label));
-        }
+        auto* label = buddyLabel(row.label, firstWidget(row.field));
         const bool tall = row.field.widget != nullptr &&
                           (row.field.widget->sizePolicy().verticalPolicy() & QSizePolicy::ExpandFlag) != 0;
         layout->addWidget(label, line, 0, tall ? Qt::AlignTop : Qt::AlignVCenter);

@@ -4,6 +4,7 @@
 #include <QFontDatabase>
 #include <QIcon>
 #include <QLineEdit>
+#include <QProxyStyle>
 #include <QStyleFactory>
 #include <QStyleOptionFrame>
 
@@ -12,9 +13,24 @@ static void nameResources() { Q_INIT_RESOURCE(marlowbeck); }
 
 namespace screenkit::look {
 
+namespace {
+
+/// Fusion without pictures on the buttons of boxes: the toolkit's own are of another style than ours.
+class Style : public QProxyStyle {
+public:
+    Style() : QProxyStyle(QStyleFactory::create("Fusion")) {}
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* answer) const override {
+        if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+        return QProxyStyle::styleHint(hint, option, widget, answer);
+    }
+};
+
+} // namespace
+
 void apply(QApplication& application) {
     nameResources();
-    QApplication::setStyle(QStyleFactory::create("Fusion"));
+    QApplication::setStyle(new Style);
     QFont font("Open Sans", application.font().pointSize() > 0 ? application.font().pointSize() : 10);
     font.setStyleHint(QFont::SansSerif);
     QApplication::setFont(font);

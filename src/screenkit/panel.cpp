@@ -70,6 +70,15 @@ void Panel::place() {
     setGeometry((room.width() - size.width()) / 2, (room.height() - size.height()) / 2, size.width(), size.height());
 }
 
+bool Panel::event(QEvent* event) {
+    const bool handled = QFrame::event(event);
+    if (event->type() == QEvent::LayoutRequest && isVisible()) { // a choice has shown or hidden another
+        makeRoom();
+        place();
+    }
+    return handled;
+}
+
 void Panel::keyPressEvent(QKeyEvent* event) {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     auto* focused = qobject_cast<QPushButton*>(QApplication::focusWidget());
