@@ -9,7 +9,39 @@ protected:
     QString printedText() { return runTool("pdftotext", {"-layout", printed, "-"}); }
 };
 
+/// Tells how many copies it was printing when a page ended.
+class CountingPrinter : public QPrinter {
+public:
+    CountingPrinter(const QString& file, int& copies) : QPrinter(QPrinter::HighResolution), m_copies(copies) {
+        setOutputFormat(QPrinter::PdfFormat);
+        setOutputFileName(file);
+    }
+    bool newPage() override {
+        m_copies = copyCount();
+        return QPrinter::newPage();
+    }
+
+private:
+    int& m_copies;
+};
+
 } // namespace
+
+TEST_F(Engine, CopiesHoldForOnePrintout) {
+    feedLoan();
+    feedAmortisation(100);
+    int copies = 0;
+    reports::Engine counted(desk, folder.path(), [&] { return std::make_unique<CountingPrinter>(printed, copies); });
+    counted.CopiesToPrinter = 3;
+    EXPECT_TRUE(counted.run("LonrepaA.rpt", "Title", Destination::printer));
+    EXPECT_EQ(copies, 3);
+    EXPECT_TRUE(counted.run("LonrepaA.rpt", "Title", Destination::printer));
+    EXPECT_EQ(copies, 1);
+    counted.CopiesToPrinter = 5;
+    EXPECT_TRUE(counted.run("LonrepaA.rpt", "Title", Destination::preview)); // a view uses them up too
+    EXPECT_TRUE(counted.run("LonrepaA.rpt", "Title", Destination::printer));
+    EXPECT_EQ(copies, 1);
+}
 
 TEST_F(Engine, EachFailureShowsOneBoxThatNamesTheFileAndTheProgramGoesOn) {
     feedLoan();
@@ -26,7 +58,7 @@ TEST_F(Engine, EachFailureShowsOneBoxThatNamesTheFileAndTheProgramGoesOn) {
     };
     for (const auto& failure : failures)
         for (const Destination destination : {Destination::preview, Destination::printer}) {
-            desk.boxes.clear();
+            desk.expectBoxes(1);
             if (failure.withoutPrintMdb) fs::rename(print, folder / "away");
             engine.CopiesToPrinter = 7;
             EXPECT_FALSE(engine.run(failure.definition, "Title", destination)) << failure.definition;
@@ -70,10 +102,7 @@ TEST_F(Engine, APreviewKeepsTheRowsOfItsOwnRun) {
 TEST_F(Engine, PrintsOnTheSessionsPrinter) {
     feedLoan();
     feedAmortisation(100);
-    engine.CopiesToPrinter = 3;
     EXPECT_TRUE(engine.run("LonrepaA.rpt", "Title", Destination::printer));
-    EXPECT_EQ(engine.CopiesToPrinter, 1);
-    EXPECT_EQ(engine.printer().copyCount(), 1);
     EXPECT_TRUE(engine.previews().empty());
     const QStringList onPaper = printedText().split('\f', Qt::SkipEmptyParts);
     const QStringList inPdf = pages("LonrepaA.rpt");
@@ -92,12 +121,12 @@ TEST_F(Engine, PrintsOnTheSessionsPrinter) {
     EXPECT_TRUE(engine.run("Lonrepa.rpt", "Title", Destination::printer));
     EXPECT_TRUE(QFile::exists(other));
     EXPECT_FALSE(QFile::exists(printed));
-    EXPECT_TRUE(desk.boxes.empty());
 }
 
 TEST_F(Engine, WithoutAPrinterAWarningSaysSoAndViewingWorks) {
     feedLoan();
-    desk.printerInstalled = false;
+    desk.printTo.clear();
+    desk.expectBoxes(2);
     EXPECT_FALSE(engine.run("Lonrepa.rpt", "Title", Destination::printer));
     engine.setUpPrinter();
     ASSERT_EQ(desk.boxes.size(), 2u);
@@ -112,6 +141,7 @@ TEST_F(Engine, WithoutAPrinterAWarningSaysSoAndViewingWorks) {
 TEST_F(Engine, APrinterThatCannotStartIsTold) {
     feedLoan();
     printed = QString::fromStdString((folder / "no such folder/x.pdf").string());
+    desk.expectBoxes(1);
     EXPECT_FALSE(engine.run("Lonrepa.rpt", "Title", Destination::printer));
     ASSERT_EQ(desk.boxes.size(), 1u);
     EXPECT_EQ(desk.boxes[0].style, screenkit::BoxStyle::critical);

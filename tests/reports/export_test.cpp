@@ -94,6 +94,7 @@ TEST_F(Export, AFailedWriteShowsABoxAndLeavesNothing) {
     storetest::put(folder / "out/kept.pdf", "old");
     const QString target = QString::fromStdString((folder / "out/kept.pdf").string());
     fs::permissions(folder / "out", fs::perms::owner_read | fs::perms::owner_exec);
+    desk.expectBoxes(2);
     {
         const storetest::OrdinaryUser user(folder);
         EXPECT_FALSE(window->exportTo(target));
@@ -115,6 +116,7 @@ TEST_F(Export, AFullDiskLeavesTheOldFileWhole) {
     ASSERT_TRUE(engine.run("Own.rpt", "x", Destination::preview));
     fs::create_directory(folder / "out");
     storetest::put(folder / "out/kept.html", "old");
+    desk.expectBoxes(1);
     rlimit before{};
     getrlimit(RLIMIT_FSIZE, &before);
     const rlimit small{100, before.rlim_max};

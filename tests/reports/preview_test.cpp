@@ -125,25 +125,24 @@ TEST_F(Preview, TellsAReaderWhatIsInViewAndWhatEachButtonDoes) {
 TEST_F(Preview, ExportsUnderTheNameThatTheUserPicks) {
     const auto path = [&](const char* name) { return QString::fromStdString((folder / name).string()); };
     auto* button = window->findChild<QToolButton*>("exportButton");
-    desk.fileNames = {path("own.PDF")};
+    desk.expectFile(path("own.PDF"));
     QTest::mouseClick(button, Qt::LeftButton, {}, {8, button->height() / 2});
-    EXPECT_EQ(desk.suggested, "LonrepaA.pdf");
-    EXPECT_EQ(desk.filters,
+    EXPECT_EQ(desk.suggestedName, "LonrepaA.pdf");
+    EXPECT_EQ(desk.offeredFilters,
               QStringList({"PDF (*.pdf)", "HTML (*.html)", "ODT (*.odt)", "CSV (*.csv)", "XLSX (*.xlsx)"}));
     EXPECT_EQ(storetest::bytesOf(folder / "own.PDF").substr(0, 5), "%PDF-");
 
-    desk.fileNames = {path("table.csv")};
+    desk.expectFile(path("table.csv"));
     QTest::keyClick(view, Qt::Key_E, Qt::ControlModifier);
     EXPECT_EQ(storetest::bytesOf(folder / "table.csv").substr(0, 8), "Monthly ");
 
-    desk.fileNames = {path("Smith 1.2")}; // no ending of ours: the first kind's is added
+    desk.expectFile(path("Smith 1.2")); // no ending of ours: the first kind's is added
     EXPECT_TRUE(window->exportReport(reports::Format::xlsx));
-    EXPECT_EQ(desk.filters.first(), "XLSX (*.xlsx)");
+    EXPECT_EQ(desk.offeredFilters.first(), "XLSX (*.xlsx)");
     EXPECT_EQ(storetest::bytesOf(folder / "Smith 1.2.xlsx").substr(0, 2), "PK");
 
-    desk.fileNames = {std::nullopt};
+    desk.expectFile(std::nullopt);
     EXPECT_FALSE(window->exportReport());
-    EXPECT_TRUE(desk.boxes.empty());
 }
 
 TEST_F(Preview, PrintsThePagesChosenInTheDialog) {

@@ -5,13 +5,12 @@
 #include <QPrinter>
 #include <QProcess>
 #include <QtTest>
-#include <deque>
 
 #include "datastore/printfeed.h"
 #include "reports/export.h"
 #include "reports/previewwindow.h"
 #include "reports/report.h"
-#include "screenkit/desk.h"
+#include "screenkit/testdesk.h"
 #include "store/store_support.h"
 
 namespace reporttest {
@@ -21,41 +20,18 @@ using datastore::PrintFeed;
 using datastore::Row;
 using reports::Destination;
 
-/// Keeps the boxes it was asked to show; file names are answered from a queue.
-class RecordingDesk : public screenkit::Desk {
+/// A desk on which a test can stand in for the print dialog.
+class ReportDesk : public screenkit::TestDesk {
 public:
-    struct Box {
-        screenkit::BoxStyle style;
-        QString text, title;
-    };
-    std::vector<Box> boxes;
-    std::deque<std::optional<QString>> fileNames;
-    QString suggested;
-    QStringList filters;
-    bool printerInstalled = true;
     std::function<bool(QPrinter&)> printDialog;
-
-    screenkit::Answer box(screenkit::BoxStyle style, const QString& text, const QString& title, screenkit::Buttons,
-                          std::optional<screenkit::Answer>) override {
-        boxes.push_back({style, text, title});
-        return screenkit::Answer::ok;
-    }
-    std::optional<QString> fileToSave(const QString&, const QString& name, const QStringList& offered) override {
-        suggested = name;
-        filters = offered;
-        if (fileNames.empty()) return {};
-        const auto answer = fileNames.front();
-        fileNames.pop_front();
-        return answer;
-    }
-    std::optional<QString> fileToOpen(const QString&, const QString&, const QStringList&) override { return {}; }
-    std::optional<QString> input(const QString&, const QString&, const QString&) override { return {}; }
     bool choosePrinter(QPrinter& printer) override { return printDialog && printDialog(printer); }
-    bool hasPrinter() override { return printerInstalled; }
-    void bell() override {}
-    QDate today() override { return {2026, 11, 22}; }
-    void openOnDesktop(const QString&) override {}
-    bool startProgram(const QStringList&) override { return false; }
+
+    /// The next boxes are answered OK; they are kept from here on.
+    void expectBoxes(int count) {
+        boxes.clear();
+        for (int box = 0; box < count; ++box)
+            expect(screenkit::Answer::ok);
+    }
 };
 
 inline QString runTool(const QString& program, const QStringList& arguments, const QByteArray& input = {}) {
@@ -94,6 +70,7 @@ protected:
         for (const auto& entry : fs::directory_iterator(fs::path(MARLOWBECK_SOURCE_DIR) / "data/reports"))
             fs::copy_file(entry.path(), folder / entry.path().filename().string());
         fs::copy_file(fs::path(MARLOWBECK_PROGRAM_DIR).parent_path() / "databases/Print.mdb", print);
+        desk.printTo = printed;
     }
 
     /// Writes a definition of one's own; lines are counted from the first letter given.
@@ -135,7 +112,7 @@ protected:
 
     storetest::Folder folder;
     fs::path print = folder / "Print.mdb";
-    RecordingDesk desk;
+    ReportDesk desk;
     QString printed = QString::fromStdString((folder / "printed.pdf").string());
     reports::Engine engine{desk, folder.path(), [this] {
                                auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
