@@ -7,6 +7,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
+#include <QSessionManager>
 #include <QStatusBar>
 #include <QStyle>
 #include <QToolBar>
@@ -69,6 +70,7 @@ MDIForm1::MDIForm1(assessment::Assessment& record, const datastore::Paths& paths
     buildToolbar();
     buildStatusBar();
     connect(m_area, &QMdiArea::subWindowActivated, this, &MDIForm1::activated);
+    connect(qApp, &QGuiApplication::commitDataRequest, this, &MDIForm1::sessionEnds, Qt::DirectConnection);
 }
 
 void MDIForm1::buildMenu() {
@@ -320,6 +322,14 @@ void MDIForm1::closeEvent(QCloseEvent* event) {
     m_exitWithoutAsking = true;
     m_work.reports.closePreviews();
     event->accept();
+}
+
+void MDIForm1::sessionEnds(QSessionManager& session) {
+    if (!session.allowsInteraction()) return; // nobody can be asked: what is unsaved goes, the file is whole
+    if (mayExit())
+        m_exitWithoutAsking = true;
+    else
+        session.cancel();
 }
 
 void MDIForm1::arrangeIcons() {

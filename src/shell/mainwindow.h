@@ -10,6 +10,7 @@
 class QLabel;
 class QMdiArea;
 class QMdiSubWindow;
+class QSessionManager;
 
 namespace screenkit {
 class Screen;
@@ -62,6 +63,8 @@ private:
     enum class Changes { none, saved, dropped, kept };
     Changes askAboutChanges(const QString& title, const std::function<void()>& save);
     bool mayExit();
+    /// Logging out asks what closing asks.
+    void sessionEnds(QSessionManager& session);
     void arrangeIcons();
     void startCalculator();
     void about();
