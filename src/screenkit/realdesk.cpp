@@ -8,6 +8,7 @@
 #include <QPrintDialog>
 #include <QPrinterInfo>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QStandardPaths>
 #include <QUrl>
 
@@ -79,8 +80,19 @@ std::optional<QString> RealDesk::fileToOpen(const QString& title, const QString&
 std::optional<QString> RealDesk::fileToSave(const QString& title, const QString& suggested,
                                             const QStringList& filters) {
     const NormalCursor cursor;
-    const QString file = QFileDialog::getSaveFileName(m_window, title, suggested, filters.join(";;"));
-    return file.isEmpty() ? std::nullopt : std::optional(file);
+    QFileDialog dialog(m_window, title, suggested);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setNameFilters(filters);
+    // A bare name gets the ending of the kind that is chosen, before the dialog asks about replacing a file.
+    const auto follow = [&dialog](const QString& filter) {
+        static const QRegularExpression ending(R"(\*\.(\w+))");
+        dialog.setDefaultSuffix(ending.match(filter).captured(1));
+    };
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, follow);
+    follow(dialog.selectedNameFilter());
+    dialog.selectFile(suggested);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
+    return dialog.selectedFiles().constFirst();
 }
 
 std::optional<QString> RealDesk::input(const QString& text, const QString& title, const QString& initial) {
