@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <numeric>
 
 #include "base/day.h"
 #include "base/fold.h"
@@ -33,24 +32,38 @@ std::vector<ClientLine> readUnsorted(store::Database& database) {
     return clients;
 }
 
-/// A line's place in the order. The first bytes of the key as one number settle most comparisons.
-struct SortKey {
-    std::uint64_t start;
-    std::string key;
-    std::size_t line;
+/// The start of a sort key as one number, which settles most comparisons.
+std::uint64_t startOf(const std::string& key) {
+    std::uint64_t start = 0;
+    for (std::size_t i = 0; i < sizeof start; ++i)
+        start = start << 8U | (i < key.size() ? static_cast<unsigned char>(key[i]) : 0U);
+    return start;
+}
 
-    bool operator<(const SortKey& other) const {
-        if (start != other.start) return start < other.start;
-        if (const int order = key.compare(other.key); order != 0) return order < 0;
-        return line < other.line;
+/// The lines' numbers in the order of the list.
+std::vector<std::size_t> sortedOrder(const std::vector<ClientLine>& clients) {
+    struct Entry {
+        std::uint64_t start;
+        std::size_t line;
+    };
+    std::vector<std::string> keys;
+    std::vector<Entry> entries;
+    keys.reserve(clients.size());
+    entries.reserve(clients.size());
+    for (const ClientLine& client : clients) {
+        keys.push_back(base::folded(client.CLName));
+        entries.push_back({startOf(keys.back()), entries.size()});
     }
-};
-
-SortKey keyOf(const ClientLine& client, std::size_t line) {
-    SortKey key{0, base::folded(client.CLName), line};
-    for (std::size_t i = 0; i < sizeof key.start; ++i)
-        key.start = key.start << 8U | (i < key.key.size() ? static_cast<unsigned char>(key.key[i]) : 0U);
-    return key;
+    std::sort(entries.begin(), entries.end(), [&](const Entry& a, const Entry& b) {
+        if (a.start != b.start) return a.start < b.start;
+        const int order = keys[a.line].compare(keys[b.line]);
+        return order != 0 ? order < 0 : a.line < b.line;
+    });
+    std::vector<std::size_t> order;
+    order.reserve(entries.size());
+    for (const Entry& entry : entries)
+        order.push_back(entry.line);
+    return order;
 }
 
 } // namespace
@@ -58,15 +71,10 @@ SortKey keyOf(const ClientLine& client, std::size_t line) {
 std::vector<ClientLine> readClientList(const std::filesystem::path& dataDbPath) {
     store::Database database(dataDbPath);
     std::vector<ClientLine> clients = readUnsorted(database);
-    std::vector<SortKey> keys;
-    keys.reserve(clients.size());
-    for (std::size_t i = 0; i < clients.size(); ++i)
-        keys.push_back(keyOf(clients[i], i));
-    std::sort(keys.begin(), keys.end());
     std::vector<ClientLine> sorted;
     sorted.reserve(clients.size());
-    for (const SortKey& key : keys)
-        sorted.push_back(std::move(clients[key.line]));
+    for (const std::size_t line : sortedOrder(clients))
+        sorted.push_back(std::move(clients[line]));
     return sorted;
 }
 

@@ -180,7 +180,8 @@ std::string Statement::text(int column) const {
 
 Database::Database(const fs::path& path) : m_path(existingSpelling(path)) {
     checkBeforeOpening(m_path);
-    m_connection = connect(m_path, SQLite::OPEN_READWRITE);
+    // Each connection belongs to one thread, so it needs no lock around every value that is read.
+    m_connection = connect(m_path, SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX);
     configure(m_connection->getHandle());
     // The first statement reads the header and all tables' definitions, so a damaged file is known at once. An outside
     // tool may have switched the file to a write-ahead log; a copy of the one file must hold everything again.
