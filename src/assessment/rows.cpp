@@ -1,7 +1,6 @@
 #include "assessment/rows.h"
 
 #include "base/text.h"
-#include "store/error.h"
 
 namespace assessment {
 
@@ -90,16 +89,12 @@ void RowWriterCore::overwrite(void* row, const RowPlace& place, std::int64_t row
     update.run();
 }
 
-RowReaderCore::RowReaderCore(store::Database& database, const TableDescription& table, std::optional<double> key,
-                             Lacking lacking)
+RowReaderCore::RowReaderCore(store::Database& database, const TableDescription& table, std::optional<double> key)
     : m_select(database, selectSql(table, key.has_value())) {
     if (key) m_select.bind(1, *key);
     const std::vector<int> columns = columnsOf(table, m_select);
     for (std::size_t i = 0; i < columns.size(); ++i) {
         const FieldLine& line = table.fields()[i];
-        if (columns[i] < 0 && lacking == Lacking::isError)
-            throw store::Error(store::Number::noSuchField, database.path().string(),
-                               "The table " + table.name() + " has no field " + line.name + ".");
         if (line.isWritten() && line.rule != Rule::writtenOnly) m_sources.push_back({&line, columns[i]});
     }
 }

@@ -42,13 +42,9 @@ public:
     }
 };
 
-/// What a field that the file lacks is: the blank in a client's row, which may come from an older file, and Error 3265
-/// in the settings, which nothing may invent.
-enum class Lacking { isBlank, isError };
-
 class RowReaderCore {
 protected:
-    RowReaderCore(store::Database& database, const TableDescription& table, std::optional<double> key, Lacking lacking);
+    RowReaderCore(store::Database& database, const TableDescription& table, std::optional<double> key);
     bool next(void* row);
 
 public:
@@ -68,13 +64,13 @@ private:
     double m_key = 0;
 };
 
-/// Reads the rows of one client, or of the whole table, in the order in which they were added.
+/// Reads the rows of one client, or of the whole table, in the order in which they were added. A field
+/// that an older file lacks reads as its blank.
 template <class Row>
 class RowReader : public RowReaderCore {
 public:
-    RowReader(store::Database& database, const FieldTable<Row>& table, std::optional<double> key = {},
-              Lacking lacking = Lacking::isBlank)
-        : RowReaderCore(database, table, key, lacking) {}
+    RowReader(store::Database& database, const FieldTable<Row>& table, std::optional<double> key = {})
+        : RowReaderCore(database, table, key) {}
     /// The next row's fields into `row`; false, and `row` untouched, when there is none.
     bool next(Row& row) { return RowReaderCore::next(&row); }
 };

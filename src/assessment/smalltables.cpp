@@ -40,11 +40,6 @@ const TableDescription& dbSearchTable() {
     return table;
 }
 
-const FieldTable<Assessment>& setupTable() {
-    static const FieldTable<Assessment> table("Setup", {{"GRINC", Double, in<&Assessment::GRINC>}});
-    return table;
-}
-
 const FieldTable<FundDefaults>& mutualFundsTable() {
     using F = FundDefaults;
     static const FieldTable<F> table("MutualFunds", {

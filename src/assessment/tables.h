@@ -24,8 +24,6 @@ const FieldTable<Assessment>& cpiDefaultTable();
 const TableDescription& dataSetupTable();
 /// Scratch for the review and birthday searches, built afresh by each.
 const TableDescription& dbSearchTable();
-/// Settings of the whole practice, in the settings' database.
-const FieldTable<Assessment>& setupTable();
 /// What quotations start from, in the settings' database: `MutualFunds`, and `TallowenDefault` with the same fields.
 const FieldTable<FundDefaults>& mutualFundsTable();
 

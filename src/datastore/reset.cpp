@@ -2,16 +2,14 @@
 
 #include "assessment/rows.h"
 #include "assessment/tables.h"
+#include "datastore/settings.h"
 #include "store/error.h"
 
 namespace datastore {
 
 assessment::Assessment blankRecord(const std::filesystem::path& defaultDbPath) {
     assessment::Assessment blank;
-    store::Database settings(defaultDbPath);
-    assessment::RowReader setup(settings, assessment::setupTable(), {}, assessment::Lacking::isError);
-    if (!setup.next(blank))
-        throw store::Error(store::Number::noCurrentRecord, defaultDbPath.string(), "The table Setup has no row.");
+    blank.GRINC = readSettings(defaultDbPath, "Setup").number("GRINC");
     return blank;
 }
 

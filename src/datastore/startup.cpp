@@ -1,8 +1,8 @@
 #include "datastore/startup.h"
 
-#include "assessment/rows.h"
 #include "assessment/tables.h"
 #include "datastore/reset.h"
+#include "datastore/settings.h"
 #include "datastore/upgrade.h"
 #include "store/error.h"
 
@@ -30,34 +30,26 @@ void provideClientDb(const fs::path& path, const Notice& notice) {
     if (!createClientDb(path, notice)) const store::Database stillMissing(path); // throws
 }
 
-[[noreturn]] void noRow(const fs::path& path, const std::string& table) {
-    throw store::Error(store::Number::noCurrentRecord, path.string(), "The table " + table + " has no row.");
+assessment::FundDefaults fundsFrom(const SettingsRow& row) {
+    assessment::FundDefaults funds;
+    for (const assessment::FieldLine& line : assessment::mutualFundsTable().fields())
+        assessment::setValueAt(line.at(&funds), row.number(line.name), line.kind.blank);
+    return funds;
 }
 
 /// Rewrites the factory's row with what it holds, so that a start fails where the settings could not be written later.
 void touchTallowenDefault(store::Database& settings) {
-    const std::string table = "TallowenDefault";
-    std::string sql;
-    for (const assessment::FieldLine& line : assessment::mutualFundsTable().fields()) {
-        const std::string field = store::bracketed(line.name);
-        sql += (sql.empty() ? "UPDATE [TallowenDefault] SET " : ", ") + field + "=" + field;
-    }
     store::Transaction transaction(settings);
-    store::Statement first = settings.prepare("SELECT min(rowid) FROM [TallowenDefault]");
-    first.step();
-    if (store::isNull(first.column(0))) noRow(settings.path(), table);
-    settings.prepare(sql + " WHERE rowid=?").bind(1, first.column(0)).run();
-    first.reset();
+    const SettingsRow row = readSettings(settings, "TallowenDefault");
+    for (const assessment::FieldLine& line : assessment::mutualFundsTable().fields())
+        row.value(line.name);
+    writeSettings(settings, "TallowenDefault", row.row());
     transaction.commit();
 }
 
 assessment::FundDefaults readFunds(const fs::path& defaultDbPath) {
-    assessment::FundDefaults funds;
     store::Database settings(defaultDbPath);
-    {
-        assessment::RowReader reader(settings, assessment::mutualFundsTable(), {}, assessment::Lacking::isError);
-        if (!reader.next(funds)) noRow(defaultDbPath, assessment::mutualFundsTable().name());
-    }
+    const assessment::FundDefaults funds = fundsFrom(readSettings(settings, assessment::mutualFundsTable().name()));
     touchTallowenDefault(settings);
     return funds;
 }

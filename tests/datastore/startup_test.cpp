@@ -117,12 +117,14 @@ TEST(StartUp, NeedsTheSettingsAndMustBeAbleToWriteThem) {
         const char* spoil;
         int error;
     } cases[] = {{"DELETE FROM Setup", 3021},
-                 {"DROP TABLE Setup", 3078},
+                 {"DROP TABLE Setup", 3011},
                  {"ALTER TABLE Setup RENAME GRINC TO Other", 3265},
                  {"DELETE FROM MutualFunds", 3021},
+                 {"UPDATE MutualFunds SET UTDiv=NULL", 94},
+                 {"ALTER TABLE TallowenDefault DROP COLUMN UTDiv", 3265},
                  {"ALTER TABLE MutualFunds RENAME UTDiv TO Other", 3265},
                  {"DELETE FROM TallowenDefault", 3021},
-                 {"DROP TABLE TallowenDefault", 3078}};
+                 {"DROP TABLE TallowenDefault", 3011}};
     for (const auto& [spoil, error] : cases) {
         const ProgramFolder folder;
         folder.makeClientDb();
@@ -142,6 +144,18 @@ TEST(StartUp, NeedsTheSettingsAndMustBeAbleToWriteThem) {
     record.client.Name = "kept";
     EXPECT_EQ(errorOf([&] { datastore::ResetAssessment(record, folder.paths()); }), 3024);
     EXPECT_EQ(record.client.Name, "kept"); // a New that fails loses nothing
+}
+
+TEST(StartUp, WorksOnTheDatabasesThatAreShipped) {
+    const storetest::Folder folder;
+    for (const char* name : {"Default.Mdb", "Print.mdb"})
+        storetest::put(folder / name, storetest::bytesOf(fs::path(MARLOWBECK_PROGRAM_DIR) / name));
+    Assessment record;
+    EXPECT_EQ(datastore::startUp(folder.path(), record).UpDateDBValue, 18);
+    EXPECT_EQ(record.GRINC, 0.5);
+    EXPECT_GT(record.funds.AllocationPer, 0);
+    EXPECT_EQ(cell(folder / "Print.mdb", "SELECT footv1 FROM HeadFoot"),
+              "information supplied by the undersigned client.");
 }
 
 TEST(Inflation, CarriesACostAndItsBuyingPowerYearByYear) {
