@@ -1,5 +1,6 @@
 #include <sys/wait.h>
 
+#include <chrono>
 #include <csignal>
 #include <random>
 
@@ -143,16 +144,38 @@ TEST_F(SaveFaultTest, FilesThatAreNoDatabase) {
     }
 }
 
+/// Microseconds that one save takes on this machine just now.
+long timeOfOneSave(Assessment record, const fs::path& file) {
+    const auto start = std::chrono::steady_clock::now();
+    Save(record, file);
+    return std::chrono::duration_cast<std::chrono::microseconds>(std::chrono::steady_clock::now() - start).count();
+}
+
+/// Lets another process save for that long and kills it.
+void saveAndKill(Assessment& record, const fs::path& file, long microseconds) {
+    int started[2];
+    ASSERT_EQ(::pipe(started), 0);
+    const pid_t child = ::fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+        if (::write(started[1], "", 1) == 1) saveForEver(record, file);
+        ::_exit(1);
+    }
+    char byte = 0;
+    EXPECT_EQ(::read(started[0], &byte, 1), 1);
+    ::usleep(static_cast<useconds_t>(microseconds));
+    ::kill(child, SIGKILL);
+    ::waitpid(child, nullptr, 0);
+    ::close(started[0]);
+    ::close(started[1]);
+}
+
 TEST_F(SaveFaultTest, AProgramKilledInTheMiddle) {
     std::mt19937 random(20260301);
+    std::uniform_int_distribution<long> moment(0, 3 * timeOfOneSave(record, file));
     double highest = 0;
     for (int round = 0; round < 30; ++round) {
-        const pid_t child = ::fork();
-        ASSERT_GE(child, 0);
-        if (child == 0) saveForEver(record, file);
-        ::usleep(std::uniform_int_distribution<useconds_t>(1000, 60000)(random));
-        ::kill(child, SIGKILL);
-        ::waitpid(child, nullptr, 0);
+        saveAndKill(record, file, moment(random));
         Assessment found;
         // The next start asks nothing and finds one save, whole.
         ASSERT_NO_THROW(datastore::startUp(folder.path(), found));
