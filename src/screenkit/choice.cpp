@@ -25,8 +25,10 @@ OptionGroup::OptionGroup(const QString& name, const QStringList& captions, Bound
 }
 
 void OptionGroup::choose(int index) {
-    m_place.set(index);
-    if (edited) edited();
+    if (m_place.get() != index) {
+        m_place.set(index);
+        if (edited) edited();
+    }
     if (picked) picked(index);
 }
 
@@ -37,8 +39,7 @@ bool OptionGroup::eventFilter(QObject* option, QEvent* event) {
                          : key == Qt::Key_Up || key == Qt::Key_Left  ? -1
                                                                      : 0;
         if (step != 0) {
-            const int count = static_cast<int>(m_group.buttons().size());
-            const int next = (m_group.id(qobject_cast<QAbstractButton*>(option)) + step + count) % count;
+            const int next = after(m_group.id(qobject_cast<QAbstractButton*>(option)), step);
             const QScopedValueRollback byArrow(m_byArrow, true);
             m_group.button(next)->setFocus(Qt::TabFocusReason);
             m_group.button(next)->setChecked(true);
@@ -47,6 +48,14 @@ bool OptionGroup::eventFilter(QObject* option, QEvent* event) {
         }
     }
     return QWidget::eventFilter(option, event);
+}
+
+int OptionGroup::after(int index, int step) const {
+    const int count = static_cast<int>(m_group.buttons().size());
+    int next = (index + step + count) % count;
+    while (next != index && (!option(next)->isEnabled() || option(next)->isHidden()))
+        next = (next + step + count) % count;
+    return next;
 }
 
 void OptionGroup::fill() {

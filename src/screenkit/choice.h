@@ -14,7 +14,7 @@ namespace screenkit {
 /// Options of which one holds, named `name(0)`, `name(1)`, ... from the top (or the left, if it lies flat).
 ///
 /// The record holds the index; an index that names no option leaves all of them off. Picking one writes it, then calls
-/// `picked`.
+/// `picked`; picking the one that holds already is no edit.
 class OptionGroup : public QWidget, public Field {
     Q_OBJECT
 public:
@@ -34,9 +34,13 @@ public:
 
 protected:
     bool eventFilter(QObject* option, QEvent* event) override;
+    /// By its label's access key: on to the option that holds.
+    void focusInEvent(QFocusEvent*) override { takeFocus(); }
 
 private:
     void choose(int index);
+    /// The next option that can be picked, round and round.
+    int after(int index, int step) const;
 
     Bound<int> m_place;
     QButtonGroup m_group;

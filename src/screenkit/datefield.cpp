@@ -8,6 +8,7 @@
 #include <optional>
 
 #include "base/day.h"
+#include "screenkit/icon.h"
 #include "screenkit/look.h"
 
 namespace screenkit {
@@ -20,17 +21,16 @@ std::optional<double> readDate(const QString& text) {
 }
 
 const QDate dayZero(1899, 12, 30);
+constexpr int longestDate = 20; // with blanks around, as dates come from elsewhere
 
 } // namespace
 
 DateField::DateField(const QString& name, Bound<double> place, Desk& desk, QWidget* parent)
-    : QLineEdit(parent), m_place(std::move(place)), m_desk(desk) {
-    setObjectName(name);
-    setMaxLength(10);
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    : EntryLine(name, OnClick::selectsAll, parent), m_place(std::move(place)), m_desk(desk) {
+    setMaxLength(longestDate);
     setPlaceholderText("dd/mm/yyyy");
     setToolTip(tr("T is today, + and - a day on and back, F4 the calendar"));
-    QAction* calendar = addAction(QIcon(":/icons/calendar.svg"), TrailingPosition);
+    QAction* calendar = addAction(icon("calendar"), TrailingPosition);
     calendar->setText(tr("Calendar"));
     connect(calendar, &QAction::triggered, this, &DateField::showCalendar);
     connect(this, &QLineEdit::textEdited, this, &DateField::typed);
@@ -42,17 +42,25 @@ void DateField::fill() {
 }
 
 void DateField::typed(const QString& text) {
-    if (const auto day = readDate(text))
-        m_place.set(*day);
-    else if (text.trimmed().isEmpty())
-        m_place.set(base::NoDate);
+    m_place.set(readDate(text).value_or(base::NoDate));
     if (edited) edited();
 }
 
 void DateField::enter(double day) {
-    setText(QString::fromStdString(base::formatDate(day)));
-    typed(text());
+    const std::string text = base::formatDate(day);
+    if (!base::isShownOnScreen(day) || text.empty()) return; // past the ends of the calendar
+    setText(QString::fromStdString(text));
+    typed(this->text());
 }
+
+bool DateField::step(int days) {
+    const auto day = readDate(text());
+    if (!day && !text().trimmed().isEmpty()) return false;
+    enter(day.value_or(today()) + days);
+    return true;
+}
+
+double DateField::today() const { return static_cast<double>(dayZero.daysTo(m_desk.today())); }
 
 std::optional<Complaint> DateField::complaint() {
     if (text().trimmed().isEmpty() || readDate(text())) return {};
@@ -61,36 +69,21 @@ std::optional<Complaint> DateField::complaint() {
     return Complaint{tr("The date entered is in the wrong format\nPlease use the dd/mm/yyyy format."), {}};
 }
 
-void DateField::takeFocus() {
-    setFocus(Qt::OtherFocusReason);
-    selectAll();
-}
-
 QSize DateField::sizeHint() const { return look::fieldSize(this, 14); }
 
-void DateField::focusInEvent(QFocusEvent* event) {
-    QLineEdit::focusInEvent(event);
-    if (event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason) return;
-    QMetaObject::invokeMethod(this, &QLineEdit::selectAll, Qt::QueuedConnection);
-}
-
-void DateField::focusOutEvent(QFocusEvent* event) {
-    QLineEdit::focusOutEvent(event);
-    if (event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason) return;
+void DateField::tidy() {
     if (readDate(text())) fill(); // 1-3-26 is shown as 01/03/2026
-    if (left) left();
 }
 
 void DateField::keyPressEvent(QKeyEvent* event) {
-    const auto today = static_cast<double>(dayZero.daysTo(m_desk.today()));
-    const double shown = readDate(text()).value_or(today);
-    if (event->key() == Qt::Key_T)
-        enter(today);
-    else if (event->text() == "+")
-        enter(shown + 1);
-    else if (event->text() == "-" && readDate(text())) // otherwise it parts day and month
-        enter(shown - 1);
-    else if (event->key() == Qt::Key_F4)
+    const bool plain = (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) == 0;
+    if (plain && event->key() == Qt::Key_T)
+        enter(today());
+    else if (event->text() == "+" && plain)
+        step(1);
+    else if (event->text() == "-" && plain && step(-1))
+        event->accept(); // otherwise it parts day and month
+    else if (event->key() == Qt::Key_F4 && plain)
         showCalendar();
     else
         QLineEdit::keyPressEvent(event);
@@ -100,8 +93,8 @@ void DateField::showCalendar() {
     QMenu menu(this);
     auto* calendar = new QCalendarWidget(&menu);
     calendar->setFirstDayOfWeek(Qt::Monday);
-    calendar->setSelectedDate(dayZero.addDays(
-        static_cast<qint64>(readDate(text()).value_or(static_cast<double>(dayZero.daysTo(m_desk.today()))))));
+    calendar->setMinimumDate(dayZero.addDays(static_cast<qint64>(base::blankDate) + 1));
+    calendar->setSelectedDate(dayZero.addDays(static_cast<qint64>(readDate(text()).value_or(today()))));
     auto* holder = new QWidgetAction(&menu);
     holder->setDefaultWidget(calendar);
     menu.addAction(holder);

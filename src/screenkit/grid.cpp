@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <algorithm>
 
 #include "base/numberformat.h"
 #include "screenkit/look.h"
@@ -61,7 +62,9 @@ Grid::Grid(const QString& name, QWidget* parent) : QTableView(parent) {
 
 void Grid::show(std::vector<GridColumn> columns, std::vector<std::vector<double>> rows) {
     auto* old = model();
+    auto* oldSelection = selectionModel();
     setModel(new Figures(std::move(columns), std::move(rows), this));
+    delete oldSelection;
     delete old;
     verticalHeader()->setDefaultSectionSize(look::lineHeight(this) * 3 / 2);
     if (model()->rowCount() > 0) setCurrentIndex(model()->index(0, 0));
@@ -86,7 +89,9 @@ void Grid::keyPressEvent(QKeyEvent* event) {
 
 void Grid::copySelection() const {
     QStringList lines;
-    for (const QModelIndex& row : selectionModel()->selectedRows()) {
+    auto rows = selectionModel()->selectedRows();
+    std::sort(rows.begin(), rows.end()); // they come in the order in which they were picked
+    for (const QModelIndex& row : rows) {
         QStringList cells;
         for (int column = 0; column < model()->columnCount(); ++column)
             cells << row.siblingAtColumn(column).data().toString();

@@ -1,7 +1,7 @@
 #include "screenkit/numberfield.h"
 
-#include <QKeyEvent>
 #include <QValidator>
+#include <algorithm>
 
 #include "base/numberformat.h"
 #include "screenkit/look.h"
@@ -10,15 +10,17 @@ namespace screenkit {
 
 namespace {
 
-/// Lets through what can become a number, so that a stray letter is simply not taken.
+/// Lets through what can become a number, so that a stray letter is simply not taken. A comma becomes the point, for
+/// figures that can be compared at a glance; the tabs and line ends of a pasted cell become blanks.
 class NumberValidator : public QValidator {
 public:
     NumberValidator(bool whole, QObject* parent) : QValidator(parent), m_whole(whole) {}
     State validate(QString& text, int&) const override {
-        if (m_whole && (text.contains('.') || text.contains(','))) return Invalid;
+        for (QChar& c : text)
+            c = c == ',' ? '.' : c.isSpace() ? ' ' : c;
+        if (m_whole && text.contains('.')) return Invalid;
         const QString bare = text.trimmed();
-        if (bare.isEmpty() || bare == "-" || bare == "+" || bare == "." || bare == "," || bare == "-." || bare == "-,")
-            return Acceptable;
+        if (bare.isEmpty() || bare == "-" || bare == "+" || bare == "." || bare == "-.") return Acceptable;
         return base::parseNumber(text.toStdString()) ? Acceptable : Invalid;
     }
 
@@ -55,11 +57,9 @@ NumberKind NumberKind::shownAs(const std::string& otherMask) const {
 }
 
 NumberField::NumberField(const QString& name, Bound<double> place, NumberKind kind, QWidget* parent)
-    : QLineEdit(parent), m_place(std::move(place)), m_kind(std::move(kind)) {
-    setObjectName(name);
+    : EntryLine(name, OnClick::selectsAll, parent), m_place(std::move(place)), m_kind(std::move(kind)) {
     setAlignment(Qt::AlignRight);
     setMaxLength(longestNumber);
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setValidator(new NumberValidator(m_kind.isWhole, this));
     connect(this, &QLineEdit::textEdited, this, &NumberField::typed);
 }
@@ -71,7 +71,12 @@ void NumberField::present(double value) {
     show(value);
 }
 
-void NumberField::show(double value) { setText(QString::fromStdString(base::formatNumber(value, m_kind.mask))); }
+void NumberField::show(double value) {
+    const QString text = QString::fromStdString(base::formatNumber(value, m_kind.mask));
+    setMaxLength(std::max(longestNumber, static_cast<int>(text.size()))); // a figure cut short is another figure
+    setText(text);
+    setCursorPosition(0); // of one too wide for the field the thousands tell more than the cents
+}
 
 void NumberField::typed(const QString& text) {
     m_value = base::parseNumber(text.toStdString()).value_or(0);
@@ -93,37 +98,10 @@ std::optional<Complaint> NumberField::complaint() {
     return Complaint{m_kind.text, m_kind.title};
 }
 
-void NumberField::setResult(bool result) { look::setResult(this, result); }
-
-void NumberField::takeFocus() {
-    setFocus(Qt::OtherFocusReason);
-    selectAll();
-}
-
 QSize NumberField::sizeHint() const { return look::fieldSize(this, m_kind.characters); }
 
-void NumberField::focusInEvent(QFocusEvent* event) {
-    QLineEdit::focusInEvent(event);
-    if (event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason) return;
-    QMetaObject::invokeMethod(this, &QLineEdit::selectAll, Qt::QueuedConnection); // after the mouse has set its cursor
+void NumberField::tidy() {
+    if (isModified()) fill();
 }
-
-void NumberField::focusOutEvent(QFocusEvent* event) {
-    QLineEdit::focusOutEvent(event);
-    if (event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason) return;
-    if (isModified()) show(m_value);
-    if (left) left();
-}
-
-void NumberField::keyPressEvent(QKeyEvent* event) {
-    if (event->text() == ",") { // one decimal sign on screen, so that figures can be compared at a glance
-        QKeyEvent point(QEvent::KeyPress, Qt::Key_Period, event->modifiers(), ".");
-        QLineEdit::keyPressEvent(&point);
-        return;
-    }
-    QLineEdit::keyPressEvent(event);
-}
-
-void NumberField::wheelEvent(QWheelEvent* event) { event->ignore(); }
 
 } // namespace screenkit

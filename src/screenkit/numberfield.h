@@ -1,11 +1,10 @@
 #pragma once
 
-#include <QLineEdit>
 #include <optional>
 #include <string>
 
 #include "screenkit/bound.h"
-#include "screenkit/field.h"
+#include "screenkit/entryline.h"
 
 namespace screenkit {
 
@@ -29,8 +28,8 @@ extern const NumberKind percent; ///< percent a year to three places
 /// A number entry. The full double stays behind the display: what the user does not retype keeps every bit.
 ///
 /// `.`, `,` and the keypad's decimal key are all the decimal sign, whatever the system's locale. A text that means
-/// nothing yet ("-", empty) counts as 0. The wheel does nothing.
-class NumberField : public QLineEdit, public Field {
+/// nothing yet ("-", empty) counts as 0. What the user leaves is shown as the record keeps it.
+class NumberField : public EntryLine {
     Q_OBJECT
 public:
     NumberField(const QString& name, Bound<double> place, NumberKind kind, QWidget* parent = nullptr);
@@ -42,18 +41,12 @@ public:
     /// Shows a figure without writing it to the record.
     void present(double value);
 
-    QWidget* widget() override { return this; }
     void fill() override;
     std::optional<Complaint> complaint() override;
-    void setResult(bool result) override;
-    void takeFocus() override;
     QSize sizeHint() const override;
 
 protected:
-    void focusInEvent(QFocusEvent* event) override;
-    void focusOutEvent(QFocusEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
-    void wheelEvent(QWheelEvent* event) override;
+    void tidy() override;
 
 private:
     void show(double value);

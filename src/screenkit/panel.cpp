@@ -40,12 +40,12 @@ void Panel::setContent(QLayout* content) { static_cast<QVBoxLayout*>(layout())->
 
 void Panel::open(QWidget* first) {
     if (!isVisible()) m_focusBefore = QApplication::focusWidget();
-    m_over->setEnabled(false);
     makeRoom();
     place();
     show();
     raise();
     if (first != nullptr) first->setFocus(Qt::OtherFocusReason);
+    m_over->setEnabled(false); // after the focus has gone: otherwise it would wander through every field below
 }
 
 void Panel::close() {

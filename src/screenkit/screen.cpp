@@ -7,9 +7,11 @@
 #include <QScopedValueRollback>
 #include <QScrollArea>
 #include <QShortcut>
+#include <QStackedWidget>
 #include <QTabWidget>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "screenkit/look.h"
 #include "screenkit/trouble.h"
@@ -18,7 +20,8 @@ namespace screenkit {
 
 namespace {
 constexpr const char* leavesFreely = "leavesFreely"; // a button that no failed check may hold back
-}
+constexpr int mousePollTime = 20;                    // milliseconds
+} // namespace
 
 std::int16_t& untracked() {
     static std::int16_t flag = 0;
@@ -35,6 +38,9 @@ Screen::Screen(Workplace& workplace, const QString& name, const QString& caption
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_area);
+    m_leaving.setSingleShot(true);
+    connect(&m_leaving, &QTimer::timeout, this, &Screen::checkLeft);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { followFocus(now); });
 }
 
 Screen::~Screen() = default;
@@ -46,7 +52,7 @@ F* Screen::keep(F* field) {
     base->edited = [this] {
         if (m_filling) return;
         m_changed = 1;
-        edited();
+        attempt(tr("take the entry"), [this] { edited(); });
     };
     base->left = [this, base] { leave(base); };
     return field;
@@ -77,14 +83,20 @@ DateField* Screen::date(const QString& name, Bound<double> place) {
 OptionGroup* Screen::options(const QString& name, const QStringList& captions, Bound<int> place,
                              std::function<void(int)> picked, Qt::Orientation orientation) {
     auto* group = keep(new OptionGroup(name, captions, std::move(place), orientation));
-    group->picked = std::move(picked);
+    if (picked)
+        group->picked = [this, picked = std::move(picked)](int index) {
+            attempt(tr("take the choice"), [&] { picked(index); });
+        };
     return group;
 }
 
 CheckField* Screen::check(const QString& name, const QString& caption, Bound<int> place,
                           std::function<void(bool)> ticked) {
     auto* field = keep(new CheckField(name, caption, std::move(place)));
-    field->ticked = std::move(ticked);
+    if (ticked)
+        field->ticked = [this, ticked = std::move(ticked)](bool on) {
+            attempt(tr("take the choice"), [&] { ticked(on); });
+        };
     return field;
 }
 
@@ -93,7 +105,7 @@ QPushButton* Screen::button(const QString& name, const QString& caption, std::fu
     push->setObjectName(name);
     push->setAccessibleName(spokenLabel(caption));
     connect(push, &QPushButton::clicked, this, [this, caption, action = std::move(action)] {
-        if (checkFields()) guarded(m_work.desk, tr("finish \"%1\"").arg(spokenLabel(caption)), action);
+        if (checkFields()) attempt(tr("finish \"%1\"").arg(spokenLabel(caption)), action);
     });
     return push;
 }
@@ -103,9 +115,9 @@ QPushButton* Screen::cancelButton(const QString& name, const QString& caption, s
     push->setObjectName(name);
     push->setAccessibleName(spokenLabel(caption));
     push->setProperty(leavesFreely, true);
-    connect(push, &QPushButton::clicked, this, [this, action = std::move(action)] {
-        m_toCheck = nullptr;
-        action();
+    connect(push, &QPushButton::clicked, this, [this, caption, action = std::move(action)] {
+        m_left.clear();
+        attempt(tr("finish \"%1\"").arg(spokenLabel(caption)), action);
     });
     return push;
 }
@@ -139,7 +151,7 @@ QLineEdit* Screen::shown(const QString& name, int characters) {
 
 SpinButtons* Screen::spin(const QString& name, NumberField* field, std::function<void(int)> step) {
     const auto stepChecked = [this, step = std::move(step)](int direction) {
-        if (checkFields()) step(direction);
+        return checkFields() && attempt(tr("take the step"), [&] { step(direction); });
     };
     for (const auto& [key, direction] : {std::pair{Qt::Key_Up, 1}, std::pair{Qt::Key_Down, -1}}) {
         auto* shortcut = new QShortcut(key, field, nullptr, nullptr, Qt::WidgetShortcut);
@@ -214,6 +226,9 @@ Panel* Screen::printPanel(std::initializer_list<Item> choices, std::function<voi
     auto* processing = new QLabel(" PROCESSING !");
     processing->setObjectName("lblProcessing");
     processing->setAlignment(Qt::AlignCenter);
+    QSizePolicy kept = processing->sizePolicy();
+    kept.setRetainSizeWhenHidden(true); // it must be in its place when it is painted, before the report begins
+    processing->setSizePolicy(kept);
     processing->hide();
     auto* content = column(choices);
     static_cast<QVBoxLayout*>(content)->addWidget(processing);
@@ -232,7 +247,7 @@ void Screen::runPrint(Panel* panel, const std::function<void(Destination)>& prin
         const BusyCursor busy;
         processing->show();
         panel->repaint();
-        guarded(m_work.desk, tr("make the report"), [&] { print(destination); });
+        attempt(tr("make the report"), [&] { print(destination); });
     }
     processing->hide();
     panel->close();
@@ -273,26 +288,38 @@ void Screen::activate() {
 }
 
 void Screen::refill() {
-    const std::int16_t before = m_changed;
-    {
-        const QScopedValueRollback filling(m_filling, true);
-        for (Field* field : m_fields)
-            field->fill();
-        filled();
-    }
-    m_changed = before;
+    const QScopedValueRollback flag(m_changed); // filling is no edit, whatever it sets off
+    const QScopedValueRollback filling(m_filling, true);
+    for (Field* field : m_fields)
+        field->fill();
+    filled();
+}
+
+bool Screen::attempt(const QString& what, const std::function<void()>& action) {
+    return guarded(m_work.desk, what, action);
 }
 
 void Screen::leave(Field* field) {
-    m_toCheck = field;
+    m_left.push_back(field);
     // Queued: a box from inside a focus change would nest in it, and a button that was clicked checks on its own.
-    QTimer::singleShot(0, this, [this, field] {
-        if (m_toCheck != field) return;
-        m_toCheck = nullptr;
-        const QWidget* now = QApplication::focusWidget();
-        if (m_dropped || !isVisible() || (now != nullptr && now->property(leavesFreely).toBool())) return;
-        complain(field);
-    });
+    m_leaving.start(0);
+}
+
+void Screen::checkLeft() {
+    // A box that comes up between the mouse's press and its release would leave the button hanging.
+    if (QGuiApplication::mouseButtons() != Qt::NoButton) return m_leaving.start(mousePollTime);
+    const auto left = std::exchange(m_left, {});
+    const QWidget* now = QApplication::focusWidget();
+    if (m_dropped || !isVisible() || (now != nullptr && now->property(leavesFreely).toBool())) return;
+    for (Field* field : left)
+        if (!field->widget()->hasFocus() && inReach(field->widget()) && complain(field)) return;
+}
+
+bool Screen::inReach(const QWidget* widget) const {
+    if (!widget->isEnabled()) return false;
+    for (; widget != this; widget = widget->parentWidget())
+        if (widget->isHidden() && qobject_cast<QStackedWidget*>(widget->parentWidget()) == nullptr) return false;
+    return true; // another page of tabs is a click away
 }
 
 bool Screen::complain(Field* field) {
@@ -300,7 +327,7 @@ bool Screen::complain(Field* field) {
     const QScopedValueRollback complaining(m_complaining, true);
     const auto complaint = field->complaint();
     if (!complaint) return false;
-    m_toCheck = nullptr;
+    m_left.clear();
     m_work.desk.tell(BoxStyle::critical, complaint->text, complaint->title.isEmpty() ? "Marlowbeck" : complaint->title);
     bringToView(field->widget());
     field->takeFocus();
@@ -308,9 +335,9 @@ bool Screen::complain(Field* field) {
 }
 
 bool Screen::checkFields() {
-    m_toCheck = nullptr;
+    m_left.clear();
     for (Field* field : m_fields)
-        if (field->widget()->isEnabled() && complain(field)) return false;
+        if (inReach(field->widget()) && complain(field)) return false;
     return true;
 }
 
@@ -323,23 +350,36 @@ void Screen::bringToView(QWidget* widget) {
     m_area->ensureWidgetVisible(widget);
 }
 
+void Screen::followFocus(QWidget* focused) {
+    const QWidget* content = m_area->widget();
+    // A click has found its field already: moving it away under the mouse would select text.
+    if (focused == nullptr || content == nullptr || QGuiApplication::mouseButtons() != Qt::NoButton) return;
+    if (content->isAncestorOf(focused)) m_area->ensureWidgetVisible(focused);
+}
+
 void Screen::enterPressed() {
     auto* focused = QApplication::focusWidget();
-    if (auto* push = qobject_cast<QPushButton*>(focused); push != nullptr) {
+    if (auto* push = qobject_cast<QPushButton*>(focused); push != nullptr)
         push->click();
-        return;
-    }
-    QWidget* next = focused != nullptr ? focused->nextInFocusChain() : nullptr;
-    const auto takesTab = [this](const QWidget* widget) {
-        return isAncestorOf(widget) && (widget->focusPolicy() & Qt::TabFocus) == Qt::TabFocus && widget->isEnabled() &&
-               widget->isVisible();
-    };
-    while (next != nullptr && next != focused && !takesTab(next))
-        next = next->nextInFocusChain();
-    if (qobject_cast<QPushButton*>(next) != nullptr && m_default != nullptr)
+    else if (QWidget* next = nextEntry(focused); next != nullptr)
+        next->setFocus(Qt::TabFocusReason);
+    else if (m_default != nullptr)
         m_default->click();
     else
         focusNextChild();
+}
+
+QWidget* Screen::nextEntry(const QWidget* from) const {
+    const QWidget* content = m_area->widget(); // the chain of all windows' controls comes back to it
+    const auto isEntry = [](const QWidget* widget) {
+        return [widget](Field* field) { return field->widget() == widget || field->widget()->isAncestorOf(widget); };
+    };
+    if (from == nullptr || content == nullptr || !content->isAncestorOf(from)) return nullptr;
+    for (QWidget* next = from->nextInFocusChain(); next != content && next != from; next = next->nextInFocusChain())
+        if (content->isAncestorOf(next) && (next->focusPolicy() & Qt::TabFocus) == Qt::TabFocus && next->isEnabled() &&
+            next->isVisible() && std::any_of(m_fields.begin(), m_fields.end(), isEntry(next)))
+            return next;
+    return nullptr;
 }
 
 void Screen::keyPressEvent(QKeyEvent* event) {
@@ -356,7 +396,9 @@ void Screen::drop() {
 }
 
 void Screen::closeEvent(QCloseEvent* event) {
-    if (!m_dropped && (!checkFields() || !mayClose())) {
+    bool closes = m_dropped;
+    if (!closes && checkFields()) attempt(tr("close the window"), [&] { closes = mayClose(); });
+    if (!closes) {
         event->ignore();
         return;
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPushButton>
+#include <QTimer>
 #include <QWidget>
 #include <cstdint>
 #include <functional>
@@ -116,11 +117,19 @@ protected:
 private:
     template <class F>
     F* keep(F* field);
+    /// Runs what an event has called for; a failure shows its box and goes no further.
+    bool attempt(const QString& what, const std::function<void()>& action);
     void leave(Field* field);
+    void checkLeft();
+    /// False for what can't be put right just now: under a panel, in a panel that is gone, hidden by the screen.
+    bool inReach(const QWidget* widget) const;
     bool complain(Field* field);
     void runPrint(Panel* panel, const std::function<void(Destination)>& print, Destination destination);
     void bringToView(QWidget* widget);
+    void followFocus(QWidget* focused);
     void enterPressed();
+    /// The entry that follows in the tab order; nothing from the last one.
+    QWidget* nextEntry(const QWidget* from) const;
 
     std::int16_t& m_changed;
     std::vector<Field*> m_fields;
@@ -128,7 +137,8 @@ private:
     Panel* m_gridPanel = nullptr;
     Grid* m_grid = nullptr;
     QWidget* m_afterGrid = nullptr;
-    Field* m_toCheck = nullptr; ///< left by the user, its check still to come
+    std::vector<Field*> m_left; ///< left by the user, their checks still to come
+    QTimer m_leaving;
     QScrollArea* m_area = nullptr;
     QPushButton* m_default = nullptr;
     bool m_dropped = false;

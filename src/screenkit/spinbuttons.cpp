@@ -7,7 +7,7 @@
 
 namespace screenkit {
 
-SpinButtons::SpinButtons(const QString& name, std::function<void(int)> step, QWidget* parent) : QWidget(parent) {
+SpinButtons::SpinButtons(const QString& name, std::function<bool(int)> step, QWidget* parent) : QWidget(parent) {
     setObjectName(name);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -21,7 +21,9 @@ SpinButtons::SpinButtons(const QString& name, std::function<void(int)> step, QWi
         button->setToolTip(tip);
         button->setAccessibleName(tip);
         button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-        connect(button, &QToolButton::clicked, this, [step, direction] { step(direction); });
+        connect(button, &QToolButton::clicked, this, [button, step, direction] {
+            if (!step(direction)) button->setDown(false); // a box has come up: the hand's release goes there
+        });
         layout->addWidget(button);
     };
     add(Qt::UpArrow, "Up", tr("More"), 1);

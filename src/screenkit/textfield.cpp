@@ -1,22 +1,55 @@
 #include "screenkit/textfield.h"
 
-#include <QFocusEvent>
 #include <QScopedValueRollback>
+#include <QValidator>
+#include <QWheelEvent>
 #include <algorithm>
 
+#include "base/text.h"
 #include "screenkit/look.h"
 
 namespace screenkit {
 
+namespace {
+
+/// Characters as the file counts them: a letter outside the first plane is one, though it takes two units here.
+std::size_t characters(const QString& text) { return base::characterCount(text.toStdString()); }
+
+/// The part of `before` that leaves room for `after`.
+QString fitting(const QString& before, const QString& after, std::size_t room) {
+    const std::size_t taken = characters(after);
+    return QString::fromStdString(base::firstCharacters(before.toStdString(), room - std::min(room, taken)));
+}
+
+} // namespace
+
+class RoomValidator : public QValidator {
+public:
+    RoomValidator(std::size_t most, QObject* parent) : QValidator(parent), m_most(most) {}
+    void setRoom(std::size_t most) { m_most = most; }
+    State validate(QString& text, int& cursor) const override {
+        if (characters(text) <= m_most) return Acceptable;
+        const QString after = text.mid(cursor);
+        const QString before = fitting(text.left(cursor), after, m_most);
+        text = before + after;
+        cursor = static_cast<int>(before.size());
+        return Acceptable;
+    }
+
+private:
+    std::size_t m_most;
+};
+
 TextField::TextField(const QString& name, Bound<QString> place, int size, int characters, QWidget* parent)
-    : QLineEdit(parent), m_place(std::move(place)), m_characters(characters) {
-    setObjectName(name);
-    setMaxLength(size);
-    setSizePolicy(characters == 0 ? QSizePolicy::Expanding : QSizePolicy::Fixed, QSizePolicy::Fixed);
+    : EntryLine(name, OnClick::setsCursor, parent), m_place(std::move(place)),
+      m_room(new RoomValidator(static_cast<std::size_t>(size), this)), m_size(size), m_characters(characters) {
+    setValidator(m_room);
+    if (characters == 0) setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     connect(this, &QLineEdit::textEdited, this, &TextField::typed);
 }
 
 void TextField::typed(const QString& text) {
+    if (text == m_place.get()) return; // a key that found no room
     m_place.set(text);
     if (edited) edited();
 }
@@ -27,29 +60,19 @@ void TextField::enter(const QString& text) {
 }
 
 void TextField::fill() {
-    setText(m_place.get());
+    const QString held = m_place.get();
+    m_room->setRoom(std::max(static_cast<std::size_t>(m_size), characters(held)));
+    setText(held);
     setCursorPosition(0);
-}
-
-void TextField::setResult(bool result) { look::setResult(this, result); }
-
-void TextField::takeFocus() {
-    setFocus(Qt::OtherFocusReason);
-    selectAll();
 }
 
 QSize TextField::sizeHint() const {
     constexpr int readableLine = 30; // a longer text is seen by scrolling in the field
-    return look::fieldSize(this, m_characters > 0 ? m_characters : std::min(maxLength(), readableLine));
-}
-
-void TextField::focusInEvent(QFocusEvent* event) {
-    QLineEdit::focusInEvent(event);
-    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason) selectAll();
+    return look::fieldSize(this, m_characters > 0 ? m_characters : std::min(m_size, readableLine));
 }
 
 MemoField::MemoField(const QString& name, Bound<QString> place, int size, QWidget* parent)
-    : QPlainTextEdit(parent), m_place(std::move(place)), m_size(size) {
+    : QPlainTextEdit(parent), m_place(std::move(place)), m_size(static_cast<std::size_t>(size)), m_room(m_size) {
     setObjectName(name);
     setTabChangesFocus(true);
     connect(this, &QPlainTextEdit::textChanged, this, &MemoField::typed);
@@ -57,25 +80,32 @@ MemoField::MemoField(const QString& name, Bound<QString> place, int size, QWidge
 
 void MemoField::fill() {
     const QScopedValueRollback filling(m_filling, true);
-    m_before = m_place.get();
-    if (m_before != toPlainText()) setPlainText(m_before);
+    const QString held = m_place.get();
+    m_room = std::max(m_size, characters(held));
+    if (QString(held).replace("\r\n", "\n") != toPlainText()) setPlainText(held); // the cursor stays where it can
+    m_before = toPlainText();
 }
 
 void MemoField::typed() {
-    const QString text = toPlainText();
-    if (m_filling || text == m_before) return;
-    if (text.size() > m_size && text.size() > m_before.size()) {
-        const QScopedValueRollback filling(m_filling, true);
-        const int cursor = std::max(0, textCursor().position() - static_cast<int>(text.size() - m_before.size()));
-        setPlainText(m_before); // the keystroke or paste that would not fit is not taken
-        QTextCursor position = textCursor();
-        position.setPosition(std::min(cursor, static_cast<int>(m_before.size())));
-        setTextCursor(position);
-        return;
-    }
-    m_before = text;
-    m_place.set(text);
+    if (m_filling) return;
+    cutToRoom();
+    if (toPlainText() == m_before) return;
+    m_before = toPlainText();
+    m_place.set(m_before);
     if (edited) edited();
+}
+
+void MemoField::cutToRoom() {
+    const QString text = toPlainText();
+    if (characters(text) <= m_room) return;
+    const QScopedValueRollback filling(m_filling, true);
+    const int end = textCursor().position();
+    QTextCursor cut = textCursor();
+    cut.joinPreviousEditBlock(); // one undo takes back the paste and its cut
+    cut.setPosition(static_cast<int>(fitting(text.left(end), text.mid(end), m_room).size()));
+    cut.setPosition(end, QTextCursor::KeepAnchor);
+    cut.removeSelectedText();
+    cut.endEditBlock();
 }
 
 void MemoField::takeFocus() { setFocus(Qt::OtherFocusReason); }

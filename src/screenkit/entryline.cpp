@@ -1,0 +1,56 @@
+#include "screenkit/entryline.h"
+
+#include <QFocusEvent>
+#include <QWheelEvent>
+#include <utility>
+
+#include "screenkit/look.h"
+
+namespace screenkit {
+
+namespace {
+
+/// The focus is only lent: to another program, a menu, the calendar.
+bool isLent(const QFocusEvent* event) {
+    return event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason ||
+           event->reason() == Qt::MenuBarFocusReason;
+}
+
+} // namespace
+
+EntryLine::EntryLine(const QString& name, OnClick onClick, QWidget* parent) : QLineEdit(parent), m_onClick(onClick) {
+    setObjectName(name);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+void EntryLine::setResult(bool result) { look::setResult(this, result); }
+
+void EntryLine::takeFocus() {
+    setFocus(Qt::OtherFocusReason);
+    selectAll();
+}
+
+void EntryLine::focusInEvent(QFocusEvent* event) {
+    QLineEdit::focusInEvent(event);
+    if (isLent(event)) return;
+    if (event->reason() == Qt::MouseFocusReason)
+        m_selectOnRelease = m_onClick == OnClick::selectsAll; // the press still sets the cursor
+    else
+        selectAll();
+}
+
+void EntryLine::focusOutEvent(QFocusEvent* event) {
+    QLineEdit::focusOutEvent(event);
+    if (isLent(event)) return;
+    tidy();
+    if (left) left();
+}
+
+void EntryLine::mouseReleaseEvent(QMouseEvent* event) {
+    QLineEdit::mouseReleaseEvent(event);
+    if (std::exchange(m_selectOnRelease, false) && !hasSelectedText()) selectAll();
+}
+
+void EntryLine::wheelEvent(QWheelEvent* event) { event->ignore(); }
+
+} // namespace screenkit

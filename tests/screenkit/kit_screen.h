@@ -1,0 +1,181 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QClipboard>
+#include <QMainWindow>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QTest>
+
+#include "base/day.h"
+#include "screenkit/look.h"
+#include "screenkit/screen.h"
+#include "screenkit/testdesk.h"
+#include "screenkit/workbench.h"
+
+namespace screenkit {
+
+/// What the fields of the test's screen are bound to beside the client's loan.
+struct Places {
+    std::int16_t count = 0;
+    std::int32_t shares = 0;
+    float rate = 0;
+    double total = 1234.5;
+    double day = base::blankDate;
+    std::string name;
+    std::string notes;
+    std::int16_t mode = 0;
+    std::int16_t smokes = 0;
+    std::int16_t withNotes = 0;
+};
+
+/// A screen with one field of each kind, every button, and both panels.
+class KitScreen : public Screen {
+public:
+    KitScreen(Workplace& work, Places& places) : Screen(work, "frmKit", "Kit", work.record.changed.LoansChanged) {
+        auto& loan = work.record.loans;
+        auto* amount = number("numAmount", loan.Num1, money);
+        auto* months = number("numMonths", loan.Num2, whole.upTo(600, "Too many months", "Months!"));
+        auto* name = text("txtName", places.name, 10);
+        auto* run = button("cmdRun", "&Run", [this] { ++runs; });
+        body(column(
+            {form(
+                 {{"&Amount", amount},
+                  {"&Months", row({months, spin("spnMonths", months,
+                                                [this, months](int step) { months->enter(months->value() + step); })})},
+                  {"&Count", number("numCount", places.count, whole.between(-99999, 99999, "Count", "C!"))},
+                  {"&Shares", number("numShares", places.shares, whole)},
+                  {"Ra&te", number("numRate", places.rate, percent), "% a year"},
+                  {"&Total", result("numTotal", places.total, money)},
+                  {"&Date", date("dtDay", places.day)},
+                  {"&Name", name},
+                  {"N&otes", memo("txtNotes", places.notes, 2000)},
+                  {"Mo&de", options("optMode", {"First", "Second", "Third"}, places.mode, [this](int) { ++picks; })}}),
+             button("cmdBetween", "&Between", [] {}), check("chkSmokes", "Smo&kes", places.smokes),
+             row({run, cancelButton("cmdCancel", "Cance&l", [this] { ++cancels; }),
+                  button("cmdPrint", "&Print", [this] { print->open(findChild<QWidget*>("chkNotes")); }),
+                  okButton()})}));
+        defaultButton(run);
+        months->setAccessibleName("Months"); // its form row holds the spin buttons as well
+        auto* withNotes = check("chkNotes", "&Include Notes", places.withNotes);
+        untrackedField(withNotes);
+        print = printPanel({withNotes}, [this](Destination to) { printed(to); });
+    }
+
+    /// Brings up the panel with the table of figures.
+    void table(std::vector<std::vector<double>> rows) {
+        showGrid("Figures", {{" Year ", "##"}, {"Balance", "# ### ##0.00"}}, std::move(rows),
+                 findChild<QWidget*>("cmdOK"));
+    }
+
+    Panel* print = nullptr;
+    std::function<void(Destination)> printed = [](Destination) {};
+    std::function<void()> onFilled = [] {};
+    int runs = 0, cancels = 0, picks = 0, edits = 0;
+
+protected:
+    void edited() override { ++edits; }
+    void filled() override { onFilled(); }
+};
+
+/// The screen shown as a child of a main window, and a user's hands: keys and mouse go to the window as the system
+/// sends them, not to a control picked by the test.
+class KitTest : public testing::Test {
+protected:
+    KitTest() {
+        look::apply(*qApp);
+        window.setCentralWidget(&area);
+        window.resize(1000, 800);
+        screen = new KitScreen(bench.workplace, places);
+        child = area.addSubWindow(screen);
+        child->resize(900, 780);
+        window.show();
+        child->show();
+        window.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+        refresh();
+    }
+    ~KitTest() override { screen->drop(); }
+
+    /// The record was changed behind the screen's back, and the screen comes to the front.
+    void refresh() {
+        screen->activate();
+        settle();
+    }
+    static void settle() {
+        for (int i = 0; i < 5; ++i)
+            QCoreApplication::processEvents();
+    }
+
+    template <class T = QWidget>
+    T* get(const char* name) {
+        return screen->findChild<T*>(name);
+    }
+    std::string text(const char* field) { return get<QLineEdit>(field)->text().toStdString(); }
+    static std::string selected() {
+        auto* line = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+        return line != nullptr ? line->selectedText().toStdString() : std::string();
+    }
+    static std::string focus() {
+        const auto* widget = QApplication::focusWidget();
+        return widget != nullptr ? widget->objectName().toStdString() : std::string();
+    }
+    void go(const char* field) {
+        get(field)->setFocus(Qt::TabFocusReason);
+        if (auto* line = get<QLineEdit>(field)) line->selectAll();
+        settle();
+    }
+
+    void key(Qt::Key pressed, Qt::KeyboardModifiers with = {}) {
+        QTest::keyClick(window.windowHandle(), pressed, with);
+        settle();
+    }
+    /// Types with no pause for the event loop between the characters, as from a keyboard's buffer.
+    static void type(const QString& typed) {
+        for (const uint point : typed.toUcs4()) {
+            const QString one = QString::fromUcs4(reinterpret_cast<const char32_t*>(&point), 1);
+            const auto code = point < 128 ? static_cast<Qt::Key>(QChar(point).toUpper().unicode()) : Qt::Key_unknown;
+            QTest::sendKeyEvent(QTest::Click, QApplication::focusWidget(), code, one, Qt::NoModifier);
+        }
+    }
+    /// Types over what the field holds, as a user does who tabs into it.
+    void enter(const char* field, const QString& typed) {
+        go(field);
+        type(typed);
+    }
+    static void paste(const QString& copied) {
+        QApplication::clipboard()->setText(copied);
+        QTest::sendKeyEvent(QTest::Click, QApplication::focusWidget(), Qt::Key_V, QString(), Qt::ControlModifier);
+    }
+
+    void press(QWidget* target, QPoint at = {}) { mouse(QTest::MousePress, target, at); }
+    void release(QWidget* target, QPoint at = {}) { mouse(QTest::MouseRelease, target, at); }
+    void click(QWidget* target, QPoint at = {}) {
+        press(target, at);
+        QTest::qWait(5); // a hand needs a while between the two, in which what is queued runs
+        release(target, at);
+        settle();
+    }
+    void click(const char* name) { click(get(name)); }
+
+    std::int16_t& changed() { return bench.record.changed.LoansChanged; }
+
+    TestDesk desk;
+    Workbench bench{desk};
+    Places places;
+    QMainWindow window;
+    QMdiArea area;
+    KitScreen* screen = nullptr;
+    QMdiSubWindow* child = nullptr;
+
+private:
+    static void mouse(QTest::MouseAction action, QWidget* target, QPoint at) {
+        const QPoint inside = at.isNull() ? target->rect().center() : at;
+        QTest::mouseEvent(action, target->window()->windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                          target->mapTo(target->window(), inside), -1);
+    }
+};
+
+} // namespace screenkit
