@@ -72,7 +72,7 @@ std::optional<Complaint> DateField::complaint() {
 QSize DateField::sizeHint() const { return look::fieldSize(this, 14); }
 
 void DateField::tidy() {
-    if (readDate(text())) fill(); // 1-3-26 is shown as 01/03/2026
+    if (readDate(text()) || text().trimmed().isEmpty()) fill(); // 1-3-26 is shown as 01/03/2026
 }
 
 void DateField::keyPressEvent(QKeyEvent* event) {

@@ -1,0 +1,108 @@
+#include <QToolButton>
+
+#include "screenkit/kit_screen.h"
+
+namespace screenkit {
+namespace {
+
+QRadioButton* option(KitScreen* screen, int index) { return screen->findChild<OptionGroup*>("optMode")->option(index); }
+
+TEST_F(KitTest, anOptionIsPickedByMouseAndByTheArrows) {
+    const struct {
+        const char* how;
+        std::function<void()> pick;
+        int held;
+    } steps[] = {{"mouse", [this] { click(option(screen, 2)); }, 2},
+                 {"down, round to the top", [this] { key(Qt::Key_Down); }, 0},
+                 {"right", [this] { key(Qt::Key_Right); }, 1},
+                 {"up", [this] { key(Qt::Key_Up); }, 0},
+                 {"left, round to the bottom", [this] { key(Qt::Key_Left); }, 2}};
+    int picks = 0;
+    for (const auto& s : steps) {
+        SCOPED_TRACE(s.how);
+        changed() = 0;
+        s.pick();
+        EXPECT_EQ(places.mode, s.held);
+        EXPECT_TRUE(option(screen, s.held)->isChecked());
+        EXPECT_EQ(focus(), "optMode(" + std::to_string(s.held) + ")");
+        EXPECT_EQ(changed(), 1);
+        EXPECT_EQ(screen->picks, ++picks);
+    }
+    changed() = 0;
+    click(option(screen, 2));
+    EXPECT_EQ(changed(), 0) << "picking what holds already is no edit";
+    key(Qt::Key_Space);
+    EXPECT_EQ(changed(), 0);
+
+    option(screen, 0)->setEnabled(false);
+    key(Qt::Key_Down);
+    EXPECT_EQ(places.mode, 1) << "an option that can't be picked is passed over";
+}
+
+TEST_F(KitTest, aGroupsAccessKeyLeadsToTheOptionThatHolds) {
+    places.mode = 1;
+    refresh();
+    go("txtName");
+    get("optMode")->setFocus(Qt::ShortcutFocusReason);
+    EXPECT_EQ(focus(), "optMode(1)");
+}
+
+TEST_F(KitTest, anIndexThatNamesNoOptionLeavesThemAllOff) {
+    for (const std::int16_t index : {std::int16_t{-1}, std::int16_t{3}, std::int16_t{1}, std::int16_t{32767}}) {
+        places.mode = index;
+        refresh();
+        for (int i = 0; i < 3; ++i)
+            EXPECT_EQ(option(screen, i)->isChecked(), i == index);
+        go("txtNotes");
+        key(Qt::Key_Tab);
+        EXPECT_EQ(places.mode, index) << "passing by is no choice";
+    }
+    EXPECT_EQ(changed(), 0);
+    key(Qt::Key_Space);
+    EXPECT_EQ(places.mode, 0);
+}
+
+TEST_F(KitTest, aCheckBoxIsOneOrZero) {
+    for (const std::int16_t held : {std::int16_t{0}, std::int16_t{1}, std::int16_t{-1}}) {
+        places.smokes = held;
+        refresh();
+        EXPECT_EQ(get<QCheckBox>("chkSmokes")->isChecked(), held != 0);
+        EXPECT_EQ(places.smokes, held);
+    }
+    EXPECT_EQ(changed(), 0);
+    go("chkSmokes");
+    key(Qt::Key_Space);
+    EXPECT_EQ(places.smokes, 0);
+    click(get("chkSmokes"), QPoint(8, get("chkSmokes")->height() / 2));
+    EXPECT_EQ(places.smokes, 1);
+    EXPECT_EQ(changed(), 1);
+}
+
+TEST_F(KitTest, spinButtonsStepByMouseAndByUpAndDown) {
+    bench.record.loans.Num2 = 10;
+    refresh();
+    go("txtName");
+    auto* up = get<QToolButton>("spnMonthsUp");
+    click(up);
+    EXPECT_EQ(bench.record.loans.Num2, 11);
+    EXPECT_EQ(focus(), "txtName") << "they take no focus";
+    press(up);
+    QTest::qWait(up->autoRepeatDelay() + up->autoRepeatInterval() * 3);
+    release(up);
+    EXPECT_GE(bench.record.loans.Num2, 13);
+    EXPECT_EQ(changed(), 1);
+
+    const double held = bench.record.loans.Num2;
+    go("numMonths");
+    key(Qt::Key_Down);
+    key(Qt::Key_Down);
+    key(Qt::Key_Up);
+    EXPECT_EQ(bench.record.loans.Num2, held - 1);
+    EXPECT_EQ(text("numMonths"), std::to_string(static_cast<int>(held) - 1));
+    go("numCount");
+    key(Qt::Key_Up);
+    EXPECT_EQ(places.count, 0) << "a field without spin buttons does not step";
+}
+
+} // namespace
+} // namespace screenkit
