@@ -16,9 +16,14 @@ namespace {
 
 class Figures : public QAbstractTableModel {
 public:
-    Figures(std::vector<GridColumn> columns, std::vector<std::vector<double>> rows, QObject* parent)
-        : QAbstractTableModel(parent), m_columns(std::move(columns)), m_rows(std::move(rows)) {}
+    using QAbstractTableModel::QAbstractTableModel;
 
+    void set(std::vector<GridColumn> columns, std::vector<std::vector<double>> rows) {
+        beginResetModel();
+        m_columns = std::move(columns);
+        m_rows = std::move(rows);
+        endResetModel();
+    }
     int rowCount(const QModelIndex& parent) const override {
         return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
     }
@@ -48,6 +53,7 @@ private:
 
 Grid::Grid(const QString& name, QWidget* parent) : QTableView(parent) {
     setObjectName(name);
+    setModel(new Figures(this));
     setAlternatingRowColors(true);
     setShowGrid(false);
     setSelectionBehavior(SelectRows);
@@ -61,11 +67,7 @@ Grid::Grid(const QString& name, QWidget* parent) : QTableView(parent) {
 }
 
 void Grid::show(std::vector<GridColumn> columns, std::vector<std::vector<double>> rows) {
-    auto* old = model();
-    auto* oldSelection = selectionModel();
-    setModel(new Figures(std::move(columns), std::move(rows), this));
-    delete oldSelection;
-    delete old;
+    static_cast<Figures*>(model())->set(std::move(columns), std::move(rows));
     verticalHeader()->setDefaultSectionSize(look::lineHeight(this) * 3 / 2);
     if (model()->rowCount() > 0) setCurrentIndex(model()->index(0, 0));
 }

@@ -342,19 +342,21 @@ bool Screen::checkFields() {
 }
 
 void Screen::bringToView(QWidget* widget) {
+    if (m_area->widget() == nullptr || !m_area->widget()->isAncestorOf(widget)) return; // in a panel
     for (QWidget* page = widget; page != nullptr && page != this; page = page->parentWidget()) {
         auto* stack = page->parentWidget() != nullptr ? page->parentWidget()->parentWidget() : nullptr;
         if (auto* book = qobject_cast<QTabWidget*>(stack); book != nullptr && book->indexOf(page) >= 0)
             book->setCurrentWidget(page);
     }
-    m_area->ensureWidgetVisible(widget);
+    const QRect place(widget->mapTo(m_area->widget(), QPoint()), widget->size());
+    const QPoint middle = place.center();
+    const int gap = look::lineHeight(this) / 4; // the frame of the focus as well
+    m_area->ensureVisible(middle.x(), middle.y(), place.width() / 2 + gap, place.height() / 2 + gap);
 }
 
 void Screen::followFocus(QWidget* focused) {
-    const QWidget* content = m_area->widget();
     // A click has found its field already: moving it away under the mouse would select text.
-    if (focused == nullptr || content == nullptr || QGuiApplication::mouseButtons() != Qt::NoButton) return;
-    if (content->isAncestorOf(focused)) m_area->ensureWidgetVisible(focused);
+    if (focused != nullptr && QGuiApplication::mouseButtons() == Qt::NoButton) bringToView(focused);
 }
 
 void Screen::enterPressed() {
