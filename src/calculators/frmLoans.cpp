@@ -66,7 +66,7 @@ void frmLoans::buildBody() {
                                                                         form({{"Princ&ipal amount", m_principal},
                                                                               {"P&eriod", m_period, "months."},
                                                                               {"Interest &rate", m_rate, "% a year"},
-                                                                              {"Monthly repa&yment", m_repayment},
+                                                                              {"Monthly repaymen&t", m_repayment},
                                                                               {"Total Interest", m_interest},
                                                                               {"Total Repayments", m_repayments}}))}),
         spring(),

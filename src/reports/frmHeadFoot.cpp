@@ -9,7 +9,7 @@ namespace reports {
 using namespace screenkit;
 
 frmHeadFoot::frmHeadFoot(Workplace& workplace)
-    : Screen(workplace, "frmHeadFoot", "Header && Footer Setup", m_linesChanged) {
+    : Screen(workplace, "frmHeadFoot", "Header & Footer Setup", m_linesChanged) {
     guarded(workplace.desk, tr("read the header and footer lines"),
             [&] { m_lines = datastore::readHeadFoot(workplace.paths); });
     auto* ok = button("cmdOk", "&OK", [this] { cmdOk_Click(); });

@@ -75,14 +75,17 @@ QLayout* form(const std::vector<FormRow>& rows) {
     auto* layout = new QGridLayout;
     layout->setColumnStretch(1, 1);
     int line = 0;
+    bool grows = false;
     for (const FormRow& row : rows) {
         auto* label = buddyLabel(row.label, firstWidget(row.field));
         const bool tall = row.field.widget != nullptr &&
                           (row.field.widget->sizePolicy().verticalPolicy() & QSizePolicy::ExpandFlag) != 0;
         layout->addWidget(label, line, 0, tall ? Qt::AlignTop : Qt::AlignVCenter);
+        if (tall) layout->setRowStretch(line, 1);
+        grows = grows || tall;
         layout->addLayout(withUnit(row), line++, 1);
     }
-    layout->setRowStretch(line, 1);
+    if (!grows) layout->setRowStretch(line, 1);
     return layout;
 }
 

@@ -4,6 +4,7 @@
 #include <QFontDatabase>
 #include <QIcon>
 #include <QLineEdit>
+#include <QPainter>
 #include <QProxyStyle>
 #include <QStyleFactory>
 #include <QStyleOptionFrame>
@@ -15,7 +16,10 @@ namespace screenkit::look {
 
 namespace {
 
-/// Fusion without pictures on the buttons of boxes: the toolkit's own are of another style than ours.
+constexpr int middleGrey = 128; // of 255
+
+/// Fusion without pictures on the buttons of boxes: the toolkit's own are of another style than ours. Captions of
+/// buttons stand clear of the frame.
 class Style : public QProxyStyle {
 public:
     Style() : QProxyStyle(QStyleFactory::create("Fusion")) {}
@@ -23,6 +27,34 @@ public:
                   QStyleHintReturn* answer) const override {
         if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
         return QProxyStyle::styleHint(hint, option, widget, answer);
+    }
+    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                           const QWidget* widget) const override {
+        const int room = type == CT_PushButton ? option->fontMetrics.averageCharWidth() : 0;
+        return QProxyStyle::sizeFromContents(type, option, contents + QSize(room, 0), widget);
+    }
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override {
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+        if (element == PE_IndicatorRadioButton || element == PE_IndicatorCheckBox) outline(element, *option, *painter);
+    }
+
+private:
+    /// Fusion draws outlines darker than the window: in a dark palette an empty option could not be seen.
+    static void outline(PrimitiveElement element, const QStyleOption& option, QPainter& painter) {
+        if (option.palette.window().color().lightness() > middleGrey) return;
+        QColor ink = option.palette.windowText().color();
+        ink.setAlpha(middleGrey);
+        painter.save();
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(ink);
+        painter.setBrush(Qt::NoBrush);
+        const QRectF frame = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
+        if (element == PE_IndicatorRadioButton)
+            painter.drawEllipse(frame);
+        else
+            painter.drawRoundedRect(frame, 2, 2);
+        painter.restore();
     }
 };
 

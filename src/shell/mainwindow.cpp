@@ -50,6 +50,7 @@ MDIForm1::MDIForm1(assessment::Assessment& record, const datastore::Paths& paths
     m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     m_area->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     m_area->setBackground(palette().window().color().darker(108));
+    m_area->setActivationOrder(QMdiArea::ActivationHistoryOrder); // a graph that is closed gives back its calculator
     setCentralWidget(m_area);
     m_commands = {
         {"mnuNewFile", [this] { mnuNewFile_Click(); }},
@@ -71,6 +72,12 @@ MDIForm1::MDIForm1(assessment::Assessment& record, const datastore::Paths& paths
     buildStatusBar();
     connect(m_area, &QMdiArea::subWindowActivated, this, &MDIForm1::activated);
     connect(qApp, &QGuiApplication::commitDataRequest, this, &MDIForm1::sessionEnds, Qt::DirectConnection);
+}
+
+MDIForm1::~MDIForm1() {
+    // A screen may speak to its shell as it goes; left to the toolkit it would go when there is no shell any more.
+    m_area->disconnect(this);
+    delete m_area;
 }
 
 void MDIForm1::buildMenu() {
@@ -152,6 +159,7 @@ void MDIForm1::buildStatusBar() {
     m_clientName->setObjectName("StatusBar1.Panels(2)");
     m_clientName->setTextFormat(Qt::PlainText);
     caption->setBuddy(m_clientName);
+    caption->setIndent(caption->fontMetrics().averageCharWidth());
     statusBar()->addWidget(caption);
     statusBar()->addWidget(m_clientName, 1);
 }

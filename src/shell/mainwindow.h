@@ -25,6 +25,7 @@ class MDIForm1 : public QMainWindow, public screenkit::Shell {
 public:
     MDIForm1(assessment::Assessment& record, const datastore::Paths& paths, screenkit::Desk& desk,
              reports::Engine& reports);
+    ~MDIForm1() override;
 
     // What screens ask of it.
     void open(const QString& screen) override;

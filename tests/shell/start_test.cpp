@@ -40,4 +40,15 @@ TEST(Start, MissingSettingsEndItWithABoxThatNamesTheFile) {
     EXPECT_TRUE(run.desk.last().text.contains("3024"));
 }
 
+TEST(Start, ExitWithScreensOpenEndsQuietly) {
+    for (const char* item : {"mnuBrowse", "mnuSaveAs", "mnuPersDet", "mnuLoansCalc", "mnuPrep"}) {
+        RunningProgram run;
+        run.menu(item);
+        ASSERT_EQ(run.window().screens().size(), 1) << item;
+        run.desk.expect(screenkit::Answer::yes);
+        run.window().close();
+        EXPECT_FALSE(run.window().isVisible()) << item;
+    } // a screen that is open to the end talks to the main window while that goes
+}
+
 } // namespace
