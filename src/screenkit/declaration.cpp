@@ -194,9 +194,6 @@ Panel* Screen::printPanel(std::initializer_list<Item> choices, std::function<voi
     auto* processing = new QLabel(" PROCESSING !");
     processing->setObjectName("lblProcessing");
     processing->setAlignment(Qt::AlignCenter);
-    QSizePolicy kept = processing->sizePolicy();
-    kept.setRetainSizeWhenHidden(true); // it must be in its place when it is painted, before the report begins
-    processing->setSizePolicy(kept);
     processing->hide();
     auto* content = column(choices);
     static_cast<QVBoxLayout*>(content)->addWidget(processing);
