@@ -6,7 +6,6 @@
 #include <QMdiSubWindow>
 #include <QScopedValueRollback>
 #include <QScrollArea>
-#include <QShortcut>
 #include <QStackedWidget>
 #include <QTabWidget>
 #include <QTimer>
@@ -19,8 +18,7 @@
 namespace screenkit {
 
 namespace {
-constexpr const char* leavesFreely = "leavesFreely"; // a button that no failed check may hold back
-constexpr int mousePollTime = 20;                    // milliseconds
+constexpr int mousePollTime = 20; // milliseconds
 } // namespace
 
 std::int16_t& untracked() {
@@ -43,202 +41,10 @@ Screen::Screen(Workplace& workplace, const QString& name, const QString& caption
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { followFocus(now); });
 }
 
-Screen::~Screen() = default;
-
-template <class F>
-F* Screen::keep(F* field) {
-    Field* base = field;
-    m_fields.push_back(base);
-    base->edited = [this] {
-        if (m_filling) return;
-        m_changed = 1;
-        attempt(tr("take the entry"), [this] { edited(); });
-    };
-    base->left = [this, base] { leave(base); };
-    return field;
-}
-
-NumberField* Screen::number(const QString& name, Bound<double> place, const NumberKind& kind) {
-    return keep(new NumberField(name, std::move(place), kind));
-}
-
-NumberField* Screen::result(const QString& name, Bound<double> place, const NumberKind& kind) {
-    NumberField* field = number(name, std::move(place), kind);
-    field->setResult(true);
-    return field;
-}
-
-TextField* Screen::text(const QString& name, Bound<QString> place, int size, int characters) {
-    return keep(new TextField(name, std::move(place), size, characters));
-}
-
-MemoField* Screen::memo(const QString& name, Bound<QString> place, int size) {
-    return keep(new MemoField(name, std::move(place), size));
-}
-
-DateField* Screen::date(const QString& name, Bound<double> place) {
-    return keep(new DateField(name, std::move(place), m_work.desk));
-}
-
-OptionGroup* Screen::options(const QString& name, const QStringList& captions, Bound<int> place,
-                             std::function<void(int)> picked, Qt::Orientation orientation) {
-    auto* group = keep(new OptionGroup(name, captions, std::move(place), orientation));
-    if (picked)
-        group->picked = [this, picked = std::move(picked)](int index) {
-            attempt(tr("take the choice"), [&] { picked(index); });
-        };
-    return group;
-}
-
-CheckField* Screen::check(const QString& name, const QString& caption, Bound<int> place,
-                          std::function<void(bool)> ticked) {
-    auto* field = keep(new CheckField(name, caption, std::move(place)));
-    if (ticked)
-        field->ticked = [this, ticked = std::move(ticked)](bool on) {
-            attempt(tr("take the choice"), [&] { ticked(on); });
-        };
-    return field;
-}
-
-QPushButton* Screen::button(const QString& name, const QString& caption, std::function<void()> action) {
-    auto* push = new QPushButton(caption);
-    push->setObjectName(name);
-    push->setAccessibleName(spokenLabel(caption));
-    connect(push, &QPushButton::clicked, this, [this, caption, action = std::move(action)] {
-        if (checkFields()) attempt(tr("finish \"%1\"").arg(spokenLabel(caption)), action);
-    });
-    return push;
-}
-
-QPushButton* Screen::cancelButton(const QString& name, const QString& caption, std::function<void()> action) {
-    auto* push = new QPushButton(caption);
-    push->setObjectName(name);
-    push->setAccessibleName(spokenLabel(caption));
-    push->setProperty(leavesFreely, true);
-    connect(push, &QPushButton::clicked, this, [this, caption, action = std::move(action)] {
-        m_left.clear();
-        attempt(tr("finish \"%1\"").arg(spokenLabel(caption)), action);
-    });
-    return push;
-}
-
-QPushButton* Screen::okButton(const QString& name, const QString& caption) {
-    return button(name, caption, [this] {
-        auto* window = qobject_cast<QMdiSubWindow*>(parentWidget());
-        (window != nullptr ? static_cast<QWidget*>(window) : this)->close();
-    });
-}
-
-QPushButton* Screen::opener(const QString& name, const QString& caption, const QString& screen) {
-    auto* push = button(name, caption, [this, screen] { m_work.shell.open(screen); });
-    push->setEnabled(m_work.shell.exists(screen));
-    return push;
-}
-
-QPushButton* Screen::later(const QString& name, const QString& caption) {
-    auto* push = button(name, caption, [] {});
-    push->setEnabled(false);
-    return push;
-}
-
-QLineEdit* Screen::shown(const QString& name, int characters) {
-    auto* line = new QLineEdit;
-    line->setObjectName(name);
-    line->setMinimumWidth(look::fieldSize(line, characters).width());
-    look::setResult(line, true);
-    return line;
-}
-
-SpinButtons* Screen::spin(const QString& name, NumberField* field, std::function<void(int)> step) {
-    const auto stepChecked = [this, step = std::move(step)](int direction) {
-        return checkFields() && attempt(tr("take the step"), [&] { step(direction); });
-    };
-    for (const auto& [key, direction] : {std::pair{Qt::Key_Up, 1}, std::pair{Qt::Key_Down, -1}}) {
-        auto* shortcut = new QShortcut(key, field, nullptr, nullptr, Qt::WidgetShortcut);
-        connect(shortcut, &QShortcut::activated, this, [stepChecked, way = direction] { stepChecked(way); });
-    }
-    return new SpinButtons(name, stepChecked);
-}
-
-QLabel* Screen::heading(const QString& name) {
-    auto* label = new QLabel;
-    label->setObjectName(name);
-    QFont bold = label->font();
-    bold.setBold(true);
-    label->setFont(bold);
-    return label;
-}
-
-QLabel* Screen::over(QWidget* field, const QString& name, const QString& text) {
-    auto* label = new QLabel(text, field);
-    label->setObjectName(name);
-    label->setAutoFillBackground(true);
-    auto* cover = new QHBoxLayout(field);
-    cover->setContentsMargins(2, 2, 2, 2);
-    cover->addWidget(label);
-    label->hide();
-    return label;
-}
-
-void Screen::untrackedField(Field* field) { field->edited = {}; }
-
-QTabWidget* Screen::tabs(const QString& name, const std::vector<std::pair<QString, Item>>& pages) {
-    auto* book = new QTabWidget;
-    book->setObjectName(name);
-    for (const auto& [caption, content] : pages) {
-        auto* page = content.widget;
-        if (page == nullptr) {
-            page = new QWidget;
-            page->setLayout(content.layout);
-        }
-        book->addTab(page, caption);
-    }
-    return book;
-}
-
-void Screen::body(QLayout* content) {
-    auto* holder = new QWidget;
-    holder->setLayout(content);
-    m_area->setWidget(holder);
-}
-
-Panel* Screen::panel(const QString& name, const QString& title, Item content,
-                     std::initializer_list<QPushButton*> buttons) {
-    auto* made = new Panel(name, title, m_area, this);
-    auto* layout = new QVBoxLayout;
-    if (content.widget != nullptr) layout->addWidget(content.widget, 1);
-    if (content.layout != nullptr) layout->addLayout(content.layout, 1);
-    auto* foot = new QHBoxLayout;
-    foot->addStretch(1);
-    for (QPushButton* push : buttons)
-        foot->addWidget(push);
-    layout->addLayout(foot);
-    made->setContent(layout);
-    if (buttons.size() > 0) {
-        made->setDefaultButton(*buttons.begin());
-        made->setCancelButton(*(buttons.end() - 1));
-    }
-    m_panels.push_back(made);
-    return made;
-}
-
-Panel* Screen::printPanel(std::initializer_list<Item> choices, std::function<void(Destination)> print) {
-    auto* processing = new QLabel(" PROCESSING !");
-    processing->setObjectName("lblProcessing");
-    processing->setAlignment(Qt::AlignCenter);
-    QSizePolicy kept = processing->sizePolicy();
-    kept.setRetainSizeWhenHidden(true); // it must be in its place when it is painted, before the report begins
-    processing->setSizePolicy(kept);
-    processing->hide();
-    auto* content = column(choices);
-    static_cast<QVBoxLayout*>(content)->addWidget(processing);
-    auto made = std::make_shared<Panel*>(nullptr);
-    const auto run = [this, made, print](Destination to) { runPrint(*made, print, to); };
-    auto* view = button("cmdVR", "&View/Export report", [run] { run(Destination::preview); });
-    auto* direct = button("cmdPD", "P&rint directly to printer", [run] { run(Destination::printer); });
-    auto* cancel = cancelButton("cmdPrintCancel", "C&ancel", [made] { (*made)->close(); });
-    *made = panel("fraPrint", tr("Print"), content, {view, direct, cancel});
-    return *made;
+Screen::~Screen() {
+    disconnect(qApp, nullptr, this, nullptr);
+    for (Field* field : m_fields)
+        field->left = {}; // the controls outlive this screen's members by a moment, and lose the focus in it
 }
 
 void Screen::runPrint(Panel* panel, const std::function<void(Destination)>& print, Destination destination) {

@@ -115,6 +115,9 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    /// Marks a button that no failed check may hold back.
+    static constexpr const char* leavesFreely = "leavesFreely";
+
     template <class F>
     F* keep(F* field);
     /// Runs what an event has called for; a failure shows its box and goes no further.

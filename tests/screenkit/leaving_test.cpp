@@ -163,9 +163,15 @@ TEST_F(LeavingTest, anotherWindowInFrontIsNoLeaving) {
     enter("numMonths", "5");
 }
 
+TEST_F(LeavingTest, aScreenTornDownInMidEditAsksNothing) {
+    enterTooMany();
+    delete screen;
+    settle();
+    EXPECT_TRUE(desk.boxes.empty());
+}
+
 TEST_F(LeavingTest, aFailingActionShowsOneBoxAndTheProgramGoesOn) {
     const auto fail = [] { throw store::Error(store::Number::diskFull, "/home/adviser/Print.mdb"); };
-    screen->onFilled = [] {};
     screen->onRun = fail;
     screen->onEdit = fail;
     for (const auto& act :

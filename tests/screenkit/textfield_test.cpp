@@ -83,7 +83,6 @@ TEST_F(KitTest, notesTakeTheirCharactersAndNoMore) {
     paste("in front of it all: no room");
     EXPECT_EQ(places.notes.substr(0, 8), "line one");
     notes->undo();
-    notes->undo();
     EXPECT_EQ(places.notes, notes->toPlainText().toStdString()) << "the record follows an undo";
 
     key(Qt::Key_Tab);
