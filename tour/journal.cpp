@@ -1,5 +1,6 @@
 #include "tour/journal.h"
 
+#include <QDir>
 #include <QPixmap>
 #include <QTest>
 #include <cstdio>
@@ -10,7 +11,6 @@ namespace tour {
 
 namespace {
 
-int next = 1;
 constexpr int patience = 5000; // milliseconds for a window to show itself
 
 bool showsSomething(const QImage& image) {
@@ -35,11 +35,9 @@ void check(bool holds, const QString& otherwise) {
     if (!holds) fail(otherwise);
 }
 
-int nextPicture() { return next; }
-void startPicturesAt(int number) { next = number; }
-
 void picture(const QPixmap& pixels, const QString& name) {
-    const QString file = QString("%1-%2.png").arg(next++, 2, 10, QChar('0')).arg(name);
+    const auto number = QDir().entryList({"[0-9]*-*.png"}).size() + 1;
+    const QString file = QString("%1-%2.png").arg(number, 2, 10, QChar('0')).arg(name);
     check(showsSomething(pixels.toImage()), "the picture " + file + " is empty");
     check(pixels.save(file), "the picture " + file + " cannot be written");
     say("  picture " + file);

@@ -14,11 +14,8 @@ void say(const QString& line);
 [[noreturn]] void fail(const QString& why);
 void check(bool holds, const QString& otherwise);
 
-/// Saves the next picture as NN-name.png. An empty or single-coloured one ends the tour.
+/// Saves a picture as NN-name.png, numbered on from those in the folder. An empty or single-coloured one ends the tour.
 void picture(const QPixmap& pixels, const QString& name);
 void picture(QWidget* window, const QString& name);
-/// The number that the next picture gets, from 1.
-int nextPicture();
-void startPicturesAt(int number);
 
 } // namespace tour

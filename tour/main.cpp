@@ -23,6 +23,7 @@ using tour::Desk;
 using tour::Hands;
 
 constexpr unsigned longestTour = 300; // seconds until a tour that hangs is ended
+const char* const screenFile = "screen.json";
 const char* const dark = "dark";
 const char* const large = "large";
 
@@ -39,13 +40,13 @@ void withoutPlatformsRegrets(QtMsgType, const QMessageLogContext&, const QString
 
 /// A screen as advisers have it, without one being there.
 void useOffscreen(double scale) {
-    QFile file("screen.json");
+    QFile file(screenFile);
     tour::check(file.open(QIODevice::WriteOnly), "the folder cannot be written");
     file.write(QString(R"({"screens": [{"name": "tour", "width": %1, "height": %2}]})")
                    .arg(1280 * scale)
                    .arg(800 * scale)
                    .toUtf8());
-    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=screen.json");
+    qputenv("QT_QPA_PLATFORM", QByteArray("offscreen:configfile=") + screenFile);
 }
 
 void useDarkPalette() {
@@ -110,10 +111,9 @@ void startAgainAs(const QString& name) {
     if (name == large) environment.insert("QT_SCALE_FACTOR", "2");
     again.setProcessEnvironment(environment);
     again.setProcessChannelMode(QProcess::ForwardedChannels);
-    again.start(QApplication::applicationFilePath(), {name, QString::number(tour::nextPicture())});
+    again.start(QApplication::applicationFilePath(), {name});
     tour::check(again.waitForFinished(-1) && again.exitStatus() == QProcess::NormalExit && again.exitCode() == 0,
                 "the tour under the look " + name + " failed");
-    tour::startPicturesAt(tour::nextPicture() + 4);
 }
 
 } // namespace
@@ -122,15 +122,15 @@ int main(int argc, char** argv) try {
     std::signal(SIGALRM, ended);
     ::alarm(longestTour);
     qInstallMessageHandler(withoutPlatformsRegrets);
-    const QString look = argc > 2 ? argv[1] : "";
+    const QString look = argc > 1 ? argv[1] : "";
     useOffscreen(look == large ? 2 : 1);
     QApplication application(argc, argv);
+    QFile::remove(screenFile);
     std::setlocale(LC_NUMERIC, "C");
     QApplication::setApplicationName("marlowbeck");
     QApplication::setQuitOnLastWindowClosed(false); // the program starts twice in one tour
     screenkit::look::apply(application);
     if (!look.isEmpty()) {
-        tour::startPicturesAt(QString(argv[2]).toInt());
         if (look == dark) useDarkPalette();
         anotherLook(look);
         return EXIT_SUCCESS;
