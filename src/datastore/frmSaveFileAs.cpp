@@ -12,8 +12,8 @@ frmSaveFileAs::frmSaveFileAs(Workplace& workplace)
     : Screen(workplace, "frmSaveFileAs", "Save File As..", untracked()), m_client(workplace.record.client),
       m_details(workplace.record.details) {
     workplace.shell.enableToolbar(false);
-    m_name = text("txtName", m_client.Name, 80);
-    m_name->setResult(true);
+    m_name = shown("txtName", 40);
+    m_name->setText(QString::fromStdString(m_client.Name));
     auto* title = namePart("txtCTitle", m_details.CTitle, 10);
     auto* initials = namePart("txtCInit", m_details.CInit, 10);
     m_surname = namePart("txtCLName", m_details.CLName, 50);
@@ -43,7 +43,7 @@ TextField* frmSaveFileAs::namePart(const QString& name, std::string& part, int s
 
 void frmSaveFileAs::NameFunc() {
     m_client.Name = assessment::displayName(m_details.CTitle, m_details.CInit, m_details.CLName);
-    m_name->fill();
+    m_name->setText(QString::fromStdString(m_client.Name));
 }
 
 void frmSaveFileAs::saveAs() {

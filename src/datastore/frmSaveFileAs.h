@@ -21,7 +21,8 @@ private:
 
     assessment::Client m_client;
     assessment::PersonalDetails m_details;
-    screenkit::TextField *m_name, *m_surname;
+    QLineEdit* m_name;
+    screenkit::TextField* m_surname;
 };
 
 } // namespace datastore

@@ -113,7 +113,7 @@ QLineEdit* Screen::shown(const QString& name, int characters) {
     auto* line = new QLineEdit;
     line->setObjectName(name);
     line->setMinimumWidth(look::fieldSize(line, characters).width());
-    look::setResult(line, true);
+    look::setShown(line);
     return line;
 }
 

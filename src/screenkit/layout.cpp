@@ -101,6 +101,8 @@ QWidget* group(const QString& name, const QString& title, Item content) {
     box->setObjectName(name);
     auto* layout = new QVBoxLayout(box);
     add(layout, content);
+    if (content.widget != nullptr && content.widget->accessibleName().isEmpty())
+        content.widget->setAccessibleName(spokenLabel(title));
     return box;
 }
 

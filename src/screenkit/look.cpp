@@ -92,6 +92,13 @@ void setResult(QLineEdit* field, bool result) {
     field->setPalette(palette);
 }
 
+void setShown(QLineEdit* field) {
+    setResult(field, true);
+    QPalette palette;
+    palette.setColor(QPalette::Base, palette.window().color());
+    field->setPalette(palette);
+}
+
 int lineHeight(const QWidget* widget) { return widget->fontMetrics().height(); }
 
 } // namespace screenkit::look

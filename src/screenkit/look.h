@@ -19,6 +19,9 @@ QSize fieldSize(const QLineEdit* field, int characters);
 /// A result is yellow with black text, read-only and out of the tab order; an entry takes the palette's colours.
 void setResult(QLineEdit* field, bool result);
 
+/// A text that is shown and not entered: on the window's own colour, with no look of a result.
+void setShown(QLineEdit* field);
+
 /// One line's height in the widget's font: the measure for spaces and panels.
 int lineHeight(const QWidget* widget);
 
