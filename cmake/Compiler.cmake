@@ -25,6 +25,9 @@ endif()
 
 set(CMAKE_CXX_FLAGS_RELEASE "-O2 -DNDEBUG" CACHE STRING "What is installed and packaged" FORCE)
 
+# What a program does not use it need not load.
+add_link_options(LINKER:--as-needed)
+
 add_library(marlowbeck_options INTERFACE)
 target_compile_options(marlowbeck_options INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror -ffp-contract=off -fno-fast-math

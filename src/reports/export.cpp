@@ -10,6 +10,7 @@
 #include <charconv>
 
 #include "reports/face.h"
+#include "reports/output.h"
 
 namespace reports {
 namespace {
@@ -75,7 +76,7 @@ QByteArray exported(const Report& report, Format format) {
     case Format::html: return toHtml(report.content, report.title);
     case Format::odt: return toOdt(report.content, report.title);
     case Format::csv: return toCsv(report.content);
-    case Format::xlsx: return toXlsx(report.content, report.title);
+    case Format::xlsx: return output().toXlsx(report.content, report.title);
     case Format::pdf: break;
     }
     return toPdf(report);

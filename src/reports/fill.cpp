@@ -317,15 +317,6 @@ void collectTables(const std::vector<Node>& nodes, QStringList& tables) {
 
 } // namespace
 
-QString textOf(const std::vector<Run>& runs) {
-    QString text;
-    for (const Run& run : runs)
-        text += run.text;
-    return text;
-}
-
-QString Cell::text() const { return textOf(runs); }
-
 QStringList tablesOf(const Definition& definition) {
     QStringList tables;
     if (!definition.table.isEmpty()) tables << definition.table;

@@ -3,8 +3,6 @@
 #include <QFileInfo>
 #include <QPrinter>
 
-#include "reports/graphexport.h"
-#include "reports/graphview.h"
 #include "screenkit/desk.h"
 #include "store/error.h"
 #include "store/files.h"
@@ -23,24 +21,31 @@ QString withPictureEnding(const QString& name) {
     return QStringList{"png", "svg", "pdf"}.contains(ending) ? name : name + ".png";
 }
 
+// PNG for any ending but the other two.
+GraphFormat formatOf(const QString& fileName) {
+    const QString ending = QFileInfo(fileName).suffix().toLower();
+    if (ending == "svg") return GraphFormat::svg;
+    return ending == "pdf" ? GraphFormat::pdf : GraphFormat::png;
+}
+
 } // namespace
 
 frmGraph::frmGraph(screenkit::Workplace& workplace)
-    : Screen(workplace, "frmGraph", "Graph", screenkit::untracked()), m_view(new GraphView) {
-    m_view->setObjectName("ChartFX1");
+    : Screen(workplace, "frmGraph", "Graph", screenkit::untracked()), m_pane(output().newGraphPane()) {
+    m_pane.widget->setObjectName("ChartFX1");
     auto* orientations = options("Option1", {"&Landscape", "Po&rtrait"}, m_portrait, {}, Qt::Horizontal);
     using screenkit::Item;
-    body(screenkit::column(
-        {Item(m_view, 1), screenkit::row({screenkit::group("Frame1", "Print :", orientations), screenkit::spring(),
-                                          button("cmdExport", "&Export", [this] { saveAs(); }),
-                                          button("cmdPrint", "&Print", [this] { print(); }), okButton()})}));
+    body(screenkit::column({Item(m_pane.widget, 1),
+                            screenkit::row({screenkit::group("Frame1", "Print :", orientations), screenkit::spring(),
+                                            button("cmdExport", "&Export", [this] { saveAs(); }),
+                                            button("cmdPrint", "&Print", [this] { print(); }), okButton()})}));
 }
 
-QWidget* frmGraph::firstField() { return m_view; }
+QWidget* frmGraph::firstField() { return m_pane.widget; }
 
 void frmGraph::draw(const Graph& graph) {
     m_graph = graph;
-    m_view->show(m_graph);
+    m_pane.show(m_graph);
 }
 
 void frmGraph::NAEDUAmortGraph(Yearly capital, Yearly interest, Yearly required, int count) {
@@ -96,7 +101,7 @@ void frmGraph::print() {
     printer.setDocName(QString::fromStdString(m_graph.title).trimmed());
     printer.setPageOrientation(orientation());
     if (!m_work.desk.choosePrinter(printer)) return;
-    if (!printGraph(m_graph, printer))
+    if (!output().printGraph(m_graph, printer))
         m_work.desk.tell(BoxStyle::critical, "The printer did not accept the graph.", "Print");
 }
 
@@ -114,7 +119,7 @@ void frmGraph::saveAs() {
     if (!chosen) return;
     const QString name = withPictureEnding(*chosen);
     if (name != *chosen && QFileInfo::exists(name) && !mayReplace(name)) return;
-    const QByteArray bytes = exportedGraph(m_graph, graphFormatOf(name), orientation());
+    const QByteArray bytes = output().exportedGraph(m_graph, formatOf(name), orientation());
     try {
         store::writeFile(name.toStdString(), {bytes.constData(), static_cast<std::size_t>(bytes.size())});
     } catch (const store::Error& error) {

@@ -5,11 +5,10 @@
 #include <string_view>
 
 #include "reports/graphdata.h"
+#include "reports/output.h"
 #include "screenkit/screen.h"
 
 namespace reports {
-
-class GraphView;
 
 /// The one chart window. A calculator hands its yearly arrays to one of the ten procedures and shows the window.
 ///
@@ -52,7 +51,7 @@ private:
     bool mayReplace(const QString& name);
     void saveAs();
 
-    GraphView* m_view;
+    GraphPane m_pane;
     Graph m_graph;
     int m_portrait = 0; ///< index of the orientation chosen
 };

@@ -22,6 +22,9 @@ execute_process(COMMAND stat -c %a "${own}" OUTPUT_VARIABLE mode OUTPUT_STRIP_TR
 if(NOT mode STREQUAL 700)
   message(SEND_ERROR "others may look into the program folder: its mode is ${mode}")
 endif()
+if(NOT EXISTS "${own}/libmarlowbeck_output.so")
+  message(SEND_ERROR "the library of charts and workbooks was not installed beside the program")
+endif()
 file(GLOB definitions RELATIVE "${own}" "${own}/*.rpt")
 if(NOT definitions)
   message(SEND_ERROR "no report definition was installed")
@@ -45,7 +48,11 @@ endif()
 # For all users: the same files, the marker, and a command that leads to them. Nothing there is anybody's own.
 set(shared "${scratch}/all users")
 install_to("${shared}")
+<<<<<<< HEAD
 foreach(name IN ITEMS marlowbeck Default.Mdb Print.mdb units.mdb Diary.mdb guide.md ${definitions}
+=======
+foreach(name IN ITEMS marlowbeck libmarlowbeck_output.so Default.Mdb Print.mdb units.mdb Diary.mdb docs/guide.md ${definitions}
+>>>>>>> 102a974 (Load charts and workbooks when they are first asked for, since each start waited for their libraries)
                       installed-for-all-users)
   if(NOT EXISTS "${shared}/lib/marlowbeck/${name}")
     message(SEND_ERROR "missing from the installation for all users: ${name}")

@@ -10,7 +10,7 @@
 #include <numeric>
 
 #include "reports/frmGraph.h"
-#include "reports/graphview.h"
+#include "reports/output/graphview.h"
 #include "screenkit/desk.h"
 #include "screenkit/workbench.h"
 

@@ -1,4 +1,4 @@
-#include "reports/graphexport.h"
+#include "reports/output/graphexport.h"
 
 #include <gtest/gtest.h>
 

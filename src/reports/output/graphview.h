@@ -2,7 +2,7 @@
 
 #include <QChartView>
 
-#include "reports/graphchart.h"
+#include "reports/output/graphchart.h"
 
 class QGraphicsEllipseItem;
 class QGraphicsPathItem;

@@ -1,4 +1,4 @@
-#include "reports/graphchart.h"
+#include "reports/output/graphchart.h"
 
 #include <QCategoryAxis>
 #include <QChart>

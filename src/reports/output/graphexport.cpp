@@ -1,8 +1,8 @@
-#include "reports/graphexport.h"
+#include "reports/output/graphexport.h"
 
 #include <QBuffer>
 #include <QChart>
-#include <QFileInfo>
+#include <QGraphicsLayout>
 #include <QGraphicsScene>
 #include <QImage>
 #include <QPageSize>
@@ -11,7 +11,7 @@
 #include <QSvgGenerator>
 #include <algorithm>
 
-#include "reports/graphchart.h"
+#include "reports/output/graphchart.h"
 
 namespace reports {
 
@@ -86,13 +86,6 @@ bool printGraph(const Graph& graph, QPagedPaintDevice& device) {
     const double dots = static_cast<double>(device.width()) / size.width();
     paintGraph(graph, painter, size, QRectF(QPointF(0, 0), size * dots));
     return painter.end();
-}
-
-GraphFormat graphFormatOf(const QString& fileName) {
-    const QString ending = QFileInfo(fileName).suffix().toLower();
-    if (ending == "svg") return GraphFormat::svg;
-    if (ending == "pdf") return GraphFormat::pdf;
-    return GraphFormat::png;
 }
 
 QByteArray exportedGraph(const Graph& graph, GraphFormat format, QPageLayout::Orientation orientation) {

@@ -1,4 +1,4 @@
-#include "reports/graphview.h"
+#include "reports/output/graphview.h"
 
 #include <QChart>
 #include <QGraphicsEllipseItem>

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QByteArray>
+#include <QPageLayout>
+#include <functional>
+
+class QPagedPaintDevice;
+class QWidget;
+
+namespace reports {
+
+struct Content;
+struct Graph;
+
+enum class GraphFormat { png, svg, pdf };
+
+/// A graph on the screen: a widget for the caller to place, and how it is given what it shows.
+struct GraphPane {
+    QWidget* widget;
+    std::function<void(const Graph&)> show;
+};
+
+/// What draws charts and writes workbooks. It lives in a library of its own, since the toolkit's charts and the
+/// workbook writer bring more to load and relocate than all the rest of the program, and no start needs them.
+struct Output {
+    GraphPane (*newGraphPane)();
+    QByteArray (*exportedGraph)(const Graph& graph, GraphFormat format, QPageLayout::Orientation orientation);
+    bool (*printGraph)(const Graph& graph, QPagedPaintDevice& device);
+    QByteArray (*toXlsx)(const Content& content, const QString& title);
+};
+
+/// The library, loaded when it is first asked for. Throws store::Error if it does not lie beside the program.
+const Output& output();
+
+} // namespace reports

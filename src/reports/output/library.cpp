@@ -1,0 +1,20 @@
+#include "reports/export.h"
+#include "reports/output.h"
+#include "reports/output/graphexport.h"
+#include "reports/output/graphview.h"
+
+namespace reports {
+
+namespace {
+
+GraphPane newGraphPane() {
+    auto* view = new GraphView;
+    return {view, [view](const Graph& graph) { view->show(graph); }};
+}
+
+} // namespace
+
+/// What the program asks the library for once it is loaded.
+extern "C" const Output marlowbeckOutput{newGraphPane, exportedGraph, printGraph, toXlsx};
+
+} // namespace reports
