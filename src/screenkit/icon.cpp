@@ -1,10 +1,12 @@
 #include "screenkit/icon.h"
 
+#include <QApplication>
 #include <QFile>
-#include <QGuiApplication>
 #include <QIconEngine>
 #include <QPainter>
 #include <QPalette>
+#include <QStyle>
+#include <QStyleOption>
 #include <QSvgRenderer>
 
 // A library's resources are linked in only where they are named; the macro wants the global namespace.
@@ -33,7 +35,12 @@ public:
         pixmap.fill(Qt::transparent);
         QPainter painter(&pixmap);
         paint(&painter, QRect(QPoint(0, 0), size), mode, state);
-        return pixmap;
+        painter.end();
+        // A drawing that takes the text's colour is greyed by that; one with colours of its own must be greyed here.
+        if (mode != QIcon::Disabled || m_drawing.contains("currentColor")) return pixmap;
+        QStyleOption option;
+        option.palette = QGuiApplication::palette();
+        return QApplication::style()->generatedIconPixmap(mode, pixmap, &option);
     }
 
     QIconEngine* clone() const override { return new LineIcon(m_drawing); }

@@ -9,8 +9,7 @@
 #include <QStyleFactory>
 #include <QStyleOptionFrame>
 
-// A library's resources are linked in only where they are named; the macro wants the global namespace.
-static void nameResources() { Q_INIT_RESOURCE(marlowbeck); }
+#include "screenkit/icon.h"
 
 namespace screenkit::look {
 
@@ -18,8 +17,8 @@ namespace {
 
 constexpr int middleGrey = 128; // of 255
 
-/// Fusion without pictures on the buttons of boxes: the toolkit's own are of another style than ours. Captions of
-/// buttons stand clear of the frame.
+/// Fusion without pictures on the buttons of boxes, since the toolkit's own are of another style than ours, and with a
+/// plain toolbar. Captions of buttons stand clear of the frame.
 class Style : public QProxyStyle {
 public:
     Style() : QProxyStyle(QStyleFactory::create("Fusion")) {}
@@ -37,6 +36,15 @@ public:
                        const QWidget* widget) const override {
         QProxyStyle::drawPrimitive(element, option, painter, widget);
         if (element == PE_IndicatorRadioButton || element == PE_IndicatorCheckBox) outline(element, *option, *painter);
+    }
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override {
+        if (element != CE_ToolBar) return QProxyStyle::drawControl(element, option, painter, widget);
+        // Fusion's own edges are see-through, so that they are drawn dot by dot on several threads: the first paint
+        // waited for 36 of their jobs.
+        const QRect& bar = option->rect;
+        painter->fillRect(bar, option->palette.window());
+        painter->fillRect(bar.left(), bar.bottom(), bar.width(), 1, option->palette.mid());
     }
 
 private:
@@ -61,12 +69,11 @@ private:
 } // namespace
 
 void apply(QApplication& application) {
-    nameResources();
     QApplication::setStyle(new Style);
     QFont font("Open Sans", application.font().pointSize() > 0 ? application.font().pointSize() : 10);
     font.setStyleHint(QFont::SansSerif);
     QApplication::setFont(font);
-    QApplication::setWindowIcon(QIcon(":/icons/marlowbeck.svg"));
+    QApplication::setWindowIcon(icon("marlowbeck"));
 }
 
 QSize fieldSize(const QLineEdit* field, int characters) {

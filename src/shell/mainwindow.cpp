@@ -21,6 +21,7 @@
 #include "reports/report.h"
 #include "screenkit/accesskeys.h"
 #include "screenkit/desk.h"
+#include "screenkit/icon.h"
 #include "screenkit/look.h"
 #include "screenkit/screen.h"
 #include "screenkit/trouble.h"
@@ -131,7 +132,7 @@ void MDIForm1::buildToolbar() {
     m_toolbar->setContextMenuPolicy(Qt::PreventContextMenu);
     for (const ToolButton& entry : toolButtons()) {
         QAction* item = m_actions.value(entry.item);
-        auto* action = m_toolbar->addAction(QIcon(QString(":/icons/%1.svg").arg(entry.icon)), entry.tip);
+        auto* action = m_toolbar->addAction(screenkit::icon(entry.icon), entry.tip);
         action->setObjectName(QString("tb_") + entry.icon);
         action->setEnabled(item->isEnabled());
         auto* button = qobject_cast<QToolButton*>(m_toolbar->widgetForAction(action));
