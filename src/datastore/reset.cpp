@@ -32,4 +32,10 @@ void ResetAssessment(assessment::Assessment& record, const Paths& paths) {
     record = std::move(blank);
 }
 
+void ResetAssessment(assessment::Assessment& record, const Paths& paths, store::Database& clients) {
+    assessment::Assessment blank = blankRecord(paths.DefaultDbPath);
+    readCPI(blank, clients);
+    record = std::move(blank);
+}
+
 } // namespace datastore

