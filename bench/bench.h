@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <filesystem>
 #include <functional>
 #include <string>
 #include <vector>
@@ -14,7 +15,7 @@ struct Bench {
     std::function<double()> floor; ///< measures the floor once; empty where the goal is a figure in `unit`
     std::function<double()> ours;  ///< measures ours once
     double goal = 0;               ///< at most so many times the floor, or so many units where there is no floor
-    int rounds = 15;               ///< floor and ours are measured by turns this often and the best of each counts
+    int rounds = 15;               ///< floor and ours are measured by turns this often and the median of each counts
 };
 
 /// All benches of the program, by the order of their files.
@@ -32,6 +33,10 @@ double milliseconds(Work&& work) {
     work();
     return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
 }
+
+/// A folder of the benches' own inside the build's, emptied of what the last run left there: on the disk, since a save
+/// in memory would never wait for it.
+std::filesystem::path emptyFolder(const std::string& name);
 
 /// Keeps the compiler from leaving out work whose result nobody reads.
 inline void keep(double result) {

@@ -2,7 +2,12 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <limits>
+#include <filesystem>
+#include <vector>
+
+#include <QApplication>
+
+#include "screenkit/look.h"
 
 namespace bench {
 
@@ -11,23 +16,37 @@ std::vector<Bench>& registry() {
     return benches;
 }
 
+std::filesystem::path emptyFolder(const std::string& name) {
+    const std::filesystem::path folder = std::filesystem::path(BENCH_FOLDER) / name;
+    std::filesystem::remove_all(folder);
+    std::filesystem::create_directories(folder);
+    return folder;
+}
+
 } // namespace bench
 
 namespace {
 
 struct Measured {
-    double floor = std::numeric_limits<double>::infinity();
-    double ours = std::numeric_limits<double>::infinity();
+    double floor = 0;
+    double ours = 0;
 };
 
-/// The best of some rounds, floor and ours by turns, so that a busy machine slows both alike.
+double median(std::vector<double> figures) {
+    const auto middle = figures.begin() + static_cast<std::ptrdiff_t>(figures.size() / 2);
+    std::nth_element(figures.begin(), middle, figures.end());
+    return *middle;
+}
+
+/// The medians of some rounds, floor and ours by turns, so that a busy machine slows both alike.
 Measured measure(const bench::Bench& bench) {
-    Measured best;
+    std::vector<double> floor;
+    std::vector<double> ours;
     for (int round = 0; round < bench.rounds; ++round) {
-        if (bench.floor) best.floor = std::min(best.floor, bench.floor());
-        best.ours = std::min(best.ours, bench.ours());
+        if (bench.floor) floor.push_back(bench.floor());
+        ours.push_back(bench.ours());
     }
-    return best;
+    return {floor.empty() ? 0 : median(floor), median(ours)};
 }
 
 /// Prints the line; true if the goal is met.
@@ -49,10 +68,14 @@ bool report(const bench::Bench& bench) {
 
 } // namespace
 
-int main() {
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    screenkit::look::apply(application);
     std::puts("| What | Floor | Ours | Ratio | Goal | |\n|---|---|---|---|---|---|");
     bool allMet = true;
+    const std::string wanted = argc > 1 ? argv[1] : ""; // part of a name, to repeat one line alone
     for (const bench::Bench& bench : bench::registry()) {
+        if (bench.name.find(wanted) == std::string::npos) continue;
         allMet = report(bench) && allMet;
         std::fflush(stdout);
     }

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+struct sqlite3_value;
+
+namespace bench {
+
+/// A client's rows as they stand in the file, written and read by the database's own functions and nothing else: no
+/// field tables, no check of types and sizes, no record. The file is opened and closed each time.
+class BareClient {
+public:
+    BareClient(std::filesystem::path file, double key);
+    ~BareClient();
+    BareClient(const BareClient&) = delete;
+    BareClient& operator=(const BareClient&) = delete;
+
+    /// All rows in one transaction, synchronous=FULL: an update where the client has one row, else delete and insert.
+    void save();
+    /// All rows, each cell copied out.
+    void load();
+
+private:
+    struct Table {
+        std::string name;
+        std::string select, update, remove, insert;
+        std::vector<std::vector<sqlite3_value*>> rows;
+    };
+    std::filesystem::path m_file;
+    double m_key;
+    std::vector<Table> m_tables;
+    double m_edits = 0;
+};
+
+} // namespace bench

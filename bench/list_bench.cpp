@@ -1,0 +1,92 @@
+#include "bench.h"
+
+#include <QApplication>
+#include <QListView>
+
+#include "screenkit/realdesk.h"
+#include "shell/mainwindow.h"
+#include "shell/program.h"
+#include "store/database.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int clients = 100000;
+
+/// Surnames of three syllables, spread over the alphabet as a practice's are, each borne by a dozen clients.
+std::string surname(int number) {
+    static const char* const syllables[] = {"ba",  "de", "fou", "gro", "ho",  "ja",  "kru", "le", "mo", "na",
+                                            "pie", "ro", "si",  "the", "van", "wes", "xo",  "ye", "zu", "ng"};
+    const int mixed = static_cast<int>(number * 7919LL % 8000);
+    std::string name = syllables[mixed % 20];
+    name += std::string(syllables[mixed / 20 % 20]) + syllables[mixed / 400];
+    name[0] = static_cast<char>(name[0] - 'a' + 'A');
+    return name;
+}
+
+void addClients(store::Database& database) {
+    store::Transaction transaction(database);
+    store::Statement add = database.prepare(
+        "INSERT INTO [PersDetails] ([DCLNO], [Name], [BirthDate], [IDNumber], [CTitle], [CInit], [CLName], "
+        "[Description]) VALUES (?, ?, ?, ?, 'Mr', 'A', ?, ?)");
+    for (int i = 1; i <= clients; ++i) {
+        const std::string name = surname(i);
+        add.bind(1, static_cast<double>(i)).bind(2, "Mr A " + name).bind(3, 20000.0 + i % 20000);
+        add.bind(4, std::to_string(7000000000000 + i)).bind(5, name).bind(6, "Case " + std::to_string(i)).run();
+    }
+    transaction.commit();
+}
+
+/// The program on a file of many clients.
+class Practice {
+public:
+    Practice() : m_folder(bench::emptyFolder("list")), m_program(m_desk, m_folder, "marlowbeck-bench-list") {
+        for (const char* name : {"Default.Mdb", "Print.mdb", "units.mdb", "Diary.mdb"})
+            fs::copy_file(fs::path(MARLOWBECK_DATABASE_DIR) / name, m_folder / name);
+        m_program.MDIForm_Load();
+        store::Database database(m_program.paths().DataDbPath);
+        addClients(database);
+    }
+
+    double open() {
+        Watch watch;
+        const double taken = bench::milliseconds([&] {
+            m_program.window().open("frmBrowse");
+            while (!watch.painted)
+                QApplication::processEvents();
+        });
+        m_program.window().CLEARLOAD();
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        return taken;
+    }
+
+private:
+    struct Watch : QObject {
+        Watch() { qApp->installEventFilter(this); }
+        bool eventFilter(QObject* watched, QEvent* event) override {
+            if (event->type() == QEvent::Paint && qobject_cast<QListView*>(watched->parent()) != nullptr)
+                painted = true;
+            return false;
+        }
+        bool painted = false;
+    };
+
+    fs::path m_folder;
+    screenkit::RealDesk m_desk;
+    shell::Program m_program;
+};
+
+const bench::Register list({
+    .name = "list of 100 000 clients opened and painted",
+    .floor = {},
+    .ours =
+        [] {
+            static auto* practice = new Practice; // never destroyed: its windows may not outlive the application
+            return practice->open();
+        },
+    .goal = 300,
+    .rounds = 9,
+});
+
+} // namespace
