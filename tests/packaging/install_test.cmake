@@ -48,11 +48,7 @@ endif()
 # For all users: the same files, the marker, and a command that leads to them. Nothing there is anybody's own.
 set(shared "${scratch}/all users")
 install_to("${shared}")
-<<<<<<< HEAD
-foreach(name IN ITEMS marlowbeck Default.Mdb Print.mdb units.mdb Diary.mdb guide.md ${definitions}
-=======
-foreach(name IN ITEMS marlowbeck libmarlowbeck_output.so Default.Mdb Print.mdb units.mdb Diary.mdb docs/guide.md ${definitions}
->>>>>>> 102a974 (Load charts and workbooks when they are first asked for, since each start waited for their libraries)
+foreach(name IN ITEMS marlowbeck libmarlowbeck_output.so Default.Mdb Print.mdb units.mdb Diary.mdb guide.md ${definitions}
                       installed-for-all-users)
   if(NOT EXISTS "${shared}/lib/marlowbeck/${name}")
     message(SEND_ERROR "missing from the installation for all users: ${name}")
