@@ -15,7 +15,7 @@ foreach(folder bin lib lib/marlowbeck share share/applications share/doc share/d
   install(DIRECTORY DESTINATION ${folder} DIRECTORY_PERMISSIONS
           OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 endforeach()
-install(TARGETS marlowbeck marlowbeck_output RUNTIME DESTINATION ${shared_folder} LIBRARY DESTINATION ${shared_folder})
+install(TARGETS marlowbeck marlowbeck_output DESTINATION ${shared_folder})
 install(FILES ${untouched_databases} ${report_definitions} docs/guide.md packaging/installed-for-all-users
         DESTINATION ${shared_folder})
 install(FILES README.md packaging/copyright DESTINATION share/doc/marlowbeck)
@@ -34,8 +34,7 @@ install(CODE [[
     file(CHMOD "${folder}" DIRECTORY_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
   endif()
 ]] COMPONENT program EXCLUDE_FROM_ALL)
-install(TARGETS marlowbeck marlowbeck_output RUNTIME DESTINATION . LIBRARY DESTINATION .
-        COMPONENT program EXCLUDE_FROM_ALL)
+install(TARGETS marlowbeck marlowbeck_output DESTINATION . COMPONENT program EXCLUDE_FROM_ALL)
 install(FILES ${report_definitions} docs/guide.md DESTINATION . COMPONENT program EXCLUDE_FROM_ALL)
 install(CODE "set(databases \"${untouched_databases}\")" COMPONENT program EXCLUDE_FROM_ALL)
 install(CODE [[
