@@ -28,7 +28,7 @@ frmPersDet::frmPersDet(Workplace& workplace)
     body(column(
         {pages,
          row({later("cmdOtherAssets", "Other Assets"), opener("cmdPolInvest", "&Policy/Investments", "frmPolInvest"),
-              button("cmdPrint", "Prin&t", [this] { m_printPanel->open(findChild<QWidget*>("chkNotes")); }), spring(),
+              button("cmdPrint", "Prin&t", [this] { m_printPanel->open(findChild<QWidget*>("Check3")); }), spring(),
               okButton("cmOk", "&OK")})}));
     buildPrintPanel();
 }
@@ -147,7 +147,7 @@ Item frmPersDet::notesPage() {
 }
 
 void frmPersDet::buildPrintPanel() {
-    auto* notes = check("chkNotes", "&Include Notes", m_includeNotes);
+    auto* notes = check("Check3", "&Include Notes", m_includeNotes);
     untrackedField(notes);
     m_printPanel = printPanel({notes}, [this](Destination to) { print(to); });
 }

@@ -61,6 +61,8 @@ struct Loans {
     double Num2 = 0;                           ///< period, whole months
     double Num3 = 0;                           ///< interest, percent a year, nominal, compounded monthly
     double Num4 = 0;                           ///< repayment, rand a month
+
+    bool operator==(const Loans&) const = default;
 };
 
 /// Needs analysis for death. Itemised lines carry their flag in `Itemised`.

@@ -36,6 +36,12 @@ int modeIndex(const assessment::Loans& loan) {
     return mode ? static_cast<int>(*mode) : -1;
 }
 
+bool complete(const assessment::Loans& loan) {
+    return loan.Num1 != 0 && loan.Num2 != 0 && loan.Num3 != 0 && loan.Num4 != 0;
+}
+
+bool hasAnnualTable(const assessment::Loans& loan) { return complete(loan) && loan.Num2 >= monthsOfAnAnnualTable; }
+
 } // namespace
 
 frmLoans::frmLoans(Workplace& workplace)
@@ -58,7 +64,7 @@ void frmLoans::buildBody() {
     m_repayments = result("numAns2", m_totalRepayments, money);
     m_modeLabel = heading("Label12(1)");
     m_rateError = over(m_rate, "Text1", "   Error");
-    auto* calculate = button("cmdCalculate", "&Calculate", [this] { solve(m_loans); });
+    auto* solveIt = button("cmdCalculate", "&Calculate", [this] { calculate(); });
     m_ok = okButton();
     body(column({
         m_modeLabel,
@@ -70,14 +76,18 @@ void frmLoans::buildBody() {
                                                                               {"Total Interest", m_interest},
                                                                               {"Total Repayments", m_repayments}}))}),
         spring(),
-        row({calculate, button("cmdFinCharge", "&Fin. charges", [this] { toggleCharges(); }),
+        row({solveIt, button("cmdFinCharge", "&Fin. charges", [this] { toggleCharges(); }),
              button("cmdMonAmort", "Mo&nthly Amort.", [this] { monthlyTable(); }),
              button("cmdAnnAmort", "&Annual Amort.", [this] { annualTable(); }),
              button("cmdLoanGraph", "Annual &Graph", [this] { graph(); }),
-             button("cmdPrint", "&Print", [this] { m_printPanel->open(findChild<QWidget*>("Check1")); }), spring(),
-             m_ok}),
+             button("cmdPrint", "&Print",
+                    [this] {
+                        calculate();
+                        m_printPanel->open(findChild<QWidget*>("Check1"));
+                    }),
+             spring(), m_ok}),
     }));
-    defaultButton(calculate);
+    defaultButton(solveIt);
 }
 
 void frmLoans::buildPrintPanel() {
@@ -117,6 +127,16 @@ void frmLoans::showMode() {
     m_rate->setResult(mode == 3);
 }
 
+assessment::Loans frmLoans::shown() const {
+    return {m_loans.Heading, m_principal->value(), m_period->value(), m_rate->value(), m_repayment->value()};
+}
+
+void frmLoans::calculate() {
+    const assessment::Loans before = m_loans;
+    solve(m_loans);
+    if (m_loans != before) m_work.record.changed.LoansChanged = 1; // the file does not hold this result yet
+}
+
 void frmLoans::solve(assessment::Loans& loan) {
     const bool tooHigh = LoanCalc(loan);
     m_principal->present(loan.Num1);
@@ -138,38 +158,35 @@ void frmLoans::showCharges(const assessment::Loans& loan) {
 
 void frmLoans::toggleCharges() {
     m_work.record.FinChargeState = charged() ? "UP" : "DOWN";
-    showCharges(m_loans);
+    showCharges(shown());
 }
-
-bool frmLoans::complete() const {
-    return m_loans.Num1 != 0 && m_loans.Num2 != 0 && m_loans.Num3 != 0 && m_loans.Num4 != 0;
-}
-
-bool frmLoans::hasAnnualTable() const { return complete() && m_loans.Num2 >= monthsOfAnAnnualTable; }
 
 void frmLoans::monthlyTable() {
-    if (!complete()) return m_principal->takeFocus();
+    const assessment::Loans loan = shown();
+    if (!complete(loan)) return m_principal->takeFocus();
     showGrid("Monthly Amortisation",
              {{" Month   ", "##"},
               {"Capital payment ", figures},
               {"Interest payment", figures},
               {"    Balance    ", figures}},
-             gridRows(monthRows(monthlyAmortisation(m_loans.Num1, m_loans.Num2, m_loans.Num3))), m_ok);
+             gridRows(monthRows(monthlyAmortisation(loan.Num1, loan.Num2, loan.Num3))), m_ok);
 }
 
 void frmLoans::annualTable() {
-    if (!hasAnnualTable()) return m_principal->takeFocus();
+    const assessment::Loans loan = shown();
+    if (!hasAnnualTable(loan)) return m_principal->takeFocus();
     showGrid("Annual Amortisation",
              {{" Year ", "##"},
               {"Capital payments", figures},
               {"Interest payment", figures},
               {"    Balance      ", figures}},
-             gridRows(yearRows(CalcAnnAmort(m_loans))), m_ok);
+             gridRows(yearRows(CalcAnnAmort(loan))), m_ok);
 }
 
 void frmLoans::graph() {
-    if (!hasAnnualTable()) return m_ok->setFocus(Qt::OtherFocusReason);
-    const Amortisation table = CalcAnnAmort(m_loans);
+    const assessment::Loans loan = shown();
+    if (!hasAnnualTable(loan)) return m_ok->setFocus(Qt::OtherFocusReason);
+    const Amortisation table = CalcAnnAmort(loan);
     m_work.shell.open("frmGraph");
     if (auto* window = qobject_cast<reports::frmGraph*>(m_work.shell.screen("frmGraph")))
         window->LoanAmortGraph(table.MonthBalance, table.YearCapital, table.YearInterest, table.AmortShape,
@@ -177,10 +194,11 @@ void frmLoans::graph() {
 }
 
 void frmLoans::print(Destination destination) {
-    if (!complete()) return focusLater(m_ok);
+    const assessment::Loans loan = shown();
+    if (!complete(loan)) return focusLater(m_ok);
     const LoanReportOptions wanted{charged(), m_includeAmort == 1, m_amortOption == 1};
-    feedLoanReport(m_work.paths.PrintDbPath, m_loans, wanted);
-    const LoanReport report = loanReport(m_loans, wanted);
+    feedLoanReport(m_work.paths.PrintDbPath, loan, wanted);
+    const LoanReport report = loanReport(loan, wanted);
     m_work.reports.run(QString::fromStdString(report.definition), QString::fromStdString(report.title), destination);
 }
 

@@ -23,14 +23,15 @@ private:
     void showMode();
     /// Solves a loan and shows it; the record's own, or a copy where looking must not change the record.
     void solve(assessment::Loans& loan);
+    void calculate();
+    /// What the user sees: after an opening the result of a copy, which the record need not hold.
+    assessment::Loans shown() const;
     void showCharges(const assessment::Loans& loan);
     void toggleCharges();
     void monthlyTable();
     void annualTable();
     void graph();
     void print(screenkit::Destination destination);
-    bool complete() const;
-    bool hasAnnualTable() const;
     bool charged() const;
 
     assessment::Loans& m_loans;

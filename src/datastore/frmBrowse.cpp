@@ -60,11 +60,10 @@ private:
 frmBrowse::frmBrowse(Workplace& workplace)
     : Screen(workplace, "frmBrowse", "Browse Through Database.", untracked()), m_model(new ClientListModel(this)) {
     workplace.shell.enableToolbar(false);
+    connect(this, &Screen::closed, this, [this] { m_work.shell.enableToolbar(true); });
     buildBody();
     fillList();
 }
-
-frmBrowse::~frmBrowse() { m_work.shell.enableToolbar(true); }
 
 void frmBrowse::buildBody() {
     m_search = new QLineEdit;
@@ -89,8 +88,8 @@ void frmBrowse::buildBody() {
                  row({spring(), ok, cancelButton("cmdCancel", "&Cancel", [this] { drop(); })})}));
     defaultButton(ok);
     connect(m_search, &QLineEdit::textEdited, this, &frmBrowse::narrow);
-    connect(m_list->selectionModel(), &QItemSelectionModel::currentChanged, this, [this](const QModelIndex& now) {
-        if (now.isValid()) showEntry(m_model->at(now.row()));
+    connect(m_list->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+        if (chosen().isValid()) showEntry(m_model->at(chosen().row()));
     });
     connect(m_list, &QListView::doubleClicked, this, [this] { load(); });
 }
@@ -112,8 +111,15 @@ void frmBrowse::showEntry(const ClientLine& client) {
 
 void frmBrowse::narrow(const QString& text) {
     m_model->narrow(text.trimmed().toStdString());
-    if (!text.trimmed().isEmpty() && m_model->rowCount() > 0) m_list->setCurrentIndex(m_model->index(0));
+    if (m_model->rowCount() == 0) return showEntry({});
+    showEntry(m_model->at(0));
+    if (!text.trimmed().isEmpty()) choose(0);
 }
+
+void frmBrowse::choose(int row) { m_list->setCurrentIndex(m_model->index(row)); }
+
+/// The selection tells, not the current line: a list that gets the focus makes its first line current on its own.
+QModelIndex frmBrowse::chosen() const { return m_list->selectionModel()->selectedIndexes().value(0); }
 
 QWidget* frmBrowse::firstField() { return m_search; }
 
@@ -131,19 +137,27 @@ bool frmBrowse::eventFilter(QObject* watched, QEvent* event) {
     }
     if (watched == m_search && (key == Qt::Key_Down || key == Qt::Key_PageDown)) {
         m_list->setFocus(Qt::TabFocusReason);
-        if (!m_list->currentIndex().isValid()) m_list->setCurrentIndex(m_model->index(0));
+        if (!chosen().isValid()) choose(0);
+        return true;
+    }
+    if (watched == m_list && key == Qt::Key_Down && !chosen().isValid()) {
+        choose(0); // not the second: nothing was chosen yet
         return true;
     }
     return Screen::eventFilter(watched, event);
 }
 
 void frmBrowse::load() {
-    const QModelIndex chosen = m_list->currentIndex();
-    if (!chosen.isValid()) return m_list->setFocus(Qt::OtherFocusReason);
-    const double key = m_model->at(chosen.row()).DCLNO;
+    const QModelIndex line = chosen();
+    if (!line.isValid()) return m_list->setFocus(Qt::OtherFocusReason);
+    const double key = m_model->at(line.row()).DCLNO;
     Workplace& work = m_work; // this screen is among those that the load closes
     const BusyCursor busy;
-    if (!guarded(work.desk, tr("load the client"), [&] { datastore::load(work.record, work.paths, key); })) return;
+    if (!guarded(work.desk, tr("load the client"), [&] { datastore::load(work.record, work.paths, key); })) {
+        work.shell.refillScreens(); // the record may be blank now: no screen shows the old client any longer
+        work.shell.showClientName();
+        return;
+    }
     work.shell.CLEARLOAD();
     work.shell.open("frmPersDet");
     work.shell.showClientName();

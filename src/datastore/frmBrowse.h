@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QModelIndex>
+
 #include "datastore/clientlist.h"
 #include "screenkit/screen.h"
 
@@ -15,7 +17,6 @@ class frmBrowse : public screenkit::Screen {
     Q_OBJECT
 public:
     explicit frmBrowse(screenkit::Workplace& workplace);
-    ~frmBrowse() override;
 
 protected:
     QWidget* firstField() override;
@@ -26,6 +27,8 @@ private:
     void fillList();
     void showEntry(const ClientLine& client);
     void narrow(const QString& text);
+    void choose(int row);
+    QModelIndex chosen() const;
     void load();
 
     ClientListModel* m_model;

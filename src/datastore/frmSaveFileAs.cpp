@@ -12,8 +12,8 @@ frmSaveFileAs::frmSaveFileAs(Workplace& workplace)
     : Screen(workplace, "frmSaveFileAs", "Save File As..", untracked()), m_client(workplace.record.client),
       m_details(workplace.record.details) {
     workplace.shell.enableToolbar(false);
+    connect(this, &Screen::closed, this, [this] { m_work.shell.enableToolbar(true); });
     m_name = shown("txtName", 40);
-    m_name->setText(QString::fromStdString(m_client.Name));
     auto* title = namePart("txtCTitle", m_details.CTitle, 10);
     auto* initials = namePart("txtCInit", m_details.CInit, 10);
     m_surname = namePart("txtCLName", m_details.CLName, 50);
@@ -29,7 +29,11 @@ frmSaveFileAs::frmSaveFileAs(Workplace& workplace)
     defaultButton(ok);
 }
 
-frmSaveFileAs::~frmSaveFileAs() { m_work.shell.enableToolbar(true); }
+void frmSaveFileAs::clientReplaced() {
+    m_client = m_work.record.client;
+    m_details = m_work.record.details;
+    refill();
+}
 
 TextField* frmSaveFileAs::namePart(const QString& name, std::string& part, int size) {
     return text(name,
@@ -43,8 +47,10 @@ TextField* frmSaveFileAs::namePart(const QString& name, std::string& part, int s
 
 void frmSaveFileAs::NameFunc() {
     m_client.Name = assessment::displayName(m_details.CTitle, m_details.CInit, m_details.CLName);
-    m_name->setText(QString::fromStdString(m_client.Name));
+    filled();
 }
+
+void frmSaveFileAs::filled() { m_name->setText(QString::fromStdString(m_client.Name)); }
 
 void frmSaveFileAs::saveAs() {
     const BusyCursor busy;

@@ -11,7 +11,11 @@ class frmSaveFileAs : public screenkit::Screen {
     Q_OBJECT
 public:
     explicit frmSaveFileAs(screenkit::Workplace& workplace);
-    ~frmSaveFileAs() override;
+
+    void clientReplaced() override;
+
+protected:
+    void filled() override;
 
 private:
     screenkit::TextField* namePart(const QString& name, std::string& part, int size);

@@ -60,14 +60,16 @@ int OptionGroup::after(int index, int step) const {
 
 void OptionGroup::fill() {
     auto* wanted = m_group.button(m_place.get());
-    if (wanted != nullptr) {
-        wanted->setChecked(true);
-        return;
-    }
     m_group.setExclusive(false);
     for (auto* option : m_group.buttons())
-        option->setChecked(false);
+        option->setChecked(option == wanted);
     m_group.setExclusive(true);
+    takeTabAt(wanted != nullptr ? wanted : m_group.button(0));
+}
+
+void OptionGroup::takeTabAt(const QAbstractButton* stop) {
+    for (auto* option : m_group.buttons())
+        option->setFocusPolicy(option == stop ? Qt::StrongFocus : Qt::ClickFocus);
 }
 
 void OptionGroup::takeFocus() {

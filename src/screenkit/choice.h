@@ -39,6 +39,8 @@ protected:
 
 private:
     void choose(int index);
+    /// The toolkit would send Tab to the first option even where another holds, until one has had the focus.
+    void takeTabAt(const QAbstractButton* stop);
     /// The next option that can be picked, round and round.
     int after(int index, int step) const;
 

@@ -43,6 +43,8 @@ public:
     void activate();
     /// Fills every field again, with the changed flag as it was.
     void refill();
+    /// The record holds another client now, or none: show that one. Screens with a copy of their own take it afresh.
+    virtual void clientReplaced() { refill(); }
     /// Checks every field; false after showing the first complaint.
     bool checkFields();
     /// Closes without asking or checking (the client it shows is gone).

@@ -16,10 +16,12 @@ bool heldByThisUser(const sockaddr_un& address, socklen_t length) {
     const int client = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
     if (client < 0) return false;
     bool same = false;
-    if (connect(client, reinterpret_cast<const sockaddr*>(&address), length) == 0 || errno == EAGAIN) {
+    if (connect(client, reinterpret_cast<const sockaddr*>(&address), length) == 0) {
         ucred owner{};
         socklen_t size = sizeof owner;
         same = getsockopt(client, SOL_SOCKET, SO_PEERCRED, &owner, &size) != 0 || owner.uid == getuid();
+    } else {
+        same = errno == EAGAIN; // the queue, which nobody ever takes from, is full of refused starts
     }
     close(client);
     return same;
@@ -36,7 +38,7 @@ Instance::Instance(const std::string& name) {
     m_socket = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0); // a calculator that we start must not inherit it
     if (m_socket < 0) return;
     if (bind(m_socket, reinterpret_cast<const sockaddr*>(&address), length) == 0)
-        listen(m_socket, 1);
+        listen(m_socket, SOMAXCONN);
     else
         m_first = errno != EADDRINUSE || !heldByThisUser(address, length);
 }

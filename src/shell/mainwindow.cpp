@@ -26,6 +26,7 @@
 #include "screenkit/screen.h"
 #include "screenkit/trouble.h"
 #include "shell/commands.h"
+#include "shell/program.h"
 #include "shell/screens.h"
 
 namespace shell {
@@ -53,6 +54,7 @@ MDIForm1::MDIForm1(assessment::Assessment& record, const datastore::Paths& paths
     m_area->setBackground(palette().window().color().darker(108));
     m_area->setActivationOrder(QMdiArea::ActivationHistoryOrder); // a graph that is closed gives back its calculator
     setCentralWidget(m_area);
+    setContextMenuPolicy(Qt::NoContextMenu); // the toolkit's would hide the toolbar behind the menu item's back
     m_commands = {
         {"mnuNewFile", [this] { mnuNewFile_Click(); }},
         {"mnuBrowse", [this] { mnuBrowse_Click(); }},
@@ -61,7 +63,7 @@ MDIForm1::MDIForm1(assessment::Assessment& record, const datastore::Paths& paths
         {"mnuPrintSetup", [this] { m_work.reports.setUpPrinter(); }},
         {"mnuExit", [this] { close(); }},
         {"mnuCalculator", [this] { startCalculator(); }},
-        {"mnuViewToolBar", [this] { m_toolbar->setVisible(m_actions["mnuViewToolBar"]->isChecked()); }},
+        {"mnuViewToolBar", {}}, // its check mark alone shows and hides the toolbar
         {"mnuCascade", [this] { m_area->cascadeSubWindows(); }},
         {"mnuIcon", [this] { arrangeIcons(); }},
         {"mnuVideoLectures", [this] { m_work.desk.openOnDesktop(lecturesAddress); }},
@@ -121,7 +123,8 @@ QAction* MDIForm1::addItem(const MenuItem& item) {
         }
         m_commands[item.name] = [this, screen] { open(screen); };
     }
-    connect(action, &QAction::triggered, this, [this, name = QString(item.name)] { act(m_commands[name]); });
+    if (m_commands[item.name])
+        connect(action, &QAction::triggered, this, [this, name = QString(item.name)] { act(m_commands[name]); });
     return action;
 }
 
@@ -130,6 +133,7 @@ void MDIForm1::buildToolbar() {
     m_toolbar->setObjectName("Toolbar2");
     m_toolbar->setMovable(false);
     m_toolbar->setContextMenuPolicy(Qt::PreventContextMenu);
+    connect(m_actions["mnuViewToolBar"], &QAction::toggled, m_toolbar, &QToolBar::setVisible);
     for (const ToolButton& entry : toolButtons()) {
         QAction* item = m_actions.value(entry.item);
         auto* action = m_toolbar->addAction(screenkit::icon(entry.icon), entry.tip);
@@ -234,7 +238,7 @@ bool MDIForm1::exists(const QString& screen) { return screenEntry(screen) != nul
 
 void MDIForm1::refillScreens() {
     for (Screen* open : screens())
-        open->refill();
+        open->clientReplaced();
 }
 
 void MDIForm1::showClientName() {
@@ -243,7 +247,10 @@ void MDIForm1::showClientName() {
         QString::fromStdString(assessment::displayName(details.CTitle, details.CInit, details.CLName)));
 }
 
-void MDIForm1::enableToolbar(bool on) { m_toolbar->setEnabled(on); }
+void MDIForm1::enableToolbar(bool on) {
+    m_toolbarHolders += on ? -1 : 1; // two screens that want it off may be open at once
+    m_toolbar->setEnabled(m_toolbarHolders == 0);
+}
 
 MDIForm1::Changes MDIForm1::askAboutChanges(const QString& title, const std::function<void()>& save) {
     assessment::CheckChanges(m_work.record);
@@ -312,7 +319,7 @@ void MDIForm1::CLEARLOAD() {
 }
 
 bool MDIForm1::mayExit() {
-    if (m_exitWithoutAsking) return true;
+    if (m_exitWithoutAsking || !m_sessionMayEnd.hasExpired()) return true;
     if (Screen* front = activeScreen(); front != nullptr && !front->checkFields()) return false;
     if (m_work.desk.box(BoxStyle::question, "Are you sure you want to exit ?", "EXIT ?", Buttons::yesNo) != Answer::yes)
         return false;
@@ -323,6 +330,16 @@ bool MDIForm1::mayExit() {
                            "Exit ?", Buttons::yesNo) == Answer::yes;
 }
 
+void MDIForm1::sessionEnds(QSessionManager& session) {
+    if (!session.allowsInteraction()) return; // nobody can be asked: what is unsaved goes, the file is whole
+    if (mayExit())
+        m_sessionMayEnd.setRemainingTime(
+            std::chrono::minutes(1)); // the close that follows does not ask again; one after a log-out called off does
+    else
+        session.cancel();
+    session.release();
+}
+
 void MDIForm1::closeEvent(QCloseEvent* event) {
     if (!mayExit()) {
         event->ignore();
@@ -331,14 +348,6 @@ void MDIForm1::closeEvent(QCloseEvent* event) {
     m_exitWithoutAsking = true;
     m_work.reports.closePreviews();
     event->accept();
-}
-
-void MDIForm1::sessionEnds(QSessionManager& session) {
-    if (!session.allowsInteraction()) return; // nobody can be asked: what is unsaved goes, the file is whole
-    if (mayExit())
-        m_exitWithoutAsking = true;
-    else
-        session.cancel();
 }
 
 void MDIForm1::arrangeIcons() {
@@ -357,6 +366,8 @@ void MDIForm1::startCalculator() {
                          "Marlowbeck");
 }
 
-void MDIForm1::about() { m_work.desk.tell(BoxStyle::information, windowTitle(), tr("About Marlowbeck")); }
+void MDIForm1::about() {
+    m_work.desk.tell(BoxStyle::information, QString::fromStdString(programCaption()), tr("About Marlowbeck"));
+}
 
 } // namespace shell

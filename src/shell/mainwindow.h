@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDeadlineTimer>
 #include <QHash>
 #include <QMainWindow>
 #include <QPointer>
@@ -64,7 +65,7 @@ private:
     enum class Changes { none, saved, dropped, kept };
     Changes askAboutChanges(const QString& title, const std::function<void()>& save);
     bool mayExit();
-    /// Logging out asks what closing asks.
+    /// The desktop logs the user out or shuts down: the same questions as at the close.
     void sessionEnds(QSessionManager& session);
     void arrangeIcons();
     void startCalculator();
@@ -77,7 +78,9 @@ private:
     QHash<QString, QAction*> m_actions;
     QHash<QString, std::function<void()>> m_commands;
     QPointer<QMdiSubWindow> m_front; ///< the child screen last in front, also while another program is
+    int m_toolbarHolders = 0;        ///< open screens that want the toolbar off
     bool m_exitWithoutAsking = false;
+    QDeadlineTimer m_sessionMayEnd; ///< the user has agreed to the end of the session that is under way
 };
 
 } // namespace shell

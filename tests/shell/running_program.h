@@ -5,6 +5,8 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QMdiSubWindow>
+#include <QPlainTextEdit>
+#include <QTabWidget>
 #include <QTest>
 #include <filesystem>
 #include <string>
@@ -31,6 +33,24 @@ public:
     }
 };
 
+/// The answer to a query with one row, its columns joined by "|"; several rows by line breaks.
+inline std::string rowsOf(const std::filesystem::path& file, const std::string& sql) {
+    store::Database database(file);
+    store::Statement rows = database.prepare(sql);
+    std::string text;
+    while (rows.step()) {
+        if (!text.empty()) text += "\n";
+        for (int column = 0; column < rows.columnCount(); ++column) {
+            const store::Value value = rows.column(column);
+            if (column > 0) text += "|";
+            if (const auto* number = std::get_if<double>(&value))
+                text += QString::number(*number, 'g', 17).toStdString();
+            if (const auto* words = std::get_if<std::string>(&value)) text += *words;
+        }
+    }
+    return text;
+}
+
 /// The program with its real windows, driven by control names, keys and mouse clicks.
 class RunningProgram {
 public:
@@ -41,6 +61,7 @@ public:
 
     bool start() {
         const bool started = program.MDIForm_Load();
+        if (started) window().activateWindow();
         settle();
         return started;
     }
@@ -79,23 +100,65 @@ public:
                 return qobject_cast<screenkit::Screen*>(child->widget());
         return nullptr;
     }
-    /// Replaces a field's text as a user does, then leaves it by Tab.
-    void type(const QString& name, const QString& text) {
+    /// Turns to the tab page that a control lies on.
+    static void turnTo(QWidget* widget) {
+        for (QWidget* page = widget; page->parentWidget() != nullptr; page = page->parentWidget()) {
+            auto* book = qobject_cast<QTabWidget*>(page->parentWidget()->parentWidget());
+            if (book != nullptr && book->indexOf(page) >= 0) book->setCurrentWidget(page);
+        }
+    }
+    /// Replaces a field's text as a user does; the focus stays in the field.
+    void enter(const QString& name, const QString& text) {
         auto* field = control<QWidget>(name);
+        turnTo(field);
         field->setFocus(Qt::TabFocusReason);
         settle();
-        if (auto* line = qobject_cast<QLineEdit*>(field)) line->selectAll();
-        if (text.isEmpty()) QTest::keyClick(field, Qt::Key_Delete);
-        QTest::keyClicks(field, text);
-        QTest::keyClick(field, Qt::Key_Tab);
+        QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClick(field, Qt::Key_Delete);
+        keys(field, text);
+    }
+    /// Types a text, letters beyond the keyboard's own too.
+    static void keys(QWidget* field, const QString& text) {
+        for (const QChar letter : text)
+            if (letter.unicode() < 128)
+                QTest::keyClick(field, letter.toLatin1());
+            else
+                QTest::sendKeyEvent(QTest::Click, field, Qt::Key_unknown, QString(letter), Qt::NoModifier);
+    }
+    /// The same, and leaves the field by Tab.
+    void type(const QString& name, const QString& text) {
+        enter(name, text);
+        QTest::keyClick(control<QWidget>(name), Qt::Key_Tab);
         settle();
     }
     void click(const QString& name) {
-        QTest::mouseClick(control<QAbstractButton>(name), Qt::LeftButton);
+        auto* button = control<QAbstractButton>(name);
+        turnTo(button);
+        QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(8, button->height() / 2));
         settle();
     }
+    /// Presses a key in whatever has the focus.
+    static void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        QWidget* focused = QApplication::focusWidget();
+        ASSERT_NE(focused, nullptr) << "nothing has the focus";
+        QTest::keyClick(focused, key, modifiers);
+        settle();
+    }
+    static QString focused() {
+        return QApplication::focusWidget() != nullptr ? QApplication::focusWidget()->objectName() : QString();
+    }
+    bool isOpen(const QString& name) { return window().screen(name) != nullptr; }
     QString shown(const QString& name) { return control<QLineEdit>(name)->text(); }
+    std::string inClients(const std::string& sql) { return rowsOf(folder / "Data.Mdb", sql); }
+    std::string inPrint(const std::string& sql) { return rowsOf(folder / "Print.mdb", sql); }
     std::string clientName() { return window().findChild<QLabel*>("StatusBar1.Panels(2)")->text().toStdString(); }
+
+    /// Records a client with nothing but a name, and saves it.
+    void saveClient(const QString& surname) {
+        menu("mnuNewFile");
+        type("txtCLName", surname);
+        menu("mnuSave");
+    }
 
     ProgramFolder folder;
     screenkit::TestDesk desk;

@@ -1,6 +1,11 @@
 #include "shell/running_program.h"
 
+#include <QScreen>
+#include <csignal>
 #include <gtest/gtest.h>
+#include <sys/wait.h>
+
+#include "shell/instance.h"
 
 namespace {
 
@@ -40,15 +45,111 @@ TEST(Start, MissingSettingsEndItWithABoxThatNamesTheFile) {
     EXPECT_TRUE(run.desk.last().text.contains("3024"));
 }
 
-TEST(Start, ExitWithScreensOpenEndsQuietly) {
-    for (const char* item : {"mnuBrowse", "mnuSaveAs", "mnuPersDet", "mnuLoansCalc", "mnuPrep"}) {
-        RunningProgram run;
-        run.menu(item);
-        ASSERT_EQ(run.window().screens().size(), 1) << item;
-        run.desk.expect(screenkit::Answer::yes);
-        run.window().close();
-        EXPECT_FALSE(run.window().isVisible()) << item;
-    } // a screen that is open to the end talks to the main window while that goes
+TEST(Start, WindowHasItsCaptionSizeAndPlace) {
+    RunningProgram run;
+    EXPECT_TRUE(run.window().windowTitle().startsWith("Marlowbeck"));
+    EXPECT_TRUE(run.window().windowTitle().endsWith(" Version : 1.00.000"));
+    const QSize screen = QGuiApplication::primaryScreen()->size();
+    EXPECT_EQ(run.window().size(), QSize(947, 692).boundedTo(screen));
+    EXPECT_EQ(run.window().x(), std::max(0, (screen.width() - 947) / 2));
+    EXPECT_EQ(run.window().y(), std::max(0, (screen.height() - 692) / 2));
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+struct Fault {
+    const char* what;
+    std::function<void(const shelltest::ProgramFolder&)> make;
+    const char* file;
+    const char* number;
+};
+
+const std::vector<Fault> faults{
+    {"client file is a letter",
+     [](const auto& folder) { storetest::put(folder / "Data.Mdb", "Dear Sir, thank you for your letter of today."); },
+     "Data.Mdb", "3343"},
+    {"client file is empty", [](const auto& folder) { storetest::put(folder / "Data.Mdb", ""); }, "Data.Mdb", "3343"},
+    {"share is not mounted",
+     [](const auto& folder) {
+         storetest::put(folder / "DataPath.txt", "\"" + (folder / "share/clients/Data.Mdb").string() + "\"\r\n");
+     },
+     "share/clients/Data.Mdb", "3044"},
+    {"settings are missing", [](const auto& folder) { fs::remove(folder / "Default.Mdb"); }, "Default.Mdb", "3024"},
+    {"report rows are missing", [](const auto& folder) { fs::remove(folder / "Print.mdb"); }, "Print.mdb", "3024"},
+};
+
+TEST(Start, EndsWithABoxThatNamesTheFileAndTheError) {
+    for (const Fault& fault : faults) {
+        RunningProgram run(false);
+        fault.make(run.folder);
+        const std::string before = storetest::bytesOf(run.folder / "Data.Mdb");
+        run.desk.expect(screenkit::Answer::ok);
+        EXPECT_FALSE(run.start()) << fault.what;
+        EXPECT_FALSE(run.program.refused());
+        EXPECT_EQ(run.desk.last().title, "Marlowbeck");
+        EXPECT_EQ(run.desk.last().style, screenkit::BoxStyle::critical);
+        EXPECT_TRUE(run.desk.last().text.contains(fault.file)) << run.desk.last().text.toStdString();
+        EXPECT_TRUE(run.desk.last().text.endsWith(QString("(%1)").arg(fault.number)))
+            << run.desk.last().text.toStdString();
+        if (!before.empty()) {
+            EXPECT_EQ(storetest::bytesOf(run.folder / "Data.Mdb"), before) << fault.what;
+        }
+        EXPECT_FALSE(fs::exists(run.folder / "share"));
+    }
+}
+
+TEST(Start, AClientFileLockedByAnotherProgramIsNamedAndLeftAlone) {
+    RunningProgram run(false);
+    {
+        RunningProgram earlier(false);
+        earlier.start();
+        fs::copy_file(earlier.folder / "Data.Mdb", run.folder / "Data.Mdb");
+    }
+    store::Database other(run.folder / "Data.Mdb");
+    other.execute("BEGIN EXCLUSIVE");
+    run.desk.expect(screenkit::Answer::ok);
+    EXPECT_FALSE(run.start());
+    EXPECT_TRUE(run.desk.last().text.contains("Data.Mdb"));
+    EXPECT_TRUE(run.desk.last().text.endsWith("(3356)")) << run.desk.last().text.toStdString();
+    other.execute("ROLLBACK");
+}
+
+/// Another process of this user that holds the right to run, until it is killed.
+class OtherProcess {
+public:
+    explicit OtherProcess(const std::string& name) {
+        int ready[2];
+        EXPECT_EQ(::pipe(ready), 0);
+        m_process = ::fork();
+        if (m_process == 0) {
+            const shell::Instance held(name);
+            const char answer = held.isFirst() ? '1' : '0';
+            if (::write(ready[1], &answer, 1) != 1) ::_exit(1);
+            for (;;)
+                ::pause();
+        }
+        char answer = 0;
+        EXPECT_EQ(::read(ready[0], &answer, 1), 1);
+        EXPECT_EQ(answer, '1');
+        ::close(ready[0]);
+        ::close(ready[1]);
+    }
+    void kill() {
+        ::kill(m_process, SIGKILL);
+        ::waitpid(m_process, nullptr, 0);
+    }
+
+private:
+    pid_t m_process;
+};
+
+TEST(Instance, IsHeldByOneProcessUntilItDiesHoweverItDies) {
+    const std::string name = "marlowbeck-instance-" + std::to_string(::getpid());
+    OtherProcess first(name);
+    for (int attempt = 1; attempt <= 12; ++attempt) // nobody ever answers the refused ones
+        EXPECT_FALSE(shell::Instance(name).isFirst()) << attempt;
+    EXPECT_TRUE(shell::Instance(name + "-else").isFirst());
+    first.kill();
+    EXPECT_TRUE(shell::Instance(name).isFirst());
 }
 
 } // namespace

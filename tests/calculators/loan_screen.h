@@ -1,0 +1,68 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QLabel>
+#include <QRadioButton>
+#include <QTableView>
+
+#include "shell/running_program.h"
+
+namespace loantest {
+
+using assessment::Loans;
+using screenkit::Answer;
+using shelltest::RunningProgram;
+
+inline const QStringList entries{"numPrinAmount", "numPeriod", "numIntRate", "numMonRePay"};
+inline const QStringList modes{"Monthly repayment", "Principal amount", "Repayment period", "Interest rate"};
+inline const std::vector<int> resultOf{3, 0, 1, 2}; // by mode, the entry that is worked out
+
+/// The loan calculator, open in a running program.
+class LoanScreen : public testing::Test {
+protected:
+    LoanScreen() { run.menu("mnuLoansCalc"); }
+
+    void pick(int mode) {
+        auto* option = run.control<QRadioButton>(QString("optLoanCalc(%1)").arg(mode));
+        QTest::mouseClick(option, Qt::LeftButton, {}, QPoint(8, option->height() / 2));
+        RunningProgram::settle();
+    }
+    /// Principal, period, rate and repayment as typed; what the mode works out is left alone.
+    void typeLoan(int mode, const QStringList& figures) {
+        pick(mode);
+        for (int i = 0; i < 4; ++i)
+            if (i != resultOf[static_cast<std::size_t>(mode)]) run.type(entries[i], figures[i]);
+    }
+    QStringList figures() {
+        QStringList all;
+        for (const QString& name : entries)
+            all << run.shown(name);
+        return all;
+    }
+    void reopen() {
+        run.click("cmdOK");
+        ASSERT_FALSE(run.isOpen("frmLoans"));
+        run.menu("mnuLoansCalc");
+    }
+    bool visible(const char* name) { return run.control(name)->isVisible(); }
+    QStringList heads() {
+        auto* model = run.control<QTableView>("grdPayments")->model();
+        QStringList all;
+        for (int column = 0; column < model->columnCount(); ++column)
+            all << model->headerData(column, Qt::Horizontal).toString();
+        return all;
+    }
+    QStringList gridRow(int row) {
+        auto* model = run.control<QTableView>("grdPayments")->model();
+        QStringList cells;
+        for (int column = 0; column < model->columnCount(); ++column)
+            cells << model->index(row, column).data().toString();
+        return cells;
+    }
+    int gridRows() { return run.control<QTableView>("grdPayments")->model()->rowCount(); }
+
+    RunningProgram run;
+};
+
+} // namespace loantest

@@ -1,0 +1,207 @@
+#include <gtest/gtest.h>
+
+#include <QListView>
+
+#include "shell/running_program.h"
+
+namespace {
+
+using screenkit::Answer;
+using shelltest::RunningProgram;
+
+constexpr const char* oBrien = "O'Brien";
+constexpr const char* accents = "Êksteen";
+constexpr const char* hooks = "Ṱhoho-Nḓou";
+constexpr const char* markup = "<b>&\"x\"";
+
+struct Client {
+    const char* surname;
+    const char* title;
+    const char* born;
+    const char* description;
+};
+
+// In the order of typing; none of the orders below follows from it.
+const std::vector<Client> clients{
+    {hooks, "Prof", "", "farm"},
+    {oBrien, "Mr", "17/03/1960", "met at the show"},
+    {accents, "Mev", "31/12/1899", "met at the church"}, // day number 1: the first that a line shows
+    {markup, "", "", ""},
+    {"eksteen", "Mnr", "30/12/1899", "the second of that name"},
+};
+
+class Browse : public testing::Test {
+protected:
+    Browse() {
+        for (const Client& client : clients) {
+            run.menu("mnuNewFile");
+            run.type("txtCLName", client.surname);
+            run.type("txtCTitle", client.title);
+            run.type("dtCDOB", client.born);
+            run.type("txtDescription", client.description);
+            run.menu("mnuSave");
+        }
+        run.menu("mnuNewFile");
+        run.menu("mnuBrowse");
+    }
+    QListView* list() { return run.control<QListView>("List1", "frmBrowse"); }
+    QStringList lines() {
+        QStringList all;
+        for (int row = 0; row < list()->model()->rowCount(); ++row)
+            all << list()->model()->index(row, 0).data().toString();
+        return all;
+    }
+    QPoint placeOf(int row) { return list()->visualRect(list()->model()->index(row, 0)).center(); }
+    void search(const QString& text) {
+        run.enter("txtSearch", text);
+        RunningProgram::settle();
+    }
+
+    RunningProgram run;
+};
+
+TEST_F(Browse, ListsClientsBySurnameWithoutRegardToCaseAndAccents) {
+    EXPECT_EQ(lines(),
+              QStringList({"<b>&\"x\"  ", "Êksteen  31/12/1899  met at the church", "eksteen  the second of that name",
+                           "O'Brien  17/03/1960  met at the show", "Ṱhoho-Nḓou  farm"}));
+    EXPECT_EQ(run.front()->windowTitle(), "Browse Through Database.");
+}
+
+TEST_F(Browse, ShowsTheFirstEntryButChoosesNone) {
+    EXPECT_EQ(run.shown("txtName"), "  <b>&\"x\"");
+    EXPECT_FALSE(list()->selectionModel()->hasSelection());
+    for (int press = 1; press <= 2; ++press) { // also when the list has the focus already
+        run.click("cmdOK");
+        EXPECT_EQ(run.focused(), "List1");
+        EXPECT_TRUE(run.isOpen("frmBrowse"));
+    }
+    EXPECT_EQ(run.record().ClientOnFile, 0);
+    run.key(Qt::Key_Down); // the first, not the second
+    EXPECT_EQ(run.shown("txtName"), "  <b>&\"x\"");
+    run.key(Qt::Key_Down);
+    EXPECT_EQ(run.shown("txtName"), "Mev  Êksteen");
+    EXPECT_EQ(run.shown("txtDescription"), "met at the church");
+    EXPECT_EQ(run.shown("dtBirthDate"), "31/12/1899");
+    run.key(Qt::Key_Return);
+    EXPECT_EQ(run.record().details.CLName, accents);
+}
+
+TEST_F(Browse, EachNameComesBackLetterForLetter) {
+    for (const Client& client : clients) {
+        if (!run.isOpen("frmBrowse")) run.menu("mnuBrowse");
+        search(client.surname);
+        run.key(Qt::Key_Return);
+        ASSERT_FALSE(run.isOpen("frmBrowse")) << client.surname;
+        if (std::string(client.surname) == "eksteen") continue; // its namesake comes first
+        EXPECT_EQ(run.shown("txtCLName").toStdString(), client.surname);
+        EXPECT_EQ(run.clientName(), std::string(client.title) + "  " + client.surname);
+        EXPECT_EQ(run.front()->objectName(), "frmPersDet");
+    }
+}
+
+TEST_F(Browse, AClickShowsAndADoubleClickLoads) {
+    QTest::mouseClick(list()->viewport(), Qt::LeftButton, {}, placeOf(3));
+    EXPECT_EQ(run.shown("txtName"), "Mr  O'Brien");
+    EXPECT_EQ(run.shown("dtBirthDate"), "17/03/1960");
+    QTest::mouseClick(list()->viewport(), Qt::LeftButton, {}, placeOf(4));
+    QTest::mouseDClick(list()->viewport(), Qt::LeftButton, {}, placeOf(4));
+    RunningProgram::settle();
+    EXPECT_FALSE(run.isOpen("frmBrowse"));
+    EXPECT_EQ(run.record().details.CLName, hooks);
+    EXPECT_EQ(run.record().ClientOnFile, 1);
+    EXPECT_EQ(run.record().ClientChanged, 0);
+    EXPECT_EQ(run.window().screens().size(), 1);
+}
+
+TEST_F(Browse, TheSearchFieldNarrowsBySurnameNameAndDescription) {
+    const std::vector<std::pair<QString, int>> searches{
+        {"EKSTEEN", 2}, {"êk", 2},      {"thoho-ndou", 1}, {"mev  ", 1}, {"met at", 2},
+        {"<b>", 1},     {"o'brien", 1}, {"nobody", 0},     {"%", 0},     {"", 5},
+    };
+    for (const auto& [text, found] : searches) {
+        search(text);
+        EXPECT_EQ(list()->model()->rowCount(), found) << text.toStdString();
+    }
+    search("nobody");
+    EXPECT_EQ(run.shown("txtName"), ""); // no client stands beside an empty list
+    run.key(Qt::Key_Escape);
+    EXPECT_EQ(run.shown("txtSearch"), "");
+    EXPECT_EQ(list()->model()->rowCount(), 5);
+    EXPECT_FALSE(list()->selectionModel()->hasSelection());
+    EXPECT_TRUE(run.isOpen("frmBrowse"));
+    run.key(Qt::Key_Down);
+    EXPECT_EQ(run.focused(), "List1");
+    EXPECT_TRUE(list()->selectionModel()->isRowSelected(0, {}));
+}
+
+TEST_F(Browse, AClientThatVanishedLeavesABlankRecordAndTheList) {
+    run.menu("mnuLoansCalc");
+    run.menu("mnuBrowse");
+    search(oBrien);
+    store::Database(run.folder / "Data.Mdb").execute("DELETE FROM [Data] WHERE DCLNO=2");
+    run.desk.expect(Answer::ok);
+    run.key(Qt::Key_Return);
+    EXPECT_EQ(run.desk.last().title, "Marlowbeck");
+    EXPECT_TRUE(run.desk.last().text.contains("Data.Mdb"));
+    EXPECT_TRUE(run.isOpen("frmBrowse"));
+    EXPECT_EQ(run.record().ClientOnFile, 0);
+    EXPECT_EQ(run.record().details.CLName, "");
+    EXPECT_EQ(run.clientName(), "  ");
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(Browse, ALoadClosesTheClientsScreensAndShowsEveryFieldAfresh) {
+    run.menu("mnuLoansCalc");
+    run.type("numPrinAmount", "5000");
+    run.desk.expect(Answer::no);
+    run.menu("mnuBrowse");
+    search(oBrien);
+    run.key(Qt::Key_Return);
+    EXPECT_EQ(run.window().screens().size(), 1);
+    EXPECT_EQ(run.record().loans.Num1, 0);
+    assessment::CheckChanges(run.record());
+    EXPECT_EQ(run.record().ClientChanged, 0);
+}
+
+TEST(BrowsePrompt, GuardsUnsavedChanges) {
+    RunningProgram run;
+    run.menu("mnuLoansCalc"); // a client without a name: Browse saves it all the same
+    run.type("numPrinAmount", "100000");
+    run.desk.expect(Answer::cancel);
+    run.menu("mnuRetrieve");
+    EXPECT_EQ(run.desk.last().text, "Current changes have not been saved. Do you want to save them. ?");
+    EXPECT_EQ(run.desk.last().title, "BROWSE ?");
+    EXPECT_EQ(run.desk.last().buttons, screenkit::Buttons::yesNoCancel);
+    EXPECT_FALSE(run.isOpen("frmBrowse"));
+
+    run.desk.expect(Answer::yes);
+    run.menu("mnuBrowse");
+    EXPECT_TRUE(run.isOpen("frmBrowse"));
+    EXPECT_EQ(run.inClients("SELECT [DCLNO], [Name], [Num1] FROM [Data]"), "1||100000");
+    EXPECT_EQ(run.record().ClientOnFile, 1);
+}
+
+TEST(BrowsePrompt, AFailedSaveDoesNotOpenIt) {
+    RunningProgram run;
+    run.menu("mnuPersDet");
+    run.type("txtCLName", "Botha");
+    store::Database(run.folder / "Data.Mdb")
+        .execute("CREATE TRIGGER stop BEFORE INSERT ON [Data] BEGIN SELECT RAISE(ABORT, 'stopped'); END");
+    run.desk.expect(Answer::yes);
+    run.desk.expect(Answer::ok);
+    run.menu("mnuBrowse");
+    EXPECT_FALSE(run.isOpen("frmBrowse"));
+    EXPECT_EQ(run.record().changed.PersDetChanged, 1);
+}
+
+TEST(BrowseEmpty, RingsTheBellAndLoadsNothing) {
+    RunningProgram run;
+    run.menu("mnuBrowse");
+    EXPECT_EQ(run.desk.bells, 1);
+    EXPECT_EQ(run.control<QListView>("List1")->model()->rowCount(), 0);
+    run.click("cmdOK");
+    EXPECT_TRUE(run.isOpen("frmBrowse"));
+    EXPECT_TRUE(run.desk.boxes.empty());
+}
+
+} // namespace

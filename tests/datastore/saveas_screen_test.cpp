@@ -1,0 +1,100 @@
+#include <gtest/gtest.h>
+
+#include "shell/running_program.h"
+
+namespace {
+
+using screenkit::Answer;
+using shelltest::RunningProgram;
+
+class SaveAs : public testing::Test {
+protected:
+    SaveAs() {
+        run.menu("mnuNewFile");
+        run.type("txtCTitle", "Mr");
+        run.type("txtCInit", "P J");
+        run.type("txtCLName", "O'Brien");
+        run.type("dtCDOB", "17/03/1960");
+        run.type("txtDescription", "met at the show");
+        run.menu("mnuSave");
+        run.menu("mnuSaveAs");
+    }
+    RunningProgram run;
+};
+
+TEST_F(SaveAs, EditsAPrivateCopyThatCancelForgets) {
+    EXPECT_EQ(run.shown("txtName"), "Mr P J O'Brien");
+    EXPECT_EQ(run.shown("dtCDOB"), "17/03/1960");
+    EXPECT_EQ(run.shown("txtDescription"), "met at the show");
+    run.type("txtCTitle", "  Dr ");
+    EXPECT_EQ(run.shown("txtName"), "Dr P J O'Brien");
+    run.type("txtCInit", "");
+    run.type("txtCLName", "Êksteen");
+    EXPECT_EQ(run.shown("txtName"), "Dr  Êksteen");
+    run.type("txtDescription", "");
+    run.type("dtCDOB", "");
+    run.menu("mnuPersDet"); // there and back: what was typed stays
+    EXPECT_EQ(run.shown("txtCLName"), "O'Brien");
+    run.menu("mnuSaveAs");
+    EXPECT_EQ(run.shown("txtName"), "Dr  Êksteen");
+    run.click("cmdCancel");
+    EXPECT_EQ(run.record().client.Name, "Mr P J O'Brien");
+    EXPECT_EQ(run.record().details.Description, "met at the show");
+    assessment::CheckChanges(run.record());
+    EXPECT_EQ(run.record().ClientChanged, 0);
+    EXPECT_EQ(run.inClients("SELECT count(*) FROM [Data]"), "1");
+}
+
+TEST_F(SaveAs, AsksForASurname) {
+    run.type("txtCLName", "");
+    run.desk.expect(Answer::ok);
+    run.click("cmdOK");
+    EXPECT_EQ(run.desk.last().text, "To save a file a Name is required !");
+    EXPECT_EQ(run.desk.last().title, "No Last Name !");
+    EXPECT_EQ(run.focused(), "txtCLName");
+    EXPECT_TRUE(run.isOpen("frmSaveFileAs"));
+    EXPECT_EQ(run.record().details.CLName, "O'Brien");
+}
+
+TEST_F(SaveAs, MakesANewClientAndLeavesTheOldRowsAlone) {
+    const std::string old = "SELECT * FROM [PersDetails] WHERE DCLNO=1";
+    const std::string before = run.inClients(old);
+    run.type("txtCLName", "Ṱhoho-Nḓou");
+    run.type("dtCDOB", "");
+    run.key(Qt::Key_Return); // from the description on to OK
+    if (run.isOpen("frmSaveFileAs")) run.click("cmdOK");
+    EXPECT_FALSE(run.isOpen("frmSaveFileAs"));
+    EXPECT_EQ(run.inClients(old), before);
+    EXPECT_EQ(run.inClients("SELECT [DCLNO], [Name], [BirthDate] FROM [PersDetails] WHERE DCLNO<>1"),
+              "2|Mr P J Ṱhoho-Nḓou|-36522");
+    EXPECT_EQ(run.record().DCLNO, 2);
+    EXPECT_EQ(run.record().ClientOnFile, 1);
+    EXPECT_EQ(run.clientName(), "Mr P J Ṱhoho-Nḓou");
+    EXPECT_EQ(run.shown("txtCLName"), "Ṱhoho-Nḓou"); // the front page shows the new one
+
+    run.type("txtCInit", "T");
+    run.menu("mnuSave"); // goes to the copy
+    EXPECT_EQ(run.inClients("SELECT [CInit] FROM [PersDetails] ORDER BY DCLNO"), "P J\nT");
+}
+
+TEST_F(SaveAs, AFailedSaveLeavesTheOldClientInHand) {
+    store::Database(run.folder / "Data.Mdb")
+        .execute("CREATE TRIGGER stop BEFORE INSERT ON [PersDetails] BEGIN SELECT RAISE(ABORT, 'stopped'); END");
+    run.type("txtCLName", "Êksteen");
+    run.desk.expect(Answer::ok);
+    run.click("cmdOK");
+    EXPECT_TRUE(run.isOpen("frmSaveFileAs"));
+    EXPECT_EQ(run.record().client.Name, "Mr P J O'Brien");
+    EXPECT_EQ(run.record().ClientOnFile, 1);
+    EXPECT_EQ(run.record().DCLNO, 1);
+    EXPECT_EQ(run.inClients("SELECT count(*) FROM [Data]"), "1");
+}
+
+TEST_F(SaveAs, TakesItsCopyAfreshWhenAnotherClientComes) {
+    run.menu("mnuNewFile");
+    run.menu("mnuSaveAs");
+    EXPECT_EQ(run.shown("txtName"), "");
+    EXPECT_EQ(run.shown("txtCLName"), "");
+}
+
+} // namespace

@@ -1,0 +1,101 @@
+#include <gtest/gtest.h>
+
+#include "shell/running_program.h"
+
+namespace {
+
+using screenkit::Answer;
+using screenkit::Buttons;
+using shelltest::RunningProgram;
+
+constexpr const char* lines = "SELECT [HEADERV0],[HEADERV1],[HEADERV2],[HEADERV3],[footv0],[footv1],[footv2],[footv3] "
+                              "FROM [HeadFoot]";
+constexpr const char* shipped = "||||This report was prepared in accordance with |information supplied by the "
+                                "undersigned client.||";
+
+class HeadFoot : public testing::Test {
+protected:
+    HeadFoot() { run.menu("mnuPrep"); }
+    RunningProgram run;
+};
+
+TEST_F(HeadFoot, ShowsTheStoredLinesAndClosesWithoutAQuestion) {
+    EXPECT_EQ(run.front()->windowTitle(), "Header & Footer Setup");
+    EXPECT_EQ(run.shown("sitxEdit2(0)"), "This report was prepared in accordance with ");
+    EXPECT_EQ(run.shown("sitxEdit2(1)"), "information supplied by the undersigned client.");
+    QStringList notes;
+    for (auto* label : run.front()->findChildren<QLabel*>())
+        notes << label->text();
+    EXPECT_TRUE(notes.contains("These four lines will apear on all printouts as a Header."));
+    EXPECT_TRUE(notes.contains("These four lines will apear on all printouts as a Footer."));
+    run.click("cmdOk");
+    EXPECT_FALSE(run.isOpen("frmHeadFoot"));
+}
+
+TEST_F(HeadFoot, YesStoresAllEightLinesInBothDatabases) {
+    const std::string longest = std::string(78, 'x') + "ḓÊ"; // eighty letters
+    run.type("sitxEdit1(0)", "Botha & Seun <b>");
+    run.type("sitxEdit1(3)", "O'Brien's \"best\"");
+    run.type("sitxEdit2(3)", QString::fromStdString(longest + "more"));
+    EXPECT_EQ(run.shown("sitxEdit2(3)").toStdString(), longest);
+    run.desk.expect(Answer::yes);
+    run.click("cmdOk");
+    EXPECT_EQ(run.desk.last().text, "Changes have been made to the Header/Footer. Do you want to save them. ?");
+    EXPECT_EQ(run.desk.last().title, "Header/Footer Changes !");
+    EXPECT_EQ(run.desk.last().buttons, Buttons::yesNoCancel);
+    EXPECT_FALSE(run.isOpen("frmHeadFoot"));
+    const std::string stored = "Botha & Seun <b>|||O'Brien's \"best\"|This report was prepared in accordance with "
+                               "|information supplied by the undersigned client.||" +
+                               longest;
+    EXPECT_EQ(run.inClients(lines), stored);
+    EXPECT_EQ(run.inPrint(lines), stored);
+    assessment::CheckChanges(run.record());
+    EXPECT_EQ(run.record().ClientChanged, 0); // the practice's lines, not the client's
+}
+
+TEST_F(HeadFoot, NoWarnsAndKeepsTheStoredLines) {
+    run.type("sitxEdit1(0)", "Botha");
+    run.desk.expect(Answer::no);
+    run.desk.expect(Answer::ok);
+    run.click("cmdOk");
+    EXPECT_EQ(run.desk.last().text, "WARNING CHANGES HAVE NOT BEEN SAVED BUT WILL STILL APPEAR ON PRINTOUTS UNTIL "
+                                    "PROGRAMME IS EXITED ! ");
+    EXPECT_EQ(run.desk.last().title, "WARNING CHANGES");
+    EXPECT_FALSE(run.isOpen("frmHeadFoot"));
+    EXPECT_EQ(run.inClients(lines), shipped);
+    EXPECT_EQ(run.inPrint(lines), shipped);
+    run.menu("mnuPrep");
+    EXPECT_EQ(run.shown("sitxEdit1(0)"), "");
+}
+
+TEST_F(HeadFoot, CancelStaysOnTheFirstLine) {
+    run.type("sitxEdit2(2)", "Botha");
+    run.desk.expect(Answer::cancel);
+    run.click("cmdOk");
+    EXPECT_EQ(run.focused(), "sitxEdit1(0)");
+    EXPECT_EQ(run.shown("sitxEdit2(2)"), "Botha");
+    EXPECT_EQ(run.inClients(lines), shipped);
+    run.front()->parentWidget()->close(); // the close button drops the lines without a question
+    RunningProgram::settle();
+    EXPECT_FALSE(run.isOpen("frmHeadFoot"));
+    EXPECT_EQ(run.inClients(lines), shipped);
+}
+
+TEST_F(HeadFoot, NewClosesItWithoutAQuestion) {
+    run.type("sitxEdit1(0)", "Botha");
+    run.menu("mnuNewFile");
+    EXPECT_FALSE(run.isOpen("frmHeadFoot"));
+    EXPECT_TRUE(run.desk.boxes.empty());
+}
+
+TEST_F(HeadFoot, AFailureInTheReportRowsKeepsTheClientFilesLines) {
+    std::filesystem::remove(run.folder / "Print.mdb");
+    run.type("sitxEdit1(0)", "Botha");
+    run.desk.expect(Answer::yes);
+    run.desk.expect(Answer::ok);
+    run.click("cmdOk");
+    EXPECT_TRUE(run.desk.last().text.contains("Print.mdb"));
+    EXPECT_EQ(run.inClients("SELECT [HEADERV0] FROM [HeadFoot]"), "Botha");
+}
+
+} // namespace

@@ -1,0 +1,170 @@
+#include <gtest/gtest.h>
+
+#include "shell/running_program.h"
+
+namespace {
+
+using screenkit::Answer;
+using screenkit::BoxStyle;
+using screenkit::Buttons;
+using shelltest::RunningProgram;
+
+constexpr const char* unsaved = "Current changes have not been saved. Do you want to save them. ?";
+
+/// Lets every save fail at the client's second table, until it is put right.
+class FailingSave {
+public:
+    explicit FailingSave(const std::filesystem::path& file) : m_file(file) {
+        run("CREATE TRIGGER stop BEFORE INSERT ON [PersDetails] BEGIN SELECT RAISE(ABORT, 'stopped'); END");
+    }
+    ~FailingSave() { run("DROP TRIGGER stop"); }
+
+private:
+    void run(const std::string& sql) { store::Database(m_file).execute(sql); }
+    std::filesystem::path m_file;
+};
+
+TEST(NewFile, AsksNothingWithoutChangesAndOpensPersonalDetails) {
+    RunningProgram run;
+    run.saveClient("Botha");
+    run.menu("mnuLoansCalc");
+    run.menu("mnuNewFile");
+    EXPECT_TRUE(run.desk.boxes.empty());
+    EXPECT_EQ(run.window().screens().size(), 1);
+    EXPECT_EQ(run.front()->objectName(), "frmPersDet");
+    EXPECT_EQ(run.shown("txtCLName"), "");
+    EXPECT_EQ(run.clientName(), "");
+    EXPECT_EQ(run.record().ClientOnFile, 0);
+    EXPECT_EQ(run.record().DCLNO, 0);
+}
+
+TEST(NewFile, CancelLeavesAllAsItWas) {
+    RunningProgram run;
+    run.menu("mnuPersDet");
+    run.type("txtCLName", "Botha");
+    run.desk.expect(Answer::cancel);
+    run.menu("mnuNewFile");
+    EXPECT_EQ(run.desk.last().text, unsaved);
+    EXPECT_EQ(run.desk.last().title, "NEW ?");
+    EXPECT_EQ(run.desk.last().style, BoxStyle::question);
+    EXPECT_EQ(run.desk.last().buttons, Buttons::yesNoCancel);
+    EXPECT_EQ(run.shown("txtCLName"), "Botha");
+    EXPECT_EQ(run.clientName(), "  Botha");
+    EXPECT_EQ(run.record().changed.PersDetChanged, 1);
+    EXPECT_EQ(run.record().SaveThenNew, 0);
+}
+
+TEST(NewFile, NoDropsTheChanges) {
+    RunningProgram run;
+    run.menu("mnuPersDet");
+    run.type("txtCLName", "Botha");
+    run.desk.expect(Answer::no);
+    run.menu("mnuNewFile");
+    EXPECT_EQ(run.shown("txtCLName"), "");
+    EXPECT_EQ(run.inClients("SELECT count(*) FROM [Data]"), "0");
+    EXPECT_EQ(run.record().ClientChanged, 0);
+}
+
+TEST(NewFile, YesSavesAndLeavesABlankClientWithNoScreenOpen) {
+    RunningProgram run;
+    run.menu("mnuLoansCalc");
+    run.menu("mnuPersDet");
+    run.type("txtCLName", "Botha");
+    run.desk.expect(Answer::yes);
+    run.menu("mnuNewFile");
+    EXPECT_EQ(run.inClients("SELECT [CLName] FROM [PersDetails]"), "Botha");
+    EXPECT_TRUE(run.window().screens().isEmpty());
+    EXPECT_EQ(run.clientName(), "");
+    EXPECT_EQ(run.record().ClientOnFile, 0);
+    EXPECT_EQ(run.record().details.CLName, "");
+}
+
+TEST(NewFile, YesWithoutANameAsksForOneAndTheNextPlainSaveKeepsTheClient) {
+    RunningProgram run;
+    run.menu("mnuLoansCalc");
+    run.type("numPrinAmount", "100000");
+    run.desk.expect(Answer::yes);
+    run.desk.expect(Answer::ok);
+    run.menu("mnuNewFile");
+    EXPECT_EQ(run.desk.last().text, "To save a file a Name is required !");
+    EXPECT_EQ(run.desk.last().title, "No Name !");
+    EXPECT_EQ(run.front()->objectName(), "frmPersDet");
+
+    run.type("txtCLName", "Botha");
+    run.menu("mnuSave");
+    EXPECT_EQ(run.shown("txtCLName"), "Botha");
+    EXPECT_EQ(run.record().loans.Num1, 100000);
+    EXPECT_EQ(run.record().ClientOnFile, 1);
+}
+
+TEST(NewFile, AFailedSaveIsForgottenByTheNextPlainOne) {
+    RunningProgram run;
+    run.menu("mnuPersDet");
+    run.type("txtCLName", "Botha");
+    {
+        const FailingSave failing(run.folder / "Data.Mdb");
+        run.desk.expect(Answer::yes);
+        run.desk.expect(Answer::ok);
+        run.menu("mnuNewFile");
+        EXPECT_EQ(run.desk.last().title, "Marlowbeck");
+        EXPECT_TRUE(run.desk.last().text.contains("Data.Mdb")) << run.desk.last().text.toStdString();
+        EXPECT_EQ(run.shown("txtCLName"), "Botha");
+        EXPECT_EQ(run.record().ClientOnFile, 0);
+        EXPECT_EQ(run.record().changed.PersDetChanged, 1);
+    }
+    run.menu("mnuSave");
+    EXPECT_EQ(run.shown("txtCLName"), "Botha");
+    EXPECT_EQ(run.record().ClientOnFile, 1);
+    EXPECT_EQ(run.inClients("SELECT [DCLNO], [CLName] FROM [PersDetails]"), "1|Botha");
+}
+
+TEST(Save, AsksForANameOfMoreThanBlanks) {
+    RunningProgram run;
+    run.desk.expect(Answer::ok);
+    run.menu("mnuSave");
+    EXPECT_EQ(run.desk.last().title, "No Name !");
+    EXPECT_EQ(run.front()->objectName(), "frmPersDet");
+    run.type("txtCLName", "   ");
+    run.desk.expect(Answer::ok);
+    run.menu("mnuSave");
+    EXPECT_EQ(run.inClients("SELECT count(*) FROM [Data]"), "0");
+}
+
+TEST(Screens, OpeningAndClosingEachLeavesTheClientUnchanged) {
+    RunningProgram run;
+    run.saveClient("Botha");
+    for (const char* item : {"mnuPersDet", "mnuLoansCalc", "mnuPrep", "mnuBrowse", "mnuSaveAs", "mnuContents"}) {
+        run.menu(item);
+        run.front()->parentWidget()->close();
+        RunningProgram::settle();
+        EXPECT_TRUE(run.window().screens().isEmpty() || item == std::string("mnuPersDet")) << item;
+        assessment::CheckChanges(run.record());
+        EXPECT_EQ(run.record().ClientChanged, 0) << item;
+    }
+    EXPECT_TRUE(run.desk.boxes.empty());
+}
+
+TEST(Screens, AnEditTypedBackStillCountsAsAChange) {
+    RunningProgram run;
+    run.saveClient("Botha");
+    run.type("txtCLName", "Botha");
+    assessment::CheckChanges(run.record());
+    EXPECT_EQ(run.record().ClientChanged, 1);
+}
+
+TEST(Screens, ComingBackFromABoxDoesNotFillOverWhatIsTyped) {
+    RunningProgram run;
+    run.menu("mnuPersDet");
+    run.enter("dtCDOB", "31/02/2000");
+    QApplication::sendPostedEvents();
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    RunningProgram::settle();
+    run.window().activateWindow();
+    RunningProgram::settle();
+    EXPECT_EQ(run.shown("dtCDOB"), "31/02/2000");
+    run.enter("dtCDOB", "");
+}
+
+} // namespace
