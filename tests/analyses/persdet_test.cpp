@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QRadioButton>
+#include <sstream>
 
 #include "assessment/tables.h"
 #include "reports/export.h"
@@ -20,48 +21,16 @@ struct Control {
 
 std::vector<Control> textControls() {
     std::vector<Control> all{
-        {"txtCTitle", "CTitle"},
-        {"txtCFName", "CFName"},
-        {"txtCInit", "CInit"},
-        {"txtCLName", "CLName"},
-        {"txtCOccupation", "COccupation"},
-        {"txtCEmployer", "CEmployer"},
-        {"txtIDNum", "IDNumber"},
-        {"txtEducation", "CEducation"},
-        {"txtCTelWork", "CTelWork"},
-        {"txtCTelHome", "CTelHome"},
-        {"txtCFaxWork", "CFaxWork"},
-        {"txtCFaxHome", "CFaxHome"},
-        {"txtCCell", "CCell"},
-        {"txtCEMail", "CEMail"},
-        {"txtSTitle", "STitle"},
-        {"txtSFName", "SFName"},
-        {"txtSInit", "SInit"},
-        {"txtSLName", "SLName"},
-        {"txtSOccupation", "SOccupation"},
-        {"txtSEmployer", "SEmployer"},
-        {"txtSSinNum", "SSinNum0"},
-        {"txtSEducation", "SEducation"},
-        {"txtSTelWork", "STelWork"},
-        {"txtSTelHome", "STelHome"},
-        {"txtSFaxWork", "SFaxWork"},
-        {"txtSFaxHome", "SFaxHome"},
-        {"txtSCell", "SCell"},
-        {"txtSEMail", "SEMail"},
-        {"txtPAdd1", "PAdd1"},
-        {"txtPAdd2", "PAdd2"},
-        {"txtPAdd3", "PAdd3"},
-        {"txtZipCode", "PAddZip"},
-        {"txtResAdd1", "ResAdd1"},
-        {"txtResAdd2", "ResAdd2"},
-        {"txtResAdd3", "ResAdd3"},
-        {"txtExecutors", "CExecutors"},
-        {"txtMemo", "Comments"},
-        {"txtBank", "CBank"},
-        {"txtBranch", "CBranch"},
-        {"txtAccNo", "CAccNo"},
-        {"txtDescription", "Description"},
+        {"txtIDNum", "IDNumber"},  {"txtEducation", "CEducation"}, {"txtSSinNum", "SSinNum0"},
+        {"txtZipCode", "PAddZip"}, {"txtExecutors", "CExecutors"}, {"txtMemo", "Comments"},
+        {"txtBank", "CBank"},      {"txtBranch", "CBranch"},       {"txtAccNo", "CAccNo"},
     };
+    std::istringstream sameNames("CTitle CFName CInit CLName COccupation CEmployer CTelWork CTelHome CFaxWork CFaxHome "
+                                 "CCell CEMail STitle SFName SInit SLName SOccupation SEmployer SEducation STelWork "
+                                 "STelHome SFaxWork SFaxHome SCell SEMail PAdd1 PAdd2 PAdd3 ResAdd1 ResAdd2 ResAdd3 "
+                                 "Description");
+    for (std::string field; sameNames >> field;)
+        all.push_back({"txt" + field, field});
     for (int i = 0; i < 8; ++i)
         all.push_back({"txtDepName(" + std::to_string(i) + ")", "DEP" + std::to_string(i + 1)});
     return all;

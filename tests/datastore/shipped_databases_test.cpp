@@ -1,8 +1,7 @@
 // The databases that the build makes, as a first start finds them.
 #include <sys/stat.h>
 
-#include <algorithm>
-#include <iterator>
+#include <vector>
 
 #include "datastore/settings.h"
 #include "store/store_support.h"
@@ -12,68 +11,27 @@ using datastore::readSettings;
 
 namespace {
 
-struct Table {
-    const char* file;
-    const char* name;
-    int fields;
-    int rows;
-};
-
 constexpr const char* settingsFile = "Default.Mdb";
 constexpr const char* unitsFile = "units.mdb";
 constexpr const char* diaryFile = "Diary.mdb";
 constexpr const char* printFile = "Print.mdb";
 
-const Table tables[] = {
-    {settingsFile, "MutualFunds", 24, 1},
-    {settingsFile, "TallowenDefault", 24, 1},
-    {settingsFile, "Setup", 2, 1},
-    {settingsFile, "IncFromShares", 5, 1},
-    {settingsFile, "livann", 7, 1},
-    {settingsFile, "PAYESetup", 5, 1},
-    {settingsFile, "EstateDutyEst", 5, 1},
-    {unitsFile, "Units", 6, 24},
-    {unitsFile, "UTH", 5, 1},
-    {diaryFile, "DiaryDates", 8, 0},
-    {diaryFile, "Type_Diary_Apps", 3, 0},
-    {printFile, "NomEffect", 6, 0},
-    {printFile, "Amort", 5, 0},
-    {printFile, "Loans", 11, 0},
-    {printFile, "OffShore", 11, 0},
-    {printFile, "IncFromShares", 42, 0},
-    {printFile, "Inflation", 5, 0},
-    {printFile, "BondBust", 12, 0},
-    {printFile, "ItemisePrintName", 1, 1},
-    {printFile, "ItemisePrint", 6, 0},
-    {printFile, "NARA", 47, 0},
-    {printFile, "NADeath", 29, 0},
-    {printFile, "NAED", 23, 0},
-    {printFile, "LOcap", 6, 0},
-    {printFile, "AllDetails", 5, 0},
-    {printFile, "RRR", 37, 0},
-    {printFile, "InvestmentPro", 20, 0},
-    {printFile, "kwiktax", 12, 1},
-    {printFile, "InvComp", 20, 0},
-    {printFile, "DebtCon", 17, 0},
-    {printFile, "BondComp", 20, 0},
-    {printFile, "PolsInvests", 22, 0},
-    {printFile, "PolsInvestsAmorts", 61, 0},
-    {printFile, "RATaxAdvantage", 11, 1},
-    {printFile, "DailyBal", 6, 0},
-    {printFile, "IRP5IncDed", 26, 0},
-    {printFile, "CGTTrustOtherItemise", 7, 0},
-    {printFile, "traveldeduction", 31, 1},
-    {printFile, "LivAnn", 33, 0},
-    {printFile, "PAYESetup", 5, 1},
-    {printFile, "EstateDutyEst", 20, 1},
-    {printFile, "HeadFoot", 8, 1},
-    {printFile, "PersDetails", 66, 1},
-    {printFile, "AllDetailsHeader", 5, 1},
-    {printFile, "UnitHist", 6, 0},
-    {printFile, "UnitHistDet", 6, 1},
-    {printFile, "IRP5Mon", 45, 1},
-    {printFile, "CGTDetails", 41, 0},
-    {printFile, "CGTTrustOtherDetails", 2, 1},
+struct Shipped {
+    const char* file;
+    int tables;
+    std::vector<const char*> withARow; ///< edited in place, so they must not be shipped empty
+};
+
+const Shipped files[] = {
+    {settingsFile,
+     7,
+     {"MutualFunds", "TallowenDefault", "Setup", "IncFromShares", "livann", "PAYESetup", "EstateDutyEst"}},
+    {unitsFile, 2, {"UTH"}},
+    {diaryFile, 2, {}},
+    {printFile,
+     38,
+     {"ItemisePrintName", "kwiktax", "RATaxAdvantage", "traveldeduction", "PAYESetup", "EstateDutyEst", "HeadFoot",
+      "PersDetails", "AllDetailsHeader", "UnitHistDet", "IRP5Mon", "CGTTrustOtherDetails"}},
 };
 
 // The copy that packages take, which nobody has worked with.
@@ -87,22 +45,16 @@ double number(store::Database& database, const std::string& sql) {
 
 } // namespace
 
-TEST(ShippedDatabases, HoldEveryTableWithItsFieldsAndFirstRows) {
-    for (const Table& table : tables) {
-        SCOPED_TRACE(std::string(table.file) + " " + table.name);
-        store::Database database(shipped(table.file));
-        EXPECT_EQ(database.columns(table.name).size(), static_cast<std::size_t>(table.fields));
-        EXPECT_EQ(number(database, "SELECT count(*) FROM " + store::bracketed(table.name)), table.rows);
-    }
-    for (const char* file : {settingsFile, unitsFile, diaryFile, printFile}) {
-        SCOPED_TRACE(file);
-        store::Database database(shipped(file));
-        const auto listed = std::count_if(std::begin(tables), std::end(tables),
-                                          [&](const Table& table) { return table.file == std::string(file); });
-        EXPECT_EQ(number(database, "SELECT count(*) FROM sqlite_schema WHERE type = 'table'"), listed);
+TEST(ShippedDatabases, AreWholeWithTheirFirstRowsAndTheOwnersAlone) {
+    for (const Shipped& each : files) {
+        SCOPED_TRACE(each.file);
+        store::Database database(shipped(each.file));
+        EXPECT_EQ(number(database, "SELECT count(*) FROM sqlite_schema WHERE type = 'table'"), each.tables);
         EXPECT_EQ(number(database, "SELECT count(*) FROM pragma_integrity_check WHERE integrity_check = 'ok'"), 1);
+        for (const char* table : each.withARow)
+            EXPECT_EQ(number(database, "SELECT count(*) FROM " + store::bracketed(table)), 1) << table;
         struct stat info {};
-        ASSERT_EQ(::stat((fs::path(MARLOWBECK_PROGRAM_DIR) / file).c_str(), &info), 0);
+        ASSERT_EQ(::stat((fs::path(MARLOWBECK_PROGRAM_DIR) / each.file).c_str(), &info), 0);
         EXPECT_EQ(info.st_mode & 0777U, 0600U);
     }
 }

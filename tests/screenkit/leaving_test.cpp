@@ -171,7 +171,7 @@ TEST_F(LeavingTest, aScreenTornDownInMidEditAsksNothing) {
 }
 
 TEST_F(LeavingTest, aFailingActionShowsOneBoxAndTheProgramGoesOn) {
-    const auto fail = [] { throw store::Error(store::Number::diskFull, "/home/adviser/Print.mdb"); };
+    const auto fail = [] { throw store::Error(store::Number::diskFull, "/practice/Print.mdb"); };
     screen->onRun = fail;
     screen->onEdit = fail;
     for (const auto& act :
@@ -181,7 +181,7 @@ TEST_F(LeavingTest, aFailingActionShowsOneBoxAndTheProgramGoesOn) {
         act();
         ASSERT_EQ(desk.boxes.size(), 1U);
         EXPECT_EQ(desk.last().title, "Marlowbeck");
-        EXPECT_TRUE(desk.last().text.contains("/home/adviser/Print.mdb"));
+        EXPECT_TRUE(desk.last().text.contains("/practice/Print.mdb"));
         EXPECT_TRUE(desk.last().text.endsWith("(3026)") || desk.last().text.endsWith("[3026]"))
             << desk.last().text.toStdString();
         EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);

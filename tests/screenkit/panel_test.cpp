@@ -94,7 +94,7 @@ TEST_F(PanelTest, eachWayToPrintGoesWhereItSaysWhileTheUserIsTold) {
 }
 
 TEST_F(PanelTest, aReportThatFailsShowsOneBoxAndLeavesTheScreenUsable) {
-    screen->printed = [](Destination) { throw store::Error(store::Number::diskFull, "/home/adviser/Print.mdb"); };
+    screen->printed = [](Destination) { throw store::Error(store::Number::diskFull, "/practice/Print.mdb"); };
     openPrint();
     desk.expect(Answer::ok);
     click("cmdVR");
@@ -102,7 +102,7 @@ TEST_F(PanelTest, aReportThatFailsShowsOneBoxAndLeavesTheScreenUsable) {
     EXPECT_EQ(desk.last().style, BoxStyle::critical);
     EXPECT_EQ(desk.last().title, "Marlowbeck");
     EXPECT_TRUE(desk.last().text.startsWith("Marlowbeck could not make the report."));
-    EXPECT_TRUE(desk.last().text.contains("/home/adviser/Print.mdb"));
+    EXPECT_TRUE(desk.last().text.contains("/practice/Print.mdb"));
     EXPECT_FALSE(screen->print->isVisible());
     EXPECT_TRUE(get<QLabel>("lblProcessing")->isHidden());
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
