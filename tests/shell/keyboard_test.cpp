@@ -20,6 +20,8 @@ struct Place {
     const char* panel; ///< button that opens a panel over it; "" for the screen itself
 };
 
+void PrintTo(const Place& place, std::ostream* out) { *out << place.item << ' ' << place.panel; }
+
 const std::vector<Place> places{
     {"mnuPersDet", ""}, {"mnuPersDet", "cmdPrint"}, {"mnuLoansCalc", ""}, {"mnuLoansCalc", "cmdPrint"},
     {"mnuPrep", ""},    {"mnuBrowse", ""},          {"mnuSaveAs", ""},    {"mnuContents", ""},
