@@ -37,14 +37,19 @@ assessment::FundDefaults fundsFrom(const SettingsRow& row) {
     return funds;
 }
 
-/// Rewrites the factory's row with what it holds, so that a start fails where the settings could not be written later.
+/// Fails a start whose settings could not be written later: a read-only file, or a folder that takes no journal.
+///
+/// The factory's row is to stay as it is, and the database skips a write that changes nothing. So the row is changed
+/// and the change undone: that needs all that a write needs, but the wait for the disk.
 void touchTallowenDefault(store::Database& settings) {
-    store::Transaction transaction(settings);
+    const store::Transaction undone(settings);
     const SettingsRow row = readSettings(settings, "TallowenDefault");
+    Row changed;
     for (const assessment::FieldLine& line : assessment::mutualFundsTable().fields())
-        row.value(line.name);
-    writeSettings(settings, "TallowenDefault", row.row());
-    transaction.commit();
+        changed.emplace_back(line.name, row.value(line.name));
+    const bool isZero = changed.front().value == store::Value(0.0);
+    changed.front().value = isZero ? 1.0 : 0.0;
+    writeSettings(settings, "TallowenDefault", changed);
 }
 
 assessment::FundDefaults readFunds(const fs::path& defaultDbPath) {

@@ -146,6 +146,18 @@ TEST(StartUp, NeedsTheSettingsAndMustBeAbleToWriteThem) {
     EXPECT_EQ(record.client.Name, "kept"); // a New that fails loses nothing
 }
 
+TEST(StartUp, AFolderThatTakesNoJournalEndsALaterStartToo) {
+    const ProgramFolder folder;
+    Assessment record;
+    datastore::startUp(folder.path(), record);
+    const std::string settings = storetest::bytesOf(folder / "Default.Mdb");
+    EXPECT_EQ(errorOf([&] { datastore::startUp(folder.path(), record); }), 0);
+    EXPECT_EQ(storetest::bytesOf(folder / "Default.Mdb"), settings); // the trial write leaves no trace
+    fs::permissions(folder.path(), fs::perms::owner_read | fs::perms::owner_exec);
+    const storetest::OrdinaryUser user(folder);
+    EXPECT_EQ(errorOf([&] { datastore::startUp(folder.path(), record); }), 3051);
+}
+
 TEST(StartUp, WorksOnTheDatabasesThatAreShipped) {
     const storetest::Folder folder;
     for (const char* name : {"Default.Mdb", "Print.mdb"})
