@@ -80,7 +80,7 @@ void exportPersonalDetails(Hands& hands) {
     hands.menu({"mnuPersDet"});
     hands.expectFront("frmPersDet");
     hands.click("cmdPrint");
-    hands.click("chkNotes");
+    hands.click("Check3");
     hands.click("cmdVR");
     auto* report = hands.preview();
     say(QString("  report: %1, %2 pages").arg(report->windowTitle()).arg(report->report().layout.count()));

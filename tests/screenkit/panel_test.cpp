@@ -10,7 +10,7 @@ struct PanelTest : KitTest {
     void openPrint() {
         click("cmdPrint");
         ASSERT_TRUE(screen->print->isVisible());
-        ASSERT_EQ(focus(), "chkNotes");
+        ASSERT_EQ(focus(), "Check3");
     }
     bool inPanel() { return screen->print->isAncestorOf(QApplication::focusWidget()); }
 };
@@ -85,7 +85,7 @@ TEST_F(PanelTest, eachWayToPrintGoesWhereItSaysWhileTheUserIsTold) {
         EXPECT_EQ(focus(), "cmdPrint");
     }
     openPrint();
-    click(get("chkNotes"), QPoint(8, get("chkNotes")->height() / 2));
+    click(get("Check3"), QPoint(8, get("Check3")->height() / 2));
     EXPECT_EQ(places.withNotes, 1);
     EXPECT_EQ(changed(), 0) << "how to print is no fact about the client";
     went.clear();
