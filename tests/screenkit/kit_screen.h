@@ -61,8 +61,7 @@ public:
                   {"Mo&de", options("optMode", {"First", "Second", "Third"}, places.mode, [this](int) { ++picks; })}}),
              button("cmdBetween", "&Between", [] {}), check("chkSmokes", "Smo&kes", places.smokes),
              row({run, cancelButton("cmdCancel", "Cance&l", [this] { ++cancels; }),
-                  button("cmdPrint", "&Print", [this] { print->open(findChild<QWidget*>("Check3")); }),
-                  okButton()})}));
+                  button("cmdPrint", "&Print", [this] { print->open(findChild<QWidget*>("Check3")); }), okButton()})}));
         defaultButton(run);
         months->setAccessibleName("Months"); // its form row holds the spin buttons as well
         auto* withNotes = check("Check3", "&Include Notes", places.withNotes);
