@@ -3,6 +3,7 @@
 #include <QFileInfo>
 #include <QPrinter>
 
+#include "reports/report.h"
 #include "screenkit/desk.h"
 #include "store/error.h"
 #include "store/files.h"
@@ -97,7 +98,8 @@ void frmGraph::DCAmortGraph(Yearly balance, Yearly capital, Yearly interest, int
 void frmGraph::print() {
     using screenkit::BoxStyle;
     if (!m_work.desk.hasPrinter()) return m_work.desk.tell(BoxStyle::warning, "No printer is installed.", "Print");
-    QPrinter printer(QPrinter::HighResolution);
+    QPrinter& printer = m_work.reports.printer(); // the session's: what is chosen here holds for reports too
+    printer.setFullPage(false);
     printer.setDocName(QString::fromStdString(m_graph.title).trimmed());
     printer.setPageOrientation(orientation());
     if (!m_work.desk.choosePrinter(printer)) return;

@@ -4,14 +4,12 @@
 #include <QChart>
 #include <QChartView>
 #include <QLineSeries>
-#include <QPrinter>
 #include <QPushButton>
-#include <deque>
 #include <numeric>
 
 #include "reports/frmGraph.h"
 #include "reports/output/graphview.h"
-#include "screenkit/desk.h"
+#include "screenkit/testdesk.h"
 #include "screenkit/workbench.h"
 
 namespace graphtest {
@@ -19,41 +17,6 @@ namespace graphtest {
 using reports::frmGraph;
 using reports::GraphPeriod;
 using Array = std::vector<double>;
-
-/// Keeps what the window says, names files from a queue and prints into a file.
-class GraphDesk : public screenkit::Desk {
-public:
-    std::deque<QString> files;
-    QStringList boxes;
-    QString suggested;
-    QString printTo;
-    screenkit::Answer answer = screenkit::Answer::no;
-
-    screenkit::Answer box(screenkit::BoxStyle, const QString& text, const QString&, screenkit::Buttons,
-                          std::optional<screenkit::Answer>) override {
-        boxes << text;
-        return answer;
-    }
-    std::optional<QString> fileToSave(const QString&, const QString& name, const QStringList&) override {
-        suggested = name;
-        if (files.empty()) return {};
-        const QString next = files.front();
-        files.pop_front();
-        return next;
-    }
-    bool choosePrinter(QPrinter& printer) override {
-        printer.setOutputFormat(QPrinter::PdfFormat);
-        printer.setOutputFileName(printTo);
-        return true;
-    }
-    bool hasPrinter() override { return !printTo.isEmpty(); }
-    std::optional<QString> fileToOpen(const QString&, const QString&, const QStringList&) override { return {}; }
-    std::optional<QString> input(const QString&, const QString&, const QString&) override { return {}; }
-    void bell() override {}
-    QDate today() override { return {}; }
-    void openOnDesktop(const QString&) override {}
-    bool startProgram(const QStringList&) override { return false; }
-};
 
 /// Element i is base + i; element 0, which no graph may show, is far out.
 inline Array counting(double base, int last = 51) {
@@ -64,7 +27,7 @@ inline Array counting(double base, int last = 51) {
 }
 
 struct Fixture {
-    GraphDesk desk;
+    screenkit::TestDesk desk;
     screenkit::Workbench bench{desk};
     frmGraph window{bench.workplace};
     const Array a = counting(1000), b = counting(2000), c = counting(3000), d = counting(4000);

@@ -28,10 +28,11 @@ TEST(GraphExport, ExportsEveryFormatInTheChosenOrientation) {
     for (const bool landscape : {true, false}) {
         f.window.findChild<QRadioButton*>(landscape ? "Option1(0)" : "Option1(1)")->click();
         const QString base = folder.filePath(landscape ? "landscape" : "portrait");
-        f.desk.files = {base + ".png", base + ".SVG", base + ".pdf"};
-        for (int i = 0; i < 3; ++i)
+        for (const char* ending : {".png", ".SVG", ".pdf"}) {
+            f.desk.expectFile(base + ending);
             f.press("cmdExport");
-        EXPECT_EQ(f.desk.suggested, "Illustration of a Retirement Annuity-Superannuation type.png");
+        }
+        EXPECT_EQ(f.desk.suggestedName, "Illustration of a Retirement Annuity-Superannuation type.png");
 
         const QImage picture(base + ".png");
         EXPECT_EQ(picture.width() > picture.height(), landscape);
@@ -52,7 +53,6 @@ TEST(GraphExport, ExportsEveryFormatInTheChosenOrientation) {
             EXPECT_TRUE(paper.contains(text)) << text.toStdString();
         }
     }
-    EXPECT_TRUE(f.desk.boxes.isEmpty());
 }
 
 TEST(GraphExport, ExportStaysWhiteUnderADarkDesktop) {
@@ -73,13 +73,14 @@ TEST(GraphExport, AFailedExportTellsAndLeavesNothing) {
     const QTemporaryDir folder;
     Fixture f;
     f.window.LivAnnGraph(f.a, f.b, 30);
-    f.press("cmdExport"); // cancelled
-    EXPECT_TRUE(f.desk.boxes.isEmpty());
+    f.desk.expectFile({}); // cancelled
+    f.press("cmdExport");
     QDir(folder.path()).mkdir("taken.pdf"); // no file can take a folder's place, whoever runs the test
-    f.desk.files = {folder.filePath("no such folder/x.png"), folder.filePath("taken.pdf")};
-    f.press("cmdExport");
-    f.press("cmdExport");
-    EXPECT_EQ(f.desk.boxes.size(), 2);
+    for (const char* name : {"no such folder/x.png", "taken.pdf"}) {
+        f.desk.expectFile(folder.filePath(name));
+        f.desk.expect(screenkit::Answer::ok);
+        f.press("cmdExport");
+    }
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
               QStringList{"taken.pdf"});
 }
@@ -88,7 +89,8 @@ TEST(GraphExport, ANameWithoutAnEndingBecomesAPicture) {
     const QTemporaryDir folder;
     Fixture f;
     f.window.LivAnnGraph(f.a, f.b, 30);
-    f.desk.files = {folder.filePath("Bond v2.1"), folder.filePath("Bond v2.1"), folder.filePath("Bond v2.1")};
+    for (int i = 0; i < 3; ++i)
+        f.desk.expectFile(folder.filePath("Bond v2.1"));
     f.press("cmdExport");
     const QString file = folder.filePath("Bond v2.1.png");
     EXPECT_EQ(QImageReader::imageFormat(file), "png");
@@ -96,10 +98,11 @@ TEST(GraphExport, ANameWithoutAnEndingBecomesAPicture) {
     QFile old(file);
     ASSERT_TRUE(old.open(QIODevice::ReadWrite) && old.setFileTime(written, QFileDevice::FileModificationTime));
     old.close();
-    f.press("cmdExport"); // answered No
-    EXPECT_EQ(f.desk.boxes, QStringList{"Bond v2.1.png already exists. Replace it?"});
+    f.desk.expect(screenkit::Answer::no);
+    f.press("cmdExport");
+    EXPECT_EQ(f.desk.last().text, "Bond v2.1.png already exists. Replace it?");
     EXPECT_LT(QFileInfo(file).lastModified(), written.addSecs(60));
-    f.desk.answer = screenkit::Answer::yes;
+    f.desk.expect(screenkit::Answer::yes);
     f.press("cmdExport");
     EXPECT_GT(QFileInfo(file).lastModified(), written.addSecs(60));
 }
@@ -108,14 +111,16 @@ TEST(GraphExport, PrintsInTheChosenOrientation) {
     const QTemporaryDir folder;
     Fixture f;
     f.window.LoanAmortGraph(f.a, f.b, f.c, 1, 20, 21);
+    f.desk.expect(screenkit::Answer::ok);
     f.press("cmdPrint");
-    EXPECT_EQ(f.desk.boxes, QStringList{"No printer is installed."});
+    EXPECT_TRUE(f.desk.last().text.startsWith("No printer is installed"));
     EXPECT_EQ(f.window.orientation(), QPageLayout::Landscape);
     f.desk.printTo = folder.filePath("landscape.pdf");
     f.press("cmdPrint");
     f.window.findChild<QRadioButton*>("Option1(1)")->click();
     f.desk.printTo = folder.filePath("portrait.pdf");
     f.press("cmdPrint");
+    EXPECT_EQ(f.bench.reports.printer().outputFileName(), f.desk.printTo); // the session's printer, not one of its own
     for (const char* name : {"landscape", "portrait"}) {
         const QString file = folder.filePath(QString(name) + ".pdf");
         QProcess reader;
@@ -127,7 +132,6 @@ TEST(GraphExport, PrintsInTheChosenOrientation) {
         EXPECT_EQ(found.captured(1).toDouble() > found.captured(2).toDouble(), std::string_view(name) == "landscape");
         EXPECT_TRUE(textOfPdf(file).contains("Illustration of Loan Repayment"));
     }
-    EXPECT_EQ(f.desk.boxes.size(), 1);
 }
 
 } // namespace
