@@ -178,22 +178,6 @@ TEST(PersDet, OptionsKeepTheirIndexAndStartAsTheRecordDoes) {
     EXPECT_EQ(run.record().changed.PersDetChanged, 1);
 }
 
-TEST(PersDet, ADateThatIsNoneIsClearedAndAskedForAgain) {
-    RunningProgram run;
-    run.menu("mnuNewFile");
-    for (const char* wrong : {"31/02/2026", "12/31/2026", "soon", "01/01/1800"}) {
-        run.desk.expect(Answer::ok);
-        run.type("dtNextApp", wrong);
-        EXPECT_EQ(run.desk.last().text, "The date entered is in the wrong format\nPlease use the dd/mm/yyyy format.");
-        EXPECT_EQ(run.shown("dtNextApp"), "") << wrong;
-        EXPECT_EQ(run.focused(), "dtNextApp") << wrong;
-    }
-    run.type("dtNextApp", "5.3.26");
-    EXPECT_EQ(run.shown("dtNextApp"), "05/03/2026");
-    run.type("dtNextApp", "");
-    EXPECT_EQ(run.record().details.NextApp, base::NoDate);
-}
-
 TEST(PersDet, CopiesThePostalAddressToTheResidentialOne) {
     RunningProgram run;
     run.menu("mnuNewFile");
@@ -207,19 +191,6 @@ TEST(PersDet, CopiesThePostalAddressToTheResidentialOne) {
     EXPECT_EQ(run.shown("txtResAdd1"), "Posbus 12");
     EXPECT_EQ(run.record().details.ResAdd2, "Ermelo");
     EXPECT_EQ(run.record().details.ResAdd3, "");
-}
-
-TEST(PersDet, ButtonsOfScreensThatAreNotThereAreGreyed) {
-    RunningProgram run;
-    run.menu("mnuNewFile");
-    EXPECT_FALSE(run.control<QAbstractButton>("cmdOtherAssets")->isEnabled());
-    EXPECT_FALSE(run.control<QAbstractButton>("cmdPolInvest")->isEnabled());
-    run.type("txtCLName", "Botha");
-    run.click("cmOk"); // closes, and keeps the edits unsaved
-    EXPECT_FALSE(run.isOpen("frmPersDet"));
-    EXPECT_EQ(run.record().details.CLName, "Botha");
-    EXPECT_EQ(run.record().changed.PersDetChanged, 1);
-    EXPECT_EQ(run.inClients("SELECT count(*) FROM [Data]"), "0");
 }
 
 std::string printed(RunningProgram& run, const std::string& field) {
@@ -264,30 +235,6 @@ TEST(PersDetReport, PrintsABlankForNoDateAndNoNotesUnlessAskedFor) {
     run.click("cmdVR");
     EXPECT_EQ(run.inPrint("SELECT count(*), [Comments] FROM [PersDetails]"), "1|confidential");
     EXPECT_EQ(run.record().changed.PersDetChanged, 1);
-}
-
-TEST(PersDetReport, ThePanelClosesOnCancelAndWithoutAPrinter) {
-    RunningProgram run;
-    run.menu("mnuNewFile");
-    run.click("cmdPrint");
-    EXPECT_EQ(run.control<QAbstractButton>("cmdPD")->text(), "P&rint directly to printer");
-    EXPECT_EQ(run.control<QAbstractButton>("cmdVR")->text(), "&View/Export report");
-    EXPECT_EQ(run.control<QAbstractButton>("cmdPrintCancel")->text(), "C&ancel");
-    run.key(Qt::Key_Escape);
-    EXPECT_FALSE(run.control("fraPrint")->isVisible());
-    EXPECT_TRUE(run.program.reports().previews().empty());
-
-    run.click("cmdPrint");
-    run.desk.expect(Answer::ok);
-    run.click("cmdPD");
-    EXPECT_FALSE(run.control("fraPrint")->isVisible());
-
-    run.desk.printTo = QString::fromStdString((run.folder / "paper.pdf").string());
-    run.menu("mnuPrintSetup");
-    run.click("cmdPrint");
-    run.click("cmdPD");
-    EXPECT_TRUE(std::filesystem::exists(run.folder / "paper.pdf"));
-    EXPECT_TRUE(run.program.reports().previews().empty());
 }
 
 } // namespace

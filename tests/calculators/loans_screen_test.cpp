@@ -211,24 +211,4 @@ TEST_F(LoanScreen, TheGraphDrawsTheYears) {
     }
 }
 
-TEST_F(LoanScreen, SavedWithTheClientAndShownAgain) {
-    run.menu("mnuPersDet");
-    run.type("txtCLName", "Botha");
-    run.menu("mnuLoansCalc");
-    typeLoan(2, {"123456.78", "", "9.875", "1987.65"});
-    run.click("cmdCalculate");
-    const QStringList before = figures();
-    const Loans saved = run.record().loans;
-    run.menu("mnuSave");
-    run.menu("mnuNewFile");
-    run.menu("mnuBrowse");
-    run.enter("txtSearch", "Botha");
-    run.key(Qt::Key_Return);
-    EXPECT_EQ(run.record().loans, saved);
-    run.menu("mnuLoansCalc");
-    EXPECT_EQ(figures(), before);
-    EXPECT_TRUE(run.control<QRadioButton>("optLoanCalc(2)")->isChecked());
-    EXPECT_EQ(run.record().changed.LoansChanged, 0);
-}
-
 } // namespace

@@ -71,11 +71,6 @@ TEST_F(ProgramFolder, IsTheExecutablesOwnFolderWhereNoMarkerLies) {
     EXPECT_FALSE(fs::exists(scratch / "home"));
 }
 
-TEST_F(ProgramFolder, IsNamedWithoutBeingMade) {
-    EXPECT_EQ(datastore::programFolder(installed / "marlowbeck"), own);
-    EXPECT_FALSE(fs::exists(scratch / "home")) << "a refused second instance must leave no trace";
-}
-
 TEST_F(ProgramFolder, FirstStartSeedsTheUsersFolderForItsOwnerAlone) {
     EXPECT_EQ(start(), own);
     for (const auto& [file, content] : shipped) {

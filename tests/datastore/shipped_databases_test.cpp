@@ -60,27 +60,6 @@ TEST(ShippedDatabases, AreWholeWithTheirFirstRowsAndTheOwnersAlone) {
 }
 
 TEST(ShippedDatabases, StartWithTheFactorySettings) {
-    const struct {
-        const char* file;
-        const char* table;
-        const char* field;
-        double value;
-    } cases[] = {
-        {settingsFile, "MutualFunds", "ETaxRate", 30},
-        {settingsFile, "TallowenDefault", "LumpSumPort", 33.33},
-        {settingsFile, "TallowenDefault", "AnnuityPer", 8},
-        {settingsFile, "MutualFunds", "UTAComPortVal", 0.5},
-        {settingsFile, "Setup", "grinc", 0.5},
-        {settingsFile, "IncFromShares", "TrailComm", 0.5},
-        {settingsFile, "livann", "MaxIncAllowed", 17.5},
-        {settingsFile, "PAYESetup", "UIFLimit", 17712},
-        {settingsFile, "PAYESetup", "TAIncRate8020", 0.8},
-        {settingsFile, "EstateDutyEst", "SndBracket", 30000000},
-        {settingsFile, "EstateDutyEst", "ExecFeesRate", 3.5},
-    };
-    for (const auto& c : cases)
-        EXPECT_EQ(readSettings(shipped(c.file), c.table).number(c.field), c.value) << c.table << " " << c.field;
-
     EXPECT_EQ(readSettings(shipped(settingsFile), "Setup").text("RptLanguage"), "E");
     const auto lines = readSettings(shipped(printFile), "HEADFOOT");
     EXPECT_EQ(lines.text("footv0"), "This report was prepared in accordance with ");
@@ -94,35 +73,7 @@ TEST(ShippedDatabases, StartWithTheFactorySettings) {
         EXPECT_EQ(field.value, factory.value(field.name)) << field.name;
 }
 
-TEST(ShippedDatabases, NameFieldsAndIndexesAsScreensAskForThem) {
-    const struct {
-        const char* file;
-        const char* table;
-        const char* field;
-        store::Type type;
-        int size;
-    } cases[] = {
-        {printFile, "kwiktax", "TAXCOM4/2", store::Type::Double, 0},
-        {printFile, "traveldeduction", "mta02", store::Type::Double, 0},
-        {printFile, "CGTTrustOtherItemise", "Base Cost", store::Type::Text, 255},
-        {printFile, "PersDetails", "Description", store::Type::Text, 60},
-        {printFile, "PersDetails", "DEPDOB8", store::Type::Text, 10},
-        {printFile, "PersDetails", "Comments", store::Type::Memo, 0},
-        {printFile, "CGTDetails", "DBProfitType", store::Type::Memo, 0},
-        {printFile, "HeadFoot", "footv3", store::Type::Text, 80},
-        {printFile, "DebtCon", "LoanAmtTot", store::Type::Text, 255},
-        {printFile, "UnitHistDet", "Inf 7yr", store::Type::Double, 0},
-        {diaryFile, "DiaryDates", "Appointment details", store::Type::Memo, 0},
-        {diaryFile, "Type_Diary_Apps", "UDDEYesNo", store::Type::Boolean, 0},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.field);
-        store::Database database(shipped(c.file));
-        const auto declared =
-            datastore::requiredField(database, c.table, datastore::requiredColumns(database, c.table), c.field);
-        EXPECT_EQ(declared.type, c.type);
-        EXPECT_EQ(declared.size, c.size);
-    }
+TEST(ShippedDatabases, OrderTheFundsByEachColumnBothWays) {
     store::Database units(shipped(unitsFile));
     for (const char* period : {"UTF", "1yr", "2yr", "3yr", "5yr", "10yr"})
         for (const char* direction : {"IndexD", "IndexA"})

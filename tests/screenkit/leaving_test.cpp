@@ -140,29 +140,6 @@ TEST_F(LeavingTest, whatTheScreenHidesOrTheProgramGivesAsAResultIsNotHeldAgainst
     EXPECT_EQ(screen->runs, 3);
 }
 
-TEST_F(LeavingTest, anotherWindowInFrontIsNoLeaving) {
-    bench.record.loans.Num1 = 500;
-    refresh();
-    enterTooMany();
-    get<QLineEdit>("numMonths")->setCursorPosition(1);
-    bench.record.loans.Num1 = 9; // would show if the screen filled itself
-    QWidget other;
-    other.show();
-    other.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
-    settle();
-    window.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-    settle();
-    EXPECT_TRUE(desk.boxes.empty());
-    EXPECT_EQ(focus(), "numMonths");
-    EXPECT_EQ(text("numMonths"), "700");
-    EXPECT_EQ(selected(), "");
-    EXPECT_EQ(get<QLineEdit>("numMonths")->cursorPosition(), 1);
-    EXPECT_EQ(text("numAmount"), "500.00");
-    enter("numMonths", "5");
-}
-
 TEST_F(LeavingTest, aScreenTornDownInMidEditAsksNothing) {
     enterTooMany();
     delete screen;

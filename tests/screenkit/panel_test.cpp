@@ -111,26 +111,6 @@ TEST_F(PanelTest, aReportThatFailsShowsOneBoxAndLeavesTheScreenUsable) {
     EXPECT_EQ(screen->runs, 1);
 }
 
-TEST_F(PanelTest, theCursorsOfGuardsNestAndBalance) {
-    const auto shape = [] {
-        return QGuiApplication::overrideCursor() != nullptr ? QGuiApplication::overrideCursor()->shape()
-                                                            : Qt::BitmapCursor;
-    };
-    {
-        const BusyCursor busy;
-        EXPECT_EQ(shape(), Qt::WaitCursor);
-        {
-            const NormalCursor box;
-            const BusyCursor deeper;
-            EXPECT_EQ(shape(), Qt::WaitCursor);
-        }
-        EXPECT_EQ(shape(), Qt::WaitCursor);
-        const NormalCursor box;
-        EXPECT_EQ(shape(), Qt::ArrowCursor);
-    }
-    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
-}
-
 TEST_F(PanelTest, theGridIsWalkedByKeysAndItsRowsAreCopiedFromTheTop) {
     screen->table({{1, 1000.5}, {2, 2000.125}, {3, -3}});
     settle();

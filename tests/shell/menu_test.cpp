@@ -153,17 +153,6 @@ TEST(Menu, ViewToolbarKeepsItsCheckMarkTrue) {
     run.enter("numIntRate", "6");
 }
 
-TEST(Menu, ACommandWaitsUntilTheFieldInHandIsRight) {
-    RunningProgram run;
-    run.menu("mnuLoansCalc");
-    run.enter("numPeriod", "601");
-    run.desk.expect(Answer::ok);
-    run.menu("mnuPersDet");
-    EXPECT_FALSE(run.isOpen("frmPersDet"));
-    EXPECT_EQ(run.desk.last().title, "Incorrect Period!");
-    EXPECT_EQ(run.focused(), "numPeriod");
-}
-
 TEST(Menu, CascadeAndArrangeIcons) {
     RunningProgram run;
     run.menu("mnuPersDet");
@@ -205,15 +194,6 @@ TEST(Menu, HelpLecturesAndAbout) {
     run.desk.expect(Answer::ok);
     run.menu("mnuAbout");
     EXPECT_TRUE(run.desk.last().text.endsWith(" Version : 1.00.000")) << run.desk.last().text.toStdString();
-}
-
-TEST(Menu, PrinterSetupWithoutAPrinterSaysSo) {
-    RunningProgram run;
-    run.desk.expect(Answer::ok);
-    run.menu("mnuPrintSetup");
-    EXPECT_TRUE(run.desk.last().text.contains("printer", Qt::CaseInsensitive));
-    run.desk.printTo = QString::fromStdString((run.folder / "chosen.pdf").string());
-    run.menu("mnuPrintSetup");
 }
 
 } // namespace
