@@ -265,6 +265,7 @@ struct Assessment {
     Itemised itemised;
     std::vector<Policy> policies = std::vector<Policy>(1); ///< `MaxNum` of them, never fewer than one on screen
     std::int16_t CurPolicy = 1;                            ///< the policy shown, from 1
+    double PolicyMonthlyIncome = 0; ///< pensions of all policies, rand a month; worked out with them, never stored
     CapitalGains capitalGains;
     LumpSums lumpSums;
     FundDefaults funds;

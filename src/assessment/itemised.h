@@ -35,6 +35,8 @@ struct Itemised {
         DISAMortgage, DISAOtherLoans, DISACreditCard, DISAEstateDuty, DISAOtherExp;
     /// Fed by the policies: a flag, no rows and no table.
     std::int16_t RNAPoliciesItemise = 0, DTHLifeAssItemise = 0, DISALifeAssItemise = 0;
+    /// The policies pay a pension: a flag that is worked out afresh with them and never stored.
+    std::int16_t NARAPolicyIncomeItemise = 0;
 };
 
 } // namespace assessment

@@ -1,0 +1,128 @@
+#include "analyses/policyschedule.h"
+
+#include <cmath>
+
+#include "analyses/years.h"
+
+namespace analyses {
+
+namespace {
+
+using assessment::Policy;
+
+/// True for a benefit that is paid at an age up to retirement.
+bool isPaidBy(double retirement, double age) { return age > 0 && age <= retirement; }
+
+/// A value at an age, escalated for each year between that age and the one of retirement, both left out.
+double escalated(double value, double percent, double age, double retirement) {
+    const double rate = percent / 100;
+    for (int year = yearsFromTo(age + 1, retirement - 1); year > 0; --year)
+        value = rate * value + value;
+    return value;
+}
+
+/// What falls due after retirement, brought back to it. No rate undoes a yearly loss of everything: such a value counts
+/// as it stands.
+double discounted(double value, double percent, double age, double retirement) {
+    if (100 + percent == 0) return value;
+    const double cut = percent / (100 + percent);
+    for (int year = yearsFromTo(retirement + 1, age); year > 0; --year)
+        value = value - cut * value;
+    return value;
+}
+
+double cashValue(const Policy& policy, double retirement) {
+    const double age = policy.DeathBenCashValAge;
+    if (policy.DeathBenUseCashAtRet != 1 || !isPaidBy(retirement, age)) return 0;
+    if (!(policy.DeathBen - policy.DeathBenCashVal > 0)) return 0; // a cash value past the cover is no cash value of it
+    return escalated(policy.DeathBenCashVal, policy.DeathBenCashValEscFor, age, retirement);
+}
+
+double lumpSum(double value, double age, double percent, double retirement) {
+    return value > 0 && isPaidBy(retirement, age) ? escalated(value, percent, age, retirement) : 0;
+}
+
+double maturityValue(const Policy& policy, double retirement) {
+    if (policy.InvBensTakeFinValAtRet != 1) return 0;
+    const double age = policy.InvBensMatValLSAtAge; // a blank one escalates from the first year of life
+    const double percent = policy.InvBensMatValLSEscAt;
+    if (age < retirement) return escalated(policy.InvBensMatValLS, percent, age, retirement);
+    return discounted(policy.InvBensMatValLS, percent, age, retirement);
+}
+
+/// A pension counts on top of those of the records before it.
+double runningPensions(const Policy& policy, double& pensions) {
+    if (!(policy.RBMonAvaible > 0)) return 0;
+    return pensions += policy.RBMonAvaible;
+}
+
+ValuesAtRetirement atAge(const Policy& policy, double retirement, double& pensions) {
+    return {cashValue(policy, retirement),
+            lumpSum(policy.RBEMV, policy.RBEMVAge, policy.RBEMVEscFor, retirement),
+            lumpSum(policy.RBPenLump, policy.RBPenLumpAge, policy.RBPenLumpEscFor, retirement),
+            lumpSum(policy.RBProvFLump, policy.RBProvFLumpAge, policy.RBProvFLumpEscFor, retirement),
+            runningPensions(policy, pensions),
+            policy.UseEndowEMVAtRet == 1
+                ? lumpSum(policy.EndowEMV, policy.EndowEMVAge, policy.EndowEMVEscFwd, retirement)
+                : 0,
+            maturityValue(policy, retirement)};
+}
+
+/// What locks the policy line of the retirement analysis: a tick by itself, a lump sum only where it is paid by then.
+bool isTakenAtRetirement(const Policy& policy, double retirement) {
+    const auto isPaid = [&](double value, double age) { return value > 0 && isPaidBy(retirement, age); };
+    return policy.DeathBenUseCashAtRet == 1 || policy.UseEndowEMVAtRet == 1 || policy.InvBensTakeFinValAtRet == 1 ||
+           policy.RBMonAvaible > 0 || isPaid(policy.RBEMV, policy.RBEMVAge) ||
+           isPaid(policy.RBPenLump, policy.RBPenLumpAge) || isPaid(policy.RBProvFLump, policy.RBProvFLumpAge);
+}
+
+double shownMonthlyOnDeath(const assessment::Assessment& record) {
+    const auto shown = static_cast<std::size_t>(record.CurPolicy - 1);
+    return shown < record.policies.size() ? record.policies[shown].DeathBenMonthly : 0;
+}
+
+/// On, off, or left as it was where the totals say neither.
+void follow(std::int16_t& flag, bool on, bool off) {
+    if (on) flag = 1;
+    if (!on && off) flag = 0;
+}
+
+} // namespace
+
+std::vector<ValuesAtRetirement> CalculatePolInv(assessment::Assessment& record) {
+    const double retirement = record.retirement.AgeRetiment;
+    double death = 0, deathMonthly = 0, disability = 0, disabilityMonthly = 0, capital = 0, pensions = 0;
+    bool atRetirement = false;
+    std::vector<ValuesAtRetirement> values;
+    values.reserve(record.policies.size());
+    for (const Policy& policy : record.policies) {
+        // Only what the estate or the spouse receives is the client's capital.
+        const double benefit = policy.DeathBen - (policy.DeathBenAmtCeded + policy.DeathBenLoanAgainst);
+        if ((policy.DeathBenPerson == 0 || policy.DeathBenPerson == 1) && benefit > 0) death += benefit;
+        death += policy.InvBensCurVal;
+        deathMonthly += shownMonthlyOnDeath(record); // of the policy shown, each time: it decides a flag and no more
+        disability += policy.DisabilLumpSum;
+        if (policy.InvBensTakeAtDisa == 1) disability += policy.InvBensCurVal - policy.InvBensCurValLoanAgainst;
+        disabilityMonthly += policy.DisabilMonthly + policy.IncProMonthly;
+
+        const ValuesAtRetirement value = atAge(policy, retirement, pensions);
+        for (const double part : {value.cashValue, value.raMaturity, value.pensionLump, value.providentLump,
+                                  value.endowment, value.investment})
+            capital += part;
+        atRetirement = atRetirement || isTakenAtRetirement(policy, retirement);
+        values.push_back(value);
+    }
+    assessment::Itemised& flags = record.itemised;
+    flags.RNAPoliciesItemise = atRetirement ? 1 : 0;
+    follow(flags.DTHLifeAssItemise, death > 0 || deathMonthly > 0, death == 0 && deathMonthly == 0);
+    follow(flags.DISALifeAssItemise, disability > 0 || disabilityMonthly > 0,
+           !(disability > 0) && disabilityMonthly == 0);
+    flags.NARAPolicyIncomeItemise = pensions > 0 ? 1 : 0;
+    record.PolicyMonthlyIncome = pensions;
+    record.death.ANSAss5 = std::floor(death);
+    record.disability.DisaASS5 = std::floor(disability);
+    record.retirement.ANSLAss4 = std::floor(capital);
+    return values;
+}
+
+} // namespace analyses
