@@ -1,0 +1,148 @@
+#include "analyses/retirementflows.h"
+
+#include <vector>
+
+#include "analyses/years.h"
+
+namespace analyses {
+
+namespace {
+
+using assessment::ItemRow;
+using assessment::Policy;
+
+double ageIn(const assessment::Assessment& record, std::size_t year) {
+    return record.retirement.AgeRetiment + static_cast<double>(year - 1);
+}
+
+/// The year after retirement at which the client is of an age; 0 if none is.
+std::size_t yearAt(const assessment::Assessment& record, double age) {
+    const double years = age - record.retirement.AgeRetiment;
+    if (!(years >= 1 && years <= mostYears)) return 0;
+    const std::size_t year = static_cast<std::size_t>(years) + 1;
+    return ageIn(record, year) == age ? year : 0;
+}
+
+bool isInForce(const ItemRow& row, double age) { return row.FromAge <= age && age <= row.ToAge; }
+
+/// Monthly income from the itemised sources, by year.
+///
+/// In the first year every source in force counts at its amount. From the second on a source counts from the age at
+/// which it starts, so that one which started before retirement is paid in year 1 and never again.
+void addItemisedIncome(const assessment::Assessment& record, Yearly& incomes) {
+    const assessment::ItemList& list = record.itemised.RNAFutMonInc;
+    if (list.flag == 0) return;
+    std::vector<double> values(list.rows.size()); // each source's income at the age that the walk has come to
+    for (std::size_t year = 1; year <= lastYear; ++year) {
+        const double age = ageIn(record, year);
+        for (std::size_t i = 0; i < list.rows.size(); ++i) {
+            const ItemRow& row = list.rows[i];
+            double& value = values[i];
+            if (age > row.ToAge) value = 0;
+            if (isInForce(row, age)) value += age == row.FromAge ? row.Amount : value * row.Escalation / 100;
+            if (year > 1)
+                incomes[year] += value;
+            else if (isInForce(row, age))
+                incomes[year] += row.Amount;
+        }
+    }
+}
+
+/// The policies' pensions in each year, rand a month: they grow by steps of the pension as it began, one more of them
+/// each year, and the steps of the years before stay in.
+Yearly policyIncomes(const assessment::Assessment& record, double pensions) {
+    Yearly incomes{};
+    double income = pensions;
+    for (std::size_t year = 1; year <= lastYear; ++year) {
+        const int steps = static_cast<int>(year) - 2; // from the age after retirement to the age before this one
+        for (const Policy& policy : record.policies) {
+            const double step = (static_cast<double>(policy.RBMonAvaibleEscFor) / 100) * policy.RBMonAvaible;
+            if (step == 0) continue;
+            for (int k = 0; k < steps; ++k)
+                income += step;
+        }
+        incomes[year] = income;
+    }
+    return incomes;
+}
+
+/// What a need in today's money comes to after the years from the next birthday to an age, both counted.
+double inflatedTo(double age, double amount, const assessment::NARetirement& needs) {
+    for (int year = yearsFromTo(needs.CurrAge + 1, age); year > 0; --year)
+        amount = amount * needs.InflationRA / 100 + amount;
+    return amount;
+}
+
+/// The monthly need of a year from the itemised needs in force; without one, last year's inflated. Each row sets the
+/// figure, so that of rows that overlap the last one counts.
+void setItemisedNeed(const assessment::Assessment& record, std::size_t year, Yearly& monthly) {
+    const auto& needs = record.retirement;
+    const std::vector<ItemRow>& rows = record.itemised.RNAMonIncReq.rows;
+    const double age = ageIn(record, year);
+    bool isNeeded = false;
+    for (const ItemRow& row : rows) {
+        if (!isInForce(row, age)) continue;
+        isNeeded = true;
+        if (row.FromAge != age) {
+            monthly[year] = monthly[year - 1] + monthly[year - 1] * row.Escalation / 100;
+        } else if (&row == &rows.front()) {
+            // The first need starts with the figure of the year before it, in both years.
+            monthly[year] = monthly[year - 1] = inflatedTo(age - 2, row.Amount, needs);
+        } else {
+            monthly[year] = inflatedTo(age - 1, row.Amount, needs);
+        }
+    }
+    if (!isNeeded) monthly[year] = monthly[year - 1] + monthly[year - 1] * needs.InflationRA / 100;
+}
+
+/// Policies that pay out after retirement, at the value that they have at that age. An endowment counts with or without
+/// its tick, a cash value whatever the cover: unlike those that are paid by retirement.
+void addLumpSums(const assessment::Assessment& record, Yearly& paidOut) {
+    const auto add = [&](double value, double age) {
+        if (const std::size_t year = yearAt(record, age); year > 0) paidOut[year] += value;
+    };
+    for (const Policy& policy : record.policies)
+        if (policy.DeathBenUseCashAtRet == 1) add(policy.DeathBenCashVal, policy.DeathBenCashValAge);
+    for (const Policy& policy : record.policies)
+        add(policy.RBEMV, policy.RBEMVAge);
+    for (const Policy& policy : record.policies)
+        add(policy.RBPenLump, policy.RBPenLumpAge);
+    for (const Policy& policy : record.policies)
+        add(policy.RBProvFLump, policy.RBProvFLumpAge);
+    for (const Policy& policy : record.policies)
+        add(policy.EndowEMV, policy.EndowEMVAge);
+}
+
+/// Expenses of the itemised list that fall due in each year, rand.
+Yearly itemisedExpenses(const assessment::Assessment& record) {
+    Yearly expenses{};
+    const assessment::ItemList& list = record.itemised.RNAOtherExp;
+    if (list.flag == 0) return expenses;
+    for (const ItemRow& row : list.rows)
+        if (const std::size_t year = yearAt(record, row.At); year > 0) expenses[year] += row.Amount;
+    return expenses;
+}
+
+} // namespace
+
+YearlyFlows retirementFlows(const assessment::Assessment& record, double incomeRequired, double pensions) {
+    YearlyFlows flows;
+    addItemisedIncome(record, flows.IncomeRA);
+    addLumpSums(record, flows.paidOut);
+    const Yearly policies = policyIncomes(record, pensions);
+    const Yearly expenses = itemisedExpenses(record);
+    Yearly& monthly = flows.MonthlyRequiredByYear;
+    for (std::size_t year = 1; year <= lastYear; ++year) {
+        if (year == 1)
+            monthly[year] = incomeRequired;
+        else if (record.itemised.RNAMonIncReq.flag != 0)
+            setItemisedNeed(record, year, monthly);
+        else
+            monthly[year] = monthly[year - 1] + monthly[year - 1] * record.retirement.InflationRA / 100;
+        flows.RequiredByYear[year] = monthly[year] * 12 + expenses[year];
+        flows.AvailableByYear[year] = (flows.IncomeRA[year] + policies[year]) * 12;
+    }
+    return flows;
+}
+
+} // namespace analyses

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <array>
+
+namespace analyses {
+
+/// The last year that a needs analysis looks at; it can say of 50 years that the capital lasts.
+inline constexpr int lastYear = 51;
+inline constexpr int mostYears = 50;
+
+/// Figures by year, 1 to 51; element 0 is unused.
+using Yearly = std::array<double, lastYear + 1>;
+
+/// What comes in and goes out year by year whatever the capital: worked out once, then run with any number of capitals.
+struct YearlyFlows {
+    Yearly MonthlyRequiredByYear{}; ///< rand a month
+    Yearly RequiredByYear{};        ///< rand a year
+    Yearly AvailableByYear{};       ///< rand a year
+    Yearly IncomeRA{};              ///< what of the income available is itemised, rand a month
+    Yearly paidOut{};               ///< policies that pay out in the year: they earn its interest (retirement)
+    Yearly sold{};                  ///< assets sold in the year: they earn none in it (death, disability)
+};
+
+/// How a capital fares under such flows.
+struct YearRun {
+    Yearly CapitalByYear{};  ///< at the start of the year, rand
+    Yearly InterestByYear{}; ///< on it in the year
+    int YearsCovered = 1;    ///< years that it lasts, 1 to 50; the year after it is the last one filled in
+};
+
+/// Runs a capital from year 1 until a year needs more than capital, interest and income together, or year 51 is
+/// reached. percent: return a year. The first year's interest alone is cut down to whole rand.
+YearRun projectCapital(const YearlyFlows& flows, double capital, double percent);
+
+} // namespace analyses

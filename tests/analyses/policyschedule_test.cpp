@@ -1,0 +1,139 @@
+#include <gtest/gtest.h>
+
+#include <functional>
+
+#include "analyses/policyschedule.h"
+
+namespace {
+
+using analyses::CalculatePolInv;
+using assessment::Assessment;
+using assessment::Policy;
+
+struct Totals {
+    double death = 0, disability = 0, retirement = 0, pension = 0;
+    int deathFlag = 0, disabilityFlag = 0, retirementFlag = 0, pensionFlag = 0;
+    bool operator==(const Totals&) const = default;
+};
+
+void PrintTo(const Totals& t, std::ostream* out) {
+    *out << t.death << ' ' << t.disability << ' ' << t.retirement << ' ' << t.pension << " flags " << t.deathFlag
+         << t.disabilityFlag << t.retirementFlag << t.pensionFlag;
+}
+
+Totals totalsOf(Assessment& client) {
+    CalculatePolInv(client);
+    const auto& flags = client.itemised;
+    return {client.death.ANSAss5,       client.disability.DisaASS5,   client.retirement.ANSLAss4,
+            client.PolicyMonthlyIncome, flags.DTHLifeAssItemise,      flags.DISALifeAssItemise,
+            flags.RNAPoliciesItemise,   flags.NARAPolicyIncomeItemise};
+}
+
+struct Case {
+    const char* what;
+    std::function<void(Policy&)> fill;
+    Totals totals;
+};
+
+// One policy of a client who retires at 55.
+const Case cases[] = {
+    {"cover to the estate", [](Policy& p) { p.DeathBen = 1000.9; }, {.death = 1000, .deathFlag = 1}},
+    {"cover to charity, investment all the same",
+     [](Policy& p) { p.DeathBen = 1000, p.DeathBenPerson = 2, p.InvBensCurVal = 300; },
+     {.death = 300, .deathFlag = 1}},
+    {"ceded in full", [](Policy& p) { p.DeathBen = 1000, p.DeathBenAmtCeded = 1000; }, {}},
+    {"ceded and lent against past the cover",
+     [](Policy& p) { p.DeathBen = 1000, p.DeathBenAmtCeded = 900, p.DeathBenLoanAgainst = 900; },
+     {}},
+    {"income on death alone turns the flag", [](Policy& p) { p.DeathBenMonthly = 5; }, {.deathFlag = 1}},
+    {"an investment lost leaves the flag", [](Policy& p) { p.InvBensCurVal = -10; }, {.death = -10}},
+    {"disability",
+     [](Policy& p) { p.DisabilLumpSum = 10, p.InvBensCurVal = 50, p.InvBensCurValLoanAgainst = 20; },
+     {.death = 50, .disability = 10, .deathFlag = 1, .disabilityFlag = 1}},
+    {"investment taken on disability",
+     [](Policy& p) { p.InvBensCurVal = 50, p.InvBensCurValLoanAgainst = 20, p.InvBensTakeAtDisa = 1; },
+     {.death = 50, .disability = 30, .deathFlag = 1, .disabilityFlag = 1}},
+    {"income protection alone turns the flag", [](Policy& p) { p.IncProMonthly = 5; }, {.disabilityFlag = 1}},
+    {"cash value two years on: one year of growth",
+     [](Policy& p) {
+         p.DeathBen = 5000, p.DeathBenCashVal = 1000, p.DeathBenCashValAge = 53, p.DeathBenCashValEscFor = 10,
+         p.DeathBenUseCashAtRet = 1;
+     },
+     {.death = 5000, .retirement = 1100, .deathFlag = 1, .retirementFlag = 1}},
+    {"cash value at retirement itself",
+     [](Policy& p) {
+         p.DeathBen = 5000, p.DeathBenCashVal = 1000, p.DeathBenCashValAge = 55, p.DeathBenCashValEscFor = 10,
+         p.DeathBenUseCashAtRet = 1;
+     },
+     {.death = 5000, .retirement = 1000, .deathFlag = 1, .retirementFlag = 1}},
+    {"cash value as high as the cover: the tick alone counts",
+     [](Policy& p) {
+         p.DeathBen = 1000, p.DeathBenCashVal = 1000, p.DeathBenCashValAge = 50, p.DeathBenUseCashAtRet = 1;
+     },
+     {.death = 1000, .deathFlag = 1, .retirementFlag = 1}},
+    {"annuity past retirement neither counts nor locks", [](Policy& p) { p.RBEMV = 1000, p.RBEMVAge = 56; }, {}},
+    {"annuity without an age", [](Policy& p) { p.RBEMV = 1000; }, {}},
+    {"annuity, pension and provident lump sums",
+     [](Policy& p) {
+         p.RBEMV = 1000, p.RBEMVAge = 52, p.RBEMVEscFor = 10, p.RBPenLump = 100, p.RBPenLumpAge = 55,
+         p.RBProvFLump = 10.9, p.RBProvFLumpAge = 54, p.RBProvFLumpEscFor = 50;
+     },
+     {.retirement = 1320, .retirementFlag = 1}}, // 1210 + 100 + 10.9
+    {"endowment without its tick", [](Policy& p) { p.EndowEMV = 1000, p.EndowEMVAge = 50; }, {}},
+    {"endowment",
+     [](Policy& p) { p.EndowEMV = 1000, p.EndowEMVAge = 53, p.EndowEMVEscFwd = 12.5F, p.UseEndowEMVAtRet = 1; },
+     {.retirement = 1125, .retirementFlag = 1}},
+    {"maturity after retirement comes back",
+     [](Policy& p) {
+         p.InvBensMatValLS = 1210, p.InvBensMatValLSAtAge = 57, p.InvBensMatValLSEscAt = 10,
+         p.InvBensTakeFinValAtRet = 1;
+     },
+     {.retirement = 1000, .retirementFlag = 1}},
+    {"maturity that no rate brings back",
+     [](Policy& p) {
+         p.InvBensMatValLS = 1210, p.InvBensMatValLSAtAge = 57, p.InvBensMatValLSEscAt = -100,
+         p.InvBensTakeFinValAtRet = 1;
+     },
+     {.retirement = 1210, .retirementFlag = 1}},
+    {"a blank maturity age grows from the first year of life",
+     [](Policy& p) { p.InvBensMatValLS = 1000, p.InvBensMatValLSEscAt = 1, p.InvBensTakeFinValAtRet = 1; },
+     {.retirement = 1711, .retirementFlag = 1}}, // 54 years at 1 %
+    {"pension", [](Policy& p) { p.RBMonAvaible = 700.5; }, {.pension = 700.5, .retirementFlag = 1, .pensionFlag = 1}},
+};
+
+TEST(PolicySchedule, EachBenefitCountsWhereItBelongs) {
+    for (const Case& line : cases) {
+        Assessment client;
+        line.fill(client.policies[0]);
+        EXPECT_EQ(totalsOf(client), line.totals) << line.what;
+    }
+}
+
+TEST(PolicySchedule, RecordsAddUpAndAnEmptyScheduleGivesNothing) {
+    Assessment client;
+    client.policies.resize(3);
+    client.policies[0].RBMonAvaible = 100;
+    client.policies[2].RBMonAvaible = 20;
+    client.policies[1].DeathBen = client.policies[2].DeathBen = 0.6;
+    const auto values = CalculatePolInv(client);
+    EXPECT_EQ(values[0].monthlyIncome, 100);
+    EXPECT_EQ(values[1].monthlyIncome, 0);
+    EXPECT_EQ(values[2].monthlyIncome, 120);
+    EXPECT_EQ(client.death.ANSAss5, 1); // the sum is cut down, not its parts
+
+    client.policies.clear();
+    client.itemised.DTHLifeAssItemise = client.itemised.RNAPoliciesItemise = 1;
+    EXPECT_EQ(totalsOf(client), Totals{});
+}
+
+TEST(PolicySchedule, TheShownPolicyAloneDecidesTheFlagOfIncomeOnDeath) {
+    for (const std::int16_t shown : {std::int16_t{1}, std::int16_t{2}}) {
+        Assessment client;
+        client.policies.resize(2);
+        client.policies[1].DeathBenMonthly = 500;
+        client.CurPolicy = shown;
+        EXPECT_EQ(totalsOf(client).deathFlag, shown == 2 ? 1 : 0);
+    }
+}
+
+} // namespace

@@ -1,0 +1,196 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+#include "analyses/capitalsearch.h"
+#include "analyses/retirement.h"
+#include "analyses/retirement_stepping.h"
+
+namespace {
+
+using analyses::NARACalc;
+using analyses::RetirementAnalysis;
+using assessment::Assessment;
+
+TEST(Retirement, FastSearchGivesTheAnswersOfPlainSteppingBitForBit) {
+    std::mt19937_64 random{20261122};
+    int excesses = 0, shortfalls = 0;
+    for (int number = 0; number < 5000; ++number) {
+        Assessment client = stepping::someClient(random), copy = client;
+        const RetirementAnalysis fast = NARACalc(client);
+        if (std::fabs(fast.NetCapital - fast.CapitalSolved) > 1e7) continue; // plain steps would take too long
+        const stepping::Retirement plain(copy);
+        ASSERT_EQ(fast.CapitalSolved, plain.CapitalSolved) << number;
+        ASSERT_EQ(fast.run.YearsCovered, plain.YearsCovered) << number;
+        ASSERT_EQ(fast.txtAns1, plain.txtAns1) << number;
+        ASSERT_EQ(fast.txtAns2, plain.txtAns2) << number;
+        ASSERT_EQ(client.retirement.IncomeRA, copy.retirement.IncomeRA) << number;
+        RetirementAnalysis again = fast;
+        NARAProjectCapital(client, again);
+        stepping::Retirement last(copy);
+        last.project();
+        for (std::size_t year = 1; year <= static_cast<std::size_t>(last.YearsCovered) + 1; ++year) {
+            ASSERT_EQ(again.run.CapitalByYear[year], last.CapitalByYear[year]) << number << " " << year;
+            ASSERT_EQ(again.run.InterestByYear[year], last.InterestByYear[year]) << number << " " << year;
+            ASSERT_EQ(again.flows.RequiredByYear[year], last.RequiredByYear[year]) << number << " " << year;
+            ASSERT_EQ(again.flows.AvailableByYear[year], last.AvailableByYear[year]) << number << " " << year;
+        }
+        excesses += fast.txtAns2.starts_with("(capital");
+        shortfalls += fast.txtAns2.ends_with("required.");
+    }
+    EXPECT_GT(excesses, 500); // both roads were taken
+    EXPECT_GT(shortfalls, 500);
+}
+
+// A client who retires today: no years to inflate over, 5 % return, no inflation.
+Assessment retiredClient(double income, double capital, double years) {
+    Assessment client;
+    auto& needs = client.retirement;
+    needs.CurrAge = needs.AgeRetiment = 65;
+    needs.IncomePD = income;
+    needs.ANSLAss5 = capital;
+    needs.CoverYears = years;
+    needs.BankInvestRate = 5;
+    return client;
+}
+
+TEST(Retirement, SentencesToTheLetter) {
+    struct Case {
+        double income, capital, years;
+        int covered;
+        const char *lasts, *needed;
+    };
+    const char* const underOne = "Funds available will provide income for less than 1 year.";
+    const char* const underTwo = "Funds available will provide income for less than 2 years.";
+    const Case cases[] = {
+        {1000, 12000, 10, 1, underOne, "90 000 additional cover required."}, // ten years take 92 660
+        {1000, 12000.5, 10, 1, underTwo, "90 000 additional cover required."},
+        {1000, 50000, 10, 4, "Funds available will provide income for 4 year/s.", "50 000 additional cover required."},
+        {1000, 50000, 0, 4, "Funds available will provide income for 0 year/s.", ""}, // 50 000 is no excess to tell of
+        {1000, 500000, 0, 50, "Funds available will provide income for 0 year/s.",
+         "(capital excess available of 500 000 detected)"},
+        {1000, 500000, 3.5, 50, "Funds available will provide income for 4 year/s.",
+         "(capital excess available of 400 000 detected)"},
+        {1000, 500000, 50, 50, "Funds available will provide income for 50 year/s.",
+         "(capital excess available of 200 000 detected)"}, // 300 000 lasts 50 years, 200 000 doesn't
+        {1000, 500000, 80, 50, "Funds available will provide income for 50 year/s.",
+         "(capital excess available of 200 000 detected)"}, // an old file's period
+        {1000, -50000, 5, 1, "", "110 000 additional cover required."},
+        {1000.5, 100000, 1, 11, "Funds available will provide income for 1 year/s.",
+         ""}, // 1 000 a month: 12 000 a year
+        {0, 0, 5, 50, "", ""},
+        {-1000, 0, 5, 50, "Cannot process unless monthly Shortfall is real.", ""},
+        {1e9, 0, 50, 1, "", "219 071 110 000 additional cover required."},
+        {1e13, 0, 50, 1, "", ""}, // more than 10^15 rand
+    };
+    for (const Case& line : cases) {
+        Assessment client = retiredClient(line.income, line.capital, line.years);
+        const RetirementAnalysis analysis = NARACalc(client);
+        EXPECT_EQ(analysis.run.YearsCovered, line.covered) << line.income << " " << line.capital;
+        EXPECT_EQ(analysis.txtAns1, line.lasts) << line.income << " " << line.capital << " " << line.years;
+        EXPECT_EQ(analysis.txtAns2, line.needed) << line.income << " " << line.capital << " " << line.years;
+    }
+}
+
+TEST(Retirement, TheFirstNeedStartsAYearEarlyAndOthersOnTime) {
+    Assessment client = retiredClient(1000, 1e6, 10);
+    auto& needs = client.retirement;
+    needs.CurrAge = 63;
+    needs.YearsToRet = 2;
+    needs.InflationRA = 10;
+    client.itemised.RNAMonIncReq.flag = 1;
+    client.itemised.RNAMonIncReq.rows = {{"Travel", 2000, 20, 67, 68}, {"Care", 3000, 5, 70, 72}, {"", 500, 8, 72, 80}};
+    const RetirementAnalysis analysis = NARACalc(client);
+    // 65: the plain figure inflated; 66: the first need of 67 (to 65) written back; 68 at 20 %; 69 at inflation;
+    // 70: 3000 inflated to 69; 71 at 5 %; 72: 500 inflated to 71, since the last row in force counts; then at 8 %
+    const double inflation = 1.1;
+    const double monthly[] = {1210,
+                              2000 * std::pow(inflation, 2),
+                              2420,
+                              2904,
+                              3194.4,
+                              3000 * std::pow(inflation, 6),
+                              3000 * std::pow(inflation, 6) * 1.05,
+                              500 * std::pow(inflation, 8),
+                              500 * std::pow(inflation, 8) * 1.08};
+    for (std::size_t year = 1; year <= std::size(monthly); ++year)
+        EXPECT_NEAR(analysis.flows.MonthlyRequiredByYear[year], monthly[year - 1], 1e-9) << year;
+    // The year that was written back keeps what it was reckoned with: last year's need inflated.
+    EXPECT_NEAR(analysis.flows.RequiredByYear[2], 12 * 1331, 1e-9);
+}
+
+TEST(Retirement, PensionsRiseByOneMoreStepEachYear) {
+    Assessment client = retiredClient(1000, 1e6, 10);
+    client.policies[0].RBMonAvaible = 1000.4;
+    client.policies[0].RBMonAvaibleEscFor = 10;
+    const RetirementAnalysis analysis = NARACalc(client);
+    EXPECT_EQ(analysis.monthlyAvailable, 1000);
+    EXPECT_EQ(client.itemised.NARAPolicyIncomeItemise, 1);
+    const double steps[] = {0, 0, 1, 3, 6, 10}; // of 100.04 each, on a start in whole rand
+    for (std::size_t year = 1; year <= std::size(steps); ++year)
+        EXPECT_NEAR(analysis.flows.AvailableByYear[year], 12 * (1000 + steps[year - 1] * 100.04), 1e-9) << year;
+}
+
+TEST(Retirement, TableAndGraphEndWithTheYearAfterTheLastOrTheYearsAskedFor) {
+    struct Case {
+        double capital, years;
+        std::size_t rows;
+        int points;
+    };
+    for (const Case& line : {Case{50000, 10, 5, 4},
+                             {50000, 4, 5, 4},
+                             {50000, 2, 3, 4},
+                             {50000, 0, 1, 4},
+                             {500000, 20, 21, 20},
+                             {500000, 49, 50, 49},
+                             {500000, 50, 50, 50}}) {
+        Assessment client = retiredClient(1000, line.capital, line.years);
+        const RetirementAnalysis analysis = NARACalc(client);
+        const auto years = retirementYears(client.retirement, analysis);
+        ASSERT_EQ(years.size(), line.rows) << line.capital << " " << line.years;
+        EXPECT_EQ(years.back().age, 65 + static_cast<double>(line.rows) - 1);
+        EXPECT_EQ(graphPoints(client.retirement, analysis), line.points) << line.capital << " " << line.years;
+    }
+}
+
+TEST(Retirement, DamagedFiguresNeitherCrashNorHoldUp) {
+    const double odd[] = {-1e300, -100, -1e9, 0.5, 80, 1e18, 1e300, std::numeric_limits<double>::infinity()};
+    using N = assessment::NARetirement;
+    double N::*const fields[] = {&N::IncomePD, &N::InflationRA, &N::YearsToRet,  &N::CoverYears, &N::BankInvestRate,
+                                 &N::ANSLAss1, &N::ANSLLib5,    &N::AgeRetiment, &N::CurrAge};
+    std::mt19937_64 random{1};
+    for (double N::*const field : fields)
+        for (const double value : odd) {
+            Assessment client = stepping::someClient(random);
+            client.retirement.*field = value;
+            client.policies[0].InvBensMatValLSEscAt = -100; // a discount that divides by nothing
+            client.policies[0].InvBensMatValLSAtAge = 32767;
+            const RetirementAnalysis analysis = NARACalc(client);
+            EXPECT_GE(analysis.run.YearsCovered, 1);
+            EXPECT_LE(analysis.run.YearsCovered, 50);
+        }
+}
+
+TEST(CapitalSearch, LeapsRoundAsSingleStepsDo) {
+    struct Walk {
+        double start, step;
+        int steps;
+    };
+    const Walk walks[] = {
+        {0.1, 100000, 50000},     {-999999.37, 100000, 50000}, {1234567.89, -100000, 40},
+        {1e9 / 3, -10000, 70000}, {9e15 + 1, 100000, 3000},    {3e17, 100000, 3000}, // each step rounds there
+        {4.5e18, -100000, 3000},  {-2e17 / 3, 10000, 3000},    {1e21, 100000, 5},
+    };
+    for (const Walk& walk : walks) {
+        double plain = walk.start;
+        for (int step = 1; step <= walk.steps; ++step) {
+            plain += walk.step;
+            if (step % 7 == 0 || step < 20) {
+                ASSERT_EQ(analyses::stepped(walk.start, walk.step, step), plain) << walk.start << " " << step;
+            }
+        }
+    }
+}
+
+} // namespace
