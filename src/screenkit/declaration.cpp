@@ -68,6 +68,12 @@ CheckField* Screen::check(const QString& name, const QString& caption, Bound<int
     return field;
 }
 
+EditGrid* Screen::editGrid(const QString& name) {
+    auto* grid = keep(new EditGrid(name));
+    grid->check = [this, grid] { return !complain(grid); };
+    return grid;
+}
+
 QPushButton* Screen::button(const QString& name, const QString& caption, std::function<void()> action) {
     auto* push = new QPushButton(caption);
     push->setObjectName(name);

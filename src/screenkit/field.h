@@ -22,6 +22,8 @@ class Field {
 public:
     virtual ~Field() = default;
     virtual QWidget* widget() = 0;
+    /// The control that holds the focus while the user is in it: of a table the cell in edit.
+    virtual QWidget* entry() { return widget(); }
     /// Shows what the record holds.
     virtual void fill() = 0;
     /// What is wrong with the content, if anything. A field may clear itself here (a date that is none).

@@ -118,7 +118,7 @@ void Screen::checkLeft() {
     const QWidget* now = QApplication::focusWidget();
     if (m_dropped || !isVisible() || (now != nullptr && now->property(leavesFreely).toBool())) return;
     for (Field* field : left)
-        if (!field->widget()->hasFocus() && inReach(field->widget()) && complain(field)) return;
+        if (!field->entry()->hasFocus() && inReach(field->widget()) && complain(field)) return;
 }
 
 bool Screen::inReach(const QWidget* widget) const {

@@ -12,6 +12,7 @@
 #include "screenkit/choice.h"
 #include "screenkit/datefield.h"
 #include "screenkit/desk.h"
+#include "screenkit/editgrid.h"
 #include "screenkit/grid.h"
 #include "screenkit/layout.h"
 #include "screenkit/numberfield.h"
@@ -47,6 +48,9 @@ public:
     virtual void clientReplaced() { refill(); }
     /// Checks every field; false after showing the first complaint.
     bool checkFields();
+    /// Before the record is saved or replaced: what the screen holds apart from it goes in or is dropped, as the user
+    /// says. False if he would rather go on.
+    virtual bool handOver() { return true; }
     /// Closes without asking or checking (the client it shows is gone).
     void drop();
     QSize sizeHint() const override;
@@ -65,6 +69,9 @@ protected:
                          std::function<void(int)> picked = {}, Qt::Orientation orientation = Qt::Vertical);
     CheckField* check(const QString& name, const QString& caption, Bound<int> place,
                       std::function<void(bool)> ticked = {});
+    /// A table that the user fills; give it its rows with `present`. It counts as an edit of the record unless it is
+    /// made an `untrackedField`.
+    EditGrid* editGrid(const QString& name);
     /// A button that acts only when every field stands its check.
     QPushButton* button(const QString& name, const QString& caption, std::function<void()> action);
     /// A button that leaves or drops: no check stops it, and going to it raises no complaint.

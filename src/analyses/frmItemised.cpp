@@ -1,0 +1,188 @@
+#include "analyses/frmItemised.h"
+
+#include <algorithm>
+#include <cassert>
+#include <utility>
+
+#include "screenkit/icon.h"
+#include "screenkit/look.h"
+
+namespace analyses {
+
+using namespace screenkit;
+using assessment::ItemRow;
+
+namespace {
+
+constexpr const char* wholeRand = "# ### ### ##0";
+
+EditColumn editColumn(const ItemColumn& column) {
+    const QString complaint = QString::fromUtf8(column.complaint);
+    if (column.figure == nullptr) return {column.head, {}, static_cast<int>(column.most), complaint};
+    const int characters = column.figure == &ItemRow::Amount ? 14 : 9;
+    const NumberKind shown{column.mask, false, characters, {}, {}, {}, {}};
+    return {column.head, shown.between(0, column.most, complaint, {}), 0, {}};
+}
+
+std::vector<EditRow> editRows(const ItemLine& line, const std::vector<ItemRow>& rows) {
+    std::vector<EditRow> shown;
+    shown.reserve(rows.size());
+    for (const ItemRow& row : rows) {
+        EditRow& cells = shown.emplace_back();
+        for (const ItemColumn& column : line.columns())
+            cells.push_back(column.figure == nullptr ? EditCell(QString::fromStdString(row.IncomeSource))
+                                                     : EditCell(row.*column.figure));
+    }
+    return shown;
+}
+
+std::vector<ItemRow> itemRows(const ItemLine& line, const std::vector<EditRow>& shown) {
+    std::vector<ItemRow> rows;
+    rows.reserve(shown.size());
+    for (const EditRow& cells : shown) {
+        ItemRow& row = rows.emplace_back();
+        auto cell = cells.begin();
+        for (const ItemColumn& column : line.columns()) {
+            if (column.figure == nullptr)
+                row.IncomeSource = std::get<QString>(*cell++).toStdString();
+            else
+                row.*column.figure = std::get<double>(*cell++);
+        }
+    }
+    return rows;
+}
+
+} // namespace
+
+ItemisedScreen::ItemisedScreen(Workplace& workplace, const QString& name, const QString& caption, std::int16_t& changed,
+                               assessment::Analysis analysis)
+    : Screen(workplace, name, caption, changed), m_changedFlag(changed), m_analysis(analysis) {}
+
+const ItemLine& ItemisedScreen::line(int index) const {
+    const auto& lines = itemLines(m_analysis);
+    const auto found =
+        std::find_if(lines.begin(), lines.end(), [index](const ItemLine& each) { return each.index == index; });
+    assert(found != lines.end());
+    return *found;
+}
+
+QPushButton* ItemisedScreen::itemiseButton(int index) {
+    const ItemLine& itemised = line(index);
+    const QString name = tr("Itemise %1").arg(QString::fromStdString(itemised.title));
+    auto* push = button(QString("cmdItemise(%1)").arg(index), name, [this, &itemised] { open(itemised); });
+    push->setText({});
+    push->setToolTip(name);
+    const int side = look::lineHeight(push);
+    push->setIconSize({side, side});
+    push->setFixedWidth(side * 2);
+    m_shown[index].button = push;
+    refresh(itemised);
+    return push;
+}
+
+void ItemisedScreen::locks(int index, std::initializer_list<Field*> fields) { m_shown[index].fields = fields; }
+
+void ItemisedScreen::refreshItemised() {
+    for (const ItemLine& each : itemLines(m_analysis))
+        refresh(each);
+}
+
+void ItemisedScreen::refresh(const ItemLine& itemised) {
+    const auto shown = m_shown.find(itemised.index);
+    if (shown == m_shown.end()) return;
+    const bool on = itemised.list(m_work.record).flag != 0;
+    for (Field* field : shown->second.fields)
+        field->setResult(on);
+    if (QPushButton* push = shown->second.button; push != nullptr) {
+        push->setIcon(icon(on ? "itemised" : "itemise"));
+        push->setAccessibleDescription(on ? tr("A list is in use") : QString());
+    }
+}
+
+// ---- the panel
+
+void ItemisedScreen::buildPanel() {
+    if (m_panel != nullptr) return;
+    m_grid = editGrid("grdItemise");
+    untrackedField(m_grid); // a working copy: the record changes when it is taken
+    m_grid->edited = [this] { showTotal(); };
+    m_totalField = result("numItemiseTotal", m_total, money.shownAs(wholeRand));
+    auto* add = button("cmdAddRow", tr("Add &row"), [this] { m_grid->addRow(); });
+    auto* remove = button("cmdDeleteRow", tr("&Delete row"), [this] { m_grid->deleteRow(); });
+    auto* ok = button("cmdOKItemise", "&OK", [this] { take(); });
+    auto* cancel = cancelButton("cmdGridClose", "&Cancel", [this] { leavePanel(); });
+    m_panel =
+        panel("fraItemise", {},
+              column({{m_grid, 1}, row({add, remove, spring(), labelled(tr("Total"), m_totalField)})}), {ok, cancel});
+}
+
+void ItemisedScreen::open(const ItemLine& itemised) {
+    buildPanel();
+    m_open = &itemised;
+    const QString title = QString::fromStdString(itemised.title);
+    m_panel->setTitle(title);
+    m_grid->setAccessibleName(title);
+    std::vector<EditColumn> columns;
+    for (const ItemColumn& each : itemised.columns())
+        columns.push_back(editColumn(each));
+    const int visibleRows = itemised.kind == ItemKind::timed ? 6 : 5; // one more brings the scroll bar
+    m_grid->present(std::move(columns), editRows(itemised, itemised.list(m_work.record).rows), visibleRows);
+    m_before = m_grid->rows();
+    showTotal();
+    m_panel->open(m_grid);
+}
+
+void ItemisedScreen::showTotal() {
+    if (m_open == nullptr) return;
+    m_total = sumOfItems(itemRows(*m_open, m_grid->rows()));
+    m_totalField->fill();
+}
+
+void ItemisedScreen::take() {
+    const ItemLine& taken = *m_open;
+    takeItems(m_work.record, taken, itemRows(taken, m_grid->rows()));
+    m_changedFlag = 1;
+    closePanel();
+    refresh(taken);
+    for (Field* field : m_shown[taken.index].fields)
+        field->fill();
+    itemsTaken(taken);
+    recalculate();
+}
+
+void ItemisedScreen::closePanel() {
+    m_open = nullptr;
+    m_panel->close();
+    m_grid->present({}, {}, 0);
+    m_before.clear();
+}
+
+bool ItemisedScreen::hasChanges() const { return m_grid->hasOpenEntry() || m_grid->rows() != m_before; }
+
+bool ItemisedScreen::leavePanel() {
+    if (m_open == nullptr) return true;
+    if (hasChanges()) {
+        switch (m_work.desk.box(BoxStyle::question, tr("The list has been changed. Do you want to keep the changes?"),
+                                "Marlowbeck", Buttons::yesNoCancel)) {
+        case Answer::yes:
+            if (!checkFields()) return false;
+            take();
+            return true;
+        case Answer::no: break;
+        default: m_grid->takeFocus(); return false;
+        }
+    }
+    closePanel();
+    return true;
+}
+
+bool ItemisedScreen::handOver() { return m_open == nullptr || !hasChanges() || leavePanel(); }
+
+bool ItemisedScreen::mayClose() { return leavePanel(); }
+
+void ItemisedScreen::clientReplaced() {
+    if (m_open != nullptr) closePanel(); // the list was the client's who is gone
+    Screen::clientReplaced();
+}
+
+} // namespace analyses

@@ -1,0 +1,393 @@
+#include "screenkit/editgrid.h"
+
+#include <QAbstractTableModel>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QStyledItemDelegate>
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+#include "base/numberformat.h"
+#include "base/text.h"
+#include "screenkit/look.h"
+#include "screenkit/textfield.h"
+
+namespace screenkit {
+
+namespace {
+
+EditCell blankCell(const EditColumn& column) { return column.number ? EditCell(0.0) : EditCell(QString()); }
+
+bool isBlank(const EditRow& row) {
+    return std::all_of(row.begin(), row.end(), [](const EditCell& cell) {
+        const auto* number = std::get_if<double>(&cell);
+        return number != nullptr ? *number == 0 : std::get<QString>(cell).isEmpty();
+    });
+}
+
+QString shownText(const EditCell& cell, const EditColumn& column) {
+    const auto* number = std::get_if<double>(&cell);
+    if (number == nullptr) return std::get<QString>(cell);
+    return QString::fromStdString(base::formatNumber(*number, column.number->mask));
+}
+
+} // namespace
+
+/// The rows, never fewer than one.
+class EditGrid::Cells : public QAbstractTableModel {
+public:
+    using QAbstractTableModel::QAbstractTableModel;
+
+    void set(std::vector<EditColumn> columns, std::vector<EditRow> rows) {
+        beginResetModel();
+        m_columns = std::move(columns);
+        m_rows = std::move(rows);
+        if (m_rows.empty()) m_rows.push_back(blankRow());
+        m_lastIsOffered = false;
+        endResetModel();
+    }
+    std::vector<EditRow> rows() const {
+        std::vector<EditRow> held = m_rows;
+        if (m_lastIsOffered && isBlank(held.back())) held.pop_back();
+        return held;
+    }
+    const EditColumn& column(const QModelIndex& cell) const { return m_columns[place(cell.column())]; }
+    const EditCell& at(const QModelIndex& cell) const { return m_rows[place(cell.row())][place(cell.column())]; }
+    void put(const QModelIndex& cell, EditCell content) {
+        m_rows[place(cell.row())][place(cell.column())] = std::move(content);
+        emit dataChanged(cell, cell);
+    }
+    bool endsBlank() const { return isBlank(m_rows.back()); }
+    void append(bool offered) {
+        const auto end = static_cast<int>(m_rows.size());
+        beginInsertRows({}, end, end);
+        m_rows.push_back(blankRow());
+        m_lastIsOffered = offered;
+        endInsertRows();
+    }
+    void erase(int row) {
+        if (row == static_cast<int>(m_rows.size()) - 1) m_lastIsOffered = false;
+        beginRemoveRows({}, row, row);
+        m_rows.erase(m_rows.begin() + row);
+        endRemoveRows();
+        if (m_rows.empty()) append(false);
+    }
+
+    int rowCount(const QModelIndex& parent = {}) const override {
+        return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+    }
+    int columnCount(const QModelIndex& parent = {}) const override {
+        return parent.isValid() ? 0 : static_cast<int>(m_columns.size());
+    }
+    Qt::ItemFlags flags(const QModelIndex& cell) const override {
+        return QAbstractTableModel::flags(cell) | Qt::ItemIsEditable;
+    }
+    QVariant data(const QModelIndex& cell, int role) const override {
+        if (role == Qt::TextAlignmentRole) return alignment(column(cell));
+        if (role == Qt::DisplayRole) return shownText(at(cell), column(cell));
+        if (role == Qt::AccessibleTextRole) return QString(spokenName(cell) + ": " + shownText(at(cell), column(cell)));
+        return {};
+    }
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
+        if (orientation != Qt::Horizontal) return {};
+        if (role == Qt::TextAlignmentRole) return alignment(m_columns[place(section)]);
+        if (role == Qt::DisplayRole) return m_columns[place(section)].head;
+        return {};
+    }
+    /// What a screen reader calls a cell.
+    QString spokenName(const QModelIndex& cell) const {
+        return tr("%1, row %2").arg(column(cell).head).arg(cell.row() + 1);
+    }
+
+private:
+    static std::size_t place(int number) { return static_cast<std::size_t>(number); }
+    static QVariant alignment(const EditColumn& column) {
+        return QVariant((column.number ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+    }
+    EditRow blankRow() const {
+        EditRow row;
+        for (const EditColumn& column : m_columns)
+            row.push_back(blankCell(column));
+        return row;
+    }
+
+    std::vector<EditColumn> m_columns;
+    std::vector<EditRow> m_rows;
+    bool m_lastIsOffered = false; ///< the last row came for a next entry; it counts once something is in it
+};
+
+/// Lays the kit's own fields over the cells, and leaves it to the table when an entry is taken: the toolkit's delegate
+/// would take or drop it without a check.
+class EditGrid::Delegate : public QStyledItemDelegate {
+public:
+    explicit Delegate(EditGrid* grid) : QStyledItemDelegate(grid), m_grid(grid) {}
+
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem&, const QModelIndex& cell) const override {
+        return m_grid->openEditor(parent, cell);
+    }
+    void setEditorData(QWidget*, const QModelIndex&) const override {}
+    void setModelData(QWidget*, QAbstractItemModel*, const QModelIndex&) const override {}
+    void updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option, const QModelIndex&) const override {
+        editor->setGeometry(option.rect);
+    }
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        return event->type() == QEvent::KeyPress && m_grid->editorKey(*static_cast<QKeyEvent*>(event));
+    }
+
+private:
+    EditGrid* m_grid;
+};
+
+EditGrid::EditGrid(const QString& name, QWidget* parent) : QTableView(parent), m_cells(new Cells(this)) {
+    setObjectName(name);
+    setModel(m_cells);
+    setItemDelegate(new Delegate(this));
+    setAlternatingRowColors(true);
+    setSelectionMode(SingleSelection);
+    setTabKeyNavigation(false); // Tab is walked by ourselves, since it adds rows and leaves at the end
+    setEditTriggers(DoubleClicked | EditKeyPressed | AnyKeyPressed);
+    setCornerButtonEnabled(false);
+    setHorizontalScrollMode(ScrollPerPixel);
+    setWordWrap(false);
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setSectionsClickable(false);
+}
+
+EditGrid::~EditGrid() {
+    if (m_editor != nullptr) m_editor->left = {}; // it outlives this table's members by a moment, with the focus
+}
+
+void EditGrid::present(std::vector<EditColumn> columns, std::vector<EditRow> rows, int visibleRows) {
+    endEdit();
+    m_visibleRows = visibleRows;
+    m_cells->set(std::move(columns), std::move(rows));
+    verticalHeader()->setDefaultSectionSize(look::lineHeight(this) * 3 / 2);
+    for (int column = 0; column < m_cells->columnCount(); ++column) {
+        const EditColumn& kind = m_cells->column(m_cells->index(0, column));
+        horizontalHeader()->setSectionResizeMode(column, kind.number ? QHeaderView::Fixed : QHeaderView::Stretch);
+        if (kind.number) setColumnWidth(column, fontMetrics().horizontalAdvance('0') * (kind.number->characters + 2));
+    }
+    goTo(0, 0);
+    updateGeometry();
+}
+
+std::vector<EditRow> EditGrid::rows() const { return m_cells->rows(); }
+
+QSize EditGrid::sizeHint() const {
+    constexpr int readableLine = 76; // characters: the text beside four columns of figures
+    const int rows = verticalHeader()->defaultSectionSize() * m_visibleRows;
+    return {fontMetrics().averageCharWidth() * readableLine,
+            rows + horizontalHeader()->sizeHint().height() + 2 * frameWidth()};
+}
+
+// ---- moving about
+
+void EditGrid::goTo(int row, int column) { setCurrentIndex(m_cells->index(row, column)); }
+
+bool EditGrid::offerRow() {
+    if (m_cells->endsBlank()) return false;
+    m_cells->append(true);
+    return true;
+}
+
+bool EditGrid::walk(bool forward) {
+    const int columns = m_cells->columnCount();
+    const QModelIndex here = currentIndex();
+    if (columns == 0 || !here.isValid()) return false;
+    const int next = here.row() * columns + here.column() + (forward ? 1 : -1);
+    if (next < 0 || (next == m_cells->rowCount() * columns && !offerRow())) return false;
+    goTo(next / columns, next % columns);
+    return true;
+}
+
+bool EditGrid::focusNextPrevChild(bool next) {
+    if (!leaveCell()) return true;
+    return walk(next) || QTableView::focusNextPrevChild(next);
+}
+
+void EditGrid::addRow() {
+    if (!leaveCell()) return;
+    offerRow();
+    goTo(m_cells->rowCount() - 1, 0);
+    takeFocus();
+}
+
+void EditGrid::deleteRow() {
+    const QModelIndex here = currentIndex();
+    endEdit();
+    takeFocus();
+    if (!here.isValid()) return;
+    const int row = here.row();
+    const int column = here.column();
+    m_cells->erase(row);
+    goTo(std::min(row, m_cells->rowCount() - 1), column);
+    if (edited) edited();
+}
+
+void EditGrid::keyPressEvent(QKeyEvent* event) {
+    if (m_editor != nullptr) return event->ignore(); // has come up from the cell, which had no use for it
+    const QModelIndex here = currentIndex();
+    const bool control = event->modifiers().testFlag(Qt::ControlModifier);
+    const int key = event->key();
+    if (key == Qt::Key_Escape || !here.isValid())
+        event->ignore();
+    else if (key == Qt::Key_Return || key == Qt::Key_Enter)
+        control ? event->ignore() : edit(here);
+    else if (key == Qt::Key_Delete && control)
+        deleteRow();
+    else if (key == Qt::Key_Delete)
+        editAfresh([](EntryLine& cell) { cell.del(); });
+    else if (event->matches(QKeySequence::Paste))
+        editAfresh([](EntryLine& cell) { cell.paste(); });
+    else if (key == Qt::Key_Down && here.row() == m_cells->rowCount() - 1 && offerRow())
+        goTo(here.row() + 1, here.column());
+    else
+        QTableView::keyPressEvent(event);
+}
+
+// ---- the cell in edit
+
+QWidget* EditGrid::openEditor(QWidget* parent, const QModelIndex& cell) {
+    const EditColumn& column = m_cells->column(cell);
+    EntryLine* made = nullptr;
+    if (column.number) {
+        m_number = std::get<double>(m_cells->at(cell));
+        made = new NumberField(objectName() + "Cell", m_number, *column.number, parent);
+    } else {
+        // More room than the column has: what is too long is told, not cut.
+        constexpr int room = 32767;
+        m_text = std::get<QString>(m_cells->at(cell));
+        made = new TextField(objectName() + "Cell",
+                             {[this] { return m_text; }, [this](const QString& text) { m_text = text; }}, room,
+                             column.characters, parent);
+    }
+    made->fill();
+    made->setFrame(false);
+    made->setAccessibleName(m_cells->spokenName(cell));
+    made->edited = [this] { m_touched = true; };
+    made->left = [this, made] { editorLeft(made); };
+    m_editor = made;
+    m_edited = cell;
+    m_touched = false;
+    return made;
+}
+
+void EditGrid::editAfresh(const std::function<void(EntryLine&)>& begin) {
+    edit(currentIndex());
+    if (m_editor == nullptr) return;
+    m_editor->selectAll();
+    begin(*m_editor);
+}
+
+bool EditGrid::editorKey(const QKeyEvent& event) {
+    if (event.modifiers().testFlag(Qt::ControlModifier)) return false;
+    const int row = currentIndex().row();
+    switch (event.key()) {
+    case Qt::Key_Escape: leaveCell(); return true;
+    case Qt::Key_Tab:
+    case Qt::Key_Return:
+    case Qt::Key_Enter: focusNextPrevChild(true); return true;
+    case Qt::Key_Backtab: focusNextPrevChild(false); return true;
+    case Qt::Key_Up:
+        if (leaveCell() && row > 0) goTo(row - 1, currentIndex().column());
+        return true;
+    case Qt::Key_Down:
+        if (leaveCell() && (row + 1 < m_cells->rowCount() || offerRow())) goTo(row + 1, currentIndex().column());
+        return true;
+    default: return false;
+    }
+}
+
+/// What the user has not typed over is not held against him, whatever the file had there.
+std::optional<Complaint> EditGrid::wrong() const {
+    if (!hasOpenEntry()) return {};
+    const EditColumn& column = m_cells->column(m_edited);
+    if (column.number) return m_editor->complaint();
+    if (base::characterCount(m_text.toStdString()) <= static_cast<std::size_t>(column.characters)) return {};
+    return Complaint{column.complaint, {}};
+}
+
+void EditGrid::takeEntry() {
+    if (!hasOpenEntry() || !m_edited.isValid()) return;
+    m_touched = false;
+    m_cells->put(m_edited, m_cells->column(m_edited).number ? EditCell(m_number) : EditCell(m_text));
+    if (edited) edited();
+}
+
+void EditGrid::endEdit() {
+    if (m_editor != nullptr) closeEditor(m_editor, QAbstractItemDelegate::NoHint);
+}
+
+bool EditGrid::leaveCell() {
+    if (wrong()) {
+        if (check) check();
+        return false;
+    }
+    takeEntry();
+    endEdit();
+    return true;
+}
+
+void EditGrid::editorLeft(const EntryLine* editor) {
+    if (editor != m_editor) return; // closed, and losing the focus by it
+    if (wrong()) {
+        if (left) left();
+        return;
+    }
+    takeEntry();
+    endEdit();
+}
+
+std::optional<Complaint> EditGrid::complaint() {
+    auto complaint = wrong();
+    if (!complaint) {
+        takeEntry();
+        return {};
+    }
+    const EditCell& held = m_cells->at(m_edited);
+    if (const auto* number = std::get_if<double>(&held)) m_number = *number;
+    if (const auto* text = std::get_if<QString>(&held)) m_text = *text;
+    m_editor->fill();
+    m_touched = false;
+    return complaint;
+}
+
+QWidget* EditGrid::entry() { return m_editor != nullptr ? static_cast<QWidget*>(m_editor) : this; }
+
+void EditGrid::takeFocus() {
+    if (m_editor != nullptr)
+        m_editor->takeFocus();
+    else
+        setFocus(Qt::OtherFocusReason);
+}
+
+void EditGrid::commitData(QWidget* editor) {
+    if (editor == m_editor && !wrong()) takeEntry();
+}
+
+void EditGrid::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {
+    if (editor == m_editor) m_editor = nullptr;
+    QTableView::closeEditor(editor, hint);
+}
+
+/// A cell whose entry can't stand keeps the mouse: the box comes once its button is up.
+bool EditGrid::isHeldByMouse() { return m_editor != nullptr; }
+
+void EditGrid::mousePressEvent(QMouseEvent* event) {
+    if (!isHeldByMouse()) QTableView::mousePressEvent(event);
+}
+
+void EditGrid::mouseMoveEvent(QMouseEvent* event) {
+    if (!isHeldByMouse()) QTableView::mouseMoveEvent(event);
+}
+
+void EditGrid::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (!isHeldByMouse()) QTableView::mouseDoubleClickEvent(event);
+}
+
+} // namespace screenkit
