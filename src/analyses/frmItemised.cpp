@@ -4,6 +4,9 @@
 #include <cassert>
 #include <utility>
 
+#include "analyses/itemisereport.h"
+#include "datastore/paths.h"
+#include "reports/report.h"
 #include "screenkit/icon.h"
 #include "screenkit/look.h"
 
@@ -20,7 +23,7 @@ EditColumn editColumn(const ItemColumn& column) {
     const QString complaint = QString::fromUtf8(column.complaint);
     if (column.figure == nullptr) return {column.head, {}, static_cast<int>(column.most), complaint};
     const int characters = column.figure == &ItemRow::Amount ? 14 : 9;
-    const NumberKind shown{column.mask, false, characters, {}, {}, {}, {}};
+    const NumberKind shown{column.mask, false, characters};
     return {column.head, shown.between(0, column.most, complaint, {}), 0, {}};
 }
 
@@ -34,6 +37,13 @@ std::vector<EditRow> editRows(const ItemLine& line, const std::vector<ItemRow>& 
                                                      : EditCell(row.*column.figure));
     }
     return shown;
+}
+
+QString buttonName(int index) { return QString("cmdItemise(%1)").arg(index); }
+
+void showInUse(QPushButton* push, bool on) {
+    push->setIcon(icon(on ? "itemised" : "itemise"));
+    push->setAccessibleDescription(on ? QObject::tr("In use") : QString());
 }
 
 std::vector<ItemRow> itemRows(const ItemLine& line, const std::vector<EditRow>& shown) {
@@ -69,14 +79,25 @@ const ItemLine& ItemisedScreen::line(int index) const {
 QPushButton* ItemisedScreen::itemiseButton(int index) {
     const ItemLine& itemised = line(index);
     const QString name = tr("Itemise %1").arg(QString::fromStdString(itemised.title));
-    auto* push = button(QString("cmdItemise(%1)").arg(index), name, [this, &itemised] { open(itemised); });
+    auto* push = small(button(buttonName(index), name, [this, &itemised] { open(itemised); }), name);
+    m_shown[index].button = push;
+    refresh(itemised);
+    return push;
+}
+
+QPushButton* ItemisedScreen::policiesButton(int index) {
+    const QString name = tr("Policies and investments");
+    m_policies = small(opener(buttonName(index), name, "frmPolInvest"), name);
+    refreshPolicies();
+    return m_policies;
+}
+
+QPushButton* ItemisedScreen::small(QPushButton* push, const QString& name) const {
     push->setText({});
     push->setToolTip(name);
     const int side = look::lineHeight(push);
     push->setIconSize({side, side});
     push->setFixedWidth(side * 2);
-    m_shown[index].button = push;
-    refresh(itemised);
     return push;
 }
 
@@ -85,6 +106,14 @@ void ItemisedScreen::locks(int index, std::initializer_list<Field*> fields) { m_
 void ItemisedScreen::refreshItemised() {
     for (const ItemLine& each : itemLines(m_analysis))
         refresh(each);
+    refreshPolicies();
+}
+
+void ItemisedScreen::refreshPolicies() {
+    if (m_policies == nullptr) return;
+    for (const assessment::ItemTable& each : assessment::itemTables())
+        if (each.analysis == m_analysis && each.list == nullptr)
+            showInUse(m_policies, *std::get<std::int16_t*>(each.flag.at(&m_work.record)) != 0);
 }
 
 void ItemisedScreen::refresh(const ItemLine& itemised) {
@@ -93,10 +122,13 @@ void ItemisedScreen::refresh(const ItemLine& itemised) {
     const bool on = itemised.list(m_work.record).flag != 0;
     for (Field* field : shown->second.fields)
         field->setResult(on);
-    if (QPushButton* push = shown->second.button; push != nullptr) {
-        push->setIcon(icon(on ? "itemised" : "itemise"));
-        push->setAccessibleDescription(on ? tr("A list is in use") : QString());
-    }
+    if (shown->second.button != nullptr) showInUse(shown->second.button, on);
+}
+
+void ItemisedScreen::printItems(Destination destination) {
+    if (!anyItemised(m_work.record, m_analysis)) return;
+    feedItemised(m_work.paths.PrintDbPath, m_work.record, m_analysis);
+    m_work.reports.run(itemisedDefinition, itemisedTitle, destination);
 }
 
 // ---- the panel

@@ -27,10 +27,15 @@ protected:
 
     /// `cmdItemise(index)`: opens the list of that line, which must be one of `itemLines`.
     QPushButton* itemiseButton(int index);
+    /// `cmdItemise(index)` of the line that the policies feed: opens their schedule in place of a list.
+    QPushButton* policiesButton(int index);
     /// These fields show what the line's list comes to and lock while it is in use.
     void locks(int index, std::initializer_list<screenkit::Field*> fields);
     /// Pictures and locks by the flags: to be called in `filled()`.
     void refreshItemised();
+
+    /// The lists in use as a report of their own; none if there are none.
+    void printItems(screenkit::Destination destination);
 
     /// The user has taken a list: the line's fields show it already.
     virtual void itemsTaken(const ItemLine&) {}
@@ -46,6 +51,8 @@ private:
 
     const ItemLine& line(int index) const;
     void refresh(const ItemLine& line);
+    void refreshPolicies();
+    QPushButton* small(QPushButton* push, const QString& name) const;
     void buildPanel();
     void open(const ItemLine& line);
     void take();
@@ -58,6 +65,7 @@ private:
     std::int16_t& m_changedFlag;
     assessment::Analysis m_analysis;
     std::map<int, Shown> m_shown;
+    QPushButton* m_policies = nullptr;
     screenkit::Panel* m_panel = nullptr;
     screenkit::EditGrid* m_grid = nullptr;
     screenkit::NumberField* m_totalField = nullptr;

@@ -157,12 +157,12 @@ void deriveIncomeRequired(assessment::NARetirement& retirement, const std::vecto
     double atRetirement = 0, later = 0, first = 0, last = 0;
     bool startsAtRetirement = false, spans = false;
     for (const ItemRow& row : rows) {
-        if (row.Amount == 0) continue;
         if (row.FromAge == retirement.AgeRetiment) {
             startsAtRetirement = true;
             atRetirement += row.Amount;
         }
         if (row.FromAge > retirement.AgeRetiment) later += row.Amount;
+        if (row.Amount == 0) continue; // a row without an amount lasts no time
         first = spans ? std::min(first, row.FromAge) : row.FromAge;
         last = spans ? std::max(last, row.ToAge) : row.ToAge;
         spans = true;

@@ -31,13 +31,6 @@ double incomeAtRetirement(const assessment::NARetirement& needs) {
     return base::roundHalfEven(income);
 }
 
-void sumCapital(const assessment::NARetirement& needs, RetirementAnalysis& analysis) {
-    analysis.TotalAssets =
-        needs.ANSLAss1 + needs.ANSLAss2 + needs.ANSLAss3 + std::floor(needs.ANSLAss4) + needs.ANSLAss5;
-    analysis.TotalLiabilities = needs.ANSLLib1 + needs.ANSLLib2 + needs.ANSLLib3 + needs.ANSLLib4 + needs.ANSLLib5;
-    analysis.NetCapital = analysis.TotalAssets - analysis.TotalLiabilities;
-}
-
 /// How long the capital lasts. Of a need that begins below nothing there is no telling.
 std::string lastingSentence(const assessment::NARetirement& needs, const RetirementAnalysis& analysis) {
     const int covered = analysis.run.YearsCovered;
@@ -127,7 +120,9 @@ RetirementAnalysis NARACalc(assessment::Assessment& record) {
     capRates(needs);
     RetirementAnalysis analysis;
     analysis.IncomeReqFV = incomeAtRetirement(needs);
-    sumCapital(needs, analysis);
+    analysis.TotalAssets = totalCapital(needs);
+    analysis.TotalLiabilities = totalExpenses(needs);
+    analysis.NetCapital = analysis.TotalAssets - analysis.TotalLiabilities;
     NARAProjectCapital(record, analysis);
     analysis.txtAns1 = lastingSentence(needs, analysis);
 
@@ -156,6 +151,14 @@ double ageOn(double today, double birthDate) { return std::floor((today - birthD
 
 void updateYearsToRet(assessment::NARetirement& needs) {
     needs.YearsToRet = std::clamp<double>(needs.AgeRetiment - needs.CurrAge, 0, mostYears);
+}
+
+double totalCapital(const assessment::NARetirement& needs) {
+    return needs.ANSLAss1 + needs.ANSLAss2 + needs.ANSLAss3 + std::floor(needs.ANSLAss4) + needs.ANSLAss5;
+}
+
+double totalExpenses(const assessment::NARetirement& needs) {
+    return needs.ANSLLib1 + needs.ANSLLib2 + needs.ANSLLib3 + needs.ANSLLib4 + needs.ANSLLib5;
 }
 
 double yearsAsked(const assessment::NARetirement& needs) { return std::min<double>(needs.CoverYears, mostYears); }

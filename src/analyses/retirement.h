@@ -44,6 +44,10 @@ double ageOn(double today, double birthDate);
 /// Works out `YearsToRet` after either age has changed: 0 to 50.
 void updateYearsToRet(assessment::NARetirement& needs);
 
+/// Sums of the five capital and of the five expense lines, rand; of the policies' line whole rand alone.
+double totalCapital(const assessment::NARetirement& needs);
+double totalExpenses(const assessment::NARetirement& needs);
+
 /// The years asked for as the analysis counts them, at most 50.
 double yearsAsked(const assessment::NARetirement& needs);
 

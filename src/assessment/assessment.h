@@ -105,6 +105,8 @@ struct NARetirement {
     double NaraLastReview = base::blankDate;
     double NaraNextReview = base::blankDate;
     std::string RANotes;
+
+    bool operator==(const NARetirement&) const = default;
 };
 
 /// Needs analysis for disability.

@@ -46,6 +46,15 @@ QLayout* withUnit(const FormRow& row) {
     return cell;
 }
 
+/// The labels whose buddy a field is, its caption first.
+QList<QLabel*> labelsOf(const QWidget* field) {
+    QList<QLabel*> labels;
+    if (field->parentWidget() == nullptr) return labels;
+    for (auto* label : field->parentWidget()->findChildren<QLabel*>())
+        if (label->buddy() == field) labels << label;
+    return labels;
+}
+
 } // namespace
 
 Item spring() { return {static_cast<QWidget*>(nullptr), 1}; }
@@ -91,9 +100,14 @@ QLayout* form(const std::vector<FormRow>& rows) {
 
 void setRowVisible(QWidget* field, bool visible) {
     field->setVisible(visible);
-    if (field->parentWidget() == nullptr) return;
-    for (auto* label : field->parentWidget()->findChildren<QLabel*>())
-        if (label->buddy() == field) label->setVisible(visible);
+    for (QLabel* label : labelsOf(field))
+        label->setVisible(visible);
+}
+
+void setRowLabel(QWidget* field, const QString& label) {
+    const QList<QLabel*> labels = labelsOf(field);
+    if (!labels.isEmpty()) labels.front()->setText(label); // a unit comes after it
+    field->setAccessibleName(spokenLabel(label));
 }
 
 QWidget* group(const QString& name, const QString& title, Item content) {

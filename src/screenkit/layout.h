@@ -42,6 +42,8 @@ QLayout* column(std::initializer_list<Item> items);
 QLayout* form(const std::vector<FormRow>& rows);
 /// Shows or hides a line of a form: the field, its label and its unit.
 void setRowVisible(QWidget* field, bool visible);
+/// Gives a field another label.
+void setRowLabel(QWidget* field, const QString& label);
 /// A field with its label before it, for a line that holds several.
 QLayout* labelled(const QString& label, QWidget* field);
 /// A titled frame around a part, named `name`.

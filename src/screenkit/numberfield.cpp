@@ -32,25 +32,30 @@ constexpr int longestNumber = 24; // more digits than a double can tell apart
 
 } // namespace
 
-const NumberKind money{"# ### ### ##0.00", false, 16, {}, {}, {}, {}};
-const NumberKind whole{"# ### ### ##0", true, 8, {}, {}, {}, {}};
-const NumberKind percent{"0.000", false, 8, {}, {}, {}, {}};
+// Screens in other files make their own kinds of these while the program is being loaded.
+constinit const NumberKind money{"# ### ### ##0.00", false, 16};
+constinit const NumberKind whole{"# ### ### ##0", true, 8};
+constinit const NumberKind percent{"0.000", false, 8};
 
-NumberKind NumberKind::upTo(double maximum, const QString& boxText, const QString& boxTitle) const {
+NumberKind NumberKind::from(double minimum, const QString& text, const QString& title) const {
+    return where([minimum](double value) { return !(value < minimum); }, text, title);
+}
+
+NumberKind NumberKind::upTo(double maximum, const QString& text, const QString& title) const {
+    return where([maximum](double value) { return !(value > maximum); }, text, title);
+}
+
+NumberKind NumberKind::between(double minimum, double maximum, const QString& text, const QString& title) const {
+    return from(minimum, text, title).upTo(maximum, text, title);
+}
+
+NumberKind NumberKind::where(std::function<bool(double)> holds, const QString& text, const QString& title) const {
     NumberKind kind = *this;
-    kind.most = maximum;
-    kind.text = boxText;
-    kind.title = boxTitle;
+    kind.limits.push_back({std::move(holds), {text, title}});
     return kind;
 }
 
-NumberKind NumberKind::between(double minimum, double maximum, const QString& boxText, const QString& boxTitle) const {
-    NumberKind kind = upTo(maximum, boxText, boxTitle);
-    kind.least = minimum;
-    return kind;
-}
-
-NumberKind NumberKind::shownAs(const std::string& otherMask) const {
+NumberKind NumberKind::shownAs(const char* otherMask) const {
     NumberKind kind = *this;
     kind.mask = otherMask;
     return kind;
@@ -92,10 +97,10 @@ void NumberField::enter(double value) {
 }
 
 std::optional<Complaint> NumberField::complaint() {
-    const bool tooMuch = m_kind.most && m_value > *m_kind.most;
-    const bool tooLittle = m_kind.least && m_value < *m_kind.least;
-    if (isReadOnly() || (!tooMuch && !tooLittle)) return {};
-    return Complaint{m_kind.text, m_kind.title};
+    if (isReadOnly()) return {};
+    for (const Limit& limit : m_kind.limits)
+        if (!limit.holds(m_value)) return limit.complaint;
+    return {};
 }
 
 QSize NumberField::sizeHint() const { return look::fieldSize(this, m_kind.characters); }

@@ -1,24 +1,34 @@
 #pragma once
 
+#include <functional>
 #include <optional>
-#include <string>
+#include <vector>
 
 #include "screenkit/bound.h"
 #include "screenkit/entryline.h"
 
 namespace screenkit {
 
-/// How a number is shown and what range it may take. Kinds are values: `whole.upTo(600, "...", "...")`.
+/// What a number must be, and the box for one that is not.
+struct Limit {
+    std::function<bool(double)> holds;
+    Complaint complaint;
+};
+
+/// How a number is shown and what range it may take. Kinds are values: `whole.upTo(600, "...", "...")`; each limit adds
+/// to those that stand, and the first that does not hold has its say.
 struct NumberKind {
-    std::string mask;     ///< see base::formatNumber
+    const char* mask;     ///< see base::formatNumber; a literal, so that the kinds below stand before any code runs
     bool isWhole = false; ///< no decimal sign can be typed
     int characters = 16;  ///< width of the field
-    std::optional<double> least, most;
-    QString text, title; ///< the box for a value outside least and most
+    std::vector<Limit> limits = {};
 
-    NumberKind upTo(double maximum, const QString& boxText, const QString& boxTitle) const;
-    NumberKind between(double minimum, double maximum, const QString& boxText, const QString& boxTitle) const;
-    NumberKind shownAs(const std::string& otherMask) const;
+    NumberKind from(double minimum, const QString& text, const QString& title) const;
+    NumberKind upTo(double maximum, const QString& text, const QString& title) const;
+    NumberKind between(double minimum, double maximum, const QString& text, const QString& title) const;
+    /// For an end that moves with another field.
+    NumberKind where(std::function<bool(double)> holds, const QString& text, const QString& title) const;
+    NumberKind shownAs(const char* otherMask) const;
 };
 
 extern const NumberKind money;   ///< rand, shown with cents and grouped by blanks

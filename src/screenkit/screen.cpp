@@ -132,7 +132,10 @@ bool Screen::complain(Field* field) {
     if (m_complaining) return true;
     const QScopedValueRollback complaining(m_complaining, true);
     const auto complaint = field->complaint();
-    if (!complaint) return false;
+    if (!complaint) {
+        settled(field);
+        return false;
+    }
     m_left.clear();
     m_work.desk.tell(BoxStyle::critical, complaint->text, complaint->title.isEmpty() ? "Marlowbeck" : complaint->title);
     bringToView(field->widget());

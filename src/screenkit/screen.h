@@ -114,6 +114,9 @@ protected:
     virtual void filled() {}
     /// A field was edited by the user.
     virtual void edited() {}
+    /// A field's content stands its check, and the user has left it or asks for something: the moment for what a half
+    /// typed figure must not set off.
+    virtual void settled(Field*) {}
     /// The user asks to close; false stays. Fields have passed their checks.
     virtual bool mayClose() { return true; }
 

@@ -1,0 +1,92 @@
+#include "analyses/retirementreport.h"
+
+#include "base/day.h"
+#include "base/numberformat.h"
+#include "datastore/printfeed.h"
+
+namespace analyses {
+
+namespace {
+
+std::string amount(double rand) { return base::formatNumber(rand, "### ### ###"); }
+
+std::string netWorthText(double capital) {
+    return capital < 0 ? "Capital Shortfall : " + amount(-capital) : "Net worth for investment : " + amount(capital);
+}
+
+datastore::Row capitalLines(const assessment::NARetirement& needs) {
+    return {{"ANSLAss1", needs.ANSLAss1}, {"ANSLAss2", needs.ANSLAss2}, {"ANSLAss3", needs.ANSLAss3},
+            {"ANSLAss4", needs.ANSLAss4}, {"ANSLAss5", needs.ANSLAss5}, {"ANSLLib1", needs.ANSLLib1},
+            {"ANSLLib2", needs.ANSLLib2}, {"ANSLLib3", needs.ANSLLib3}, {"ANSLLib4", needs.ANSLLib4},
+            {"ANSLLib5", needs.ANSLLib5}};
+}
+
+datastore::Row incomeLines(const RetirementAnalysis& analysis) {
+    const double difference = analysis.monthlyDifference();
+    const bool isExcess = difference > 0;
+    return {{"IncomeFV", analysis.IncomeReqFV},
+            {"IncomeRA", analysis.monthlyAvailable},
+            {"IncomeShortText", isExcess ? "Initial Monthly Excess (at retirement date)"
+                                         : "Initial Future-value Monthly Shortfall (at retirement date)"},
+            {"IncomeShort", isExcess ? difference : 0 - difference},
+            {"TotAss", analysis.TotalAssets},
+            {"TotLib", analysis.TotalLiabilities},
+            {"ShoRTFall", netWorthText(analysis.NetCapital)},
+            {"BottLine1", analysis.txtAns1},
+            {"BottLine2", analysis.txtAns2}};
+}
+
+datastore::Row askedLines(const assessment::Assessment& record) {
+    const assessment::NARetirement& needs = record.retirement;
+    return {{"Name", record.client.Name},
+            {"IDNumber", record.client.IDNumber},
+            {"BirthDate", base::reportDate(record.client.BirthDate)},
+            {"PDV", needs.IncomePD},
+            {"CurrentAge", needs.CurrAge},
+            {"AgeRetiment", needs.AgeRetiment},
+            {"Inflation", needs.InflationRA},
+            {"YearsToRet", needs.YearsToRet},
+            {"CoverYears", needs.CoverYears},
+            {"BankInvestRate", needs.BankInvestRate},
+            {"Limitedto50", needs.AgeRetiment - needs.CurrAge > mostYears ? "(limited to 50 years)" : ""}};
+}
+
+datastore::Row notesLines(const std::string& notes) {
+    return {{"NotesHeading", "Notes"}, {"NotesColon", ":"}, {"Notes", notes}};
+}
+
+/// Without a premium its lines are blank, so that none is left over from an earlier printout.
+datastore::Row noPremium() {
+    datastore::Row row;
+    for (const char* text : {"PremHeading", "PremGRText", "PremPEscText", "ALTEMVText", "PremPeriodText", "PremAnsText",
+                             "PremColonText", "PremPAText", "PremYears"})
+        row.push_back({text, ""});
+    for (const char* number : {"PremGR", "PremPEsc", "ALTEMV", "PremPeriod", "PremAns"})
+        row.push_back({number, 0});
+    return row;
+}
+
+} // namespace
+
+void feedRetirement(const std::filesystem::path& printDbPath, const assessment::Assessment& record,
+                    const RetirementAnalysis& analysis, const RetirementReportOptions& options) {
+    datastore::Row row = askedLines(record);
+    for (const datastore::Row& more : {incomeLines(analysis), capitalLines(record.retirement), noPremium(),
+                                       options.notes ? notesLines(record.retirement.RANotes) : datastore::Row{}})
+        row.insert(row.end(), more.begin(), more.end());
+    datastore::PrintFeed feed(printDbPath);
+    feed.replace("NARA", row);
+    if (options.amortised) {
+        std::vector<datastore::Row> years;
+        for (const RetirementYear& year : retirementYears(record.retirement, analysis))
+            years.push_back({{"Year", year.age},
+                             {"Capital", year.capital},
+                             {"Interest", year.interest},
+                             {"Required", year.required},
+                             {"Available", year.available}});
+        feed.replace("Amort", years);
+    }
+    feed.commit();
+}
+
+} // namespace analyses
