@@ -32,9 +32,10 @@ constexpr int longestNumber = 24; // more digits than a double can tell apart
 
 } // namespace
 
-const NumberKind money{"# ### ### ##0.00", false, 16, {}, {}, {}, {}};
-const NumberKind whole{"# ### ### ##0", true, 8, {}, {}, {}, {}};
-const NumberKind percent{"0.000", false, 8, {}, {}, {}, {}};
+// Screens in other files make their own kinds of these while the program is being loaded.
+constinit const NumberKind money{"# ### ### ##0.00", false, 16, {}, {}, {}, {}};
+constinit const NumberKind whole{"# ### ### ##0", true, 8, {}, {}, {}, {}};
+constinit const NumberKind percent{"0.000", false, 8, {}, {}, {}, {}};
 
 NumberKind NumberKind::upTo(double maximum, const QString& boxText, const QString& boxTitle) const {
     NumberKind kind = *this;
@@ -50,7 +51,7 @@ NumberKind NumberKind::between(double minimum, double maximum, const QString& bo
     return kind;
 }
 
-NumberKind NumberKind::shownAs(const std::string& otherMask) const {
+NumberKind NumberKind::shownAs(const char* otherMask) const {
     NumberKind kind = *this;
     kind.mask = otherMask;
     return kind;

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <optional>
-#include <string>
 
 #include "screenkit/bound.h"
 #include "screenkit/entryline.h"
@@ -10,7 +9,7 @@ namespace screenkit {
 
 /// How a number is shown and what range it may take. Kinds are values: `whole.upTo(600, "...", "...")`.
 struct NumberKind {
-    std::string mask;     ///< see base::formatNumber
+    const char* mask;     ///< see base::formatNumber; a literal, so that the kinds below stand before any code runs
     bool isWhole = false; ///< no decimal sign can be typed
     int characters = 16;  ///< width of the field
     std::optional<double> least, most;
@@ -18,7 +17,7 @@ struct NumberKind {
 
     NumberKind upTo(double maximum, const QString& boxText, const QString& boxTitle) const;
     NumberKind between(double minimum, double maximum, const QString& boxText, const QString& boxTitle) const;
-    NumberKind shownAs(const std::string& otherMask) const;
+    NumberKind shownAs(const char* otherMask) const;
 };
 
 extern const NumberKind money;   ///< rand, shown with cents and grouped by blanks
