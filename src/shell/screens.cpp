@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "analyses/frmPersDet.h"
+#include "analyses/frmPolInvest.h"
 #include "calculators/frmLoans.h"
 #include "datastore/frmBrowse.h"
 #include "datastore/frmSaveFileAs.h"
@@ -21,10 +22,10 @@ screenkit::Screen* build(screenkit::Workplace& workplace) {
 }
 
 constexpr ScreenEntry entries[] = {
-    {"frmBrowse", build<datastore::frmBrowse>},   {"frmSaveFileAs", build<datastore::frmSaveFileAs>},
-    {"frmPersDet", build<analyses::frmPersDet>},  {"frmLoans", build<calculators::frmLoans>},
-    {"frmHeadFoot", build<reports::frmHeadFoot>}, {"frmGraph", build<reports::frmGraph>},
-    {"frmBrowser", build<shell::frmBrowser>},
+    {"frmBrowse", build<datastore::frmBrowse>},  {"frmSaveFileAs", build<datastore::frmSaveFileAs>},
+    {"frmPersDet", build<analyses::frmPersDet>}, {"frmPolInvest", build<analyses::frmPolInvest>},
+    {"frmLoans", build<calculators::frmLoans>},  {"frmHeadFoot", build<reports::frmHeadFoot>},
+    {"frmGraph", build<reports::frmGraph>},      {"frmBrowser", build<shell::frmBrowser>},
 };
 
 constexpr const char* closedWithTheClient[] = {
