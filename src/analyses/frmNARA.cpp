@@ -99,13 +99,13 @@ Item frmNARA::requirementsPage() {
                                {"Cu&rrent Age ", m_age},
                                {"Age at retirement &date", m_retirement},
                                {"Years to retirement", m_years}}));
-    auto* wanted = group("fraRequirements", "Requirements",
-                         form({{"&Monthly income required (present-day value)",
-                                row({m_income, itemiseButton(11), spring()})},
-                               {"Income required &for", m_cover, "years."},
-                               {"Source of monthly income available", row({itemiseButton(0), spring()})},
-                               {"In&flation rate", m_inflation, "% a year"},
-                               {"&Investment rate of return", m_rate, "% a year"}}));
+    auto* wanted =
+        group("fraRequirements", "Requirements",
+              form({{"&Monthly income required (present-day value)", row({m_income, itemiseButton(11), spring()})},
+                    {"Income required &for", m_cover, "years."},
+                    {"Source of monthly income available", row({itemiseButton(0), spring()})},
+                    {"In&flation rate", m_inflation, "% a year"},
+                    {"&Investment rate of return", m_rate, "% a year"}}));
     locks(11, {m_income, m_cover});
     auto* review = group("fraReview", "Review",
                          form({{"Date of &last review ", date("dtNaraLastReview", m_needs.NaraLastReview)},
@@ -307,9 +307,9 @@ void frmNARA::print(Destination destination) {
     feedRetirement(m_work.paths.PrintDbPath, record, m_analysis, {m_includeAmort == 1, m_includeNotes == 1});
     const bool amortised = m_includeAmort == 1;
     const bool ran = m_work.reports.run(amortised ? "\\RetiremA.rpt" : "\\Retirem.rpt",
-                       amortised ? "Needs Analysis for Retirement Including Amortisation"
-                                 : "Needs Analysis for Retirement ",
-                       destination);
+                                        amortised ? "Needs Analysis for Retirement Including Amortisation"
+                                                  : "Needs Analysis for Retirement ",
+                                        destination);
     if (!ran) return; // the user has been told
     if (m_includeItems == 1) printItems(destination);
     if (m_includePolicies == 1) PrintPolInvSchedule(m_work, destination);

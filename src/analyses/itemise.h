@@ -52,7 +52,8 @@ void takeItems(assessment::Assessment& record, const ItemLine& line, std::vector
 
 /// Monthly income required and its period out of the list: `IncomePD` is the sum of the rows that start at
 /// `AgeRetiment`, or if none starts exactly then, of all that start later; what starts earlier counts nothing.
-/// `CoverYears` is the highest To less the lowest From of the rows with an amount, 0 to 50 years. A list that sums to 0 or less changes nothing. To be done again when the age changes.
+/// `CoverYears` is the highest To less the lowest From of the rows with an amount, 0 to 50 years. A list that sums to 0
+/// or less changes nothing. To be done again when the age changes.
 void deriveIncomeRequired(assessment::NARetirement& retirement, const std::vector<assessment::ItemRow>& rows);
 
 } // namespace analyses

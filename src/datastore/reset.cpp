@@ -21,6 +21,14 @@ void readCPI(assessment::Assessment& record, store::Database& clients) {
     }
 }
 
+void writeCPI(const std::filesystem::path& dataDbPath, double percent) {
+    store::Database clients(dataDbPath);
+    store::Transaction transaction(clients);
+    const assessment::TableDescription& table = assessment::cpiDefaultTable();
+    editOrAddRow(clients, table.name(), {{table.fields().front().name, percent}});
+    transaction.commit();
+}
+
 void ResetAssessment(assessment::Assessment& record, const Paths& paths) {
     assessment::Assessment blank = blankRecord(paths.DefaultDbPath);
     try {

@@ -18,4 +18,8 @@ void ResetAssessment(assessment::Assessment& record, const Paths& paths, store::
 assessment::Assessment blankRecord(const std::filesystem::path& defaultDbPath);
 void readCPI(assessment::Assessment& record, store::Database& clients);
 
+/// Writes the practice's rate of inflation, percent a year, into the one row of `CPIDefault` and adds that row if it is
+/// not there. Throws store::Error; the row is then as it was.
+void writeCPI(const std::filesystem::path& dataDbPath, double percent);
+
 } // namespace datastore

@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <iterator>
 
+#include "analyses/frmNARA.h"
 #include "analyses/frmPersDet.h"
+#include "analyses/frmPolInvest.h"
 #include "calculators/frmLoans.h"
 #include "datastore/frmBrowse.h"
 #include "datastore/frmSaveFileAs.h"
@@ -21,9 +23,14 @@ screenkit::Screen* build(screenkit::Workplace& workplace) {
 }
 
 constexpr ScreenEntry entries[] = {
-    {"frmBrowse", build<datastore::frmBrowse>},   {"frmSaveFileAs", build<datastore::frmSaveFileAs>},
-    {"frmPersDet", build<analyses::frmPersDet>},  {"frmLoans", build<calculators::frmLoans>},
-    {"frmHeadFoot", build<reports::frmHeadFoot>}, {"frmGraph", build<reports::frmGraph>},
+    {"frmNARA", build<analyses::frmNARA>},
+    {"frmBrowse", build<datastore::frmBrowse>},
+    {"frmSaveFileAs", build<datastore::frmSaveFileAs>},
+    {"frmPersDet", build<analyses::frmPersDet>},
+    {"frmPolInvest", build<analyses::frmPolInvest>},
+    {"frmLoans", build<calculators::frmLoans>},
+    {"frmHeadFoot", build<reports::frmHeadFoot>},
+    {"frmGraph", build<reports::frmGraph>},
     {"frmBrowser", build<shell::frmBrowser>},
 };
 

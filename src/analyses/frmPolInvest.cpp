@@ -1,0 +1,217 @@
+#include "analyses/frmPolInvest.h"
+
+#include <QTabWidget>
+#include <algorithm>
+#include <limits>
+#include <tuple>
+
+#include "datastore/paths.h"
+#include "datastore/reset.h"
+#include "reports/report.h"
+#include "screenkit/trouble.h"
+
+namespace analyses {
+
+using namespace screenkit;
+
+namespace {
+
+constexpr const char* screenTitle = "Policies & Investments";
+constexpr std::size_t mostRecords = std::numeric_limits<std::int16_t>::max(); // what the file can count
+const NumberKind cpiRate =
+    percent.between(0, 100, "The range for the CPI is between 0% and 100%", "Incorrect Inflation Rate!");
+
+/// What of the folded schedule is stored with the client.
+auto storedTotals(const assessment::Assessment& record) {
+    return std::tuple(record.retirement.ANSLAss4, record.death.ANSAss5, record.disability.DisaASS5,
+                      record.itemised.RNAPoliciesItemise, record.itemised.DTHLifeAssItemise,
+                      record.itemised.DISALifeAssItemise);
+}
+
+/// Runs what folds the schedule into the analyses; if that gives new totals, the file does not hold them yet.
+template <class Fold>
+void foldSchedule(assessment::Assessment& record, Fold fold) {
+    const auto before = storedTotals(record);
+    fold();
+    if (storedTotals(record) != before) record.changed.PolInvestChanged = 1;
+}
+
+bool printPolicies(Workplace& workplace, Destination destination, const PolicyReportOptions& options,
+                   const QString& definition, const QString& title) {
+    foldSchedule(workplace.record, [&] { feedPolicies(workplace.paths.PrintDbPath, workplace.record, options); });
+    return workplace.reports.run(definition, title, destination);
+}
+
+/// Greys a button out; the focus it may have goes to one that undoes what it did, so that a key pressed once too often
+/// does no harm.
+void greyOut(QPushButton* button, QPushButton* opposite) {
+    if (button->hasFocus() && opposite->isEnabled()) opposite->setFocus(Qt::OtherFocusReason);
+    button->setEnabled(false);
+}
+
+} // namespace
+
+bool PrintPolInvList(Workplace& workplace, Destination destination, const PolicyReportOptions& options) {
+    return printPolicies(workplace, destination, options, "\\PolInvestDetails.rpt", "Policies & Investments Details");
+}
+
+bool PrintPolInvSchedule(Workplace& workplace, Destination destination, const PolicyReportOptions& options) {
+    return printPolicies(workplace, destination, options, "\\PolInvestSchedule.rpt", "Policies & Investments Schedule");
+}
+
+frmPolInvest::frmPolInvest(Workplace& workplace)
+    : Screen(workplace, "frmPolInvest", screenTitle, workplace.record.changed.PolInvestChanged),
+      m_record(workplace.record) {
+    m_pages = tabs("tabPolInvest", {{"Polic&y", policyPage()},
+                                    {"&Death", deathPage()},
+                                    {"Disability and &trauma", disabilityPage()},
+                                    {"&Retirement and investments", retirementPage()}});
+    body(column({m_pages, valuesAtRetirement(), buttons()}));
+    buildCPIPanel();
+    buildPrintPanel();
+}
+
+QLayout* frmPolInvest::buttons() {
+    m_back = button("cmdBack", "< &Back", [this] { step(-1); });
+    m_forward = button("cmdForward", "&Forward >", [this] { step(1); });
+    auto* solve = button("cmdCalculatePolInv", "&Calculate", [this] { calculate(); });
+    defaultButton(solve);
+    return row({m_back, m_forward, button("cmdAdd", "&Add", [this] { add(); }),
+                cancelButton("cmdDelete", "De&lete", [this] { remove(); }), solve,
+                button("cmdCPI", "CP&I", [this] { openCPI(); }),
+                button("cmdPrint", "&Print",
+                       [this] {
+                           calculate();
+                           m_printPanel->open(findChild<QWidget*>("chkPolInvestList"));
+                       }),
+                spring(), okButton()});
+}
+
+void frmPolInvest::buildCPIPanel() {
+    m_cpi = number("numCPI", m_typedCPI, cpiRate);
+    untrackedField(m_cpi); // it belongs to the practice, not to the client
+    m_cpiPanel = panel("fraCPI", tr("Consumer price index"), form({{"CP&I", m_cpi, "% a year"}}),
+                       {button("cmdCPIOK", "&OK", [this] { confirmCPI(); }),
+                        cancelButton("cmdCPICancel", "&Cancel", [this] { m_cpiPanel->close(); })});
+}
+
+void frmPolInvest::buildPrintPanel() {
+    const auto onlyWithAReport = [this](bool) {
+        for (const char* name : {"cmdVR", "cmdPD"})
+            findChild<QPushButton*>(name)->setEnabled(m_printList == 1 || m_printSchedule == 1);
+    };
+    auto* list = check("chkPolInvestList", "Policies && Investments &Details", m_printList, onlyWithAReport);
+    auto* schedule =
+        check("chkPolInvestSchudule", "Policies && Investments &Schedule", m_printSchedule, onlyWithAReport);
+    auto* notes = check("chkIncNotes", "Include &Notes", m_includeNotes);
+    for (CheckField* choice : {list, schedule, notes})
+        untrackedField(choice);
+    m_printPanel = printPanel({list, schedule, notes}, [this](Destination to) { print(to); });
+}
+
+assessment::Policy& frmPolInvest::policy() {
+    auto& policies = m_record.policies;
+    if (policies.empty()) policies.emplace_back();
+    const auto last = static_cast<std::int16_t>(std::min(policies.size(), mostRecords));
+    m_record.CurPolicy = std::clamp<std::int16_t>(m_record.CurPolicy, 1, last);
+    return policies[static_cast<std::size_t>(m_record.CurPolicy - 1)];
+}
+
+void frmPolInvest::filled() {
+    showPlace();
+    m_other->setEnabled(policy().DeathBenPerson == 3);
+    showValues();
+}
+
+void frmPolInvest::showPlace() {
+    const auto number = static_cast<std::size_t>(m_record.CurPolicy);
+    const bool isFirst = number <= 1, isLast = number >= std::min(count(), mostRecords);
+    setWindowTitle(QString("Policies & Investments. : Num. %1 of %2").arg(number).arg(count()));
+    if (!isFirst) m_back->setEnabled(true);
+    if (!isLast) m_forward->setEnabled(true);
+    if (isFirst) greyOut(m_back, m_forward);
+    if (isLast) greyOut(m_forward, m_back);
+}
+
+void frmPolInvest::showValues() {
+    m_trial.policies.assign(1, policy());
+    m_trial.retirement.AgeRetiment = m_record.retirement.AgeRetiment;
+    m_values = CalculatePolInv(m_trial).front();
+    for (NumberField* field : m_valueFields)
+        field->fill();
+}
+
+void frmPolInvest::lockPremiums(bool paidUp) {
+    for (QWidget* premium : m_premiums)
+        premium->setEnabled(!paidUp);
+}
+
+void frmPolInvest::show(std::size_t number) {
+    m_record.CurPolicy = static_cast<std::int16_t>(number);
+    refill();
+}
+
+void frmPolInvest::step(int direction) {
+    show(static_cast<std::size_t>(m_record.CurPolicy + direction)); // greyed out where there is none
+}
+
+void frmPolInvest::add() {
+    if (count() >= mostRecords)
+        return m_work.desk.tell(BoxStyle::warning, tr("A client's file can hold %1 policies at most.").arg(mostRecords),
+                                screenTitle);
+    m_record.policies.emplace_back();
+    m_record.changed.PolInvestChanged = 1;
+    show(count());
+    m_pages->setCurrentIndex(0);
+    m_type->takeFocus();
+}
+
+void frmPolInvest::remove() {
+    // Nothing brings the record back but a load of the client as last saved.
+    const QString question = tr("Are you sure you want to delete Policy/Investment %1 of %2 ?");
+    const Answer answer = m_work.desk.box(BoxStyle::question, question.arg(m_record.CurPolicy).arg(count()),
+                                          tr("Delete Policy/Investment"), Buttons::yesNo, Answer::no);
+    if (answer != Answer::yes) return;
+    if (count() == 1)
+        policy() = {};
+    else
+        m_record.policies.erase(m_record.policies.begin() + (m_record.CurPolicy - 1));
+    m_record.changed.PolInvestChanged = 1;
+    show(std::min(static_cast<std::size_t>(m_record.CurPolicy), count()));
+}
+
+void frmPolInvest::calculate() {
+    assessment::Policy& shown = policy();
+    if (shown.DeathBenLoanAgainst > 0 && shown.DeathBenAmtCeded > 0) {
+        m_work.desk.tell(BoxStyle::warning,
+                         "There cannot be a Value for both 'Loan against' and 'Amount ceded'\nin the same policy!",
+                         screenTitle);
+        shown.DeathBenLoanAgainst = shown.DeathBenAmtCeded = 0;
+        m_record.changed.PolInvestChanged = 1;
+        refill();
+    }
+    foldSchedule(m_record, [this] { CalculatePolInv(m_record); });
+    showValues();
+}
+
+void frmPolInvest::openCPI() {
+    m_typedCPI = m_record.CPI;
+    m_cpi->fill();
+    m_cpiPanel->open(m_cpi);
+}
+
+void frmPolInvest::confirmCPI() {
+    const bool written =
+        guarded(m_work.desk, tr("store the CPI"), [this] { datastore::writeCPI(m_work.paths.DataDbPath, m_typedCPI); });
+    if (!written) return;
+    m_record.CPI = m_typedCPI;
+    m_cpiPanel->close();
+}
+
+void frmPolInvest::print(Destination destination) {
+    const PolicyReportOptions options{m_includeNotes == 1};
+    if (m_printList == 1 && !PrintPolInvList(m_work, destination, options)) return;
+    if (m_printSchedule == 1) PrintPolInvSchedule(m_work, destination, options);
+}
+
+} // namespace analyses

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "analyses/policyreport.h"
+#include "analyses/policyschedule.h"
+#include "assessment/assessment.h"
+#include "screenkit/screen.h"
+
+namespace analyses {
+
+/// The client's schedule of policies and investments, one record at a time, with what each is worth at retirement and
+/// the two reports on them all.
+class frmPolInvest : public screenkit::Screen {
+    Q_OBJECT
+public:
+    explicit frmPolInvest(screenkit::Workplace& workplace);
+
+protected:
+    void filled() override;
+    void edited() override { showValues(); }
+
+private:
+    screenkit::Item policyPage();
+    screenkit::Item deathPage();
+    screenkit::Item disabilityPage();
+    screenkit::Item retirementPage();
+    screenkit::Item valuesAtRetirement();
+    QLayout* buttons();
+    void buildCPIPanel();
+    void buildPrintPanel();
+
+    // Controls on a column of the schedule, named after it.
+    screenkit::NumberField* figure(const QString& column, const screenkit::NumberKind& kind, const QString& spoken);
+    screenkit::NumberField* amount(const QString& column, const QString& spoken = {});
+    screenkit::NumberField* age(const QString& column, const QString& spoken = {});
+    screenkit::NumberField* years(const QString& column, const QString& spoken = {});
+    screenkit::NumberField* rate(const QString& column, const QString& spoken = {});
+    screenkit::TextField* line(const QString& column);
+    screenkit::CheckField* tick(const QString& column, const QString& caption, std::function<void(bool)> ticked = {});
+    /// A value at an age and its escalation from there, on one line.
+    QLayout* valueAtAge(const QString& benefit, const QString& value, const QString& age, const QString& escalation,
+                        const QString& escalationCaption);
+    screenkit::NumberField* valueField(const QString& name, double& value);
+    screenkit::Bound<double> place(const QString& column);
+
+    /// The record on screen.
+    assessment::Policy& policy();
+    std::size_t count() const { return m_record.policies.size(); }
+    void show(std::size_t number);
+    void step(int direction);
+    void add();
+    void remove();
+    void showPlace();
+    void showValues();
+    void lockPremiums(bool paidUp);
+    void calculate();
+    void openCPI();
+    void confirmCPI();
+    void print(screenkit::Destination destination);
+
+    assessment::Assessment& m_record;
+    assessment::Assessment m_trial; ///< holds a copy of the policy on screen: showing its values changes no client
+    ValuesAtRetirement m_values;
+    double m_typedCPI = 0;
+    int m_printList = 1, m_printSchedule = 0, m_includeNotes = 0;
+    std::vector<screenkit::NumberField*> m_valueFields;
+    std::vector<QWidget*> m_premiums; ///< what a paid-up policy locks
+    screenkit::TextField *m_type = nullptr, *m_other = nullptr;
+    screenkit::NumberField* m_cpi = nullptr;
+    QTabWidget* m_pages = nullptr;
+    QPushButton *m_back = nullptr, *m_forward = nullptr;
+    screenkit::Panel *m_cpiPanel = nullptr, *m_printPanel = nullptr;
+};
+
+/// The reports on all policies of the record in hand; no screen need be open. The schedule is folded into the analyses
+/// first. False if the report could not run: the user has been told. Throws store::Error if Print.mdb takes no figures.
+bool PrintPolInvList(screenkit::Workplace& workplace, screenkit::Destination destination,
+                     const PolicyReportOptions& options = {});
+bool PrintPolInvSchedule(screenkit::Workplace& workplace, screenkit::Destination destination,
+                         const PolicyReportOptions& options = {});
+
+} // namespace analyses

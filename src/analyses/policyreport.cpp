@@ -1,0 +1,119 @@
+#include "analyses/policyreport.h"
+
+#include <numeric>
+#include <vector>
+
+#include "analyses/policyschedule.h"
+#include "assessment/tables.h"
+#include "base/day.h"
+#include "datastore/printfeed.h"
+
+namespace analyses {
+
+namespace {
+
+using assessment::Policy;
+using Policies = std::vector<Policy>;
+
+constexpr std::int16_t otherPerson = 3;
+
+double total(const Policies& policies, double Policy::*figure) {
+    return std::accumulate(policies.begin(), policies.end(), 0.0,
+                           [figure](double sum, const Policy& policy) { return sum + policy.*figure; });
+}
+
+double total(const std::vector<ValuesAtRetirement>& values) {
+    return std::accumulate(values.begin(), values.end(), 0.0, [](double sum, const ValuesAtRetirement& value) {
+        return sum + value.cashValue + value.raMaturity + value.pensionLump + value.providentLump + value.endowment +
+               value.investment;
+    });
+}
+
+/// What each kind of beneficiary receives. A benefit that is ceded away is nothing, never a debt of theirs.
+std::array<double, beneficiaries.size()> benefits(const Policies& policies) {
+    std::array<double, beneficiaries.size()> received{};
+    for (const Policy& policy : policies) {
+        const double benefit = policy.DeathBen - (policy.DeathBenAmtCeded + policy.DeathBenLoanAgainst);
+        const auto person = static_cast<std::size_t>(policy.DeathBenPerson); // of an old file perhaps nobody's number
+        if (person < received.size() && benefit > 0) received[person] += benefit;
+    }
+    return received;
+}
+
+std::string noted(const std::string& text, const PolicyReportOptions& options) {
+    return options.notes && !text.empty() ? "Note: " + text : std::string();
+}
+
+datastore::Row headerRow(const assessment::Assessment& record, const std::vector<ValuesAtRetirement>& values,
+                         const PolicyReportOptions& options) {
+    const Policies& policies = record.policies;
+    const auto [estate, spouse, charity, other] = benefits(policies);
+    const double all = estate + spouse + charity + other;
+    const auto shown = static_cast<std::size_t>(record.CurPolicy - 1);
+    return {{"Name", record.client.Name},
+            {"BirthDate", base::reportDate(record.client.BirthDate)},
+            {"IDNumber", record.client.IDNumber},
+            {"LifeCoverTotal", total(policies, &Policy::DeathBen)},
+            {"ContributionTotal", total(policies, &Policy::PremInvAmtMonthly)},
+            {"DisabilityTotal", total(policies, &Policy::DisabilLumpSum)},
+            {"DreadTotal", total(policies, &Policy::TraumlLumpSum)},
+            {"RetirementTotal", total(values)},
+            {"CashValueTotal", total(policies, &Policy::DeathBenCashVal)},
+            {"IncomeProTotal", total(policies, &Policy::IncProMonthly)},
+            {"MONLifeCoverTotal", total(policies, &Policy::DeathBenMonthly)},
+            {"MONDisabilityTotal", total(policies, &Policy::DisabilMonthly)},
+            {"MONDreadTotal", total(policies, &Policy::TraumMonthly)},
+            {"MONIncomeProTotal", total(policies, &Policy::IncProMonthly)},
+            {"MONIncomeRBTotal", total(policies, &Policy::RBMonAvaible)},
+            {"CurrentCPI", record.CPI},
+            {"DBenSpouse", spouse},
+            {"DBenSpousePerc", all > 0 ? spouse / all * 100 : 0},
+            {"DBenEstate", estate},
+            {"DBenCharity", charity},
+            {"DBenOther", other},
+            // The header has room for one: that of the record on screen.
+            {"PolIncAddNote", shown < policies.size() ? noted(policies[shown].PolIncAddNote, options) : std::string()}};
+}
+
+/// What the report says in other words than the record.
+store::Value printed(const Policy& policy, const std::string& field, store::Value stored,
+                     const PolicyReportOptions& options) {
+    if (field == "InceptionDate") return base::reportDate(policy.InceptionDate);
+    if (field == "PolIncNote") return noted(policy.PolIncNote, options);
+    if (field == "PolIncAddNote") return noted(policy.PolIncAddNote, options);
+    if (field == "DeathBenOther" && policy.DeathBenPerson != otherPerson) return std::string();
+    if (field == "DeathBenPerson") {
+        const auto person = static_cast<std::size_t>(policy.DeathBenPerson);
+        return std::string(person < beneficiaries.size() ? beneficiaries[person] : "");
+    }
+    return stored;
+}
+
+datastore::Row policyRow(Policy& policy, int number, const PolicyReportOptions& options) {
+    datastore::Row row;
+    const auto& fields = assessment::polsInvestsTable().fields();
+    row.reserve(fields.size() + 2);
+    row.emplace_back("PolNum", number);
+    for (const assessment::FieldLine& line : fields) {
+        if (line.at == nullptr || line.name == "PremInvAmtMonthlyAnnEsc") continue; // Print.mdb has no place for it
+        row.emplace_back(line.name, printed(policy, line.name, assessment::valueAt(line.at(&policy)), options));
+    }
+    row.emplace_back("PremInvAmtAnnualCPI", 0); // no record ever had it
+    return row;
+}
+
+} // namespace
+
+void feedPolicies(const std::filesystem::path& printDbPath, assessment::Assessment& record,
+                  const PolicyReportOptions& options) {
+    const std::vector<ValuesAtRetirement> values = CalculatePolInv(record);
+    datastore::PrintFeed feed(printDbPath);
+    feed.replace("PolsInvests", headerRow(record, values, options));
+    feed.clear("PolsInvestsAmorts");
+    int number = 0;
+    for (Policy& policy : record.policies)
+        feed.add("PolsInvestsAmorts", policyRow(policy, ++number, options));
+    feed.commit();
+}
+
+} // namespace analyses

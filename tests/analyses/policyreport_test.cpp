@@ -1,0 +1,128 @@
+#include <gtest/gtest.h>
+
+#include "analyses/frmPolInvest.h"
+#include "reports/report_support.h"
+#include "shell/running_program.h"
+
+namespace {
+
+using assessment::Policy;
+using shelltest::RunningProgram;
+
+Policy benefit(std::int16_t person, double amount, double ceded, double loan) {
+    Policy policy;
+    policy.PolInvType = "Whole life";
+    policy.DeathBenPerson = person;
+    policy.DeathBen = amount;
+    policy.DeathBenAmtCeded = ceded;
+    policy.DeathBenLoanAgainst = loan;
+    policy.DeathBenOther = "Ṱhoho trust";
+    policy.PolIncAddNote = "confidential";
+    return policy;
+}
+
+/// A client whose totals each have a figure of their own.
+void fillSchedule(assessment::Assessment& record) {
+    record.client.Name = "Ms T. Ṱhoho-Nḓou";
+    record.client.BirthDate = 25967;
+    record.CPI = 4.5;
+    record.policies = {benefit(0, 1000, 0, 400), benefit(1, 3000, 3000, 0), benefit(1, 3000, 0, 0),
+                       benefit(2, 500, 100, 0),  benefit(3, 100, 0, 0),     benefit(0, 10, 20, 0),
+                       benefit(9, 7000, 0, 0)};
+    Policy& first = record.policies[0];
+    first.InceptionDate = 45000;
+    first.PremInvAmtMonthly = 11;
+    first.DisabilLumpSum = 12;
+    first.TraumlLumpSum = 13;
+    first.DeathBenMonthly = 14;
+    first.DisabilMonthly = 15;
+    first.TraumMonthly = 16;
+    first.IncProMonthly = 17;
+    first.RBMonAvaible = 18;
+    first.DeathBenCashVal = 19;
+    first.RBEMV = 20.5;
+    first.RBEMVAge = 55;
+    first.RBEMVEscFor = 7.25F;
+    record.policies[1].PremInvAmtMonthly = 100;
+}
+
+TEST(PolicyReport, HeaderHoldsTheTotalsAndEachRecordItsRow) {
+    RunningProgram run;
+    fillSchedule(run.record());
+    analyses::feedPolicies(run.folder / "Print.mdb", run.record(), {});
+    const struct {
+        const char *fields, *figures;
+    } totals[] = {
+        {"[Name],[BirthDate],[CurrentCPI]", "Ms T. Ṱhoho-Nḓou|03/02/1971|4.5"},
+        {"[ContributionTotal],[LifeCoverTotal],[DisabilityTotal],[DreadTotal]", "111|14610|12|13"},
+        {"[RetirementTotal],[CashValueTotal],[IncomeProTotal]", "20.5|19|17"},
+        {"[MONLifeCoverTotal],[MONDisabilityTotal],[MONDreadTotal],[MONIncomeProTotal],[MONIncomeRBTotal]",
+         "14|15|16|17|18"},
+        // Less what is ceded or lent, never below nothing; a person of no number receives none of it.
+        {"[DBenEstate],[DBenSpouse],[DBenCharity],[DBenOther]", "600|3000|400|100"},
+        {"round([DBenSpousePerc] * 1000)", "73171"},
+        {"count(*),[PolIncAddNote]", "1|"},
+    };
+    for (const auto& each : totals)
+        EXPECT_EQ(run.inPrint(std::string("SELECT ") + each.fields + " FROM PolsInvests"), each.figures);
+    EXPECT_EQ(run.inPrint("SELECT count(*), max([PolNum]) FROM PolsInvestsAmorts"), "7|7");
+    EXPECT_EQ(run.inPrint("SELECT [InceptionDate],[DeathBenPerson],[DeathBenOther],[RBEMVEscFor],[PolIncAddNote] FROM "
+                          "PolsInvestsAmorts WHERE [PolNum] IN (1, 5, 7)"),
+              "15/03/2023|Estate||7.25|\n |Other|Ṱhoho trust|0|\n |||0|");
+    run.record().policies.resize(1);
+    run.record().policies[0].DeathBen = 0;
+    analyses::feedPolicies(run.folder / "Print.mdb", run.record(), {true}); // nothing is left of the first
+    EXPECT_EQ(run.inPrint("SELECT [DBenSpousePerc],[PolIncAddNote] FROM PolsInvests"), "0|Note: confidential");
+    EXPECT_EQ(run.inPrint("SELECT [PolIncNote],[PolIncAddNote] FROM PolsInvestsAmorts"), "|Note: confidential");
+}
+
+TEST(PolicyReport, ThePanelRunsWhatIsTicked) {
+    RunningProgram run;
+    fillSchedule(run.record());
+    run.menu("mnuPolInvests");
+    run.record().policies[0].DeathBenCashVal = 0;
+    run.click("cmdPrint");
+    run.click("chkPolInvestList");
+    EXPECT_FALSE(run.control("cmdVR")->isEnabled()); // no report to run
+    EXPECT_FALSE(run.control("cmdPD")->isEnabled());
+    run.click("chkPolInvestSchudule");
+    run.click("chkPolInvestList");
+    run.click("chkIncNotes");
+    run.click("cmdVR");
+    const auto previews = run.program.reports().previews();
+    ASSERT_EQ(previews.size(), 2u);
+    EXPECT_EQ(previews[0]->windowTitle(), "Policies & Investments Details");
+    EXPECT_EQ(previews[1]->windowTitle(), "Policies & Investments Schedule");
+    EXPECT_EQ(run.record().death.ANSAss5, 3600); // folded into the analyses before printing
+    const QString text = reporttest::textOfPdf(reports::toPdf(previews[0]->report())).simplified();
+    for (const char* line :
+         {"Ms T. Ṱhoho-Nḓou", "1 Whole life Rand", "Inception date 15/03/2023", "R/A maturity value 20.50 55 7.25 %",
+          "Death benefit 100.00 to Other: Ṱhoho trust", "Note: confidential", "Life cover 14 610.00 14.00",
+          "At retirement 20.50 18.00", "Spouse 3 000.00 73.17 % of all"})
+        EXPECT_TRUE(text.contains(line)) << line << "\n" << text.toStdString();
+    EXPECT_FALSE(text.contains("Cash value ")); // not filled
+}
+
+// The retirement analysis prints the schedule with its own report while this screen is closed.
+TEST(PolicyReport, AScheduleOfThirtyPoliciesRepeatsItsHeadsAndCutsNoText) {
+    RunningProgram run;
+    fillSchedule(run.record());
+    Policy longest = run.record().policies[0];
+    for (std::string* text : {&longest.PolInvType, &longest.UnderInst, &longest.PolRefNum})
+        *text = std::string(66, 'W') + " end";
+    longest.DeathBen = 123456789012;
+    longest.PolIncNote = std::string(1990, 'x') + " last";
+    run.record().policies.resize(30, longest);
+    screenkit::Workplace workplace{run.record(), run.program.paths(), run.desk, run.program.reports(), run.window()};
+    ASSERT_TRUE(analyses::PrintPolInvSchedule(workplace, screenkit::Destination::preview, {true}));
+    EXPECT_FALSE(run.isOpen("frmPolInvest"));
+    const QStringList pages = reporttest::pagesOfPdf(reports::toPdf(run.program.reports().previews().at(0)->report()));
+    ASSERT_GT(pages.size(), 3);
+    for (const QString& page : {pages[1], pages[2]})
+        EXPECT_TRUE(page.simplified().contains("No Policy Underwriter Number Inception")) << page.toStdString();
+    const QString text = pages.join(' ').simplified();
+    EXPECT_EQ(text.count("last"), 23); // every note to its end
+    EXPECT_TRUE(text.contains("R 492.00")) << text.toStdString();
+}
+
+} // namespace

@@ -1,0 +1,304 @@
+#include <gtest/gtest.h>
+
+#include <QRadioButton>
+#include <algorithm>
+
+#include "analyses/frmPolInvest.h"
+#include "assessment/tables.h"
+#include "base/numberformat.h"
+#include "reports/previewwindow.h"
+#include "reports/report.h"
+#include "shell/running_program.h"
+
+namespace {
+
+using assessment::Policy;
+using screenkit::Answer;
+using shelltest::RunningProgram;
+
+/// The screen in front, on a client with as many records, typed 1, 2, 3, ...
+class PolInvest : public testing::Test {
+protected:
+    void open(std::size_t records = 1) {
+        run.record().policies.resize(records);
+        for (std::size_t i = 0; i < records; ++i)
+            policy(i + 1).PolInvType = std::to_string(i + 1);
+        run.menu("mnuPolInvests");
+    }
+    Policy& policy(std::size_t number) { return run.record().policies[number - 1]; }
+    std::string types() {
+        std::string all;
+        for (const Policy& each : run.record().policies)
+            all += each.PolInvType + " ";
+        return all;
+    }
+    void choose(const QString& option) {
+        auto* button = run.control<QRadioButton>(option);
+        RunningProgram::turnTo(button);
+        QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(8, button->height() / 2));
+    }
+    std::int16_t& changed() { return run.record().changed.PolInvestChanged; }
+    RunningProgram run;
+};
+
+/// Ticks; paid up last, since it locks another.
+const std::vector<std::string> ticks{
+    "WoP",
+    "PremInvAmtMonthlyCPI",
+    "DeathBenUseCashAtRet",
+    "UseEndowEMVAtRet",
+    "InvBensTakeAtDisa",
+    "InvBensTakeFinValAtRet",
+    "PaidUp",
+};
+
+/// Walks the columns of the schedule: what each control is named, what is typed into it and what its record then holds.
+struct Typed {
+    const assessment::FieldLine* line;
+    QString control, text;
+    store::Value held;
+};
+
+std::vector<Typed> allControls() {
+    std::vector<Typed> all;
+    int number = 10;
+    for (const auto& line : assessment::polsInvestsTable().fields()) {
+        Policy sample;
+        if (line.at == nullptr || std::ranges::count(ticks, line.name) > 0 || line.name == "DeathBenPerson") continue;
+        const QString name = QString::fromStdString(line.name);
+        ++number;
+        if (std::holds_alternative<std::string*>(line.at(&sample)))
+            all.push_back({&line, "txt" + name, name + "ê", line.name + "ê"});
+        else if (line.name == "InceptionDate")
+            all.push_back({&line, "dt" + name, "15/03/2023", 45000.0});
+        else
+            all.push_back({&line, "num" + name, QString::number(number), static_cast<double>(number)});
+    }
+    return all;
+}
+
+QString textIn(QWidget* control) {
+    if (auto* memo = qobject_cast<QPlainTextEdit*>(control)) return memo->toPlainText();
+    return qobject_cast<QLineEdit*>(control)->text().remove(".000").remove(".00");
+}
+
+TEST_F(PolInvest, EveryControlHoldsItsFieldOnScreenInTheRecordAndInTheFile) {
+    run.saveClient("Botha");
+    open();
+    EXPECT_EQ(changed(), 0);
+    run.click("cmdAdd");
+    EXPECT_EQ(RunningProgram::focused(), "txtPolInvType");
+    choose("optDeathBen(3)"); // opens the text that goes with it
+    const auto controls = allControls();
+    EXPECT_EQ(controls.size(), 52u);
+    for (const Typed& each : controls)
+        run.type(each.control, each.text);
+    for (const std::string& name : ticks)
+        run.click("chk" + QString::fromStdString(name));
+    const auto expectHeld = [&](Policy& held) {
+        for (const Typed& each : controls)
+            EXPECT_EQ(assessment::valueAt(each.line->at(&held)), each.held) << each.line->name;
+        for (const std::string& name : ticks)
+            EXPECT_EQ(assessment::valueAt(assessment::polsInvestsTable().field(name)->at(&held)), store::Value(1.0));
+        EXPECT_EQ(held.DeathBenPerson, 3);
+    };
+    expectHeld(policy(2));
+    EXPECT_EQ(policy(1).PolInvType, "1"); // and nothing of it went into another record
+    EXPECT_EQ(policy(1).DeathBen + policy(1).InvBensMatValLSEscAt, 0);
+    EXPECT_EQ(changed(), 1);
+
+    run.menu("mnuSave");
+    run.menu("mnuBrowse");
+    run.enter("txtSearch", "Botha");
+    run.key(Qt::Key_Return);
+    run.menu("mnuPolInvests");
+    expectHeld(policy(2));
+    EXPECT_EQ(run.shown("txtPolInvType"), "1");
+    run.click("cmdForward");
+    for (const Typed& each : controls)
+        EXPECT_EQ(textIn(run.control(each.control)), each.text) << each.line->name;
+    EXPECT_EQ(changed(), 0);
+}
+
+TEST_F(PolInvest, RecordsAreWalkedAddedAndDeletedInTheirOrder) {
+    const Answer yes = Answer::yes, no = Answer::no;
+    struct Press {
+        const char* button;
+        std::optional<Answer> answer;
+        const char *title, *left;
+        bool back, forward;
+    };
+    const std::vector<Press> presses{
+        {"cmdForward", {}, "Num. 2 of 3", "1 2 3 ", true, true},
+        {"cmdForward", {}, "Num. 3 of 3", "1 2 3 ", true, false},
+        {"cmdDelete", no, "Num. 3 of 3", "1 2 3 ", true, false},
+        {"cmdBack", {}, "Num. 2 of 3", "1 2 3 ", true, true},
+        {"cmdDelete", yes, "Num. 2 of 2", "1 3 ", true, false}, // the record that takes its place
+        {"cmdDelete", yes, "Num. 1 of 1", "1 ", false, false},
+        {"cmdAdd", {}, "Num. 2 of 2", "1  ", true, false},
+        {"cmdDelete", yes, "Num. 1 of 1", "1 ", false, false},
+        {"cmdDelete", yes, "Num. 1 of 1", " ", false, false}, // the only one is blanked
+    };
+    open(3);
+    EXPECT_EQ(run.front()->windowTitle(), "Policies & Investments. : Num. 1 of 3");
+    EXPECT_FALSE(run.control("cmdBack")->isEnabled());
+    for (const Press& press : presses) {
+        const int before = changed();
+        if (press.answer) run.desk.expect(*press.answer);
+        run.click(press.button);
+        EXPECT_EQ(run.front()->windowTitle(), QString("Policies & Investments. : ") + press.title);
+        EXPECT_EQ(types(), press.left);
+        EXPECT_EQ(run.shown("txtPolInvType").toStdString(), policy(run.record().CurPolicy).PolInvType);
+        EXPECT_EQ(run.control("cmdBack")->isEnabled(), press.back) << press.title;
+        EXPECT_EQ(run.control("cmdForward")->isEnabled(), press.forward) << press.title;
+        if (before == 0) {
+            EXPECT_EQ(changed(), types() == "1 2 3 " ? 0 : 1);
+        }
+    }
+    EXPECT_EQ(run.desk.last().defaultAnswer, Answer::no);
+}
+
+// Space pressed once too often at the end must not reach the button beside it, which adds a record.
+TEST_F(PolInvest, AtTheEndTheFocusGoesToTheWayBack) {
+    open(2);
+    run.control("cmdForward")->setFocus(Qt::TabFocusReason);
+    run.key(Qt::Key_Space);
+    run.key(Qt::Key_Space);
+    EXPECT_EQ(run.record().CurPolicy, 1);
+    EXPECT_EQ(types(), "1 2 ");
+}
+
+TEST_F(PolInvest, LimitsHoldTheUserWithAMessageAndKeepWhatWasTyped) {
+    const QString escalation = "The range for the escalation is between 0% and 100%";
+    const struct {
+        const char *control, *typed;
+        QString message;
+        const char* allowed;
+    } cases[] = {
+        {"numRBEMVAge", "100", "The maximum age allowed is 99", "99"},
+        {"numEndowEMVAge", "99999999", "The maximum age allowed is 99", "0"},
+        {"numRBEMVEscFor", "100.001", escalation, "100"},
+        {"numPremInvAmtMonthlyAnnEsc", "-1", escalation, "0"},
+        {"numDeathBen", "-0.01", "An amount must be 0 or more", "0"},
+    };
+    open(2);
+    for (const auto& each : cases) {
+        run.desk.expect(Answer::ok);
+        run.enter(each.control, each.typed);
+        run.click("cmdForward");
+        EXPECT_EQ(run.desk.last().text, each.message);
+        EXPECT_EQ(RunningProgram::focused(), each.control);
+        EXPECT_EQ(run.record().CurPolicy, 1);
+        run.type(each.control, each.allowed);
+    }
+    run.type("numPremInvAmtMonthlyAnnEsc", "7.5"); // the file keeps whole percents: better seen now than after a load
+    EXPECT_EQ(run.shown("numPremInvAmtMonthlyAnnEsc"), "8");
+}
+
+TEST_F(PolInvest, PaidUpLocksThePremiumsAndOtherOpensItsText) {
+    open(2);
+    policy(2).PaidUp = 1;
+    policy(2).DeathBenPerson = 3;
+    const auto expectLocked = [&](bool locked) {
+        for (const char* premium : {"numPremInvAmtMonthly", "numPremInvAmtMonthlyAnnEsc", "chkPremInvAmtMonthlyCPI",
+                                    "numPremInvAmtAnnual", "numPremInvAmtSingle"})
+            EXPECT_EQ(run.control(premium)->isEnabled(), !locked) << premium;
+    };
+    expectLocked(false);
+    EXPECT_FALSE(run.control("txtDeathBenOther")->isEnabled());
+    run.click("cmdForward");
+    expectLocked(true);
+    EXPECT_TRUE(run.control("txtDeathBenOther")->isEnabled());
+    EXPECT_EQ(changed(), 0);
+    run.click("chkPaidUp");
+    expectLocked(false);
+    choose("optDeathBen(1)");
+    EXPECT_FALSE(run.control("txtDeathBenOther")->isEnabled());
+}
+
+TEST_F(PolInvest, CalculateFoldsTheScheduleAndSettlesALoanAgainstACession) {
+    run.record().policies.resize(2);
+    policy(1).DeathBen = 1000;
+    policy(1).DeathBenLoanAgainst = 1;
+    policy(1).DeathBenAmtCeded = 2;
+    policy(1).RBEMV = 500;
+    policy(1).RBEMVAge = 53;
+    policy(1).RBEMVEscFor = 10;
+    policy(2).InvBensMatValLS = 300.75;
+    policy(2).InvBensTakeFinValAtRet = 1;
+    policy(2).InvBensMatValLSAtAge = 55;
+    run.menu("mnuPolInvests");
+    EXPECT_EQ(run.shown("numRBEMVAtRet"), "550.00"); // one year lies between 53 and 55
+    EXPECT_EQ(run.record().death.ANSAss5, 0);        // to look is not to change
+    EXPECT_EQ(changed(), 0);
+    run.type("numRBEMV", "1000");
+    EXPECT_EQ(run.shown("numRBEMVAtRet"), "1 100.00");
+    run.click("cmdForward");
+    EXPECT_EQ(run.shown("numRBEMVAtRet"), "0.00");
+    EXPECT_EQ(run.shown("numInvBensAtRet"), "300.75");
+    run.click("cmdCalculatePolInv"); // the conflict stands on another record
+    run.click("cmdBack");
+    run.desk.expect(Answer::ok);
+    run.click("cmdCalculatePolInv");
+    EXPECT_EQ(run.desk.last().text,
+              "There cannot be a Value for both 'Loan against' and 'Amount ceded'\nin the same policy!");
+    EXPECT_EQ(run.shown("numDeathBenLoanAgainst") + run.shown("numDeathBenAmtCeded"), "0.000.00");
+    EXPECT_EQ(run.record().death.ANSAss5, 1000);
+    EXPECT_EQ(run.record().retirement.ANSLAss4, 1400);
+    changed() = 0;
+    run.click("cmdCalculatePolInv"); // nothing new for the file
+    EXPECT_EQ(changed(), 0);
+}
+
+TEST_F(PolInvest, TheCPIIsStoredForThePracticeWhenConfirmed) {
+    const std::string query = "SELECT CPI FROM CPIDefault";
+    open();
+    struct Turn {
+        const char *typed, *button;
+        double held;
+        const char* stored;
+    };
+    const std::vector<Turn> turns{
+        {"6.5", "cmdCPICancel", 0, ""}, {"6.5", "cmdCPIOK", 6.5, "6.5"}, {"4", "cmdCPIOK", 4, "4"}};
+    for (const Turn& turn : turns) {
+        run.click("cmdCPI");
+        EXPECT_EQ(run.shown("numCPI").toStdString(), base::formatNumber(run.record().CPI, "0.000"));
+        run.enter("numCPI", turn.typed);
+        run.click(turn.button);
+        EXPECT_FALSE(run.control("fraCPI")->isVisible());
+        EXPECT_EQ(run.record().CPI, turn.held);
+        EXPECT_EQ(run.inClients(query), turn.stored);
+    }
+    EXPECT_EQ(changed(), 0); // it is the practice's, not the client's
+    {
+        store::Database clients(run.folder / "Data.Mdb");
+        clients.execute("CREATE TRIGGER full BEFORE UPDATE ON CPIDefault BEGIN SELECT RAISE(ABORT, 'full'); END");
+    }
+    run.desk.expect(Answer::ok);
+    run.click("cmdCPI");
+    run.enter("numCPI", "9");
+    run.click("cmdCPIOK");
+    EXPECT_TRUE(run.desk.last().text.contains("could not store the CPI")) << run.desk.last().text.toStdString();
+    EXPECT_TRUE(run.control("fraCPI")->isVisible()); // with what was typed
+    EXPECT_EQ(run.record().CPI, 4);
+}
+
+TEST_F(PolInvest, PersonalDetailsOpensItAndAFileOfBadFiguresIsShownAndLeft) {
+    run.menu("mnuNewFile");
+    run.record().CurPolicy = 77; // beyond the list
+    policy(1).DeathBenPerson = -5;
+    policy(1).RBEMVAge = 32767;
+    policy(1).DeathBenCashVal = 1e300;
+    run.click("cmdPolInvest");
+    ASSERT_EQ(run.front()->objectName(), "frmPolInvest");
+    EXPECT_EQ(run.front()->windowTitle(), "Policies & Investments. : Num. 1 of 1");
+    for (int person = 0; person < 4; ++person)
+        EXPECT_FALSE(run.control<QRadioButton>(QString("optDeathBen(%1)").arg(person))->isChecked());
+    run.desk.expect(Answer::yes);
+    run.click("cmdDelete"); // no complaint about what is to go
+    EXPECT_EQ(policy(1).RBEMVAge, 0);
+    run.click("cmdOK");
+    EXPECT_FALSE(run.isOpen("frmPolInvest"));
+}
+
+} // namespace
