@@ -104,13 +104,13 @@ Item frmNARA::requirementsPage() {
               form({{"&Monthly income required (present-day value)", row({m_income, itemiseButton(11), spring()})},
                     {"Income required &for", m_cover, "years."},
                     {"Source of monthly income available", row({itemiseButton(0), spring()})},
-                    {"In&flation rate", m_inflation, "% a year"},
+                    {"Inf&lation rate", m_inflation, "% a year"},
                     {"&Investment rate of return", m_rate, "% a year"}}));
     locks(11, {m_income, m_cover});
     auto* review = group("fraReview", "Review",
-                         form({{"Date of &last review ", date("dtNaraLastReview", m_needs.NaraLastReview)},
+                         form({{"Date of last re&view ", date("dtNaraLastReview", m_needs.NaraLastReview)},
                                {"Date of ne&xt review ", date("dtNaraNextReview", m_needs.NaraNextReview)}}));
-    auto* notes = group("fraNotes", "Notes", memo("txtNote", m_needs.RANotes, 2000));
+    auto* notes = form({{"Notes", memo("txtNote", m_needs.RANotes, 2000)}});
     return column({row({Item(person, 1), Item(wanted, 1)}), row({Item(review), Item(notes, 1)}), spring()});
 }
 

@@ -28,7 +28,8 @@ const std::vector<Place> places{
     {"mnuPolInvests", ""},       {"mnuPolInvests", "cmdPrint"},
     {"mnuPolInvests", "cmdCPI"}, {"mnuPrep", ""},
     {"mnuBrowse", ""},           {"mnuSaveAs", ""},
-    {"mnuContents", ""},
+    {"mnuContents", ""},         {"mnuNARA", ""},
+    {"mnuNARA", "cmdPrint"},     {"mnuNARA", "cmdItemise(11)"},
 };
 
 bool isEntry(const QWidget* widget) {
@@ -164,7 +165,9 @@ TEST_P(Keyboard, OnASmallScreenEveryControlCanBeBroughtIntoView) {
 }
 
 std::string placeName(const testing::TestParamInfo<Place>& info) {
-    return std::string(info.param.item) + info.param.panel;
+    std::string name = std::string(info.param.item) + info.param.panel;
+    std::erase_if(name, [](unsigned char letter) { return std::isalnum(letter) == 0; });
+    return name;
 }
 
 INSTANTIATE_TEST_SUITE_P(Screens, Keyboard, testing::ValuesIn(places), placeName);
