@@ -37,6 +37,8 @@ struct Node {
 /// - `{{?Notes}}...{{/Notes}}`: only if the field is filled: text that is not blank, or a number other than 0.
 ///   `{{?CTelHome|STelHome}}`: if one of them is.
 /// - `{{>amortisation}}`: the file amortisation.rpt beside this one; of a whole page its body.
+/// - `<tr heads="2">` in the body of a table: another table begins here, with this row and the next as its heads, which
+///   are repeated on each page.
 /// - `<!-- -->`: a comment.
 struct Definition {
     std::filesystem::path file;

@@ -164,7 +164,15 @@ private:
         std::vector<Block> blocks;
         visit(nodes, scope, [&](const Node& node, const Scope& at) {
             if (node.kind == Node::Kind::text && node.name.trimmed().isEmpty()) return;
-            blocks.push_back(block(node, at));
+            if (node.kind != Node::Kind::element || node.name != "table") {
+                blocks.push_back(block(node, at));
+                return;
+            }
+            for (Table& made : tables(node, at)) {
+                Block& added = blocks.emplace_back();
+                added.kind = Block::Kind::table;
+                added.table = std::move(made);
+            }
         });
         return blocks;
     }
@@ -172,10 +180,7 @@ private:
     Block block(const Node& node, const Scope& scope) const {
         Block made;
         if (node.kind != Node::Kind::element) failAt(node.file, node.line, "Text must stand in a paragraph or a cell.");
-        if (node.name == "table") {
-            made.kind = Block::Kind::table;
-            made.table = table(node, scope);
-        } else if (node.name == "div") {
+        if (node.name == "div") {
             fillColumns(made, node, scope);
         } else {
             made.kind = textKind(node);
@@ -207,31 +212,55 @@ private:
         made.widths = evened(made.widths, made.columns.size());
     }
 
-    Table table(const Node& node, const Scope& scope) const {
-        Table made;
-        std::vector<Align> aligns;
+    /// One table, or several where rows of the body say that another begins.
+    std::vector<Table> tables(const Node& node, const Scope& scope) const {
+        TableMaker maker{*this};
         visit(node.children, scope, [&](const Node& child, const Scope& at) {
             if (child.name == "col") {
-                made.widths.push_back(share(child));
-                aligns.push_back(alignment(child, Align::left));
+                maker.widths.push_back(share(child));
+                maker.aligns.push_back(alignment(child, Align::left));
             } else if (child.name == "thead" || child.name == "tbody") {
-                std::vector<Row>& into = child.name == "thead" ? made.heads : made.rows;
+                const bool isHead = child.name == "thead";
                 visit(child.children, at,
-                      [&](const Node& row, const Scope& inside) { addRow(into, row, inside, aligns); });
+                      [&](const Node& row, const Scope& inside) { maker.add(row, inside, isHead); });
             } else {
-                addRow(made.rows, child, at, aligns);
+                maker.add(child, at, false);
             }
         });
-        std::size_t count = made.widths.size();
-        for (const auto* rows : {&made.heads, &made.rows})
-            for (const Row& row : *rows)
-                count = std::max(count, row.cells.size());
-        made.widths = evened(made.widths, count);
-        return made;
+        return maker.made();
     }
 
+    struct TableMaker {
+        const Filler& filler;
+        std::vector<double> widths{};
+        std::vector<Align> aligns{};
+        std::vector<Table> tables = std::vector<Table>(1);
+        int headsToCome = 0; ///< rows of the body that are heads still
+
+        void add(const Node& row, const Scope& scope, bool isHead) {
+            if (row.kind == Node::Kind::text && row.name.trimmed().isEmpty()) return;
+            if (const int begun = row.attribute("heads").toInt(); begun > 0) {
+                if (!tables.back().heads.empty() || !tables.back().rows.empty()) tables.emplace_back();
+                headsToCome = begun;
+            }
+            const bool asHead = isHead || headsToCome > 0;
+            if (headsToCome > 0) --headsToCome;
+            filler.addRow(asHead ? tables.back().heads : tables.back().rows, row, scope, aligns);
+        }
+
+        std::vector<Table> made() {
+            std::size_t count = widths.size();
+            for (const Table& table : tables)
+                for (const auto* rows : {&table.heads, &table.rows})
+                    for (const Row& row : *rows)
+                        count = std::max(count, row.cells.size());
+            for (Table& table : tables)
+                table.widths = evened(widths, count);
+            return std::move(tables);
+        }
+    };
+
     void addRow(std::vector<Row>& rows, const Node& node, const Scope& scope, const std::vector<Align>& aligns) const {
-        if (node.kind == Node::Kind::text && node.name.trimmed().isEmpty()) return;
         if (node.name != "tr") failAt(node.file, node.line, "A table holds nothing but rows.");
         Row& row = rows.emplace_back();
         row.result = node.attribute("class") == "result";
