@@ -176,6 +176,8 @@ bool ItemisedScreen::leavePanel() {
     return true;
 }
 
+bool ItemisedScreen::handOver() { return m_open == nullptr || !hasChanges() || leavePanel(); }
+
 bool ItemisedScreen::mayClose() { return leavePanel(); }
 
 void ItemisedScreen::clientReplaced() {

@@ -48,6 +48,9 @@ public:
     virtual void clientReplaced() { refill(); }
     /// Checks every field; false after showing the first complaint.
     bool checkFields();
+    /// Before the record is saved or replaced: what the screen holds apart from it goes in or is dropped, as the user
+    /// says. False if he would rather go on.
+    virtual bool handOver() { return true; }
     /// Closes without asking or checking (the client it shows is gone).
     void drop();
     QSize sizeHint() const override;
