@@ -1,0 +1,63 @@
+#include "analyses/itemisereport.h"
+
+#include <algorithm>
+
+#include "analyses/itemise.h"
+#include "base/numberformat.h"
+#include "datastore/printfeed.h"
+
+namespace analyses {
+
+namespace {
+
+using assessment::ItemRow;
+
+/// Where a column is printed: under the name that it is stored by, but for the one point in time.
+const char* printField(const ItemColumn& column) {
+    if (column.figure == nullptr) return "IncomeSource";
+    if (column.figure == &ItemRow::Amount) return "Amount";
+    if (column.figure == &ItemRow::Escalation) return "Escalation";
+    return column.figure == &ItemRow::ToAge ? "ToAge" : "FromAge";
+}
+
+datastore::Row heads(const ItemLine& line) {
+    datastore::Row printed;
+    for (const ItemColumn& column : line.columns())
+        printed.push_back({printField(column), column.head});
+    return printed;
+}
+
+datastore::Row figures(const ItemLine& line, const ItemRow& row) {
+    datastore::Row printed;
+    for (const ItemColumn& column : line.columns())
+        printed.push_back({printField(column), column.figure == nullptr
+                                                   ? row.IncomeSource
+                                                   : base::formatNumber(row.*column.figure, column.mask)});
+    return printed;
+}
+
+bool inUse(const ItemLine& line, assessment::Assessment& record) { return line.list(record).flag != 0; }
+
+} // namespace
+
+bool anyItemised(assessment::Assessment& record, assessment::Analysis analysis) {
+    const auto& lines = itemLines(analysis);
+    return std::any_of(lines.begin(), lines.end(), [&](const ItemLine& line) { return inUse(line, record); });
+}
+
+void feedItemised(const std::filesystem::path& printDbPath, assessment::Assessment& record,
+                  assessment::Analysis analysis) {
+    datastore::PrintFeed feed(printDbPath);
+    feed.replace("ItemisePrintName", {{"Name", record.client.Name}});
+    feed.clear("ItemisePrint");
+    for (const ItemLine& line : itemLines(analysis)) {
+        if (!inUse(line, record)) continue;
+        feed.add("ItemisePrint", {{"NewGrid", line.title}});
+        feed.add("ItemisePrint", heads(line));
+        for (const ItemRow& row : line.list(record).rows)
+            feed.add("ItemisePrint", figures(line, row));
+    }
+    feed.commit();
+}
+
+} // namespace analyses

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <filesystem>
+
+#include "assessment/tables.h"
+
+namespace analyses {
+
+inline constexpr const char* itemisedDefinition = "\\ItPrint.rpt";
+inline constexpr const char* itemisedTitle =
+    "Itemised Details - To export printout click on the suitcase button or goto Marlowbeck Help";
+
+/// True if any list of the analysis is in use. The line that the policies feed has none.
+bool anyItemised(assessment::Assessment& record, assessment::Analysis analysis);
+
+/// Writes the client's name and every list in use into Print.mdb, in the order of the screen: a row with the title, one
+/// with the column heads, then the list's rows, figures as text. The age or year of a timed amount goes into `FromAge`.
+/// The record is only read. Throws store::Error; nothing is written then.
+void feedItemised(const std::filesystem::path& printDbPath, assessment::Assessment& record,
+                  assessment::Analysis analysis);
+
+} // namespace analyses
