@@ -156,7 +156,6 @@ QWidget* EditGrid::openEditor(QWidget* parent, const QModelIndex& cell) {
                              column.characters, parent);
     }
     made->fill();
-    made->setFrame(false);
     made->setAccessibleName(m_cells->spokenName(cell));
     made->edited = [this] { m_touched = true; };
     made->left = [this, made] { editorLeft(made); };
