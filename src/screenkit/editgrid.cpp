@@ -1,121 +1,16 @@
 #include "screenkit/editgrid.h"
 
-#include <QAbstractTableModel>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QStyledItemDelegate>
 #include <algorithm>
-#include <limits>
 #include <utility>
 
-#include "base/numberformat.h"
 #include "base/text.h"
 #include "screenkit/look.h"
 #include "screenkit/textfield.h"
 
 namespace screenkit {
-
-namespace {
-
-EditCell blankCell(const EditColumn& column) { return column.number ? EditCell(0.0) : EditCell(QString()); }
-
-bool isBlank(const EditRow& row) {
-    return std::all_of(row.begin(), row.end(), [](const EditCell& cell) {
-        const auto* number = std::get_if<double>(&cell);
-        return number != nullptr ? *number == 0 : std::get<QString>(cell).isEmpty();
-    });
-}
-
-QString shownText(const EditCell& cell, const EditColumn& column) {
-    const auto* number = std::get_if<double>(&cell);
-    if (number == nullptr) return std::get<QString>(cell);
-    return QString::fromStdString(base::formatNumber(*number, column.number->mask));
-}
-
-} // namespace
-
-/// The rows, never fewer than one.
-class EditGrid::Cells : public QAbstractTableModel {
-public:
-    using QAbstractTableModel::QAbstractTableModel;
-
-    void set(std::vector<EditColumn> columns, std::vector<EditRow> rows) {
-        beginResetModel();
-        m_columns = std::move(columns);
-        m_rows = std::move(rows);
-        if (m_rows.empty()) m_rows.push_back(blankRow());
-        m_lastIsOffered = false;
-        endResetModel();
-    }
-    std::vector<EditRow> rows() const {
-        std::vector<EditRow> held = m_rows;
-        if (m_lastIsOffered && isBlank(held.back())) held.pop_back();
-        return held;
-    }
-    const EditColumn& column(const QModelIndex& cell) const { return m_columns[place(cell.column())]; }
-    const EditCell& at(const QModelIndex& cell) const { return m_rows[place(cell.row())][place(cell.column())]; }
-    void put(const QModelIndex& cell, EditCell content) {
-        m_rows[place(cell.row())][place(cell.column())] = std::move(content);
-        emit dataChanged(cell, cell);
-    }
-    bool endsBlank() const { return isBlank(m_rows.back()); }
-    void append(bool offered) {
-        const auto end = static_cast<int>(m_rows.size());
-        beginInsertRows({}, end, end);
-        m_rows.push_back(blankRow());
-        m_lastIsOffered = offered;
-        endInsertRows();
-    }
-    void erase(int row) {
-        if (row == static_cast<int>(m_rows.size()) - 1) m_lastIsOffered = false;
-        beginRemoveRows({}, row, row);
-        m_rows.erase(m_rows.begin() + row);
-        endRemoveRows();
-        if (m_rows.empty()) append(false);
-    }
-
-    int rowCount(const QModelIndex& parent = {}) const override {
-        return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
-    }
-    int columnCount(const QModelIndex& parent = {}) const override {
-        return parent.isValid() ? 0 : static_cast<int>(m_columns.size());
-    }
-    Qt::ItemFlags flags(const QModelIndex& cell) const override {
-        return QAbstractTableModel::flags(cell) | Qt::ItemIsEditable;
-    }
-    QVariant data(const QModelIndex& cell, int role) const override {
-        if (role == Qt::TextAlignmentRole) return alignment(column(cell));
-        if (role == Qt::DisplayRole) return shownText(at(cell), column(cell));
-        if (role == Qt::AccessibleTextRole) return QString(spokenName(cell) + ": " + shownText(at(cell), column(cell)));
-        return {};
-    }
-    QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
-        if (orientation != Qt::Horizontal) return {};
-        if (role == Qt::TextAlignmentRole) return alignment(m_columns[place(section)]);
-        if (role == Qt::DisplayRole) return m_columns[place(section)].head;
-        return {};
-    }
-    /// What a screen reader calls a cell.
-    QString spokenName(const QModelIndex& cell) const {
-        return tr("%1, row %2").arg(column(cell).head).arg(cell.row() + 1);
-    }
-
-private:
-    static std::size_t place(int number) { return static_cast<std::size_t>(number); }
-    static QVariant alignment(const EditColumn& column) {
-        return QVariant((column.number ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
-    }
-    EditRow blankRow() const {
-        EditRow row;
-        for (const EditColumn& column : m_columns)
-            row.push_back(blankCell(column));
-        return row;
-    }
-
-    std::vector<EditColumn> m_columns;
-    std::vector<EditRow> m_rows;
-    bool m_lastIsOffered = false; ///< the last row came for a next entry; it counts once something is in it
-};
 
 /// Lays the kit's own fields over the cells, and leaves it to the table when an entry is taken: the toolkit's delegate
 /// would take or drop it without a check.
@@ -141,7 +36,7 @@ private:
     EditGrid* m_grid;
 };
 
-EditGrid::EditGrid(const QString& name, QWidget* parent) : QTableView(parent), m_cells(new Cells(this)) {
+EditGrid::EditGrid(const QString& name, QWidget* parent) : QTableView(parent), m_cells(new EditCells(this)) {
     setObjectName(name);
     setModel(m_cells);
     setItemDelegate(new Delegate(this));
@@ -179,7 +74,7 @@ void EditGrid::present(std::vector<EditColumn> columns, std::vector<EditRow> row
 std::vector<EditRow> EditGrid::rows() const { return m_cells->rows(); }
 
 QSize EditGrid::sizeHint() const {
-    constexpr int readableLine = 76; // characters: the text beside four columns of figures
+    constexpr int readableLine = 92; // characters: the text beside four columns of figures
     const int rows = verticalHeader()->defaultSectionSize() * m_visibleRows;
     return {fontMetrics().averageCharWidth() * readableLine,
             rows + horizontalHeader()->sizeHint().height() + 2 * frameWidth()};
@@ -189,18 +84,12 @@ QSize EditGrid::sizeHint() const {
 
 void EditGrid::goTo(int row, int column) { setCurrentIndex(m_cells->index(row, column)); }
 
-bool EditGrid::offerRow() {
-    if (m_cells->endsBlank()) return false;
-    m_cells->append(true);
-    return true;
-}
-
 bool EditGrid::walk(bool forward) {
     const int columns = m_cells->columnCount();
     const QModelIndex here = currentIndex();
     if (columns == 0 || !here.isValid()) return false;
     const int next = here.row() * columns + here.column() + (forward ? 1 : -1);
-    if (next < 0 || (next == m_cells->rowCount() * columns && !offerRow())) return false;
+    if (next < 0 || (next == m_cells->rowCount() * columns && !m_cells->offer())) return false;
     goTo(next / columns, next % columns);
     return true;
 }
@@ -212,7 +101,7 @@ bool EditGrid::focusNextPrevChild(bool next) {
 
 void EditGrid::addRow() {
     if (!leaveCell()) return;
-    offerRow();
+    m_cells->offer();
     goTo(m_cells->rowCount() - 1, 0);
     takeFocus();
 }
@@ -244,7 +133,7 @@ void EditGrid::keyPressEvent(QKeyEvent* event) {
         editAfresh([](EntryLine& cell) { cell.del(); });
     else if (event->matches(QKeySequence::Paste))
         editAfresh([](EntryLine& cell) { cell.paste(); });
-    else if (key == Qt::Key_Down && here.row() == m_cells->rowCount() - 1 && offerRow())
+    else if (key == Qt::Key_Down && here.row() == m_cells->rowCount() - 1 && m_cells->offer())
         goTo(here.row() + 1, here.column());
     else
         QTableView::keyPressEvent(event);
@@ -267,7 +156,6 @@ QWidget* EditGrid::openEditor(QWidget* parent, const QModelIndex& cell) {
                              column.characters, parent);
     }
     made->fill();
-    made->setFrame(false);
     made->setAccessibleName(m_cells->spokenName(cell));
     made->edited = [this] { m_touched = true; };
     made->left = [this, made] { editorLeft(made); };
@@ -297,7 +185,7 @@ bool EditGrid::editorKey(const QKeyEvent& event) {
         if (leaveCell() && row > 0) goTo(row - 1, currentIndex().column());
         return true;
     case Qt::Key_Down:
-        if (leaveCell() && (row + 1 < m_cells->rowCount() || offerRow())) goTo(row + 1, currentIndex().column());
+        if (leaveCell() && (row + 1 < m_cells->rowCount() || m_cells->offer())) goTo(row + 1, currentIndex().column());
         return true;
     default: return false;
     }

@@ -4,24 +4,12 @@
 #include <QTableView>
 #include <functional>
 #include <optional>
-#include <variant>
 #include <vector>
 
+#include "screenkit/editcells.h"
 #include "screenkit/entryline.h"
-#include "screenkit/numberfield.h"
 
 namespace screenkit {
-
-/// A column that the user fills: a text of so many characters, or a number shown and limited by its kind.
-struct EditColumn {
-    QString head;
-    std::optional<NumberKind> number; ///< nothing: a text
-    int characters = 0;               ///< of a text: at most this many
-    QString complaint;                ///< of a text: the box for a longer one
-};
-
-using EditCell = std::variant<QString, double>; ///< text and number in the order of the columns
-using EditRow = std::vector<EditCell>;
 
 /// A table that the user fills in place, by keyboard alone if he likes. It holds its rows itself.
 ///
@@ -70,7 +58,6 @@ protected:
     void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
 
 private:
-    class Cells;
     class Delegate;
 
     QWidget* openEditor(QWidget* parent, const QModelIndex& cell);
@@ -83,10 +70,9 @@ private:
     bool isHeldByMouse();
     bool walk(bool forward);
     void goTo(int row, int column);
-    bool offerRow();
     void editAfresh(const std::function<void(EntryLine&)>& begin);
 
-    Cells* m_cells;
+    EditCells* m_cells;
     int m_visibleRows = 5;
     QPointer<EntryLine> m_editor;
     QPersistentModelIndex m_edited; ///< the cell in edit

@@ -44,7 +44,7 @@ Screen::Screen(Workplace& workplace, const QString& name, const QString& caption
 Screen::~Screen() {
     disconnect(qApp, nullptr, this, nullptr);
     for (Field* field : m_fields)
-        field->left = {}; // the controls outlive this screen's members by a moment, and lose the focus in it
+        field->left = field->edited = {}; // the controls outlive this screen by a moment, and lose the focus in it
 }
 
 void Screen::runPrint(Panel* panel, const std::function<void(Destination)>& print, Destination destination) {

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <QAbstractTableModel>
+#include <optional>
+#include <variant>
+#include <vector>
+
+#include "screenkit/numberfield.h"
+
+namespace screenkit {
+
+/// A column that the user fills: a text of so many characters, or a number shown and limited by its kind.
+struct EditColumn {
+    QString head;
+    std::optional<NumberKind> number; ///< nothing: a text
+    int characters = 0;               ///< of a text: at most this many
+    QString complaint;                ///< of a text: the box for a longer one
+};
+
+using EditCell = std::variant<QString, double>; ///< text and number in the order of the columns
+using EditRow = std::vector<EditCell>;
+
+/// The rows behind an EditGrid, never fewer than one.
+class EditCells : public QAbstractTableModel {
+public:
+    using QAbstractTableModel::QAbstractTableModel;
+
+    void set(std::vector<EditColumn> columns, std::vector<EditRow> rows);
+    /// All rows but a last one that was offered and is blank.
+    std::vector<EditRow> rows() const;
+
+    const EditColumn& column(const QModelIndex& cell) const { return m_columns[place(cell.column())]; }
+    const EditCell& at(const QModelIndex& cell) const { return m_rows[place(cell.row())][place(cell.column())]; }
+    void put(const QModelIndex& cell, EditCell content);
+
+    /// Adds a blank row for a next entry, unless the last one is blank already; false then. It counts once something is
+    /// in it.
+    bool offer();
+    /// Those below move up.
+    void erase(int row);
+
+    /// What a screen reader calls a cell.
+    QString spokenName(const QModelIndex& cell) const;
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    Qt::ItemFlags flags(const QModelIndex& cell) const override;
+    QVariant data(const QModelIndex& cell, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+private:
+    static std::size_t place(int number) { return static_cast<std::size_t>(number); }
+    EditRow blankRow() const;
+    void append();
+
+    std::vector<EditColumn> m_columns;
+    std::vector<EditRow> m_rows;
+    bool m_lastIsOffered = false;
+};
+
+} // namespace screenkit
