@@ -97,7 +97,10 @@ TEST(Itemise, TheIncomeRequiredIsThatOfTheFirstStartFromRetirementOn) {
         {"earlier ones alone", {income(100, 60, 75)}, 0, 15},
         {"no longer than the analysis runs", {income(100, 65, 999)}, 100, 50},
         {"no period backwards", {income(100, 65, 40)}, 100, 0},
-        {"rows without an amount", {income(100, 66, 75), income(0, 65, 99), income(0, 0, 0)}, 100, 9},
+        {"a row without an amount starts, but lasts no time",
+         {income(100, 66, 75), income(0, 65, 99), income(0, 0, 0)},
+         0,
+         9},
         {"in sum nothing: what was typed stays", {income(0, 65, 99)}, 1234, 17},
     };
     for (const auto& c : cases) {

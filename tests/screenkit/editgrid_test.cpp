@@ -17,7 +17,7 @@ public:
         defaultButton(findChild<QPushButton*>("cmdAct"));
     }
     void show(std::vector<EditRow> rows) {
-        const NumberKind kind{"### ##0.##", false, 9, {}, {}, {}, {}};
+        const NumberKind kind{"### ##0.##", false, 9};
         grid->present({{"Item", {}, 5, tooLong},
                        {"Amount", kind.between(0, 100, tooMuch, {}), 0, {}},
                        {"Age", kind.between(0, 100, tooMuch, {}), 0, {}}},

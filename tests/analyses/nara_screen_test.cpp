@@ -1,0 +1,297 @@
+#include <gtest/gtest.h>
+
+#include <QLabel>
+#include <QTabWidget>
+#include <QTableView>
+
+#include "reports/frmGraph.h"
+#include "reports/previewwindow.h"
+#include "reports/report.h"
+#include "shell/running_program.h"
+
+namespace {
+
+using assessment::Policy;
+using screenkit::Answer;
+using shelltest::RunningProgram;
+
+/// The retirement analysis in front, on a client of 45 (the desk's day is in November 2026).
+class NARA : public testing::Test {
+protected:
+    NARA() {
+        run.record().client.Name = "Ms T. Ṱhoho-Nḓou";
+        run.record().client.BirthDate = *base::dayNumber(1981, 3, 15);
+        run.record().policies[0].RBMonAvaible = 1000;
+        run.record().policies[0].RBEMV = 300000.9;
+        run.record().policies[0].RBEMVAge = 65;
+    }
+    void open() { run.menu("mnuNARA"); }
+    void openFilled() {
+        open();
+        run.type("numAgeOfRetirement", "65");
+        run.type("numMonIncPD", "10000");
+        run.type("numCoverReq", "20");
+        run.type("numInflationRate", "5");
+        run.type("numBankInvRate", "8");
+        run.type("numASS(0)", "1500000");
+        run.type("numLIB(4)", "250000");
+    }
+    assessment::NARetirement& needs() { return run.record().retirement; }
+    std::int16_t& changed() { return run.record().changed.NARAChanged; }
+    QLabel* captionOf(const QString& field) {
+        for (auto* label : run.front()->findChildren<QLabel*>())
+            if (label->buddy() == run.control(field)) return label;
+        return nullptr;
+    }
+    /// Fills a list from its first cell on, row after row, and takes it.
+    void itemise(int index, const QStringList& cells) {
+        run.click(QString("cmdItemise(%1)").arg(index));
+        for (const QString& cell : cells) {
+            for (const QChar letter : cell) // the first one opens the cell
+                RunningProgram::keys(QApplication::focusWidget(), QString(letter));
+            run.key(Qt::Key_Tab);
+        }
+        run.click("cmdOKItemise");
+    }
+    std::vector<QStringList> gridRows() {
+        auto* model = run.control<QTableView>("grdPayments")->model();
+        std::vector<QStringList> rows(static_cast<std::size_t>(model->rowCount()));
+        for (int row = 0; row < model->rowCount(); ++row)
+            for (int column = 0; column < model->columnCount(); ++column)
+                rows[static_cast<std::size_t>(row)] << model->index(row, column).data().toString();
+        return rows;
+    }
+    RunningProgram run;
+};
+
+TEST_F(NARA, OpeningShowsTheAnalysisAndMarksNothingChanged) {
+    open();
+    EXPECT_EQ(run.shown("txtName"), "Ms T. Ṱhoho-Nḓou");
+    EXPECT_EQ(run.shown("dtBirthDate"), "15/03/1981");
+    EXPECT_EQ(run.shown("numCurrentAge"), "45");
+    EXPECT_EQ(run.shown("numYearsToRet"), "10"); // 55 after a reset
+    EXPECT_EQ(run.shown("numASS(3)"), "0");      // the annuity pays after that
+    EXPECT_EQ(changed(), 0);
+    run.click("cmdOK");
+    EXPECT_EQ(run.record().ClientChanged, 0);
+}
+
+TEST_F(NARA, WorksThroughToTheSentences) {
+    openFilled();
+    QTest::keyClick(run.front(), Qt::Key_N, Qt::AltModifier);
+    RunningProgram::settle();
+    EXPECT_EQ(run.shown("numIncReqFV"), "26 533"); // 10 000 at 5 % over 20 years
+    EXPECT_EQ(run.shown("numMonIncAvail"), "1 000");
+    EXPECT_EQ(run.shown("numMonShortFall"), "25 533");
+    EXPECT_EQ(captionOf("numMonShortFall")->text(), "Monthly shortfall");
+    EXPECT_EQ(run.shown("numTOTASS"), "1 800 000"); // the annuity's cents are cut off
+    EXPECT_EQ(run.shown("numNETCAP"), "1 550 000");
+    EXPECT_FALSE(run.control("lblShortfall")->isVisible());
+    EXPECT_EQ(run.shown("txtAns1"), "Funds available will provide income for 5 year/s.");
+    EXPECT_EQ(run.shown("txtAns2"), "2 910 000 additional cover required.");
+    EXPECT_EQ(changed(), 1);
+
+    run.type("numLIB(4)", "2000000");
+    run.click("cmdCalculate");
+    EXPECT_EQ(run.shown("numNETCAP"), "200 000");
+    EXPECT_TRUE(run.control("lblShortfall")->isVisibleTo(run.front()->findChild<QTabWidget*>()->widget(3)));
+
+    run.type("numMonIncPD", "100"); // needs less than the pension
+    run.click("cmdCalculate");
+    EXPECT_EQ(captionOf("numMonShortFall")->text(), "Monthly excess");
+    EXPECT_EQ(run.shown("numMonShortFall"), "735");
+}
+
+TEST_F(NARA, AgesFollowEachOther) {
+    open();
+    run.enter("numCurrentAge", "60");
+    EXPECT_EQ(needs().AgeRetiment, 55); // not while it is typed: 60 may become 6 again
+    run.key(Qt::Key_Backspace);
+    run.key(Qt::Key_Tab);
+    EXPECT_EQ(run.shown("numYearsToRet"), "49");
+    run.type("numCurrentAge", "60");
+    EXPECT_EQ(run.shown("numAgeOfRetirement"), "60");
+    EXPECT_EQ(run.shown("numYearsToRet"), "0");
+    run.type("dtBirthDate", "1/1/2000");
+    EXPECT_EQ(run.shown("numCurrentAge"), "26");
+    EXPECT_EQ(run.shown("numYearsToRet"), "34");
+    run.type("numAgeOfRetirement", "90");
+    EXPECT_EQ(run.shown("numYearsToRet"), "50"); // as far as an analysis looks
+}
+
+TEST_F(NARA, EveryLimitHasItsBoxAndKeepsTheFocus) {
+    struct Case {
+        const char *field, *figure, *text, *title, *good;
+    };
+    const char* const ages =
+        "The maximum age allowed is 99 and the minimum age must be equal or greater than the current age";
+    const char* const range = "The range for the Inflation Rate is between -5% and 30%";
+    open();
+    for (const Case& line : {
+             Case{"numAgeOfRetirement", "100", ages, "Incorrect Bank Interest Rate!", "65"},
+             {"numAgeOfRetirement", "44", ages, "Incorrect Bank Interest Rate!", "65"},
+             {"numCoverReq", "51", "The Maximum Period is 50 years", "Incorrect Period!", "20"},
+             {"numInflationRate", "30.01", range, "Incorrect Inflation Rate!", "5"},
+             {"numInflationRate", "-5.01", range, "Incorrect Inflation Rate!", "5"},
+             {"numBankInvRate", "50.1", "The maximum Bank Interest Rate allowed is 50%",
+              "Incorrect Bank Interest Rate!", "5"},
+             {"numBankInvRate", "-1", "The minimum Bank Interest Rate allowed is 0%", "Incorrect Bank Interest Rate!",
+              "5"},
+         }) {
+        run.desk.expect(Answer::ok);
+        run.type(line.field, line.figure);
+        EXPECT_EQ(run.desk.last().text, line.text) << line.figure;
+        EXPECT_EQ(run.desk.last().title, line.title) << line.figure;
+        EXPECT_EQ(run.focused(), line.field);
+        run.type(line.field, line.good);
+    }
+}
+
+TEST_F(NARA, AnItemisedLineIsLockedWithItsSumUntilTheSumIsNothing) {
+    openFilled();
+    itemise(1, {"House", "900000", "Plot", "350000.5"});
+    EXPECT_EQ(run.shown("numASS(0)"), "1 250 000"); // half to even, as shown; the record keeps the cents
+    EXPECT_EQ(needs().ANSLAss1, 1250000.5);
+    EXPECT_TRUE(run.control<QLineEdit>("numASS(0)")->isReadOnly());
+    EXPECT_EQ(run.record().itemised.RNARealEst.flag, 1);
+    EXPECT_EQ(run.shown("numASS(5)"), "1 550 000");
+
+    run.click("cmdItemise(1)"); // no longer worth anything
+    for (int row = 0; row < 2; ++row)
+        run.key(Qt::Key_Delete, Qt::ControlModifier);
+    run.click("cmdOKItemise");
+    EXPECT_EQ(run.record().itemised.RNARealEst.flag, 0);
+    EXPECT_EQ(run.record().itemised.RNARealEst.rows.size(), 1u);
+    EXPECT_EQ(needs().ANSLAss1, 0);
+    EXPECT_FALSE(run.control<QLineEdit>("numASS(0)")->isReadOnly());
+}
+
+TEST_F(NARA, ItemisedNeedsSetIncomeAndPeriodAndFollowTheAge) {
+    openFilled();
+    itemise(11, {"Living", "8000", "6", "65", "85", "Travel", "2000", "0", "65", "70", "Care", "500", "0", "60", "90"});
+    EXPECT_EQ(run.shown("numMonIncPD"), "10 000");
+    EXPECT_EQ(run.shown("numCoverReq"), "30");
+    for (const char* name : {"numMonIncPD", "numCoverReq"})
+        EXPECT_TRUE(run.control<QLineEdit>(name)->isReadOnly()) << name;
+    run.type("numAgeOfRetirement", "62"); // what starts later counts, since nothing starts then
+    EXPECT_EQ(run.shown("numMonIncPD"), "10 000");
+    run.type("numAgeOfRetirement", "60");
+    EXPECT_EQ(run.shown("numMonIncPD"), "500");
+    itemise(0, {"Rent", "700", "5", "60", "70"});
+    EXPECT_EQ(run.shown("numMonIncAvail"), "1 700");
+}
+
+TEST_F(NARA, TableAndGraphShowTheYearsFromRetirement) {
+    openFilled();
+    run.click("cmdAmort");
+    const auto rows = gridRows();
+    ASSERT_EQ(rows.size(), 6u); // five years covered and the one after
+    EXPECT_EQ(rows[0], QStringList({"65", "1 550 000", "124 000", "12 000", "318 396"}));
+    EXPECT_EQ(rows[5][0], "70");
+    run.click("cmdGridClose");
+    run.click("cmdNARAGraph");
+    const auto& graph = qobject_cast<reports::frmGraph*>(run.screen("frmGraph"))->graph();
+    EXPECT_EQ(graph.title, "Illustration of Life of Capital for Retirement");
+    ASSERT_EQ(graph.series.size(), 4u);
+    EXPECT_EQ(graph.series[0].values.size(), 5u);
+    EXPECT_EQ(graph.series[2].values[0], 318396); // required before available in the legend
+    EXPECT_EQ(graph.series[3].values[0], 12000);
+}
+
+TEST_F(NARA, PrintsTheReportsThatAreTickedAndLeavesNothingOver) {
+    openFilled();
+    run.type("txtNote", "Sells the practice");
+    itemise(1, {"House", "900000"});
+    run.click("cmdPrint");
+    for (const char* choice : {"Check1", "Check3", "Check4", "chkPolInvestSchudule"})
+        run.click(choice);
+    run.click("cmdVR");
+    QStringList titles;
+    for (const auto* preview : run.program.reports().previews())
+        titles << preview->windowTitle();
+    EXPECT_EQ(titles, QStringList({"Needs Analysis for Retirement Including Amortisation",
+                                   "Itemised Details - To export printout click on the suitcase button or goto "
+                                   "Marlowbeck Help",
+                                   "Policies & Investments Schedule"}));
+    EXPECT_EQ(
+        run.inPrint("SELECT Name, BirthDate, IncomeFV, IncomeRA, IncomeShortText, IncomeShort, TotAss, ShoRTFall, "
+                    "BottLine1, NotesHeading, NotesColon, Notes, PremHeading, PremAns, Limitedto50 FROM NARA"),
+        "Ms T. Ṱhoho-Nḓou|15/03/1981|26533|1000|Initial Future-value Monthly Shortfall (at retirement "
+        "date)|25533|1200000|Net worth for investment : 950 000|Funds available will provide income for 3 "
+        "year/s.|Notes|:|Sells the practice||0|");
+    EXPECT_EQ(run.inPrint("SELECT Year, Capital, Interest, Required, Available FROM Amort LIMIT 1"),
+              "65|950000|76000|318396|12000");
+    EXPECT_EQ(run.inPrint("SELECT IncomeSource, Amount FROM ItemisePrint WHERE Amount LIKE "
+                          "'9%'"),
+              "House|900 000");
+
+    run.type("numLIB(4)", "5000000");
+    run.click("cmdPrint"); // without notes and the rest
+    for (const char* choice : {"Check1", "Check3", "Check4", "chkPolInvestSchudule"})
+        run.click(choice);
+    run.click("cmdVR");
+    EXPECT_EQ(run.program.reports().previews().size(), 4u);
+    EXPECT_EQ(run.inPrint("SELECT ShoRTFall, NotesHeading, NotesColon, Notes FROM NARA"),
+              "Capital Shortfall : 3 800 000|||");
+}
+
+TEST_F(NARA, AListInThePanelIsAskedAboutBeforeTheClientIsSaved) {
+    openFilled();
+    run.click("cmdItemise(1)");
+    RunningProgram::keys(QApplication::focusWidget(), "H");
+    run.key(Qt::Key_Tab);
+    RunningProgram::keys(QApplication::focusWidget(), "7");
+    run.desk.expect(Answer::cancel);
+    run.menu("mnuSave");
+    EXPECT_EQ(run.inClients("SELECT COUNT(*) FROM Data"), "0");
+    run.desk.expect(Answer::yes);
+    run.menu("mnuSave");
+    EXPECT_EQ(run.inClients("SELECT IncomeSource, Amount FROM RNARealEst"), "H|7");
+    EXPECT_EQ(run.inClients("SELECT AnsLAss1, RNARealEstItemise FROM Data"), "7|1");
+}
+
+// What other programs, faults and hand-made files may leave in a client's rows.
+TEST_F(NARA, ADamagedClientOpensCalculatesAndSavesUnharmed) {
+    run.saveClient("Botha");
+    {
+        store::Database file(run.folder / "Data.Mdb");
+        file.execute("UPDATE Data SET CoverYears = 80, BankInvestRate = -100, InflationRA = 'text', IncomePD = 1000, "
+                     "AnsLAss1 = 5e6, RNAFutMonIncItemise = 1, RNAMonIncReqItemise = 1, YearsToRet = 1e300, "
+                     "CurrAge = -1e300");
+        for (const char* table : {"RNAFutureMonInc", "RNAMonIncReq"})
+            file.execute("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 5000) INSERT INTO " +
+                         std::string(table) +
+                         " (DCLNO, MaxNum, IncomeSource, Amount, Escalation, FromAge, ToAge) "
+                         "SELECT 1, 5000, 'Row ' || i, i, 5, 50 + i % 40, 90 FROM n");
+        file.execute("DELETE FROM PolsInvests");
+        file.execute("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 5000) INSERT INTO "
+                     "PolsInvests (dclno, MaxNum, RBMonAvaible, RBMonAvaibleEscFor, InvBensMatValLS, "
+                     "InvBensTakeFinValAtRet, InvBensMatValLSAtAge, InvBensMatValLSEscAt) "
+                     "SELECT 1, 5000, i, -100, i, 1, 32000, 10 FROM n");
+    }
+    run.menu("mnuBrowse");
+    run.enter("txtSearch", "Botha");
+    run.key(Qt::Key_Return);
+    ASSERT_EQ(run.record().policies.size(), 5000u);
+    const std::string before = run.inClients("SELECT SUM(RBMonAvaible), COUNT(*) FROM PolsInvests");
+    open();
+    EXPECT_FALSE(run.shown("txtAns1").isEmpty());
+    struct Fault {
+        const char *text, *field, *good;
+    };
+    for (const Fault& fault : {Fault{"The minimum age is 0", "numCurrentAge", "45"},
+                               {"The minimum Bank Interest Rate allowed is 0%", "numBankInvRate", "5"}}) {
+        run.desk.expect(Answer::ok);
+        run.click("cmdCalculate");
+        EXPECT_EQ(run.desk.last().text, fault.text);
+        EXPECT_EQ(run.focused(), fault.field);
+        run.enter(fault.field, fault.good);
+    }
+    run.click("cmdCalculate");
+    run.menu("mnuSave");
+    EXPECT_EQ(run.inClients("SELECT SUM(RBMonAvaible), COUNT(*) FROM PolsInvests"), before);
+    EXPECT_EQ(run.inClients("SELECT COUNT(*), SUM(Amount) FROM RNAMonIncReq"), "5000|12502500");
+    EXPECT_EQ(run.inClients("SELECT COUNT(*), MAX(MaxNum) FROM RNAFutureMonInc"), "5000|5000");
+}
+
+} // namespace
