@@ -32,10 +32,6 @@ constexpr int longestNumber = 24; // more digits than a double can tell apart
 
 } // namespace
 
-const NumberKind money{"# ### ### ##0.00", false, 16, {}, {}, {}, {}};
-const NumberKind whole{"# ### ### ##0", true, 8, {}, {}, {}, {}};
-const NumberKind percent{"0.000", false, 8, {}, {}, {}, {}};
-
 NumberKind NumberKind::upTo(double maximum, const QString& boxText, const QString& boxTitle) const {
     NumberKind kind = *this;
     kind.most = maximum;
@@ -64,7 +60,10 @@ NumberField::NumberField(const QString& name, Bound<double> place, NumberKind ki
     connect(this, &QLineEdit::textEdited, this, &NumberField::typed);
 }
 
-void NumberField::fill() { present(m_place.get()); }
+void NumberField::fill() {
+    present(m_place.get());
+    m_onEntry = m_value;
+}
 
 void NumberField::present(double value) {
     m_value = value;
@@ -91,6 +90,14 @@ void NumberField::enter(double value) {
     if (edited) edited();
 }
 
+void NumberField::giveBack() {
+    if (m_value != m_onEntry)
+        enter(m_onEntry);
+    else
+        show(m_value);
+    takeFocus();
+}
+
 std::optional<Complaint> NumberField::complaint() {
     const bool tooMuch = m_kind.most && m_value > *m_kind.most;
     const bool tooLittle = m_kind.least && m_value < *m_kind.least;
@@ -101,7 +108,7 @@ std::optional<Complaint> NumberField::complaint() {
 QSize NumberField::sizeHint() const { return look::fieldSize(this, m_kind.characters); }
 
 void NumberField::tidy() {
-    if (isModified()) fill();
+    if (isModified()) present(m_place.get());
 }
 
 } // namespace screenkit

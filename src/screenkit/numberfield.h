@@ -21,9 +21,13 @@ struct NumberKind {
     NumberKind shownAs(const std::string& otherMask) const;
 };
 
-extern const NumberKind money;   ///< rand, shown with cents and grouped by blanks
-extern const NumberKind whole;   ///< a count: months, years, an age
-extern const NumberKind percent; ///< percent a year to three places
+// Inline, so that they are there before the kinds that a screen's file makes of them.
+/// Rand, shown with cents and grouped by blanks.
+inline const NumberKind money{"# ### ### ##0.00", false, 16, {}, {}, {}, {}};
+/// A count: months, years, an age.
+inline const NumberKind whole{"# ### ### ##0", true, 8, {}, {}, {}, {}};
+/// Percent a year to three places.
+inline const NumberKind percent{"0.000", false, 8, {}, {}, {}, {}};
 
 /// A number entry. The full double stays behind the display: what the user does not retype keeps every bit.
 ///
@@ -38,6 +42,9 @@ public:
     /// As if the user had typed it: spin buttons use it.
     void enter(double value);
 
+    /// Undoes what was entered since the user came into the field, and selects it.
+    void giveBack();
+
     /// Shows a figure without writing it to the record.
     void present(double value);
 
@@ -46,6 +53,7 @@ public:
     QSize sizeHint() const override;
 
 protected:
+    void entered() override { m_onEntry = m_value; }
     void tidy() override;
 
 private:
@@ -55,6 +63,7 @@ private:
     Bound<double> m_place;
     NumberKind m_kind;
     double m_value = 0;
+    double m_onEntry = 0; ///< what the user found when coming in
 };
 
 } // namespace screenkit

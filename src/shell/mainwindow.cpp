@@ -295,6 +295,8 @@ void MDIForm1::mnuSave_Click() {
 }
 
 bool MDIForm1::Save() {
+    for (Screen* open : screens())
+        open->beforeSave();
     auto saved = datastore::Saved::nothing;
     const bool done = screenkit::guarded(m_work.desk, tr("save the client"),
                                          [&] { saved = datastore::Save(m_work.record, m_work.paths.DataDbPath); });
