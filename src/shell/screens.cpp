@@ -10,6 +10,8 @@
 #include "reports/frmGraph.h"
 #include "reports/frmHeadFoot.h"
 #include "shell/frmBrowser.h"
+#include "tax/frmKwikTax.h"
+#include "tax/frmMonthly.h"
 
 namespace shell {
 
@@ -24,7 +26,8 @@ constexpr ScreenEntry entries[] = {
     {"frmBrowse", build<datastore::frmBrowse>},   {"frmSaveFileAs", build<datastore::frmSaveFileAs>},
     {"frmPersDet", build<analyses::frmPersDet>},  {"frmLoans", build<calculators::frmLoans>},
     {"frmHeadFoot", build<reports::frmHeadFoot>}, {"frmGraph", build<reports::frmGraph>},
-    {"frmBrowser", build<shell::frmBrowser>},
+    {"frmBrowser", build<shell::frmBrowser>},     {"frmKwikTax", build<tax::frmKwikTax>},
+    {"frmMonthly", build<tax::frmMonthly>},
 };
 
 constexpr const char* closedWithTheClient[] = {

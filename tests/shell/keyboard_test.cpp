@@ -23,8 +23,20 @@ struct Place {
 void PrintTo(const Place& place, std::ostream* out) { *out << place.item << ' ' << place.panel; }
 
 const std::vector<Place> places{
-    {"mnuPersDet", ""}, {"mnuPersDet", "cmdPrint"}, {"mnuLoansCalc", ""}, {"mnuLoansCalc", "cmdPrint"},
-    {"mnuPrep", ""},    {"mnuBrowse", ""},          {"mnuSaveAs", ""},    {"mnuContents", ""},
+    {"mnuPersDet", ""},
+    {"mnuPersDet", "cmdPrint"},
+    {"mnuLoansCalc", ""},
+    {"mnuLoansCalc", "cmdPrint"},
+    {"mnuPrep", ""},
+    {"mnuBrowse", ""},
+    {"mnuSaveAs", ""},
+    {"mnuContents", ""},
+    {"mnuQuickTax", ""},
+    {"mnuQuickTax", "cmdPrint"},
+    {"mnuPAYE", ""},
+    {"mnuPAYE", "cmdPrint"},
+    {"mnuPAYE", "cmdSettings"},
+    {"mnuPAYE", "cmdInfo"},
 };
 
 bool isEntry(const QWidget* widget) {
@@ -160,7 +172,7 @@ TEST_P(Keyboard, OnASmallScreenEveryControlCanBeBroughtIntoView) {
 }
 
 std::string placeName(const testing::TestParamInfo<Place>& info) {
-    return std::string(info.param.item) + (*info.param.panel != 0 ? "Panel" : "");
+    return std::string(info.param.item) + info.param.panel;
 }
 
 INSTANTIATE_TEST_SUITE_P(Screens, Keyboard, testing::ValuesIn(places), placeName);
