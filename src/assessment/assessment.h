@@ -137,7 +137,8 @@ struct Inflation {
 struct KwikTax {
     double Salary = 0; ///< income a year; the input of every tax scale
     double Age = 0;
-    double YR9798 = 1; ///< the tax year's option
+    double YR9798 = 1;       ///< the tax year's option: 0 is February 2026, anything else February 2027
+    double LastScaleTax = 0; ///< what the scale used last gave, rand a year; never stored
 };
 
 struct InvestComparison {

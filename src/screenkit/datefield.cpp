@@ -63,10 +63,14 @@ bool DateField::step(int days) {
 double DateField::today() const { return static_cast<double>(dayZero.daysTo(m_desk.today())); }
 
 std::optional<Complaint> DateField::complaint() {
-    if (text().trimmed().isEmpty() || readDate(text())) return {};
+    if (readDate(text())) return {};
+    if (text().trimmed().isEmpty()) {
+        if (m_requiredTitle.isEmpty()) return {};
+        return Complaint{tr("A date is needed here\nPlease enter it in the dd/mm/yyyy format."), m_requiredTitle};
+    }
     clear();
     typed({});
-    return Complaint{tr("The date entered is in the wrong format\nPlease use the dd/mm/yyyy format."), {}};
+    return Complaint{tr("The date entered is in the wrong format\nPlease use the dd/mm/yyyy format."), m_requiredTitle};
 }
 
 QSize DateField::sizeHint() const { return look::fieldSize(this, 14); }

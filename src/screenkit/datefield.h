@@ -16,6 +16,9 @@ class DateField : public EntryLine {
 public:
     DateField(const QString& name, Bound<double> place, Desk& desk, QWidget* parent = nullptr);
 
+    /// An empty date is a bad entry too, and every complaint goes under this title.
+    void require(const QString& boxTitle) { m_requiredTitle = boxTitle; }
+
     void fill() override;
     std::optional<Complaint> complaint() override;
     QSize sizeHint() const override;
@@ -34,6 +37,7 @@ private:
 
     Bound<double> m_place;
     Desk& m_desk;
+    QString m_requiredTitle; ///< empty: the date may be left out
 };
 
 } // namespace screenkit

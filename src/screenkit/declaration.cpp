@@ -4,6 +4,7 @@
 #include <QScrollArea>
 #include <QShortcut>
 #include <QTabWidget>
+#include <QTextBrowser>
 #include <QVBoxLayout>
 #include <memory>
 
@@ -12,6 +13,17 @@
 
 // What a screen is declared with; its life is in screen.cpp.
 namespace screenkit {
+
+namespace {
+
+/// A text of a size that the eye keeps hold of; what is more is scrolled to, and a small window makes it smaller.
+class TextPage : public QTextBrowser {
+public:
+    QSize sizeHint() const override { return {fontMetrics().averageCharWidth() * 80, look::lineHeight(this) * 20}; }
+    QSize minimumSizeHint() const override { return sizeHint() / 4; }
+};
+
+} // namespace
 
 template <class F>
 F* Screen::keep(F* field) {
@@ -196,7 +208,20 @@ Panel* Screen::panel(const QString& name, const QString& title, Item content,
     return made;
 }
 
-Panel* Screen::printPanel(std::initializer_list<Item> choices, std::function<void(Destination)> print) {
+std::function<void()> Screen::infoPanel(const QString& name, const QString& title, const QString& text,
+                                        const QString& okName) {
+    auto* page = new TextPage;
+    page->setObjectName(name + "Text");
+    page->setAccessibleName(title);
+    page->setPlainText(text);
+    page->setTabChangesFocus(true);
+    auto made = std::make_shared<Panel*>(nullptr);
+    *made = panel(name, title, page, {cancelButton(okName, "&OK", [made] { (*made)->close(); })});
+    return [made, page] { (*made)->open(page); };
+}
+
+Panel* Screen::printPanel(std::initializer_list<Item> choices, std::function<void(Destination)> print,
+                          const PrintButtons& names) {
     auto* processing = new QLabel(" PROCESSING !");
     processing->setObjectName("lblProcessing");
     processing->setAlignment(Qt::AlignCenter);
@@ -205,9 +230,9 @@ Panel* Screen::printPanel(std::initializer_list<Item> choices, std::function<voi
     static_cast<QVBoxLayout*>(content)->addWidget(processing);
     auto made = std::make_shared<Panel*>(nullptr);
     const auto run = [this, made, print](Destination to) { runPrint(*made, print, to); };
-    auto* view = button("cmdVR", "&View/Export report", [run] { run(Destination::preview); });
-    auto* direct = button("cmdPD", "P&rint directly to printer", [run] { run(Destination::printer); });
-    auto* cancel = cancelButton("cmdPrintCancel", "C&ancel", [made] { (*made)->close(); });
+    auto* view = button(names.view, "&View/Export report", [run] { run(Destination::preview); });
+    auto* direct = button(names.direct, "P&rint directly to printer", [run] { run(Destination::printer); });
+    auto* cancel = cancelButton(names.cancel, names.cancelCaption, [made] { (*made)->close(); });
     *made = panel("fraPrint", tr("Print"), content, {view, direct, cancel});
     return *made;
 }

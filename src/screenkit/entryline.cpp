@@ -33,6 +33,7 @@ void EntryLine::takeFocus() {
 void EntryLine::focusInEvent(QFocusEvent* event) {
     QLineEdit::focusInEvent(event);
     if (isLent(event)) return;
+    entered();
     if (event->reason() == Qt::MouseFocusReason)
         m_selectOnRelease = m_onClick == OnClick::selectsAll; // the press still sets the cursor
     else

@@ -22,6 +22,8 @@ protected:
     enum class OnClick { setsCursor, selectsAll };
     EntryLine(const QString& name, OnClick onClick, QWidget* parent);
 
+    /// The user has come in.
+    virtual void entered() {}
     /// The user has left: show the content in its usual form.
     virtual void tidy() {}
 

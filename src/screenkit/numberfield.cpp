@@ -69,7 +69,10 @@ NumberField::NumberField(const QString& name, Bound<double> place, NumberKind ki
     connect(this, &QLineEdit::textEdited, this, &NumberField::typed);
 }
 
-void NumberField::fill() { present(m_place.get()); }
+void NumberField::fill() {
+    present(m_place.get());
+    m_onEntry = m_value;
+}
 
 void NumberField::present(double value) {
     m_value = value;
@@ -96,6 +99,14 @@ void NumberField::enter(double value) {
     if (edited) edited();
 }
 
+void NumberField::giveBack() {
+    if (m_value != m_onEntry)
+        enter(m_onEntry);
+    else
+        show(m_value);
+    takeFocus();
+}
+
 std::optional<Complaint> NumberField::complaint() {
     if (isReadOnly()) return {};
     for (const Limit& limit : m_kind.limits)
@@ -106,7 +117,7 @@ std::optional<Complaint> NumberField::complaint() {
 QSize NumberField::sizeHint() const { return look::fieldSize(this, m_kind.characters); }
 
 void NumberField::tidy() {
-    if (isModified()) fill();
+    if (isModified()) present(m_place.get());
 }
 
 } // namespace screenkit

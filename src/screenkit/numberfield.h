@@ -48,6 +48,9 @@ public:
     /// As if the user had typed it: spin buttons use it.
     void enter(double value);
 
+    /// Undoes what was entered since the user came into the field, and selects it.
+    void giveBack();
+
     /// Shows a figure without writing it to the record.
     void present(double value);
 
@@ -56,6 +59,7 @@ public:
     QSize sizeHint() const override;
 
 protected:
+    void entered() override { m_onEntry = m_value; }
     void tidy() override;
 
 private:
@@ -65,6 +69,7 @@ private:
     Bound<double> m_place;
     NumberKind m_kind;
     double m_value = 0;
+    double m_onEntry = 0; ///< what the user found when coming in
 };
 
 } // namespace screenkit

@@ -163,7 +163,14 @@ void Screen::bringToView(QWidget* widget) {
     m_area->ensureVisible(middle.x(), middle.y(), place.width() / 2 + gap, place.height() / 2 + gap);
 }
 
+void Screen::enterPresses(QPushButton* button) {
+    defaultButton(button);
+    m_enterWalks = false;
+}
+
 void Screen::followFocus(QWidget* focused) {
+    for (NumberField* field : m_givingBack)
+        if (field == focused) m_enteredLast = field;
     // A click has found its field already: moving it away under the mouse would select text.
     if (focused != nullptr && QGuiApplication::mouseButtons() == Qt::NoButton) bringToView(focused);
 }
@@ -172,7 +179,7 @@ void Screen::enterPressed() {
     auto* focused = QApplication::focusWidget();
     if (auto* push = qobject_cast<QPushButton*>(focused); push != nullptr)
         push->click();
-    else if (QWidget* next = nextEntry(focused); next != nullptr)
+    else if (QWidget* next = m_enterWalks ? nextEntry(focused) : nullptr; next != nullptr)
         next->setFocus(Qt::TabFocusReason);
     else if (m_default != nullptr)
         m_default->click();
@@ -196,6 +203,8 @@ QWidget* Screen::nextEntry(const QWidget* from) const {
 void Screen::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         enterPressed();
+    else if (event->key() == Qt::Key_Escape && m_enteredLast != nullptr)
+        m_enteredLast->giveBack();
     else
         QWidget::keyPressEvent(event);
 }

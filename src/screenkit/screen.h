@@ -27,6 +27,12 @@ class QTabWidget;
 
 namespace screenkit {
 
+/// The buttons of a print panel, where a screen has names of its own for them.
+struct PrintButtons {
+    QString view = "cmdVR", direct = "cmdPD", cancel = "cmdPrintCancel";
+    QString cancelCaption = "C&ancel";
+};
+
 /// A child screen: a live view of the record, made of declarations.
 ///
 /// It fills itself when it comes to the front and keeps its changed flag over that. Each edit is in the record at once.
@@ -49,7 +55,7 @@ public:
     /// Checks every field; false after showing the first complaint.
     bool checkFields();
     /// Before the record is saved or replaced: what the screen holds apart from it goes in or is dropped, as the user
-    /// says. False if he would rather go on.
+    /// says, and what it has only lent itself of it is put back. False if he would rather go on.
     virtual bool handOver() { return true; }
     /// Closes without asking or checking (the client it shows is gone).
     void drop();
@@ -95,12 +101,21 @@ protected:
     QTabWidget* tabs(const QString& name, const std::vector<std::pair<QString, Item>>& pages);
     void body(QLayout* content);
     void defaultButton(QPushButton* button) { m_default = button; }
+    /// Enter presses this button from every field, rather than to walk on to the next one.
+    void enterPresses(QPushButton* button);
+    /// Escape gives the one of these fields that was entered last the value back that it held then.
+    void escapeGivesBack(std::initializer_list<NumberField*> fields) { m_givingBack = fields; }
 
     /// A panel over the screen; `buttons` stand at its foot, the last being the one that Escape presses.
     Panel* panel(const QString& name, const QString& title, Item content, std::initializer_list<QPushButton*> buttons);
     /// `fraPrint`: choices of the screen's own, view, print and cancel. `print` runs under the busy cursor with
     /// " PROCESSING !" shown; the panel is hidden afterwards, whatever came of it.
-    Panel* printPanel(std::initializer_list<Item> choices, std::function<void(Destination)> print);
+    Panel* printPanel(std::initializer_list<Item> choices, std::function<void(Destination)> print,
+                      const PrintButtons& names = {});
+    /// A panel that explains something at length: a text to scroll through, and the button that puts it away. Opens
+    /// with the focus on the text.
+    std::function<void()> infoPanel(const QString& name, const QString& title, const QString& text,
+                                    const QString& okName);
     /// `fraGrid`: a table of figures, `grdPayments`, with its OK; closing it clears it and puts the focus on
     /// focusAfter.
     void showGrid(const QString& title, std::vector<GridColumn> columns, std::vector<std::vector<double>> rows,
@@ -156,6 +171,9 @@ private:
     QTimer m_leaving;
     QScrollArea* m_area = nullptr;
     QPushButton* m_default = nullptr;
+    std::vector<NumberField*> m_givingBack;
+    NumberField* m_enteredLast = nullptr; ///< one of them
+    bool m_enterWalks = true;
     bool m_dropped = false;
     bool m_complaining = false;
     bool m_filling = false;

@@ -12,6 +12,8 @@
 #include "reports/frmGraph.h"
 #include "reports/frmHeadFoot.h"
 #include "shell/frmBrowser.h"
+#include "tax/frmKwikTax.h"
+#include "tax/frmMonthly.h"
 
 namespace shell {
 
@@ -23,15 +25,12 @@ screenkit::Screen* build(screenkit::Workplace& workplace) {
 }
 
 constexpr ScreenEntry entries[] = {
-    {"frmNARA", build<analyses::frmNARA>},
-    {"frmBrowse", build<datastore::frmBrowse>},
-    {"frmSaveFileAs", build<datastore::frmSaveFileAs>},
-    {"frmPersDet", build<analyses::frmPersDet>},
-    {"frmPolInvest", build<analyses::frmPolInvest>},
-    {"frmLoans", build<calculators::frmLoans>},
-    {"frmHeadFoot", build<reports::frmHeadFoot>},
-    {"frmGraph", build<reports::frmGraph>},
-    {"frmBrowser", build<shell::frmBrowser>},
+    {"frmBrowse", build<datastore::frmBrowse>},   {"frmSaveFileAs", build<datastore::frmSaveFileAs>},
+    {"frmPersDet", build<analyses::frmPersDet>},  {"frmPolInvest", build<analyses::frmPolInvest>},
+    {"frmNARA", build<analyses::frmNARA>},        {"frmLoans", build<calculators::frmLoans>},
+    {"frmHeadFoot", build<reports::frmHeadFoot>}, {"frmGraph", build<reports::frmGraph>},
+    {"frmBrowser", build<shell::frmBrowser>},     {"frmKwikTax", build<tax::frmKwikTax>},
+    {"frmMonthly", build<tax::frmMonthly>},
 };
 
 constexpr const char* closedWithTheClient[] = {

@@ -23,13 +23,26 @@ struct Place {
 void PrintTo(const Place& place, std::ostream* out) { *out << place.item << ' ' << place.panel; }
 
 const std::vector<Place> places{
-    {"mnuPersDet", ""},          {"mnuPersDet", "cmdPrint"},
-    {"mnuLoansCalc", ""},        {"mnuLoansCalc", "cmdPrint"},
-    {"mnuPolInvests", ""},       {"mnuPolInvests", "cmdPrint"},
-    {"mnuPolInvests", "cmdCPI"}, {"mnuPrep", ""},
-    {"mnuBrowse", ""},           {"mnuSaveAs", ""},
-    {"mnuContents", ""},         {"mnuNARA", ""},
-    {"mnuNARA", "cmdPrint"},     {"mnuNARA", "cmdItemise(11)"},
+    {"mnuPersDet", ""},
+    {"mnuPersDet", "cmdPrint"},
+    {"mnuLoansCalc", ""},
+    {"mnuLoansCalc", "cmdPrint"},
+    {"mnuPolInvests", ""},
+    {"mnuPolInvests", "cmdPrint"},
+    {"mnuPolInvests", "cmdCPI"},
+    {"mnuPrep", ""},
+    {"mnuBrowse", ""},
+    {"mnuSaveAs", ""},
+    {"mnuContents", ""},
+    {"mnuNARA", ""},
+    {"mnuNARA", "cmdPrint"},
+    {"mnuNARA", "cmdItemise(11)"},
+    {"mnuQuickTax", ""},
+    {"mnuQuickTax", "cmdPrint"},
+    {"mnuPAYE", ""},
+    {"mnuPAYE", "cmdPrint"},
+    {"mnuPAYE", "cmdSettings"},
+    {"mnuPAYE", "cmdInfo"},
 };
 
 bool isEntry(const QWidget* widget) {

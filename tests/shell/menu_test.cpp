@@ -21,6 +21,7 @@ const std::set<std::string> working{
     "mnuCascade",    "mnuIcon",       "mnuVideoLectures",
     "mnuContents",   "mnuAbout",      "mnuLoansCalcTB",
     "mnuPolInvests", "mnuNARA",       "mnuSubNeedsAnalyses(2)",
+    "mnuQuickTax",   "mnuPAYE",
 };
 
 QToolBar* toolbar(RunningProgram& run) { return run.window().findChild<QToolBar*>("Toolbar2"); }
@@ -55,9 +56,9 @@ TEST(Toolbar, EachButtonHasAPictureATipAndANameForTheBlind) {
         EXPECT_EQ(toolbar(run)->widgetForAction(action)->accessibleName(), action->toolTip());
     }
     EXPECT_EQ(toolbar(run)->actions().size(), 27);
-    EXPECT_EQ(enabled,
-              QStringList({"New", "Browse", "Save", "Personal Details", "Needs Analyses",
-                           "Needs Analysis for Retirement", "Policies and Investments", "Loans", "Video Lectures"}));
+    EXPECT_EQ(enabled, QStringList({"New", "Browse", "Save", "Personal Details", "Needs Analyses",
+                                    "Needs Analysis for Retirement", "Policies and Investments", "Loans", "PAYE",
+                                    "QuickTax", "Video Lectures"}));
 }
 
 TEST(Menu, AScreenOpenedTwiceIsOneScreenInFront) {

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "screenkit/screen.h"
+#include "tax/kwiktax.h"
+
+namespace tax {
+
+/// How one taxable income is taxed in either year, worked out again at each change of the year, and its report.
+class frmKwikTax : public screenkit::Screen {
+    Q_OBJECT
+public:
+    explicit frmKwikTax(screenkit::Workplace& workplace);
+
+protected:
+    void filled() override { calculate(); }
+
+private:
+    screenkit::NumberField* answer(int index, double& figure, const screenkit::NumberKind& kind);
+    void buildBody();
+    void calculate();
+    void openPrint();
+
+    assessment::KwikTax& m_client;
+    QuickTax m_result;
+    std::vector<screenkit::NumberField*> m_answers;
+    screenkit::Panel* m_printPanel = nullptr;
+};
+
+} // namespace tax

@@ -1,0 +1,221 @@
+#include "tax/frmMonthly.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "base/rounding.h"
+#include "datastore/paths.h"
+#include "reports/report.h"
+#include "tax/taxreports.h"
+
+namespace tax {
+
+using namespace screenkit;
+
+namespace {
+
+constexpr const char* title = "Monthly - To export printout click on the suitcase button or goto Help";
+constexpr const char* wrongDate = "Incorrect Date";
+constexpr double inclusionRates[] = {0.8, 0.2};
+
+const NumberKind wholeMoney = money.shownAs("# ### ### ##0");
+const NumberKind years = whole.between(0, 150, "Please enter an age from 0 to 150 years.", "Incorrect Age");
+const NumberKind persons = whole.between(0, 99, "Please enter 0 to 99 beneficiaries.", "Incorrect Beneficiaries");
+const PrintButtons printButtons{"cmdVR", "cmdPD", "cmdCancel", "&Cancel"};
+
+const QString information =
+    "The amount entered in the Salary/remuneration field should contain all taxable salary and fringe benefit amounts "
+    "except travel allowance or the fringe benefit amount for having the use of a company vehicle.  The employer’s RF "
+    "contributions and the employer’s medical aid contributions must be entered in the fields provided for these "
+    "amounts. The program will include the employer’s R/Fund contributions and the employer’s medical aid "
+    "contributions in with salary/remuneration to determine total income."
+    "\n\n"
+    "Note that both the employer’s and the employee’s R/Fund contributions qualify as a tax deduction off taxable "
+    "income subject to SARS’s formula. A portion of contributions paid by both the employer and the employee to RF "
+    "(Pension, R/A and Provident funds) may qualify as a deduction from taxable income. The deduction is limited to "
+    "the lessor of contributions paid or 27.5% of remuneration /salary/income.  The deduction is capped at R350,000 "
+    "per year.  The field labelled ‘Allowable R/Fund deduction’ will indicate the maximum RF contribution allowed as a "
+    "deduction by the employer at salary source. The program will also calculate and display MTC (Medical Tax Credit) "
+    "amounts.  Note that, in addition to normal MTC’s for members/beneficiaries, MTC’s for contributions in the case "
+    "of taxpayers 65 and older are allowed at salary source.";
+
+/// A figure that is rounded where it is shown, and only there.
+Bound<double> rounded(const double& figure) {
+    return {[&figure] { return base::roundHalfEven(figure); }, [](double) {}};
+}
+
+} // namespace
+
+frmMonthly::frmMonthly(Workplace& workplace)
+    : Screen(workplace, "frmMonthly", "PAYE Monthly Calculation", untracked()),
+      m_setup(readPAYESetup(workplace.paths.DefaultDbPath)), m_salaryFound(workplace.record.tax.Salary) {
+    buildBody();
+    buildSettings();
+    buildPrintPanel();
+    connect(this, &Screen::closed, this, &frmMonthly::putSalaryBack);
+    work();
+}
+
+NumberField* frmMonthly::wholeRand(const QString& name, double& place) {
+    // Cents may be typed, so that a figure copied from a payslip is taken; they are dropped, not rounded.
+    return number(name, {[&place] { return place; }, [&place](double typed) { place = std::trunc(typed); }},
+                  wholeMoney);
+}
+
+NumberField* frmMonthly::answer(const QString& name, double& figure) {
+    auto* field = result(name, figure, money);
+    m_answers.push_back(field);
+    return field;
+}
+
+QWidget* frmMonthly::buildInputs() {
+    auto* age = number("silgEdit9", m_month.age, years);
+    auto* travel = number("silgEdit13", m_month.travel, money);
+    auto* taxable = result("numMTAAns", rounded(m_result.taxableTravel), wholeMoney);
+    m_answers.push_back(taxable);
+    m_start = date("dtMStartDate", m_month.startDate);
+    m_end = date("dtMEndDate", m_month.endDate);
+    for (DateField* field : {m_start, m_end})
+        field->require(wrongDate);
+    return group("fraInputs", "Employee",
+                 form({{"A&ge", age},
+                       {"Salary/remune&ration", wholeRand("numSalRemun", m_month.salary)},
+                       {"Co&mmissions", wholeRand("numComm", m_month.commissions)},
+                       {"&Travel                     R", row({travel, labelled("taxable", taxable)})},
+                       {"Bon&us", number("silgEdit12", m_month.bonus, money)},
+                       {"&Employer's R/Fund contributions ", wholeRand("numEmpRRFundCont", m_month.employerFund)},
+                       {"Emplo&yee's R/Fund contributions", wholeRand("numEmpERFundCont", m_month.employeeFund)},
+                       {"Employer's me&d aid contrib.", wholeRand("numEmpERMedAidCont", m_month.employerMedical)},
+                       {"Employee's med aid contri&b.", wholeRand("numEmpEEMedAidCont", m_month.employeeMedical)},
+                       {"Medical aid &fund beneficiaries", number("numMedAidBens", m_month.medAidBens, persons)},
+                       {"St&art date", m_start},
+                       {"E&nd date", m_end}}));
+}
+
+QWidget* frmMonthly::buildAnswers() {
+    auto* fund = result("numAllowableRFundDed", rounded(m_result.allowableFund), wholeMoney);
+    m_answers.push_back(fund);
+    return group("fraAnswers", "Month",
+                 form({{"Allowable R/Fund deduction", fund},
+                       {"UIF contribution Employee", answer("numMAns1", m_result.employeeUIF)},
+                       {"UIF contribution Employer", answer("numMAns2", m_result.employerUIF)},
+                       {"S.D.L.", answer("numMAns3", m_result.skillsLevy)},
+                       {"Tax liability", answer("numMAns", m_result.taxLiability)},
+                       {"Tax credits for beneficiaries", answer("numTaxCredit", m_result.beneficiaryCredit)},
+                       {"Tax credits for contributions", answer("numMTCForContri", m_result.contributionCredit)},
+                       {"Total tax deduction", answer("numTaxLiability", m_result.totalTaxDeduction)}}));
+}
+
+void frmMonthly::buildBody() {
+    auto* solve = button("cmdCalculate", "&Calculate", [this] {
+        if (calculate()) m_salaryFound.reset(); // from here on the figure is the user's own doing
+    });
+    body(column({row({buildInputs(), column({buildAnswers(), spring()})}), spring(),
+                 row({solve, button("cmdSettings", "&Settings", [this] { openSettings(); }),
+                      button("cmdInfo", "&Info",
+                             infoPanel("fraInfo_One", "General Information", information, "cmdOK_Info_One")),
+                      button("cmdPrint", "&Print", [this] { openPrint(); }), spring(), okButton()})}));
+    defaultButton(solve);
+}
+
+void frmMonthly::buildSettings() {
+    const auto place = [this] {
+        const auto found = std::find(std::begin(inclusionRates), std::end(inclusionRates), m_entered.TAIncRate8020);
+        return found == std::end(inclusionRates) ? -1 : static_cast<int>(found - std::begin(inclusionRates));
+    };
+    auto* inclusion = options("optTAIncRate", {"80%", "20%"},
+                              {place, [this](int index) { m_entered.TAIncRate8020 = inclusionRates[index]; }});
+    inclusion->option(0)->setObjectName("optTAIncRate80");
+    inclusion->option(1)->setObjectName("optTAIncRate20");
+    auto* employee = number("numEmpEUIF", m_entered.EmployeeUIF, percent);
+    auto* employer = number("numEmpRUIF", m_entered.EmployerUIF, percent);
+    auto* levy = number("numSkillPercent", m_entered.SkillLevy, percent);
+    auto* limit = number("numUIFLimit", m_entered.UIFLimit, money);
+    m_settings = {employee, employer, levy, limit, inclusion};
+    m_settingsPanel = panel("Frame3", "Settings",
+                            row({form({{"&Employee UIF portion", employee, "%"},
+                                       {"E&mployer UIF portion", employer, "%"},
+                                       {"&Skills levy", levy, "%"},
+                                       {"&UIF monthly limit", limit}}),
+                                 group("fraTAIncRate", "Travel allow/Car FB inclusion rate", inclusion)}),
+                            {button("cmdSetupOK", "O&K", [this] { confirmSettings(); }),
+                             cancelButton("cmdSetupCancel", "&Cancel", [this] { m_settingsPanel->close(); })});
+}
+
+void frmMonthly::buildPrintPanel() {
+    auto* name = text("Text1", m_employee, 50);
+    m_printPanel = printPanel(
+        {form({{"&Employee name : (max.50 chrs.)", name}})}, [this](Destination to) { print(to); }, printButtons);
+}
+
+bool frmMonthly::complainOfDates() {
+    const DateFault fault = dateFault(m_month);
+    if (fault == DateFault::none) return false;
+    const bool atStart = fault == DateFault::noStart || fault == DateFault::startAfterEnd;
+    const char* why = fault == DateFault::otherMonth      ? "The Start and End dates entered must be for the same Month"
+                      : fault == DateFault::startAfterEnd ? "The Start date entered must be before the End date"
+                                                          : "The Start and End dates must both be entered";
+    m_work.desk.tell(BoxStyle::critical, why, wrongDate);
+    (atStart ? m_start : m_end)->takeFocus();
+    return true;
+}
+
+bool frmMonthly::calculate() {
+    if (complainOfDates()) return false;
+    work();
+    return true;
+}
+
+void frmMonthly::work() {
+    m_result = monthlyTax(m_month, m_setup, m_previousInclusionRate, m_work.record.tax);
+    m_calculated = m_month;
+    m_salaryLeft = m_work.record.tax.Salary;
+    for (Field* field : m_answers)
+        field->fill();
+}
+
+void frmMonthly::openSettings() {
+    m_entered = m_setup;
+    for (Field* field : m_settings)
+        field->fill();
+    m_settingsPanel->open(m_settings.front()->widget());
+}
+
+void frmMonthly::confirmSettings() {
+    writePAYESetup(m_work.paths.DefaultDbPath, m_entered); // where it fails the panel stays, with what was entered
+    m_setup = m_entered;
+    m_calculated.reset();
+    m_settingsPanel->close();
+    calculate();
+}
+
+void frmMonthly::openPrint() {
+    // A page must not show one month's figures beside another's tax. What is worked out already stays: a second run of
+    // the same figures could allow another deduction than the one on the screen.
+    if (m_calculated != m_month && !calculate()) return;
+    m_printPanel->open(findChild<QWidget*>("Text1"));
+}
+
+void frmMonthly::print(Destination destination) {
+    feedMonthlyReport(m_work.paths.PrintDbPath, m_employee, m_month, m_setup, m_result);
+    m_work.reports.run("\\Monthly.rpt", title, destination);
+}
+
+void frmMonthly::putSalaryBack() {
+    // Not where it was entered anew meanwhile, on the screen that it belongs to.
+    double& salary = m_work.record.tax.Salary;
+    if (m_salaryFound && salary == m_salaryLeft) salary = *m_salaryFound;
+    m_salaryFound.reset();
+}
+
+bool frmMonthly::handOver() {
+    putSalaryBack();
+    return true;
+}
+
+void frmMonthly::clientReplaced() {
+    m_salaryFound.reset(); // it was another client's
+    Screen::clientReplaced();
+}
+
+} // namespace tax

@@ -1,0 +1,41 @@
+#include "tax/kwiktax.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace tax {
+
+namespace {
+
+ScaleTax taxSalary(assessment::KwikTax& client, const TaxYear& year) {
+    const ScaleTax result = taxOn(year, client.Salary);
+    client.LastScaleTax = result.tax;
+    return result;
+}
+
+} // namespace
+
+ScaleTax TABLEVIEW2026(assessment::KwikTax& client) { return taxSalary(client, quickTaxFebruary2026.scale); }
+ScaleTax TABLEVIEW2027(assessment::KwikTax& client) { return taxSalary(client, quickTaxFebruary2027.scale); }
+
+bool choosesFebruary2026(const assessment::KwikTax& client) { return client.YR9798 == 0; }
+
+QuickTax quickTax(assessment::KwikTax& client) {
+    const bool first = choosesFebruary2026(client);
+    const TaxRules& rules = first ? quickTaxFebruary2026 : quickTaxFebruary2027;
+    QuickTax result;
+    result.TotalRebates = std::floor(totalRebates(rules, client.Age));
+    const ScaleTax scale = first ? TABLEVIEW2026(client) : TABLEVIEW2027(client);
+    result.TaxOnLowerLimit = scale.taxOnLowerLimit;
+    result.MarginalRate = scale.rate;
+    result.PortionAtRate = scale.portion;
+    result.ScaleTax = scale.tax;
+    const bool taxed = scale.tax > 0;
+    result.AverageBefore = taxed ? client.LastScaleTax / client.Salary * 100 : scale.rate;
+    result.TotalTax = client.LastScaleTax;
+    result.TaxCommitment = std::max(0.0, result.TotalTax - result.TotalRebates);
+    if (taxed) result.AverageAfter = std::max(0.0, (client.LastScaleTax - result.TotalRebates) / client.Salary * 100);
+    return result;
+}
+
+} // namespace tax

@@ -1,0 +1,84 @@
+#include "tax/taxreports.h"
+
+#include "base/day.h"
+#include "datastore/printfeed.h"
+
+namespace tax {
+
+void feedQuickTaxReport(const std::filesystem::path& printDbPath, const assessment::KwikTax& client,
+                        const QuickTax& result) {
+    const TaxYear& year = (choosesFebruary2026(client) ? quickTaxFebruary2026 : quickTaxFebruary2027).scale;
+    datastore::PrintFeed feed(printDbPath);
+    feed.replace("kwiktax", {{"AGE", client.Age},
+                             {"TAXINCOME", client.Salary},
+                             {"TAXTOPAY", result.TaxOnLowerLimit},
+                             {"MARGRATE", result.MarginalRate},
+                             {"PORTION", result.PortionAtRate},
+                             {"TOTTAX", result.TotalTax},
+                             {"REBATE", result.TotalRebates},
+                             {"TAXCOM4", result.TaxCommitment},
+                             {"AVRATE", result.AverageBefore},
+                             {"AVRATEAFT", result.AverageAfter},
+                             {"TAXCOM4/2", result.TaxCommitment / 12},
+                             {"YR9798", std::string("Tax calculation used if for the tax year ending ") + year.ends}});
+    feed.commit();
+}
+
+void feedMonthlyReport(const std::filesystem::path& printDbPath, const std::string& employee,
+                       const MonthlyInputs& month, const PAYESetup& setup, const MonthlyTax& result) {
+    datastore::PrintFeed feed(printDbPath);
+    feed.replace("PAYESetup", {{"EmployeeUIF", setup.EmployeeUIF},
+                               {"EmployerUIF", setup.EmployerUIF},
+                               {"SkillLevy", setup.SkillLevy},
+                               {"UIFLimit", setup.UIFLimit},
+                               {"TAIncRate8020", setup.TAIncRate8020}});
+    // Captions beside figures, as the report lays them out.
+    feed.replace("IRP5Mon", {{"TypeAM", "Monthly Check"},
+                             {"Employee", " For : " + employee},
+                             {"Age", "Age : "},
+                             {"AgeNum", month.age},
+                             {"Sal", "Remuneration/salary"},
+                             {"SalNum", month.salary},
+                             {"DirFees", "Commissions"},
+                             {"DirFeesNum", month.commissions},
+                             {"TravAll", "Travel allowance "},
+                             {"TravOne", month.travel},
+                             {"TravTwo", result.taxableTravel},
+                             {"Bonus", "Bonus"},
+                             {"BonusNum", month.bonus},
+                             {"MedExp", "Medical expenses"},
+                             {"MedExpNum", 0}, // credits took the place of the deduction; its line stayed
+                             {"PenCont", "Employer's R/Fund contributions "},
+                             {"PenContNum", month.employerFund},
+                             {"RACont", "Employee's R/Fund contributions"},
+                             {"RAContNum", month.employeeFund},
+                             {"SDATE", "Start date"},
+                             {"SDateNum", base::reportDate(month.startDate)},
+                             {"EDATE", "End date"},
+                             {"EDateNum", base::reportDate(month.endDate)},
+                             {"UIFEMPE", "U.I.F. contribution employee"},
+                             {"UIFEMPENum", result.employeeUIF},
+                             {"UIFEMPR", "U.I.F. contribution employer"},
+                             {"UIFEMPRNum", result.employerUIF},
+                             {"SDL", "S.D.L."},
+                             {"SDLNum", result.skillsLevy},
+                             {"EOE", "(E.& O.E.)"},
+                             {"Taxliability", "Tax liability"},
+                             {"Taxliabilitynum", result.taxLiability},
+                             {"TaxCredit", "Tax credits for beneficiaries"},
+                             {"Taxcreditnum", result.beneficiaryCredit},
+                             {"TaxCreditCons", "Tax credits for contributions"},
+                             {"TaxcreditnumCons", result.contributionCredit},
+                             {"EmpERMedAidCont", "Employer's med aid contrib."},
+                             {"EmpERMedAidContnum", month.employerMedical},
+                             {"EmpEEMedAidCont", "Employee's med aid contrib."},
+                             {"EmpEEMedAidContnum", month.employeeMedical},
+                             {"AnnCalcBens3", "Medical aid fund beneficiaries"},
+                             {"AnnCalcBens3num", month.medAidBens},
+                             {"MedAidBens", "Med Aid contribution deduction"},
+                             {"total", "Total tax deduction"},
+                             {"TotalNum", result.totalTaxDeduction}});
+    feed.commit();
+}
+
+} // namespace tax

@@ -1,0 +1,113 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <random>
+
+#include "tax/kwiktax.h"
+
+namespace {
+
+using namespace tax;
+
+// The tax on each limit, added up bracket by bracket from the rates of the year's notice.
+struct Edge {
+    const TaxYear& year;
+    double limit, tax, rateBelow, rateAbove;
+};
+const Edge edges[] = {
+    {february2026, 237100, 42678, 18, 26},
+    {february2026, 370500, 77362, 26, 31},
+    {february2026, 512800, 121475, 31, 36},
+    {february2026, 673000, 179147, 36, 39},
+    {february2026, 857900, 251258, 39, 41},
+    {february2026, 1817000, 644489, 41, 45},
+    {february2027, 245100, 44118, 18, 26},
+    {february2027, 383100, 79998, 26, 31},
+    {february2027, 530200, 125599, 31, 36},
+    {february2027, 695800, 185215, 36, 39},
+    {february2027, 887000, 259783, 39, 41},
+    {february2027, 1878600, 666339, 41, 45},
+    {february2026, 0, 0, 18, 18}, // below 0 the first bracket goes on, into a negative tax
+    {february2026, 9999999999, 644489 + 9998182999 * 0.45, 45, 45}, // above the top the last one does
+    {february2027, 9999999999, 666339 + 9998121399 * 0.45, 45, 45},
+};
+
+TEST(TaxTables, AnIncomeOnALimitIsTaxedByTheBracketBelow) {
+    for (const Edge& edge : edges) {
+        SCOPED_TRACE(std::string(edge.year.ends) + " " + std::to_string(edge.limit));
+        const auto at = [&](double more) { return taxOn(edge.year, edge.limit + more); };
+        const double precision = edge.limit > 1e9 ? 1e-5 : 1e-8;
+        EXPECT_NEAR(at(-1).tax, edge.tax - edge.rateBelow / 100, precision);
+        EXPECT_NEAR(at(0).tax, edge.tax, precision);
+        EXPECT_NEAR(at(0.01).tax, edge.tax + edge.rateAbove / 10000, precision);
+        EXPECT_NEAR(at(1).tax, edge.tax + edge.rateAbove / 100, precision);
+        EXPECT_EQ(at(0).rate, edge.rateBelow);
+        EXPECT_EQ(at(0.01).rate, edge.rateAbove);
+        EXPECT_EQ(at(0.01).taxOnLowerLimit + at(0.01).portion, at(0.01).tax);
+    }
+}
+
+TEST(TaxTables, TaxNeverFallsAsIncomeRises) {
+    std::mt19937_64 random(20260301);
+    for (const TaxYear& year : {february2026, february2027}) {
+        for (const Bracket& bracket : year.scale)
+            EXPECT_NEAR(taxOn(year, std::nextafter(bracket.upTo, 1e12)).tax, taxOn(year, bracket.upTo).tax, 1e-5);
+        for (int i = 0; i < 20000; ++i) {
+            const double income = std::exp(std::uniform_real_distribution(0.0, std::log(1e11))(random));
+            const double more = income + std::exp(std::uniform_real_distribution(-4.0, 14.0)(random));
+            EXPECT_LE(taxOn(year, income).tax, taxOn(year, more).tax) << income << " " << more;
+        }
+    }
+}
+
+// The pairings of scale and rebates that practices know, odd ones too.
+TEST(TaxTables, EachConsumerHasItsScaleAndRebates) {
+    const struct {
+        const TaxRules& rules;
+        double taxOn300000, under65, from65, from75;
+    } consumers[] = {
+        {quickTaxFebruary2026, 59032, 17235, 26679, 29824},      {quickTaxFebruary2027, 58392, 17820, 27585, 30834},
+        {monthlyTaxRules, 58392, 17235, 26679, 29824},           {retirementFundingRules, 58392, 17820, 27585, 30834},
+        {investmentComparisonRules, 58392, 17235, 27000, 30249},
+    };
+    for (const auto& consumer : consumers) {
+        EXPECT_EQ(taxOn(consumer.rules.scale, 300000).tax, consumer.taxOn300000);
+        for (const double age : {-1.0, 0.0, 64.0, 64.999})
+            EXPECT_EQ(totalRebates(consumer.rules, age), consumer.under65) << age;
+        for (const double age : {65.0, 74.0, 74.999})
+            EXPECT_EQ(totalRebates(consumer.rules, age), consumer.from65) << age;
+        for (const double age : {75.0, 120.0})
+            EXPECT_EQ(totalRebates(consumer.rules, age), consumer.from75) << age;
+    }
+}
+
+TEST(QuickTax, TaxesAnIncomeInItsYear) {
+    const struct {
+        double year, income, age;
+        double total, rebates, commitment, before, after; // rates to six places
+    } cases[] = {
+        {0, 237100, 40, 42678, 17235, 25443, 18, 10.730915},
+        {0, 237101, 40, 42678.26, 17235, 25443.26, 18.000034, 10.730980},
+        {1, 0, 0, 0, 17820, 0, 18, 0},          // no income: the rate that the first rand would bear
+        {1, 95000, 40, 17100, 17820, 0, 18, 0}, // below what the rebates free
+        {1, 99000, 40, 17820, 17820, 0, 18, 0},
+        {0, -1000, 40, -180, 17235, 0, 18, 0},
+        {1, 500000, 75, 116237, 30834, 85403, 23.2474, 17.0806},
+        {7, 500000, 65, 116237, 27585, 88652, 23.2474, 17.7304}, // a year that an old file holds
+        {1, 99999999999, 64, 44999820968.55, 17820, 44999803148.55, 44.999821, 44.999803},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(std::to_string(c.income) + " in " + std::to_string(c.year));
+        assessment::KwikTax client{c.income, c.age, c.year};
+        const QuickTax result = quickTax(client);
+        EXPECT_NEAR(result.TotalTax, c.total, 1e-4);
+        EXPECT_EQ(result.TotalRebates, c.rebates);
+        EXPECT_NEAR(result.TaxCommitment, c.commitment, 1e-4);
+        EXPECT_NEAR(result.AverageBefore, c.before, 1e-6);
+        EXPECT_NEAR(result.AverageAfter, c.after, 1e-6);
+        EXPECT_EQ(client.LastScaleTax, result.TotalTax);
+        EXPECT_EQ(client.Salary, c.income);
+    }
+}
+
+} // namespace
