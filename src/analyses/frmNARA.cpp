@@ -244,7 +244,7 @@ void frmNARA::recalculate() {
     const assessment::NARetirement before = m_needs;
     m_analysis = NARACalc(m_work.record);
     if (m_needs != before) m_work.record.changed.NARAChanged = 1; // the file does not hold these results yet
-    for (NumberField* corrected : {m_inflation, m_rate, m_policies})
+    for (NumberField* corrected : {m_years, m_inflation, m_rate, m_policies})
         corrected->fill();
     refreshItemised();
     showTotals();

@@ -117,6 +117,9 @@ TEST_F(NARA, AgesFollowEachOther) {
     EXPECT_EQ(run.shown("numYearsToRet"), "34");
     run.type("numAgeOfRetirement", "90");
     EXPECT_EQ(run.shown("numYearsToRet"), "50"); // as far as an analysis looks
+    needs().YearsToRet = 3;                      // as an old file may have it
+    run.click("cmdCalculate");
+    EXPECT_EQ(run.shown("numYearsToRet"), "50");
 }
 
 TEST_F(NARA, EveryLimitHasItsBoxAndKeepsTheFocus) {
