@@ -37,6 +37,7 @@ std::string lastingSentence(const assessment::NARetirement& needs, const Retirem
     const double firstYear = 12 * analysis.IncomeReqFV;
     const bool carriesFirstYear = analysis.NetCapital + analysis.flows.AvailableByYear[1] > firstYear;
     std::string sentence;
+    // With no capital at all nothing is said of it here, though on death something is: there 0 counts as capital.
     if (analysis.IncomeReqFV > 0 && analysis.NetCapital > 0 && !carriesFirstYear)
         sentence = "Funds available will provide income for less than 1 year.";
     if (covered > 1 && carriesFirstYear) {
