@@ -1,10 +1,13 @@
 #include "tour/figures.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemModel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <cmath>
 
 #include "assessment/tables.h"
+#include "base/numberformat.h"
 #include "screenkit/screen.h"
 #include "tour/journal.h"
 
@@ -18,19 +21,37 @@ QString text(const store::Value& value) {
     return "nothing";
 }
 
-/// How to print is no part of the client.
+/// How to print and what is being typed into a list are no part of the client.
 bool onPanel(const QWidget* widget) {
     while (widget != nullptr && qobject_cast<const screenkit::Panel*>(widget) == nullptr)
         widget = widget->parentWidget();
     return widget != nullptr;
 }
 
+template <class Row>
+void keep(Figures& stored, const QString& place, const assessment::FieldTable<Row>& table, Row& row) {
+    for (const assessment::FieldLine& field : table.fields())
+        if (field.at != nullptr && field.rule != assessment::Rule::writtenOnly)
+            stored[place + "." + QString::fromStdString(field.name)] = text(assessment::valueAt(field.at(&row)));
+}
+
+/// As `keep`, for the rows of a table that has many for one client.
+template <class Row>
+void keepRows(Figures& stored, const assessment::FieldTable<Row>& table, std::vector<Row>& rows) {
+    for (std::size_t i = 0; i < rows.size(); ++i)
+        keep(stored, QString("%1(%2)").arg(QString::fromStdString(table.name())).arg(i + 1), table, rows[i]);
+}
+
 } // namespace
+
+double cellOf(const QAbstractItemModel* table, int row, int column) {
+    return base::parseNumber(table->index(row, column).data().toString().toStdString()).value_or(NAN);
+}
 
 Figures shownOn(const screenkit::Screen* screen) {
     Figures shown;
     for (const auto* line : screen->findChildren<QLineEdit*>())
-        shown[line->objectName()] = line->text();
+        if (!onPanel(line)) shown[line->objectName()] = line->text();
     for (const auto* memo : screen->findChildren<QPlainTextEdit*>())
         shown[memo->objectName()] = memo->toPlainText();
     for (const auto* button : screen->findChildren<QAbstractButton*>())
@@ -41,10 +62,10 @@ Figures shownOn(const screenkit::Screen* screen) {
 Figures storedOf(assessment::Assessment& record) {
     Figures stored;
     for (const auto* table : {&assessment::dataTable(), &assessment::persDetailsTable()})
-        for (const assessment::FieldLine& field : table->fields())
-            if (field.at != nullptr && field.rule != assessment::Rule::writtenOnly)
-                stored[QString::fromStdString(table->name() + "." + field.name)] =
-                    text(assessment::valueAt(field.at(&record)));
+        keep(stored, QString::fromStdString(table->name()), *table, record);
+    keepRows(stored, assessment::polsInvestsTable(), record.policies);
+    for (const assessment::ItemTable& itemised : assessment::itemTables())
+        if (itemised.list != nullptr) keepRows(stored, *itemised.table, itemised.list(record.itemised).rows);
     return stored;
 }
 

@@ -7,9 +7,11 @@
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPlainTextEdit>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
+#include <cmath>
 
 #include "reports/previewwindow.h"
 #include "reports/report.h"
@@ -24,9 +26,25 @@ namespace {
 
 constexpr int patience = 5000; // milliseconds until a window or menu must have come
 
+/// As text: the toolkit's own helper knows Latin-1 alone.
+void letterKey(QWidget* target, QChar letter) {
+    QTest::sendKeyEvent(QTest::Click, target, Qt::Key_unknown, QString(letter), Qt::NoModifier);
+}
+
 void keys(QWidget* target, const QString& text) {
-    for (const QChar letter : text) // letter by letter as text: the toolkit's own helper knows Latin-1 alone
-        QTest::sendKeyEvent(QTest::Click, target, Qt::Key_unknown, QString(letter), Qt::NoModifier);
+    for (const QChar letter : text)
+        letterKey(target, letter);
+}
+
+QString textIn(QWidget* field) {
+    if (auto* memo = qobject_cast<QPlainTextEdit*>(field)) return memo->toPlainText();
+    return static_cast<QLineEdit*>(field)->text();
+}
+
+/// Word for word, or as a number the same.
+bool shows(QWidget* field, const QString& typed) {
+    if (const auto* figure = dynamic_cast<screenkit::NumberField*>(field)) return figure->value() == typed.toDouble();
+    return textIn(field) == typed;
 }
 
 /// An option or a check box may be wider than its caption, and only the caption takes a click.
@@ -80,17 +98,17 @@ void Hands::menu(const QStringList& names) {
         check(QTest::qWaitFor([&] { return below->isVisible(); }, patience), "the menu " + name + " does not open");
         shown = below;
     }
-    toFront();
+    toFront(window());
 }
 
-void Hands::toFront() {
-    window().activateWindow();
-    check(QTest::qWaitForWindowActive(&window(), patience), "the main window does not come back to the front");
+void Hands::toFront(QWidget& window) {
+    window.activateWindow();
+    check(QTest::qWaitForWindowActive(&window, patience), window.windowTitle() + " does not come back to the front");
     settle();
 }
 
 void Hands::key(Qt::Key key, Qt::KeyboardModifiers modifiers) {
-    if (QApplication::focusWidget() == nullptr) toFront();
+    if (QApplication::focusWidget() == nullptr) toFront(window());
     QWidget* target = QApplication::focusWidget();
     QTest::keyClick(target != nullptr ? target : &window(), key, modifiers);
     settle();
@@ -117,6 +135,23 @@ void Hands::type(const QString& name, const QString& text, Qt::Key leave) {
     settle();
 }
 
+void Hands::enter(std::span<const Entry> entries) {
+    for (const auto& [field, text] : entries) {
+        type(field, text);
+        auto* shown = control<QWidget>(field);
+        check(shows(shown, text), QString("%1 shows %2 after typing %3").arg(field, textIn(shown), text));
+    }
+    say(QString("  typed %1 fields").arg(entries.size()));
+}
+
+void Hands::write(const QString& text) {
+    for (const QChar letter : text) {
+        check(QApplication::focusWidget() != nullptr, "nothing has the focus to type \"" + text + "\" into");
+        letterKey(QApplication::focusWidget(), letter);
+    }
+    settle();
+}
+
 void Hands::turnTo(const QString& name) {
     for (QWidget* page = control<QWidget>(name); page != nullptr && page != front(); page = page->parentWidget()) {
         auto* stack = page->parentWidget() != nullptr ? page->parentWidget()->parentWidget() : nullptr;
@@ -135,6 +170,11 @@ double Hands::figure(const QString& name) {
     return field->value();
 }
 
+void Hands::expectFigure(const QString& name, double expected) {
+    check(std::abs(figure(name) - expected) < 1,
+          QString("%1 shows %2 instead of %3").arg(name, shown(name)).arg(expected, 0, 'f', 2));
+}
+
 reports::PreviewWindow* Hands::preview() {
     settle();
     const auto open = m_program.reports().previews();
@@ -147,7 +187,8 @@ void Hands::closePreview() {
     const QPointer<reports::PreviewWindow> open = preview();
     key(Qt::Key_Escape);
     check(open.isNull(), "Escape does not close the report window");
-    toFront();
+    const auto others = m_program.reports().previews();
+    toFront(others.empty() ? static_cast<QWidget&>(window()) : *others.back());
 }
 
 } // namespace tour

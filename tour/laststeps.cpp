@@ -16,6 +16,9 @@ Seen look(Hands& hands) {
     hands.menu({"mnuCalc", "mnuLoans", "mnuLoansCalc"});
     hands.expectFront("frmLoans");
     seen.loan = shownOn(hands.front());
+    hands.menu({"mnuCalc", "mnuNARA"});
+    hands.expectFront("frmNARA");
+    seen.retirement = shownOn(hands.front());
     hands.menu({"mnuFile", "mnuPrep"});
     hands.expectFront("frmHeadFoot");
     seen.practice = shownOn(hands.front());
@@ -53,6 +56,9 @@ void compare(Hands& hands, const Seen& before) {
     const Seen now = look(hands);
     checkSame(before.personalDetails, now.personalDetails, "personal details on screen");
     checkSame(before.loan, now.loan, "loan on screen");
+    checkSame(before.retirement, now.retirement, "retirement analysis on screen");
+    for (const char* sentence : {"txtAns1", "txtAns2"})
+        say("  " + now.retirement[sentence]);
     checkSame(before.practice, now.practice, "header and footer lines on screen");
     checkSame(before.stored, now.stored, "the client's record, to the last bit");
     picture(&hands.window(), "loan-again");

@@ -2,7 +2,6 @@
 #include <QTableView>
 #include <cmath>
 
-#include "base/numberformat.h"
 #include "reports/frmGraph.h"
 #include "screenkit/screen.h"
 #include "shell/mainwindow.h"
@@ -35,26 +34,22 @@ void solveFor(Hands& hands, int mode, const QString& field) {
     picture(&hands.window(), "loan-" + QString(sought).toLower().replace(' ', '-'));
 }
 
-double cell(const QAbstractItemModel* table, int row, int column) {
-    return base::parseNumber(table->index(row, column).data().toString().toStdString()).value_or(NAN);
-}
-
 /// A table on screen must repay the whole loan and end at nothing.
 void checkTable(Hands& hands, const QString& unit, int rows) {
     const auto* table = hands.control<QTableView>("grdPayments")->model();
     check(table->rowCount() == rows, QString("the table has %1 rows instead of %2").arg(table->rowCount()).arg(rows));
     double repaid = 0;
     for (int row = 0; row < rows; ++row)
-        repaid += cell(table, row, 1);
+        repaid += cellOf(table, row, 1);
     check(std::abs(repaid - hands.figure("numPrinAmount")) <= rows * cent / 2, "the table does not repay the loan");
-    check(cell(table, rows - 1, 3) == 0, "the table does not end at nothing");
+    check(cellOf(table, rows - 1, 3) == 0, "the table does not end at nothing");
     for (const int row : {0, rows - 1})
         say(QString("  %1 %2: capital %3, interest %4, balance %5")
                 .arg(unit)
                 .arg(row + 1)
-                .arg(cell(table, row, 1), 0, 'f', 2)
-                .arg(cell(table, row, 2), 0, 'f', 2)
-                .arg(cell(table, row, 3), 0, 'f', 2));
+                .arg(cellOf(table, row, 1), 0, 'f', 2)
+                .arg(cellOf(table, row, 2), 0, 'f', 2)
+                .arg(cellOf(table, row, 3), 0, 'f', 2));
 }
 
 } // namespace

@@ -85,6 +85,9 @@ void wholeCase() {
         tour::showGraph(hands);
         tour::exportLoanReport(hands);
         tour::exportPersonalDetails(hands);
+        tour::recordRetirement(hands);
+        tour::showRetirementYears(hands);
+        tour::exportRetirementReports(hands);
         tour::save(hands);
         seen = tour::look(hands);
     });

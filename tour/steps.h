@@ -8,7 +8,7 @@ namespace tour {
 
 /// What the user saw when the client was saved.
 struct Seen {
-    Figures personalDetails, loan, practice, stored;
+    Figures personalDetails, loan, retirement, practice, stored;
 };
 
 // The first session, from an empty program folder.
@@ -21,6 +21,11 @@ void showTables(Hands& hands);
 void showGraph(Hands& hands);
 void exportLoanReport(Hands& hands);
 void exportPersonalDetails(Hands& hands);
+void recordRetirement(Hands& hands);
+/// From the retirement analysis and back to it; what they are worth at 65 as it should be, rand.
+double enterPolicies(Hands& hands);
+void showRetirementYears(Hands& hands);
+void exportRetirementReports(Hands& hands);
 void save(Hands& hands);
 Seen look(Hands& hands);
 void exitProgram(Hands& hands);

@@ -36,9 +36,9 @@ private:
     screenkit::NumberField* rate(const QString& column, const QString& spoken = {});
     screenkit::TextField* line(const QString& column);
     screenkit::CheckField* tick(const QString& column, const QString& caption, std::function<void(bool)> ticked = {});
-    /// A value at an age and its escalation from there, on one line.
+    /// A value at an age and its escalation from there, on one line, and the box that takes it for a purpose.
     QLayout* valueAtAge(const QString& benefit, const QString& value, const QString& age, const QString& escalation,
-                        const QString& escalationCaption);
+                        const QString& escalationCaption, QWidget* taken = nullptr);
     screenkit::NumberField* valueField(const QString& name, double& value);
     screenkit::Bound<double> place(const QString& column);
 

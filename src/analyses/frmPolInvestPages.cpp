@@ -161,27 +161,34 @@ Item frmPolInvest::retirementPage() {
          {"Monthly",
           row({amount("RBMonAvaible", "Monthly pension"),
                labelled("esc at ", rate("RBMonAvaibleEscFor", "Monthly pension, escalation")), note("%"), spring()})}});
-    auto* endowment = form({{"&Estimated maturity value", valueAtAge("Estimated maturity value", "EndowEMV",
-                                                                     "EndowEMVAge", "EndowEMVEscFwd", forward)},
-                            {"", tick("UseEndowEMVAtRet", "Use maturity value at retirement")}});
+    // What a value is taken for stands beside it: below it the page would be higher than the main window as it opens.
+    auto* useEndowment = tick("UseEndowEMVAtRet", "Use maturity value at retirement");
+    auto* takeCurrent = tick("InvBensTakeAtDisa", "Take current value on disability");
+    auto* takeMaturity = tick("InvBensTakeFinValAtRet", "Take maturity value at retirement");
+    for (CheckField* box : {useEndowment, takeCurrent, takeMaturity}) // their squares stand below one another
+        box->setMinimumWidth(takeMaturity->sizeHint().width());
+    auto* endowment =
+        form({{"&Estimated maturity value", valueAtAge("Estimated maturity value", "EndowEMV", "EndowEMVAge",
+                                                       "EndowEMVEscFwd", forward, useEndowment)}});
     auto* investment =
         form({{"Current value of inve&stment",
-               row({amount("InvBensCurVal"), labelled("Loan against", amount("InvBensCurValLoanAgainst")), spring()})},
+               row({amount("InvBensCurVal"), labelled("Loan against", amount("InvBensCurValLoanAgainst")), spring(),
+                    takeCurrent})},
               {"Maturity value L/Sum", valueAtAge("Maturity value", "InvBensMatValLS", "InvBensMatValLSAtAge",
-                                                  "InvBensMatValLSEscAt", "Escalating at   ")},
-              {"", row({tick("InvBensTakeAtDisa", "Take current value on disability"),
-                        tick("InvBensTakeFinValAtRet", "Take maturity value at retirement"), spring()})}});
+                                                  "InvBensMatValLSEscAt", "Escalating at   ", takeMaturity)}});
     return column({group("fraRetirement", "Retirement annuity, pension and provident fund", fund),
                    group("fraEndow", "Endowment type or investment policy", endowment),
                    group("fraInvBens", "Investment", investment), spring()});
 }
 
 QLayout* frmPolInvest::valueAtAge(const QString& benefit, const QString& value, const QString& atAge,
-                                  const QString& escalation, const QString& escalationCaption) {
+                                  const QString& escalation, const QString& escalationCaption, QWidget* taken) {
     auto* sum = amount(value, benefit);
     auto* when = age(atAge, benefit + ", age");
     auto* percentage = rate(escalation, benefit + ", escalation");
-    return row({sum, labelled("at age ", when), labelled(escalationCaption, percentage), note("%"), spring()});
+    auto* line = row({sum, labelled("at age ", when), labelled(escalationCaption, percentage), note("%"), spring()});
+    if (taken != nullptr) line->addWidget(taken);
+    return line;
 }
 
 NumberField* frmPolInvest::valueField(const QString& name, double& value) {

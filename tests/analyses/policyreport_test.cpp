@@ -122,7 +122,7 @@ TEST(PolicyReport, AScheduleOfThirtyPoliciesRepeatsItsHeadsAndCutsNoText) {
         EXPECT_TRUE(page.simplified().contains("No Policy Underwriter Number Inception")) << page.toStdString();
     const QString text = pages.join(' ').simplified();
     EXPECT_EQ(text.count("last"), 23); // every note to its end
-    EXPECT_TRUE(text.contains("R 492.00")) << text.toStdString();
+    EXPECT_TRUE(text.contains("all together 492.00")) << text.toStdString();
 }
 
 } // namespace

@@ -1,11 +1,15 @@
 #include <gtest/gtest.h>
 
 #include <QMenuBar>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QToolBar>
 #include <QToolButton>
 #include <set>
 
+#include "screenkit/look.h"
 #include "shell/running_program.h"
+#include "shell/screens.h"
 
 namespace {
 
@@ -74,6 +78,25 @@ TEST(Menu, AScreenOpenedTwiceIsOneScreenInFront) {
     press(run, "Personal Details");
     EXPECT_FALSE(run.screen("frmPersDet")->parentWidget()->isMinimized());
     EXPECT_EQ(run.window().screens().size(), 2);
+}
+
+// A screen that has to be scrolled opens with the tabs or buttons that it is worked by out of sight.
+TEST(Menu, EachScreenIsSeenWholeInTheWindowAsItStarts) {
+    screenkit::look::apply(*qApp);
+    RunningProgram run;
+    run.window().resize(947, 692); // the screen of the tests has no room for it all
+    int opened = 0;
+    for (const char* name : shell::clientScreens()) {
+        if (shell::screenEntry(name) == nullptr) continue;
+        static_cast<screenkit::Shell&>(run.window()).open(name);
+        RunningProgram::settle();
+        const auto* area = run.screen(name)->findChild<QScrollArea*>(QString(), Qt::FindDirectChildrenOnly);
+        ASSERT_NE(area, nullptr) << name;
+        EXPECT_EQ(area->verticalScrollBar()->maximum(), 0) << name;
+        EXPECT_EQ(area->horizontalScrollBar()->maximum(), 0) << name;
+        ++opened;
+    }
+    EXPECT_GE(opened, 4);
 }
 
 TEST(Toolbar, TwoScreensAreCascadedAfterACommandOfItsOwnOnly) {
