@@ -2,9 +2,12 @@
 #include <clocale>
 #include <gtest/gtest.h>
 
+#include "screenkit/look.h"
+
 int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
+    screenkit::look::apply(application); // sizes and colours as the user has them, whichever test comes first
     std::setlocale(LC_NUMERIC, "C");
     testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();

@@ -18,6 +18,7 @@ constexpr double cellPadding = points(5);  // left and right of a cell's text
 constexpr double rowPadding = points(2.0); // above and below it
 constexpr double gutter = millimetres(9);  // between columns of the page
 constexpr double hairline = points(0.5);
+constexpr std::size_t rowsTogether = 4; // at least so many under a table's heads, if it has them
 
 /// A header or footer line; what is wider than the page is left out.
 Line oneLine(const QString& text, const Face& face, double width) {
@@ -163,7 +164,8 @@ private:
         }
     }
 
-    /// What of a block must stand on one page: all of a heading, two lines of a text, the heads and a row of a table.
+    /// What of a block must stand on one page: all of a heading, two lines of a text, the heads and a few rows of a
+    /// table.
     double leastHeight(const Block& block, const Measure& measure) const {
         if (block.kind == Block::Kind::rule) return hairline;
         if (block.kind == Block::Kind::columns) {
@@ -178,8 +180,9 @@ private:
             double least = 0;
             for (const Row& row : block.table.heads)
                 least += rowHeight(shapedRow(row, block.table, measure, true));
-            if (!block.table.rows.empty())
-                least += rowHeight(shapedRow(block.table.rows.front(), block.table, measure, false));
+            const std::size_t rows = std::min(rowsTogether, block.table.rows.size());
+            for (std::size_t row = 0; row < rows; ++row)
+                least += rowHeight(shapedRow(block.table.rows[row], block.table, measure, false));
             return least;
         }
         const Paragraph paragraph = broken(block.runs, faceOf(block), measure.width);

@@ -7,7 +7,6 @@ namespace {
 /// The program's own main window with two of its screens.
 struct ActivationTest : testing::Test {
     ActivationTest() {
-        look::apply(*qApp);
         window.resize(1200, 800);
         window.show();
         window.activateWindow();

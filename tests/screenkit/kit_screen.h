@@ -93,7 +93,6 @@ protected:
 class KitTest : public testing::Test {
 protected:
     KitTest() {
-        look::apply(*qApp);
         new AccessKeys(&window);
         window.setCentralWidget(&area);
         window.resize(1000, 800);

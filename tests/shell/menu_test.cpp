@@ -7,7 +7,6 @@
 #include <QToolButton>
 #include <set>
 
-#include "screenkit/look.h"
 #include "shell/running_program.h"
 #include "shell/screens.h"
 
@@ -82,7 +81,6 @@ TEST(Menu, AScreenOpenedTwiceIsOneScreenInFront) {
 
 // A screen that has to be scrolled opens with the tabs or buttons that it is worked by out of sight.
 TEST(Menu, EachScreenIsSeenWholeInTheWindowAsItStarts) {
-    screenkit::look::apply(*qApp);
     RunningProgram run;
     run.window().resize(947, 692); // the screen of the tests has no room for it all
     int opened = 0;
