@@ -88,6 +88,8 @@ void wholeCase() {
         tour::recordRetirement(hands);
         tour::showRetirementYears(hands);
         tour::exportRetirementReports(hands);
+        tour::taxAMonth(hands);
+        tour::taxAYear(hands);
         tour::save(hands);
         seen = tour::look(hands);
     });

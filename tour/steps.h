@@ -26,6 +26,8 @@ void recordRetirement(Hands& hands);
 double enterPolicies(Hands& hands);
 void showRetirementYears(Hands& hands);
 void exportRetirementReports(Hands& hands);
+void taxAMonth(Hands& hands);
+void taxAYear(Hands& hands);
 void save(Hands& hands);
 Seen look(Hands& hands);
 void exitProgram(Hands& hands);

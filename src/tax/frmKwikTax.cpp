@@ -38,7 +38,7 @@ void frmKwikTax::buildBody() {
     auto* income = number(edit(0), m_client.Salary, money);
     auto* ageField = number(edit(1), m_client.Age, age);
     auto* years = options(
-        "Option1", yearCaptions,
+        "grpTaxYear", yearCaptions,
         {[this] { return choosesFebruary2026(m_client) ? 0 : 1; }, [this](int year) { m_client.YR9798 = year; }},
         [this](int) { calculate(); });
     years->option(0)->setObjectName("Option1");
