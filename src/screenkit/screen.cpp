@@ -133,7 +133,7 @@ bool Screen::complain(Field* field) {
     const QScopedValueRollback complaining(m_complaining, true);
     const auto complaint = field->complaint();
     if (!complaint) {
-        settled(field);
+        attempt(tr("take the entry"), [&] { settled(field); }); // told, but no reason to hold the user in the field
         return false;
     }
     m_left.clear();

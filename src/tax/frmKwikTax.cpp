@@ -25,8 +25,11 @@ frmKwikTax::frmKwikTax(Workplace& workplace)
     : Screen(workplace, "frmKwikTax", "QuickTax", workplace.record.changed.KwikTaxChanged),
       m_client(workplace.record.tax) {
     buildBody();
-    m_printPanel = printPanel(
-        {}, [this](Destination to) { m_work.reports.run("\\kwiktep.rpt", {}, to); }, printButtons);
+    const auto print = [this](Destination to) {
+        feed(); // monthly tax may have left another income while the panel was open
+        m_work.reports.run("\\kwiktep.rpt", {}, to);
+    };
+    m_printPanel = printPanel({}, print, printButtons);
 }
 
 NumberField* frmKwikTax::answer(int index, double& figure, const NumberKind& kind) {
@@ -72,8 +75,10 @@ void frmKwikTax::calculate() {
 
 void frmKwikTax::openPrint() {
     calculate(); // the page must not show an income beside another one's tax
-    feedQuickTaxReport(m_work.paths.PrintDbPath, m_client, m_result);
+    feed();
     m_printPanel->open(findChild<QWidget*>("cmdViewScreen"));
 }
+
+void frmKwikTax::feed() { feedQuickTaxReport(m_work.paths.PrintDbPath, m_client, m_result); }
 
 } // namespace tax

@@ -19,6 +19,7 @@ private:
     void buildBody();
     void calculate();
     void openPrint();
+    void feed();
 
     assessment::KwikTax& m_client;
     QuickTax m_result;

@@ -48,7 +48,7 @@ Bound<double> rounded(const double& figure) {
 
 frmMonthly::frmMonthly(Workplace& workplace)
     : Screen(workplace, "frmMonthly", "PAYE Monthly Calculation", untracked()),
-      m_setup(readPAYESetup(workplace.paths.DefaultDbPath)), m_salaryFound(workplace.record.tax.Salary) {
+      m_setup(readPAYESetup(workplace.paths.DefaultDbPath)) {
     buildBody();
     buildSettings();
     buildPrintPanel();
@@ -167,9 +167,13 @@ bool frmMonthly::calculate() {
 }
 
 void frmMonthly::work() {
+    double& salary = m_work.record.tax.Salary;
+    // What is not the scale's own stands there since a save has had it back, another client has come, or quick tax has
+    // been given another income.
+    if (salary != m_salaryLeft) m_salaryFound = salary;
     m_result = monthlyTax(m_month, m_setup, m_previousInclusionRate, m_work.record.tax);
     m_calculated = m_month;
-    m_salaryLeft = m_work.record.tax.Salary;
+    m_salaryLeft = salary;
     for (Field* field : m_answers)
         field->fill();
 }
@@ -202,10 +206,20 @@ void frmMonthly::print(Destination destination) {
 }
 
 void frmMonthly::putSalaryBack() {
+    if (!m_salaryFound) return;
     // Not where it was entered anew meanwhile, on the screen that it belongs to.
     double& salary = m_work.record.tax.Salary;
-    if (m_salaryFound && salary == m_salaryLeft) salary = *m_salaryFound;
+    const bool lent = salary == m_salaryLeft;
+    if (lent) salary = *m_salaryFound;
+    forgetSalary();
+    // Quick tax may be in front, and would tax an income that it doesn't show.
+    auto* quickTax = qobject_cast<Screen*>(m_work.shell.screen("frmKwikTax"));
+    if (lent && quickTax != nullptr) quickTax->refill();
+}
+
+void frmMonthly::forgetSalary() {
     m_salaryFound.reset();
+    m_salaryLeft.reset();
 }
 
 bool frmMonthly::handOver() {
@@ -214,7 +228,7 @@ bool frmMonthly::handOver() {
 }
 
 void frmMonthly::clientReplaced() {
-    m_salaryFound.reset(); // it was another client's
+    forgetSalary(); // it was another client's
     Screen::clientReplaced();
 }
 

@@ -35,6 +35,7 @@ private:
     void openPrint();
     void print(screenkit::Destination destination);
     void putSalaryBack();
+    void forgetSalary();
 
     PAYESetup m_setup;
     PAYESetup m_entered; ///< as the settings panel shows them; in force once confirmed
@@ -45,7 +46,7 @@ private:
     double m_previousInclusionRate = 0;
     /// The client's own figure, which the scale works over, until the user asks for a calculation himself.
     std::optional<double> m_salaryFound;
-    double m_salaryLeft = 0; ///< what the scale left in its place
+    std::optional<double> m_salaryLeft; ///< what the scale left in its place; nothing while the figure is the client's
     std::string m_employee;
 
     std::vector<screenkit::Field*> m_answers, m_settings;

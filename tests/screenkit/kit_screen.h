@@ -78,6 +78,7 @@ public:
     Panel* print = nullptr;
     std::function<void(Destination)> printed = [](Destination) {};
     std::function<void()> onFilled = [] {}, onRun = [] {}, onEdit = [] {};
+    std::function<void(Field*)> onSettled = [](Field*) {};
     int runs = 0, cancels = 0, picks = 0, edits = 0;
 
 protected:
@@ -86,6 +87,7 @@ protected:
         onEdit();
     }
     void filled() override { onFilled(); }
+    void settled(Field* field) override { onSettled(field); }
 };
 
 /// The screen shown as a child of a main window, and a user's hands: keys and mouse go to the window as the system

@@ -151,8 +151,14 @@ TEST_F(LeavingTest, aFailingActionShowsOneBoxAndTheProgramGoesOn) {
     const auto fail = [] { throw store::Error(store::Number::diskFull, "/practice/Print.mdb"); };
     screen->onRun = fail;
     screen->onEdit = fail;
-    for (const auto& act :
-         std::initializer_list<std::function<void()>>{[this] { click("cmdRun"); }, [this] { enter("txtName", "x"); }}) {
+    const auto settleBadly = [&] {
+        screen->onSettled = [&](Field* field) {
+            if (field->widget()->objectName() == "txtName") fail();
+        };
+        key(Qt::Key_Tab);
+    };
+    for (const auto& act : std::initializer_list<std::function<void()>>{
+             [this] { click("cmdRun"); }, [this] { enter("txtName", "x"); }, settleBadly}) {
         desk.boxes.clear();
         desk.expect(Answer::ok);
         act();
@@ -165,6 +171,7 @@ TEST_F(LeavingTest, aFailingActionShowsOneBoxAndTheProgramGoesOn) {
     }
     EXPECT_EQ(places.name, "x");
     screen->onEdit = [] {};
+    screen->onSettled = [](Field*) {};
 }
 
 } // namespace

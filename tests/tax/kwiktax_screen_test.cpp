@@ -137,6 +137,16 @@ TEST_F(QuickTaxScreen, PrintsTheFiguresOfTheScreen) {
           "Tax commitment a month R 8 356.00", "after rebates 20.05 %"})
         EXPECT_TRUE(page.contains(line)) << line << "\n" << page.toStdString();
 
+    run.click("cmdPrint");
+    run.menu("mnuPAYE"); // another income comes while the panel is open
+    run.type("numSalRemun", "20000");
+    run.click("cmdCalculate");
+    open();
+    run.click("cmdViewScreen");
+    EXPECT_EQ(run.inPrint("SELECT [TAXINCOME] FROM [kwiktax]"), "240000");
+    type(0, "500000");
+    run.click("cmdCalculate");
+
     std::filesystem::remove(run.folder / "Print.mdb");
     run.desk.expect(screenkit::Answer::ok);
     run.click("cmdPrint");

@@ -34,6 +34,10 @@ protected:
     }
     void inSettings(const std::string& sql) { store::Database(run.folder / "Default.Mdb").execute(sql); }
     std::string settings() { return shelltest::rowsOf(run.folder / "Default.Mdb", "SELECT * FROM [PAYESetup]"); }
+    void confirmSettings() {
+        run.click("cmdSettings");
+        run.click("cmdSetupOK");
+    }
     bool checked(const char* option) { return run.control<QRadioButton>(option)->isChecked(); }
     double& salary() { return run.record().tax.Salary; }
 
@@ -175,8 +179,7 @@ TEST_F(MonthlyScreen, TheClientsIncomeComesBackUnlessTheUserCalculated) {
     open();
     EXPECT_EQ(salary(), 0);
     EXPECT_FALSE(run.record().changed.any());
-    run.click("cmdSettings");
-    run.click("cmdSetupOK"); // works out too, but was not asked to
+    confirmSettings(); // works out too, but was not asked to
     leave();
     EXPECT_EQ(salary(), 500000);
 
@@ -189,12 +192,20 @@ TEST_F(MonthlyScreen, TheClientsIncomeComesBackUnlessTheUserCalculated) {
     open();
     run.menu("mnuQuickTax");
     run.type("sidbEdit1(0)", "300000"); // entered where it belongs, meanwhile
+    open();
+    confirmSettings(); // works over that one now
+    EXPECT_EQ(salary(), 0);
     leave();
     EXPECT_EQ(salary(), 300000);
 
     open();
+    run.menu("mnuQuickTax");
+    EXPECT_EQ(run.shown("sidbEdit1(0)"), "0.00");
     run.menu("mnuSave");
     EXPECT_EQ(run.inClients("SELECT [Salary] FROM [Data]"), "300000");
+    EXPECT_EQ(run.shown("sidbEdit1(0)"), "300 000.00");
+    open();
+    confirmSettings();
     leave();
     EXPECT_EQ(salary(), 300000);
 
