@@ -36,6 +36,7 @@ private:
     void takeAge();
     /// Waits until the age is typed in full: 6 on the way to 65 must not move the age of retirement.
     void retireNotBeforeToday();
+    bool showsResults() const;
     void showTotals();
     void showResults();
     void calculate();

@@ -100,6 +100,11 @@ TEST_F(NARA, WorksThroughToTheSentences) {
     run.click("cmdCalculate");
     EXPECT_EQ(captionOf("numMonShortFall")->text(), "Monthly excess");
     EXPECT_EQ(run.shown("numMonShortFall"), "735");
+
+    run.enter("dtBirthDate", "1/1/2000"); // and straight to the results: they are those of the new age
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_N, Qt::AltModifier);
+    RunningProgram::settle();
+    EXPECT_EQ(run.shown("numIncReqFV"), "670"); // over 39 years
 }
 
 TEST_F(NARA, AgesFollowEachOther) {
