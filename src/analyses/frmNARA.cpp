@@ -223,6 +223,7 @@ void frmNARA::takeAge() {
 }
 
 void frmNARA::retireNotBeforeToday() {
+    m_ageUsed = m_needs.CurrAge;
     if (m_needs.CurrAge <= m_needs.AgeRetiment) return;
     m_needs.AgeRetiment = m_needs.CurrAge;
     m_retirement->fill();
@@ -232,7 +233,8 @@ void frmNARA::retireNotBeforeToday() {
 void frmNARA::settled(Field* field) {
     const std::pair before(m_needs.CurrAge, m_needs.AgeRetiment);
     if (field == m_birth && m_work.record.client.BirthDate != m_birthUsed) takeAge();
-    if (field == m_birth || field == m_age) retireNotBeforeToday();
+    // Once for each new age: a retirement typed before today is told, not put right behind the user's back.
+    if ((field == m_birth || field == m_age) && m_needs.CurrAge != m_ageUsed) retireNotBeforeToday();
     // Who turns to the results straight from the field sees them worked out before the ages have followed.
     if (before != std::pair(m_needs.CurrAge, m_needs.AgeRetiment) && showsResults()) recalculate();
 }

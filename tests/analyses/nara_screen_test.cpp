@@ -143,12 +143,15 @@ TEST_F(NARA, EveryLimitHasItsBoxAndKeepsTheFocus) {
              {"numBankInvRate", "-1", "The minimum Bank Interest Rate allowed is 0%", "Incorrect Bank Interest Rate!",
               "5"},
          }) {
-        run.desk.expect(Answer::ok);
-        run.type(line.field, line.figure);
-        EXPECT_EQ(run.desk.last().text, line.text) << line.figure;
-        EXPECT_EQ(run.desk.last().title, line.title) << line.figure;
-        EXPECT_EQ(run.focused(), line.field);
-        run.type(line.field, line.good);
+        for (const bool byButton : {false, true}) {
+            run.desk.expect(Answer::ok);
+            run.enter(line.field, line.figure);
+            byButton ? run.click("cmdCalculate") : run.key(Qt::Key_Tab);
+            EXPECT_EQ(run.desk.last().text, line.text) << line.figure;
+            EXPECT_EQ(run.desk.last().title, line.title) << line.figure;
+            EXPECT_EQ(run.focused(), line.field);
+            run.type(line.field, line.good);
+        }
     }
 }
 
