@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QTabWidget>
 #include <cmath>
+#include <utility>
 
 #include "analyses/frmPolInvest.h"
 #include "analyses/retirementreport.h"
@@ -63,8 +64,8 @@ frmNARA::frmNARA(Workplace& workplace)
                       spring(), m_ok})}));
     defaultButton(calculateIt);
     buildPrintPanel();
-    connect(m_pages, &QTabWidget::currentChanged, this, [this](int page) {
-        if (page == m_pages->count() - 1) recalculate();
+    connect(m_pages, &QTabWidget::currentChanged, this, [this] {
+        if (showsResults()) recalculate();
     });
 }
 
@@ -222,6 +223,7 @@ void frmNARA::takeAge() {
 }
 
 void frmNARA::retireNotBeforeToday() {
+    m_ageUsed = m_needs.CurrAge;
     if (m_needs.CurrAge <= m_needs.AgeRetiment) return;
     m_needs.AgeRetiment = m_needs.CurrAge;
     m_retirement->fill();
@@ -229,8 +231,12 @@ void frmNARA::retireNotBeforeToday() {
 }
 
 void frmNARA::settled(Field* field) {
+    const std::pair before(m_needs.CurrAge, m_needs.AgeRetiment);
     if (field == m_birth && m_work.record.client.BirthDate != m_birthUsed) takeAge();
-    if (field == m_birth || field == m_age) retireNotBeforeToday();
+    // Once for each new age: a retirement typed before today is told, not put right behind the user's back.
+    if ((field == m_birth || field == m_age) && m_needs.CurrAge != m_ageUsed) retireNotBeforeToday();
+    // Who turns to the results straight from the field sees them worked out before the ages have followed.
+    if (before != std::pair(m_needs.CurrAge, m_needs.AgeRetiment) && showsResults()) recalculate();
 }
 
 // ---- results
@@ -239,6 +245,8 @@ void frmNARA::itemsTaken(const ItemLine&) {
     m_income->fill();
     m_cover->fill();
 }
+
+bool frmNARA::showsResults() const { return m_pages->currentIndex() == m_pages->count() - 1; }
 
 void frmNARA::recalculate() {
     const assessment::NARetirement before = m_needs;

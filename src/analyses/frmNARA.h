@@ -36,6 +36,7 @@ private:
     void takeAge();
     /// Waits until the age is typed in full: 6 on the way to 65 must not move the age of retirement.
     void retireNotBeforeToday();
+    bool showsResults() const;
     void showTotals();
     void showResults();
     void calculate();
@@ -46,6 +47,7 @@ private:
     assessment::NARetirement& m_needs;
     RetirementAnalysis m_analysis;
     double m_birthUsed = base::blankDate; ///< birth date that the age was last worked out from
+    double m_ageUsed = 0;                 ///< age that retirement was last moved by
     int m_includeAmort = 0, m_includePremium = 0, m_includeNotes = 0, m_includeItems = 0, m_includePolicies = 0;
     double m_assets = 0, m_liabilities = 0; ///< what the two capital pages sum to
     QTabWidget* m_pages = nullptr;

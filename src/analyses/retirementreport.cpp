@@ -51,11 +51,14 @@ datastore::Row askedLines(const assessment::Assessment& record) {
             {"Limitedto50", needs.AgeRetiment - needs.CurrAge > mostYears ? "(limited to 50 years)" : ""}};
 }
 
-datastore::Row notesLines(const std::string& notes) {
-    return {{"NotesHeading", "Notes"}, {"NotesColon", ":"}, {"Notes", notes}};
+// Of a part that is not asked for every line is blank, so that none is left over from an earlier printout.
+
+datastore::Row notesLines(bool included, const std::string& notes) {
+    return {{"NotesHeading", included ? "Notes" : ""},
+            {"NotesColon", included ? ":" : ""},
+            {"Notes", included ? notes : std::string()}};
 }
 
-/// Without a premium its lines are blank, so that none is left over from an earlier printout.
 datastore::Row noPremium() {
     datastore::Row row;
     for (const char* text : {"PremHeading", "PremGRText", "PremPEscText", "ALTEMVText", "PremPeriodText", "PremAnsText",
@@ -72,7 +75,7 @@ void feedRetirement(const std::filesystem::path& printDbPath, const assessment::
                     const RetirementAnalysis& analysis, const RetirementReportOptions& options) {
     datastore::Row row = askedLines(record);
     for (const datastore::Row& more : {incomeLines(analysis), capitalLines(record.retirement), noPremium(),
-                                       options.notes ? notesLines(record.retirement.RANotes) : datastore::Row{}})
+                                       notesLines(options.notes, record.retirement.RANotes)})
         row.insert(row.end(), more.begin(), more.end());
     datastore::PrintFeed feed(printDbPath);
     feed.replace("NARA", row);

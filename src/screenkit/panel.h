@@ -19,6 +19,8 @@ public:
     void open(QWidget* first);
     /// Hides it and gives the focus back to where it was.
     void close();
+    /// Puts the focus on its first control.
+    void takeFocus() { focusNextPrevChild(true); }
     void setTitle(const QString& title);
     void setContent(QLayout* content);
     void setCancelButton(QPushButton* button) { m_cancel = button; }

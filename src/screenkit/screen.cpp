@@ -85,12 +85,22 @@ void Screen::focusLater(QWidget* widget) {
 
 void Screen::activate() {
     refill();
-    if (std::exchange(m_opened, true)) return;
+    if (std::exchange(m_opened, true)) {
+        QTimer::singleShot(0, this, [this] { recoverFocus(); }); // once the window has given it back
+        return;
+    }
     QWidget* first = firstField();
     if (auto* field = dynamic_cast<Field*>(first))
         field->takeFocus();
     else if (first != nullptr)
         first->setFocus(Qt::OtherFocusReason);
+}
+
+void Screen::recoverFocus() {
+    const QWidget* now = QApplication::focusWidget();
+    if (m_dropped || !isVisible() || (now != nullptr && now != parentWidget())) return;
+    for (Panel* made : m_panels)
+        if (made->isVisible()) made->takeFocus();
 }
 
 void Screen::refill() {

@@ -157,6 +157,9 @@ private:
     void runPrint(Panel* panel, const std::function<void(Destination)>& print, Destination destination);
     void bringToView(QWidget* widget);
     void followFocus(QWidget* focused);
+    /// A cell in edit closes when the user goes to another screen, and takes the focus with it. What the panel covers
+    /// can't have it, so that no key would reach anything on the way back.
+    void recoverFocus();
     void enterPressed();
     /// The entry that follows in the tab order; nothing from the last one.
     QWidget* nextEntry(const QWidget* from) const;

@@ -23,11 +23,14 @@ QString fitting(const QString& before, const QString& after, std::size_t room) {
 
 } // namespace
 
+/// Makes what is put in fit its place. The tabs and line ends of a pasted cell become blanks: a line shows one line.
 class RoomValidator : public QValidator {
 public:
     RoomValidator(std::size_t most, QObject* parent) : QValidator(parent), m_most(most) {}
     void setRoom(std::size_t most) { m_most = most; }
     State validate(QString& text, int& cursor) const override {
+        for (QChar& c : text)
+            if (c < u' ' || c == QChar::LineSeparator || c == QChar::ParagraphSeparator) c = u' ';
         if (characters(text) <= m_most) return Acceptable;
         const QString after = text.mid(cursor);
         const QString before = fitting(text.left(cursor), after, m_most);

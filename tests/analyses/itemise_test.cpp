@@ -173,6 +173,12 @@ TEST_F(ItemisedPanel, aListIsTypedTakenAndLocksItsLine) {
     type("34.5");
     EXPECT_EQ(shown("numItemiseTotal"), "1 200 000");
     EXPECT_EQ(naraChanged, 0) << "a copy is no change of the client";
+    area.setActiveSubWindow(child); // to another screen and back
+    settle();
+    area.setActiveSubWindow(linesChild);
+    lines->activate();
+    settle();
+    EXPECT_EQ(focus(), "grdItemise");
     key(Qt::Key_Return, Qt::ControlModifier);
     EXPECT_FALSE(isOpen());
     EXPECT_EQ(focus(), "cmdItemise(1)");

@@ -197,6 +197,10 @@ TEST_F(EditGridTest, mousePasteAndScreenReaderKnowTheCells) {
     key(Qt::Key_Escape);
     EXPECT_EQ(grid().rows(), (Rows{twoRows[0], {"Shop", 7.0, 2.0}}));
     EXPECT_EQ(grid().currentIndex().data(Qt::AccessibleTextRole), "Amount, row 2: 7");
+    goTo(1, 0);
+    paste("a\nb\tc"); // a text of two lines would hide its second one
+    key(Qt::Key_Escape);
+    EXPECT_EQ(grid().rows()[1][0], EditCell("a b c"));
 }
 
 } // namespace
