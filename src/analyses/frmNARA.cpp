@@ -19,8 +19,12 @@ using namespace screenkit;
 namespace {
 
 constexpr const char* figures = "### ### ###";
-constexpr double highestAge = 99;
+constexpr double highestAge = 99; ///< at retirement
+constexpr double oldestClient = 120;
 
+// A slip of the key must not pull the age of retirement along with it.
+const NumberKind ages = whole.from(0, "The minimum age is 0", "Incorrect Age!")
+                            .upTo(oldestClient, "The maximum age allowed is 120", "Incorrect Age!");
 const NumberKind years = whole.from(0, "The minimum Period is 0 years", "Incorrect Period!")
                              .upTo(mostYears, "The Maximum Period is 50 years", "Incorrect Period!");
 const NumberKind inflation = percent.between(
@@ -33,7 +37,10 @@ const NumberKind wholeRand = money.shownAs("# ### ### ##0");
 /// From the client's age to 99; a client past that retires today. The title is the bank rate's and is kept.
 NumberKind retirementAge(const assessment::NARetirement& needs) {
     return whole.where(
-        [&needs](double age) { return age >= needs.CurrAge && age <= std::max(highestAge, needs.CurrAge); },
+        [&needs](double age) {
+            const double today = needs.CurrAge > oldestClient ? 0 : needs.CurrAge; // its own field complains of it
+            return age >= today && age <= std::max(highestAge, today);
+        },
         "The maximum age allowed is 99 and the minimum age must be equal or greater than the current age",
         "Incorrect Bank Interest Rate!");
 }
@@ -86,7 +93,7 @@ Item frmNARA::requirementsPage() {
     m_name = shown("txtName", 30);
     m_idNumber = shown("txtIDNum", 30);
     m_birth = date("dtBirthDate", client.BirthDate);
-    m_age = number("numCurrentAge", age(m_needs.CurrAge), whole.from(0, "The minimum age is 0", "Incorrect Age!"));
+    m_age = number("numCurrentAge", age(m_needs.CurrAge), ages);
     m_retirement = number("numAgeOfRetirement", age(m_needs.AgeRetiment), retirementAge(m_needs));
     m_years = result("numYearsToRet", m_needs.YearsToRet, whole);
     m_income = amount("numMonIncPD", m_needs.IncomePD);
@@ -232,9 +239,10 @@ void frmNARA::retireNotBeforeToday() {
 
 void frmNARA::settled(Field* field) {
     const std::pair before(m_needs.CurrAge, m_needs.AgeRetiment);
-    if (field == m_birth && m_work.record.client.BirthDate != m_birthUsed) takeAge();
+    const bool isBorn = field == m_birth && m_work.record.client.BirthDate != m_birthUsed;
+    if (isBorn) takeAge();
     // Once for each new age: a retirement typed before today is told, not put right behind the user's back.
-    if ((field == m_birth || field == m_age) && m_needs.CurrAge != m_ageUsed) retireNotBeforeToday();
+    if (isBorn || (field == m_age && m_needs.CurrAge != m_ageUsed)) retireNotBeforeToday();
     // Who turns to the results straight from the field sees them worked out before the ages have followed.
     if (before != std::pair(m_needs.CurrAge, m_needs.AgeRetiment) && showsResults()) recalculate();
 }

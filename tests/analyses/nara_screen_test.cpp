@@ -138,6 +138,7 @@ TEST_F(NARA, EveryLimitHasItsBoxAndKeepsTheFocus) {
     for (const Case& line : {
              Case{"numAgeOfRetirement", "100", ages, "Incorrect Bank Interest Rate!", "65"},
              {"numAgeOfRetirement", "44", ages, "Incorrect Bank Interest Rate!", "65"},
+             {"numCurrentAge", "455", "The maximum age allowed is 120", "Incorrect Age!", "45"},
              {"numCoverReq", "51", "The Maximum Period is 50 years", "Incorrect Period!", "20"},
              {"numInflationRate", "30.01", range, "Incorrect Inflation Rate!", "5"},
              {"numInflationRate", "-5.01", range, "Incorrect Inflation Rate!", "5"},
@@ -156,6 +157,7 @@ TEST_F(NARA, EveryLimitHasItsBoxAndKeepsTheFocus) {
             run.type(line.field, line.good);
         }
     }
+    EXPECT_EQ(needs().AgeRetiment, 65);
 }
 
 TEST_F(NARA, AnItemisedLineIsLockedWithItsSumUntilTheSumIsNothing) {
