@@ -16,6 +16,7 @@ namespace {
 
 constexpr double coarseStep = 100000; ///< rand; the other analyses step by 10 000 throughout
 constexpr double fineStep = 10000;
+constexpr int mostFinePasses = 20; ///< ten lead back to the coarse step; of a damaged file's billions none might
 constexpr double excessWorthTelling = 100000; ///< half as much on the other analyses
 constexpr const char* amounts = "### ### ###";
 
@@ -79,10 +80,9 @@ public:
         const std::int64_t most = stepsPast(m_start, highestCapital, coarseStep);
         const auto step = firstStep(most, [&](std::int64_t number) { return covers(capital(number)); });
         if (!step || capital(*step) > highestCapital) return {{}, capital(most)};
-        double tried = capital(*step) - coarseStep;
-        do
+        double tried = capital(*step) - coarseStep + fineStep;
+        for (int pass = 1; pass < mostFinePasses && !covers(tried); ++pass)
             tried += fineStep;
-        while (!covers(tried));
         return {tried, tried};
     }
 
