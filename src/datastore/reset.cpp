@@ -7,10 +7,17 @@
 
 namespace datastore {
 
-assessment::Assessment blankRecord(const std::filesystem::path& defaultDbPath) {
+namespace {
+assessment::Assessment blankRecord(store::Database& settings) {
     assessment::Assessment blank;
-    blank.GRINC = readSettings(defaultDbPath, "Setup").number("GRINC");
+    blank.GRINC = readSettings(settings, "Setup").number("GRINC");
     return blank;
+}
+} // namespace
+
+assessment::Assessment blankRecord(const std::filesystem::path& defaultDbPath) {
+    store::Database settings(defaultDbPath);
+    return blankRecord(settings);
 }
 
 void readCPI(assessment::Assessment& record, store::Database& clients) {
@@ -40,8 +47,8 @@ void ResetAssessment(assessment::Assessment& record, const Paths& paths) {
     record = std::move(blank);
 }
 
-void ResetAssessment(assessment::Assessment& record, const Paths& paths, store::Database& clients) {
-    assessment::Assessment blank = blankRecord(paths.DefaultDbPath);
+void ResetAssessment(assessment::Assessment& record, store::Database& settings, store::Database& clients) {
+    assessment::Assessment blank = blankRecord(settings);
     readCPI(blank, clients);
     record = std::move(blank);
 }

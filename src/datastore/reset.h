@@ -11,8 +11,8 @@ namespace datastore {
 ///
 /// Throws without touching the record if the settings can't be read.
 void ResetAssessment(assessment::Assessment& record, const Paths& paths);
-/// The same with the client database open.
-void ResetAssessment(assessment::Assessment& record, const Paths& paths, store::Database& clients);
+/// The same with both databases open.
+void ResetAssessment(assessment::Assessment& record, store::Database& settings, store::Database& clients);
 
 /// The two halves of a reset, for callers that have the client database open: a blank record with `GRINC`, and `CPI`.
 assessment::Assessment blankRecord(const std::filesystem::path& defaultDbPath);

@@ -52,8 +52,7 @@ void touchTallowenDefault(store::Database& settings) {
     writeSettings(settings, "TallowenDefault", changed);
 }
 
-assessment::FundDefaults readFunds(const fs::path& defaultDbPath) {
-    store::Database settings(defaultDbPath);
+assessment::FundDefaults readFunds(store::Database& settings) {
     const assessment::FundDefaults funds = fundsFrom(readSettings(settings, assessment::mutualFundsTable().name()));
     touchTallowenDefault(settings);
     return funds;
@@ -64,11 +63,12 @@ assessment::FundDefaults readFunds(const fs::path& defaultDbPath) {
 StartUpResult startUp(const fs::path& programFolder, assessment::Assessment& record, const Notice& notice) {
     StartUpResult result{findPaths(programFolder)};
     provideClientDb(result.paths.DataDbPath, notice);
-    // One connection for both: reading the definitions of 46 tables is most of the work of a start on the files.
+    // One connection a file: reading the definitions of its tables is most of the work of a start on it.
     store::Database clients(result.paths.DataDbPath);
     result.UpDateDBValue = bringUpToDate(clients, result.paths);
-    ResetAssessment(record, result.paths, clients);
-    record.funds = readFunds(result.paths.DefaultDbPath);
+    store::Database settings(result.paths.DefaultDbPath);
+    ResetAssessment(record, settings, clients);
+    record.funds = readFunds(settings);
     return result;
 }
 
