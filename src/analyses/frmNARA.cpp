@@ -5,6 +5,7 @@
 #include <cmath>
 #include <utility>
 
+#include "analyses/amounts.h"
 #include "analyses/frmPolInvest.h"
 #include "analyses/retirementreport.h"
 #include "datastore/paths.h"
@@ -18,7 +19,6 @@ using namespace screenkit;
 
 namespace {
 
-constexpr const char* figures = "### ### ###";
 constexpr double highestAge = 99; ///< at retirement
 constexpr double oldestClient = 120;
 
@@ -299,10 +299,10 @@ void frmNARA::amortisation() {
         rows.push_back({year.age, year.capital, year.interest, year.available, year.required});
     showGrid("Amortisation",
              {{"   Age   ", "###"},
-              {"       Capital       ", figures},
-              {"      Interest       ", figures},
-              {"   Income Available       ", figures},
-              {"   Income Required      ", figures}},
+              {"       Capital       ", amountMask},
+              {"      Interest       ", amountMask},
+              {"   Income Available       ", amountMask},
+              {"   Income Required      ", amountMask}},
              std::move(rows), m_ok);
 }
 

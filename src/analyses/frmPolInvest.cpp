@@ -66,7 +66,7 @@ frmPolInvest::frmPolInvest(Workplace& workplace)
                                     {"&Death", deathPage()},
                                     {"Disability and &trauma", disabilityPage()},
                                     {"&Retirement and investments", retirementPage()}});
-    body(column({m_pages, valuesAtRetirement(), buttons()}));
+    body(column({m_pages, valuesGroup(), buttons()}));
     buildCPIPanel();
     buildPrintPanel();
 }
@@ -134,9 +134,7 @@ void frmPolInvest::showPlace() {
 }
 
 void frmPolInvest::showValues() {
-    m_trial.policies.assign(1, policy());
-    m_trial.retirement.AgeRetiment = m_record.retirement.AgeRetiment;
-    m_values = CalculatePolInv(m_trial).front();
+    m_values = valuesAtRetirement(policy(), m_record.retirement.AgeRetiment);
     for (NumberField* field : m_valueFields)
         field->fill();
 }

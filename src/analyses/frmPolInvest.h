@@ -23,7 +23,7 @@ private:
     screenkit::Item deathPage();
     screenkit::Item disabilityPage();
     screenkit::Item retirementPage();
-    screenkit::Item valuesAtRetirement();
+    screenkit::Item valuesGroup();
     QLayout* buttons();
     void buildCPIPanel();
     void buildPrintPanel();
@@ -58,7 +58,6 @@ private:
     void print(screenkit::Destination destination);
 
     assessment::Assessment& m_record;
-    assessment::Assessment m_trial; ///< holds a copy of the policy on screen: showing its values changes no client
     ValuesAtRetirement m_values;
     double m_typedCPI = 0;
     int m_printList = 1, m_printSchedule = 0, m_includeNotes = 0;

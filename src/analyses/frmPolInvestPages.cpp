@@ -196,7 +196,7 @@ NumberField* frmPolInvest::valueField(const QString& name, double& value) {
     return m_valueFields.back();
 }
 
-Item frmPolInvest::valuesAtRetirement() {
+Item frmPolInvest::valuesGroup() {
     auto* values = row({form({{"Cash value", valueField("numCashValAtRet", m_values.cashValue)},
                               {"R/A maturity value", valueField("numRBEMVAtRet", m_values.raMaturity)}}),
                         spring(),

@@ -4,6 +4,8 @@
 #include <cassert>
 #include <utility>
 
+#include "analyses/amounts.h"
+
 namespace analyses {
 
 namespace {
@@ -17,7 +19,7 @@ using assessment::ItemTable;
 constexpr double longestPeriod = 50; // years: as far as an analysis runs
 
 constexpr ItemColumn description{"Description", nullptr, 60, "A maximum of only 60 characters can be accepted !"};
-constexpr ItemColumn amount{"Amount", "### ### ###", 99999999, "Only a value between 0 and 99 999 999 can be entered!",
+constexpr ItemColumn amount{"Amount", amountMask, 99999999, "Only a value between 0 and 99 999 999 can be entered!",
                             &ItemRow::Amount};
 constexpr ItemColumn escalation{"Escl.", "##.##", 30, "Only a value between 0% and 30% can be entered!",
                                 &ItemRow::Escalation};

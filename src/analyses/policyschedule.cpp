@@ -89,6 +89,11 @@ void follow(std::int16_t& flag, bool on, bool off) {
 
 } // namespace
 
+ValuesAtRetirement valuesAtRetirement(const Policy& policy, double ageOfRetirement) {
+    double pensions = 0;
+    return atAge(policy, ageOfRetirement, pensions);
+}
+
 std::vector<ValuesAtRetirement> CalculatePolInv(assessment::Assessment& record) {
     const double retirement = record.retirement.AgeRetiment;
     double death = 0, deathMonthly = 0, disability = 0, disabilityMonthly = 0, capital = 0, pensions = 0;

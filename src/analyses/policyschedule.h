@@ -17,6 +17,9 @@ struct ValuesAtRetirement {
     double investment = 0;
 };
 
+/// What one record comes to at an age of retirement; its `monthlyIncome` is its own pension alone.
+ValuesAtRetirement valuesAtRetirement(const assessment::Policy& policy, double ageOfRetirement);
+
 /// Folds the schedule of policies into the capital lines of the needs analyses.
 ///
 /// Reads the policies and `AgeRetiment`. Writes `ANSLAss4` (capital at retirement), `ANSAss5` (on death) and `DisaASS5`

@@ -4,10 +4,10 @@
 #include <cmath>
 #include <optional>
 
+#include "analyses/amounts.h"
 #include "analyses/capitalsearch.h"
 #include "analyses/policyschedule.h"
 #include "analyses/retirementflows.h"
-#include "base/numberformat.h"
 #include "base/rounding.h"
 
 namespace analyses {
@@ -18,7 +18,6 @@ constexpr double coarseStep = 100000; ///< rand; the other analyses step by 10 0
 constexpr double fineStep = 10000;
 constexpr int mostFinePasses = 20; ///< ten lead back to the coarse step; of a damaged file's billions none might
 constexpr double excessWorthTelling = 100000; ///< half as much on the other analyses
-constexpr const char* amounts = "### ### ###";
 
 int wholeYears(double years) {
     const double whole = base::roundHalfEven(years);
@@ -111,8 +110,6 @@ void overwriteLastYear(const assessment::NARetirement& needs, RetirementAnalysis
     analysis.flows.AvailableByYear[year] = needs.IncomeRA * 12;
 }
 
-std::string amount(double rand) { return base::formatNumber(rand, amounts); }
-
 } // namespace
 
 RetirementAnalysis NARACalc(assessment::Assessment& record) {
@@ -132,11 +129,11 @@ RetirementAnalysis NARACalc(assessment::Assessment& record) {
     const Found found = covered ? search.excess() : search.shortfall();
     analysis.CapitalSolved = found.solved.value_or(0);
     if (const double excess = analysis.NetCapital - analysis.CapitalSolved; covered && excess > excessWorthTelling)
-        analysis.txtAns2 = "(capital excess available of " + amount(excess) + " detected)";
+        analysis.txtAns2 = "(capital excess available of " + amountText(excess) + " detected)";
     needs.IncomeRA = lastIncome(analysis, projectCapital(analysis.flows, found.lastTried, needs.BankInvestRate));
     overwriteLastYear(needs, analysis);
     if (yearsAsked(needs) > 0 && !covered && found.solved)
-        analysis.txtAns2 = amount(*found.solved - analysis.NetCapital) + " additional cover required.";
+        analysis.txtAns2 = amountText(*found.solved - analysis.NetCapital) + " additional cover required.";
     return analysis;
 }
 

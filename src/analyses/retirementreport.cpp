@@ -1,17 +1,16 @@
 #include "analyses/retirementreport.h"
 
+#include "analyses/amounts.h"
 #include "base/day.h"
-#include "base/numberformat.h"
 #include "datastore/printfeed.h"
 
 namespace analyses {
 
 namespace {
 
-std::string amount(double rand) { return base::formatNumber(rand, "### ### ###"); }
-
 std::string netWorthText(double capital) {
-    return capital < 0 ? "Capital Shortfall : " + amount(-capital) : "Net worth for investment : " + amount(capital);
+    return capital < 0 ? "Capital Shortfall : " + amountText(-capital)
+                       : "Net worth for investment : " + amountText(capital);
 }
 
 datastore::Row capitalLines(const assessment::NARetirement& needs) {

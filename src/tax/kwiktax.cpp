@@ -5,15 +5,11 @@
 
 namespace tax {
 
-namespace {
-
 ScaleTax taxSalary(assessment::KwikTax& client, const TaxYear& year) {
     const ScaleTax result = taxOn(year, client.Salary);
     client.LastScaleTax = result.tax;
     return result;
 }
-
-} // namespace
 
 ScaleTax TABLEVIEW2026(assessment::KwikTax& client) { return taxSalary(client, quickTaxFebruary2026.scale); }
 ScaleTax TABLEVIEW2027(assessment::KwikTax& client) { return taxSalary(client, quickTaxFebruary2027.scale); }

@@ -5,7 +5,9 @@
 
 namespace tax {
 
-/// Tax `Salary` by the scale of one year, and leave the tax in `LastScaleTax` for whoever reads it after the call.
+/// Taxes `Salary` by the scale of a year, and leaves the tax in `LastScaleTax` for whoever reads it after the call.
+ScaleTax taxSalary(assessment::KwikTax& client, const TaxYear& year);
+/// The same by the two scales that quick tax offers.
 ScaleTax TABLEVIEW2026(assessment::KwikTax& client);
 ScaleTax TABLEVIEW2027(assessment::KwikTax& client);
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/day.h"
+#include "tax/kwiktax.h"
 
 namespace tax {
 
@@ -70,11 +71,7 @@ double monthLength(double startDate) {
     }
 }
 
-ScaleTax TABLEVIEW(assessment::KwikTax& client) {
-    const ScaleTax result = taxOn(monthlyTaxRules.scale, client.Salary);
-    client.LastScaleTax = result.tax;
-    return result;
-}
+ScaleTax TABLEVIEW(assessment::KwikTax& client) { return taxSalary(client, monthlyTaxRules.scale); }
 
 MonthlyTax monthlyTax(const MonthlyInputs& month, const PAYESetup& setup, double& previousInclusionRate,
                       assessment::KwikTax& client) {

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+
+#include "base/numberformat.h"
+
+namespace analyses {
+
+/// How the needs analyses show an amount, on screen, in a sentence and on paper: whole rand, 0 as nothing.
+inline constexpr const char* amountMask = "### ### ###";
+
+inline std::string amountText(double rand) { return base::formatNumber(rand, amountMask); }
+
+} // namespace analyses
