@@ -285,23 +285,6 @@ TEST_F(ItemisedPanel, closingAsksOnlyAboutAChangedList) {
     EXPECT_EQ(property.rows[0].Amount, 20);
 }
 
-TEST_F(ItemisedPanel, fiveThousandRowsOpenAndEditWithoutAWait) {
-    for (int i = 0; i < 5000; ++i)
-        property.rows.push_back(capital("Plot", 1));
-    QElapsedTimer timer;
-    timer.start();
-    open(1);
-    key(Qt::Key_End, Qt::ControlModifier);
-    type("5");
-    key(Qt::Key_Return);
-    type("House");
-    key(Qt::Key_Tab);
-    EXPECT_EQ(shown("numItemiseTotal"), "5 004");
-    EXPECT_LT(timer.elapsed(), 1000) << "some thirty milliseconds of it are the click's own";
-    key(Qt::Key_O, Qt::AltModifier);
-    EXPECT_EQ(property.rows.size(), 5001U);
-}
-
 namespace {
 class ItemisedReport : public reporttest::ReportTest {};
 } // namespace

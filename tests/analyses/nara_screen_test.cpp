@@ -160,25 +160,6 @@ TEST_F(NARA, EveryLimitHasItsBoxAndKeepsTheFocus) {
     EXPECT_EQ(needs().AgeRetiment, 65);
 }
 
-TEST_F(NARA, AnItemisedLineIsLockedWithItsSumUntilTheSumIsNothing) {
-    openFilled();
-    itemise(1, {"House", "900000", "Plot", "350000.5"});
-    EXPECT_EQ(run.shown("numASS(0)"), "1 250 000"); // half to even, as shown; the record keeps the cents
-    EXPECT_EQ(needs().ANSLAss1, 1250000.5);
-    EXPECT_TRUE(run.control<QLineEdit>("numASS(0)")->isReadOnly());
-    EXPECT_EQ(run.record().itemised.RNARealEst.flag, 1);
-    EXPECT_EQ(run.shown("numASS(5)"), "1 550 000");
-
-    run.click("cmdItemise(1)"); // no longer worth anything
-    for (int row = 0; row < 2; ++row)
-        run.key(Qt::Key_Delete, Qt::ControlModifier);
-    run.click("cmdOKItemise");
-    EXPECT_EQ(run.record().itemised.RNARealEst.flag, 0);
-    EXPECT_EQ(run.record().itemised.RNARealEst.rows.size(), 1u);
-    EXPECT_EQ(needs().ANSLAss1, 0);
-    EXPECT_FALSE(run.control<QLineEdit>("numASS(0)")->isReadOnly());
-}
-
 TEST_F(NARA, ItemisedNeedsSetIncomeAndPeriodAndFollowTheAge) {
     openFilled();
     itemise(11, {"Living", "8000", "6", "65", "85", "Travel", "2000", "0", "65", "70", "Care", "500", "0", "60", "90"});

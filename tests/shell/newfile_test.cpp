@@ -38,7 +38,7 @@ TEST(NewFile, AsksNothingWithoutChangesAndOpensPersonalDetails) {
     EXPECT_EQ(run.record().DCLNO, 0);
 }
 
-TEST(NewFile, CancelLeavesAllAsItWas) {
+TEST(NewFile, CancelLeavesAllAsItWasAndNoDropsTheChanges) {
     RunningProgram run;
     run.menu("mnuPersDet");
     run.type("txtCLName", "Botha");
@@ -52,12 +52,7 @@ TEST(NewFile, CancelLeavesAllAsItWas) {
     EXPECT_EQ(run.clientName(), "  Botha");
     EXPECT_EQ(run.record().changed.PersDetChanged, 1);
     EXPECT_EQ(run.record().SaveThenNew, 0);
-}
 
-TEST(NewFile, NoDropsTheChanges) {
-    RunningProgram run;
-    run.menu("mnuPersDet");
-    run.type("txtCLName", "Botha");
     run.desk.expect(Answer::no);
     run.menu("mnuNewFile");
     EXPECT_EQ(run.shown("txtCLName"), "");
@@ -133,7 +128,8 @@ TEST(Save, AsksForANameOfMoreThanBlanks) {
 TEST(Screens, OpeningAndClosingEachLeavesTheClientUnchanged) {
     RunningProgram run;
     run.saveClient("Botha");
-    for (const char* item : {"mnuPersDet", "mnuLoansCalc", "mnuPrep", "mnuBrowse", "mnuSaveAs", "mnuContents"}) {
+    for (const char* item : {"mnuPersDet", "mnuPolInvests", "mnuNARA", "mnuLoansCalc", "mnuQuickTax", "mnuPAYE",
+                             "mnuPrep", "mnuBrowse", "mnuSaveAs", "mnuContents"}) {
         run.menu(item);
         run.front()->parentWidget()->close();
         RunningProgram::settle();
