@@ -72,7 +72,8 @@ bool AccessKeys::eventFilter(QObject* watched, QEvent* event) {
     QWidget* scope = scopeOf(focused);
     if (scope == nullptr) return false;
     const auto found = targets(scope, QKeySequence(key->keyCombination()));
-    if (found.empty()) return false;
+    // A letter that leads nowhere, here or in the menu, would be typed, and over all of a field whose text is selected.
+    if (found.empty()) return event->type() == QEvent::KeyPress && !key->text().isEmpty() && key->text()[0].isPrint();
     event->accept();
     if (event->type() == QEvent::KeyPress) nextOf(found, focused).act();
     return true;

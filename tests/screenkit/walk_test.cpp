@@ -47,6 +47,9 @@ TEST_F(KitTest, enterWalksTheFieldsAndTheLastPressesTheDefaultButton) {
     go("numAmount");
     key(Qt::Key_Return);
     EXPECT_EQ(selected(), text("numMonths"));
+    const std::string held = text("numMonths");
+    key(Qt::Key_7, Qt::AltModifier);
+    EXPECT_EQ(text("numMonths"), held) << "a key that leads nowhere is not typed over the selection";
 }
 
 TEST_F(KitTest, inASmallWindowWithLargeLettersTheFocusIsAlwaysInView) {
