@@ -3,9 +3,9 @@
 #include <random>
 #include <vector>
 
-#include "analyses/policyschedule.h"
 #include "analyses/retirement.h"
 #include "analyses/retirement_stepping.h"
+#include "client/policyschedule.h"
 
 namespace {
 
@@ -77,7 +77,7 @@ double foldSchedule() {
         policy.UseEndowEMVAtRet = policy.InvBensTakeFinValAtRet = 1;
     }
     client.retirement.AgeRetiment = 65;
-    return bench::milliseconds([&] { bench::keep(analyses::CalculatePolInv(client).back().investment); });
+    return bench::milliseconds([&] { bench::keep(client::CalculatePolInv(client).back().investment); });
 }
 
 const bench::Register search({"retirement capital, 200 clients, against plain steps", "ms", stepAll, solveAll, 0.5, 3});

@@ -208,7 +208,7 @@ bool ItemisedScreen::leavePanel() {
     return true;
 }
 
-bool ItemisedScreen::handOver() { return m_open == nullptr || !hasChanges() || leavePanel(); }
+bool ItemisedScreen::commitPendingEdits() { return m_open == nullptr || !hasChanges() || leavePanel(); }
 
 bool ItemisedScreen::mayClose() { return leavePanel(); }
 

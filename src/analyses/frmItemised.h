@@ -19,7 +19,7 @@ class ItemisedScreen : public screenkit::Screen {
     Q_OBJECT
 public:
     void clientReplaced() override;
-    bool handOver() override;
+    bool commitPendingEdits() override;
 
 protected:
     ItemisedScreen(screenkit::Workplace& workplace, const QString& name, const QString& caption, std::int16_t& changed,

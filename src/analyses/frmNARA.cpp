@@ -6,8 +6,8 @@
 #include <utility>
 
 #include "analyses/amounts.h"
-#include "analyses/frmPolInvest.h"
 #include "analyses/retirementreport.h"
+#include "client/frmPolInvest.h"
 #include "datastore/paths.h"
 #include "reports/frmGraph.h"
 #include "reports/report.h"
@@ -60,15 +60,15 @@ frmNARA::frmNARA(Workplace& workplace)
         calculate();
     });
     m_ok = okButton();
-    body(column({Item(m_pages, 1),
-                 row({calculateIt, button("cmdAmort", "&Amortisation", [this] { amortisation(); }),
-                      button("cmdNARAGraph", "&Graph", [this] { graph(); }), later("cmdPremium", "&Show Premium"),
-                      button("cmdPrint", "&Print",
-                             [this] {
-                                 calculate();
-                                 m_printPanel->open(findChild<QWidget*>("Check1"));
-                             }),
-                      spring(), m_ok})}));
+    body(column({Item(m_pages, 1), row({calculateIt, button("cmdAmort", "&Amortisation", [this] { amortisation(); }),
+                                        button("cmdNARAGraph", "&Graph", [this] { graph(); }),
+                                        disabledButton("cmdPremium", "&Show Premium"),
+                                        button("cmdPrint", "&Print",
+                                               [this] {
+                                                   calculate();
+                                                   m_printPanel->open(findChild<QWidget*>("Check1"));
+                                               }),
+                                        spring(), m_ok})}));
     defaultButton(calculateIt);
     buildPrintPanel();
     connect(m_pages, &QTabWidget::currentChanged, this, [this] {
@@ -328,7 +328,7 @@ void frmNARA::print(Destination destination) {
                                         destination);
     if (!ran) return; // the user has been told
     if (m_includeItems == 1) printItems(destination);
-    if (m_includePolicies == 1) PrintPolInvSchedule(m_work, destination);
+    if (m_includePolicies == 1) client::PrintPolInvSchedule(m_work, destination);
 }
 
 } // namespace analyses

@@ -6,9 +6,9 @@
 
 #include "analyses/amounts.h"
 #include "analyses/capitalsearch.h"
-#include "analyses/policyschedule.h"
 #include "analyses/retirementflows.h"
 #include "base/rounding.h"
+#include "client/policyschedule.h"
 
 namespace analyses {
 
@@ -113,7 +113,7 @@ void overwriteLastYear(const assessment::NARetirement& needs, RetirementAnalysis
 } // namespace
 
 RetirementAnalysis NARACalc(assessment::Assessment& record) {
-    CalculatePolInv(record);
+    client::CalculatePolInv(record);
     assessment::NARetirement& needs = record.retirement;
     capRates(needs);
     RetirementAnalysis analysis;

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "analyses/years.h"
+#include "client/years.h"
 
 namespace analyses {
 
@@ -68,7 +68,7 @@ Yearly policyIncomes(const assessment::Assessment& record, double pensions) {
 
 /// What a need in today's money comes to after the years from the next birthday to an age, both counted.
 double inflatedTo(double age, double amount, const assessment::NARetirement& needs) {
-    for (int year = yearsFromTo(needs.CurrAge + 1, age); year > 0; --year)
+    for (int year = client::yearsFromTo(needs.CurrAge + 1, age); year > 0; --year)
         amount = amount * needs.InflationRA / 100 + amount;
     return amount;
 }

@@ -32,7 +32,7 @@ store::Statement insertion(store::Database& database, std::string_view table, co
     return database.prepare(row.empty() ? into + " DEFAULT VALUES" : into + " (" + names + ") VALUES (" + places + ")");
 }
 
-store::Statement edition(store::Database& database, std::string_view table, const Row& row) {
+store::Statement prepareUpdate(store::Database& database, std::string_view table, const Row& row) {
     std::string settings;
     for (const Field& field : row)
         settings += (settings.empty() ? "" : ", ") + store::bracketed(field.name) + " = ?";

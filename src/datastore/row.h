@@ -33,7 +33,7 @@ store::Declared requiredField(const store::Database& database, std::string_view 
 
 /// Prepares an INSERT of these fields, or an UPDATE of them in the row whose rowid is bound last.
 store::Statement insertion(store::Database& database, std::string_view table, const Row& row);
-store::Statement edition(store::Database& database, std::string_view table, const Row& row);
+store::Statement prepareUpdate(store::Database& database, std::string_view table, const Row& row);
 
 /// Binds the values of a row from 1 on, each as its column holds it.
 void bindRow(store::Statement& statement, const Row& row, const store::Database& database, std::string_view table,

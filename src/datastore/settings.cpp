@@ -28,7 +28,7 @@ bool editFirstRow(store::Database& database, std::string_view table, const Row& 
     if (fields.empty()) return true;
     for (const Field& field : fields)
         requiredField(database, table, columns, field.name);
-    store::Statement edit = edition(database, table, fields);
+    store::Statement edit = prepareUpdate(database, table, fields);
     bindRow(edit, fields, database, table, columns);
     edit.bind(static_cast<int>(fields.size()) + 1, *rowid).run();
     return true;

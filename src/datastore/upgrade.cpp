@@ -15,28 +15,28 @@ namespace datastore {
 namespace {
 
 /// What a client draws from shares, as far as the conversion needs it.
-struct Drawing {
+struct ShareIncome {
     std::int64_t row;
     double percent;
     double capital;
     std::string mode;
 };
 
-std::vector<Drawing> readDrawings(store::Database& database) {
-    std::vector<Drawing> drawings;
+std::vector<ShareIncome> readShareIncomes(store::Database& database) {
+    std::vector<ShareIncome> incomes;
     store::Statement select =
         database.prepare("SELECT rowid, [InitPercRequire], [InvestAmount], [AnnMonIncShare] FROM [Data]");
     while (select.step())
-        drawings.push_back(
+        incomes.push_back(
             {static_cast<std::int64_t>(select.number(0)), select.number(1), select.number(2), select.text(3)});
-    return drawings;
+    return incomes;
 }
 
-double wholeRand(const Drawing& drawing) {
-    const double amount = drawing.capital * base::roundHalfEven(drawing.percent / 100, 6);
-    if (base::sameWord(drawing.mode, "annually")) return base::roundHalfEven(amount);
-    if (base::sameWord(drawing.mode, "monthly")) return base::roundHalfEven(amount / 12);
-    return base::roundHalfEven(drawing.percent);
+double wholeRand(const ShareIncome& income) {
+    const double amount = income.capital * base::roundHalfEven(income.percent / 100, 6);
+    if (base::sameWord(income.mode, "annually")) return base::roundHalfEven(amount);
+    if (base::sameWord(income.mode, "monthly")) return base::roundHalfEven(amount / 12);
+    return base::roundHalfEven(income.percent);
 }
 
 void writeVersion(store::Database& database, double version) {
@@ -45,7 +45,7 @@ void writeVersion(store::Database& database, double version) {
     update.bind(1, version).run();
 }
 
-void climb(store::Database& database, double version, const Paths& paths) {
+void runUpgradeSteps(store::Database& database, double version, const Paths& paths) {
     MakeNewDb(database);
     UpgradeHeadFoot(database);
     UpgradeRnaMonIncReq(database);
@@ -95,12 +95,12 @@ void UpgradeData(store::Database& database) {
 }
 
 void UpgradeInitPercRequire(store::Database& database) {
-    const std::vector<Drawing> drawings = readDrawings(database);
+    const std::vector<ShareIncome> incomes = readShareIncomes(database);
     store::Statement update = database.prepare("UPDATE [Data] SET [InitPercRequire]=? WHERE rowid=?");
-    for (const Drawing& drawing : drawings) {
+    for (const ShareIncome& income : incomes) {
         update.bind(
-            1, store::toStored(wholeRand(drawing), {store::Type::Double}, database.path().string(), "InitPercRequire"));
-        update.bind(2, static_cast<double>(drawing.row)).run();
+            1, store::toStored(wholeRand(income), {store::Type::Double}, database.path().string(), "InitPercRequire"));
+        update.bind(2, static_cast<double>(income.row)).run();
     }
 }
 
@@ -119,7 +119,7 @@ double bringUpToDate(store::Database& database, const Paths& paths) {
     // Behind the lock it is read again: with a shared file another start may just have brought it up to date.
     const double lockedVersion = readVersion(database);
     if (lockedVersion >= currentVersion) return lockedVersion;
-    climb(database, lockedVersion, paths);
+    runUpgradeSteps(database, lockedVersion, paths);
     transaction.commit();
     return currentVersion;
 }

@@ -121,7 +121,7 @@ QPushButton* Screen::opener(const QString& name, const QString& caption, const Q
     return push;
 }
 
-QPushButton* Screen::later(const QString& name, const QString& caption) {
+QPushButton* Screen::disabledButton(const QString& name, const QString& caption) {
     auto* push = button(name, caption, [] {});
     push->setEnabled(false);
     return push;

@@ -56,7 +56,7 @@ public:
     bool checkFields();
     /// Before the record is saved or replaced: what the screen holds apart from it goes in or is dropped, as the user
     /// says, and what it has only lent itself of it is put back. False if he would rather go on.
-    virtual bool handOver() { return true; }
+    virtual bool commitPendingEdits() { return true; }
     /// Closes without asking or checking (the client it shows is gone).
     void drop();
     QSize sizeHint() const override;
@@ -87,7 +87,7 @@ protected:
     /// Opens another screen; greyed out while that screen does not exist.
     QPushButton* opener(const QString& name, const QString& caption, const QString& screen);
     /// A button of what does not exist yet: greyed out, so that nothing pretends.
-    QPushButton* later(const QString& name, const QString& caption);
+    QPushButton* disabledButton(const QString& name, const QString& caption);
     /// A line that shows a text and takes none.
     QLineEdit* shown(const QString& name, int characters);
     /// Spin buttons that step a field, then `stepped` (recalculate).

@@ -252,13 +252,13 @@ void MDIForm1::enableToolbar(bool on) {
     m_toolbar->setEnabled(m_toolbarHolders == 0);
 }
 
-bool MDIForm1::allHandedOver() const {
+bool MDIForm1::allEditsCommitted() const {
     const auto open = screens();
-    return std::all_of(open.begin(), open.end(), [](Screen* screen) { return screen->handOver(); });
+    return std::all_of(open.begin(), open.end(), [](Screen* screen) { return screen->commitPendingEdits(); });
 }
 
 MDIForm1::Changes MDIForm1::askAboutChanges(const QString& title, const std::function<void()>& save) {
-    if (!allHandedOver()) return Changes::kept;
+    if (!allEditsCommitted()) return Changes::kept;
     assessment::CheckChanges(m_work.record);
     if (m_work.record.ClientChanged != 1) return Changes::none;
     switch (m_work.desk.box(BoxStyle::question, unsavedChanges, title, Buttons::yesNoCancel)) {
@@ -301,7 +301,7 @@ void MDIForm1::mnuSave_Click() {
 }
 
 bool MDIForm1::Save() {
-    if (!allHandedOver()) return false;
+    if (!allEditsCommitted()) return false;
     auto saved = datastore::Saved::nothing;
     const bool done = screenkit::guarded(m_work.desk, tr("save the client"),
                                          [&] { saved = datastore::Save(m_work.record, m_work.paths.DataDbPath); });
@@ -330,7 +330,7 @@ bool MDIForm1::mayExit() {
     if (Screen* front = activeScreen(); front != nullptr && !front->checkFields()) return false;
     if (m_work.desk.box(BoxStyle::question, "Are you sure you want to exit ?", "EXIT ?", Buttons::yesNo) != Answer::yes)
         return false;
-    if (!allHandedOver()) return false;
+    if (!allEditsCommitted()) return false;
     assessment::CheckChanges(m_work.record);
     if (m_work.record.ClientChanged != 1) return true;
     // Two answers only, unlike New and Browse: whoever wants to keep the changes answers No and saves.

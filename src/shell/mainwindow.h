@@ -64,7 +64,7 @@ private:
     screenkit::Screen* activeScreen() const;
     enum class Changes { none, saved, dropped, kept };
     /// False if the user would rather go on with what a screen holds apart from the record.
-    bool allHandedOver() const;
+    bool allEditsCommitted() const;
     Changes askAboutChanges(const QString& title, const std::function<void()>& save);
     bool mayExit();
     /// The desktop logs the user out or shuts down: the same questions as at the close.

@@ -4,9 +4,9 @@
 #include <iterator>
 
 #include "analyses/frmNARA.h"
-#include "analyses/frmPersDet.h"
-#include "analyses/frmPolInvest.h"
 #include "calculators/frmLoans.h"
+#include "client/frmPersDet.h"
+#include "client/frmPolInvest.h"
 #include "datastore/frmBrowse.h"
 #include "datastore/frmSaveFileAs.h"
 #include "reports/frmGraph.h"
@@ -26,7 +26,7 @@ screenkit::Screen* build(screenkit::Workplace& workplace) {
 
 constexpr ScreenEntry entries[] = {
     {"frmBrowse", build<datastore::frmBrowse>},   {"frmSaveFileAs", build<datastore::frmSaveFileAs>},
-    {"frmPersDet", build<analyses::frmPersDet>},  {"frmPolInvest", build<analyses::frmPolInvest>},
+    {"frmPersDet", build<client::frmPersDet>},    {"frmPolInvest", build<client::frmPolInvest>},
     {"frmNARA", build<analyses::frmNARA>},        {"frmLoans", build<calculators::frmLoans>},
     {"frmHeadFoot", build<reports::frmHeadFoot>}, {"frmGraph", build<reports::frmGraph>},
     {"frmBrowser", build<shell::frmBrowser>},     {"frmKwikTax", build<tax::frmKwikTax>},

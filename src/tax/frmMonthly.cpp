@@ -222,7 +222,7 @@ void frmMonthly::forgetSalary() {
     m_salaryLeft.reset();
 }
 
-bool frmMonthly::handOver() {
+bool frmMonthly::commitPendingEdits() {
     putSalaryBack();
     return true;
 }

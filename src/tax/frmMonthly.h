@@ -16,7 +16,7 @@ public:
     explicit frmMonthly(screenkit::Workplace& workplace);
 
     void clientReplaced() override;
-    bool handOver() override;
+    bool commitPendingEdits() override;
 
 private:
     screenkit::NumberField* wholeRand(const QString& name, double& place);

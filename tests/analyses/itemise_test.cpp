@@ -241,7 +241,7 @@ TEST_F(ItemisedPanel, closingAsksOnlyAboutAChangedList) {
         std::function<void()> act;
     } ways[] = {{"button", [this] { click(the("cmdGridClose")); }},
                 {"Escape", [this] { key(Qt::Key_Escape); }},
-                {"the client is to be saved or replaced", [this] { lines->handOver(); }}};
+                {"the client is to be saved or replaced", [this] { lines->commitPendingEdits(); }}};
     const struct {
         const char* what;
         std::vector<const char*> typed; ///< into the first cells

@@ -3,9 +3,9 @@
 #include <cmath>
 #include <random>
 
-#include "analyses/policyschedule.h"
 #include "assessment/assessment.h"
 #include "base/numberformat.h"
+#include "client/policyschedule.h"
 
 /// The retirement analysis one step after the other, each run worked out from nothing, to hold the fast one against.
 namespace stepping {
@@ -27,7 +27,7 @@ struct Retirement {
            AvailableByYear[52] = {};
 
     void calculate() {
-        analyses::CalculatePolInv(record);
+        client::CalculatePolInv(record);
         needs.InflationRA = std::min(needs.InflationRA, 30.0);
         needs.BankInvestRate = std::min(needs.BankInvestRate, 50.0);
         IncomeReqFV = needs.IncomePD;

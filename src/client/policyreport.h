@@ -5,7 +5,7 @@
 
 #include "assessment/assessment.h"
 
-namespace analyses {
+namespace client {
 
 /// Who receives a death benefit, by `DeathBenPerson`, in the words of the screen and the reports.
 inline constexpr std::array<const char*, 4> beneficiaries{"Estate", "Spouse", "Charity ", "Other"};
@@ -32,4 +32,4 @@ struct PolicyReportOptions {
 void feedPolicies(const std::filesystem::path& printDbPath, assessment::Assessment& record,
                   const PolicyReportOptions& options);
 
-} // namespace analyses
+} // namespace client

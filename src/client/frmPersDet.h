@@ -3,7 +3,7 @@
 #include "assessment/assessment.h"
 #include "screenkit/screen.h"
 
-namespace analyses {
+namespace client {
 
 /// The client's front page: all that is known of client, spouse and dependants, and its report.
 class frmPersDet : public screenkit::Screen {
@@ -38,4 +38,4 @@ private:
     screenkit::Panel* m_printPanel = nullptr;
 };
 
-} // namespace analyses
+} // namespace client

@@ -1,10 +1,10 @@
-#include "analyses/policyschedule.h"
+#include "client/policyschedule.h"
 
 #include <cmath>
 
-#include "analyses/years.h"
+#include "client/years.h"
 
-namespace analyses {
+namespace client {
 
 namespace {
 
@@ -130,4 +130,4 @@ std::vector<ValuesAtRetirement> CalculatePolInv(assessment::Assessment& record) 
     return values;
 }
 
-} // namespace analyses
+} // namespace client

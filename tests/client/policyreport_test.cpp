@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "analyses/frmPolInvest.h"
+#include "client/frmPolInvest.h"
 #include "reports/report_support.h"
 #include "shell/running_program.h"
 
@@ -49,7 +49,7 @@ void fillSchedule(assessment::Assessment& record) {
 TEST(PolicyReport, HeaderHoldsTheTotalsAndEachRecordItsRow) {
     RunningProgram run;
     fillSchedule(run.record());
-    analyses::feedPolicies(run.folder / "Print.mdb", run.record(), {});
+    client::feedPolicies(run.folder / "Print.mdb", run.record(), {});
     const struct {
         const char *fields, *figures;
     } totals[] = {
@@ -71,7 +71,7 @@ TEST(PolicyReport, HeaderHoldsTheTotalsAndEachRecordItsRow) {
               "15/03/2023|Estate||7.25|\n |Other|Ṱhoho trust|0|\n |||0|");
     run.record().policies.resize(1);
     run.record().policies[0].DeathBen = 0;
-    analyses::feedPolicies(run.folder / "Print.mdb", run.record(), {true}); // nothing is left of the first
+    client::feedPolicies(run.folder / "Print.mdb", run.record(), {true}); // nothing is left of the first
     EXPECT_EQ(run.inPrint("SELECT [DBenSpousePerc],[PolIncAddNote] FROM PolsInvests"), "0|Note: confidential");
     EXPECT_EQ(run.inPrint("SELECT [PolIncNote],[PolIncAddNote] FROM PolsInvestsAmorts"), "|Note: confidential");
 }
@@ -114,7 +114,7 @@ TEST(PolicyReport, AScheduleOfThirtyPoliciesRepeatsItsHeadsAndCutsNoText) {
     longest.PolIncNote = std::string(1990, 'x') + " last";
     run.record().policies.resize(30, longest);
     screenkit::Workplace workplace{run.record(), run.program.paths(), run.desk, run.program.reports(), run.window()};
-    ASSERT_TRUE(analyses::PrintPolInvSchedule(workplace, screenkit::Destination::preview, {true}));
+    ASSERT_TRUE(client::PrintPolInvSchedule(workplace, screenkit::Destination::preview, {true}));
     EXPECT_FALSE(run.isOpen("frmPolInvest"));
     const QStringList pages = reporttest::pagesOfPdf(reports::toPdf(run.program.reports().previews().at(0)->report()));
     ASSERT_GT(pages.size(), 3);

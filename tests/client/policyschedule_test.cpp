@@ -2,13 +2,13 @@
 
 #include <functional>
 
-#include "analyses/policyschedule.h"
+#include "client/policyschedule.h"
 
 namespace {
 
-using analyses::CalculatePolInv;
 using assessment::Assessment;
 using assessment::Policy;
+using client::CalculatePolInv;
 
 struct Totals {
     double death = 0, disability = 0, retirement = 0, pension = 0;

@@ -1,4 +1,4 @@
-#include "analyses/frmPolInvest.h"
+#include "client/frmPolInvest.h"
 
 #include <QTabWidget>
 #include <algorithm>
@@ -10,7 +10,7 @@
 #include "reports/report.h"
 #include "screenkit/trouble.h"
 
-namespace analyses {
+namespace client {
 
 using namespace screenkit;
 
@@ -212,4 +212,4 @@ void frmPolInvest::print(Destination destination) {
     if (m_printSchedule == 1) PrintPolInvSchedule(m_work, destination, options);
 }
 
-} // namespace analyses
+} // namespace client

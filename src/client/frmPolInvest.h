@@ -1,11 +1,11 @@
 #pragma once
 
-#include "analyses/policyreport.h"
-#include "analyses/policyschedule.h"
 #include "assessment/assessment.h"
+#include "client/policyreport.h"
+#include "client/policyschedule.h"
 #include "screenkit/screen.h"
 
-namespace analyses {
+namespace client {
 
 /// The client's schedule of policies and investments, one record at a time, with what each is worth at retirement and
 /// the two reports on them all.
@@ -77,4 +77,4 @@ bool PrintPolInvList(screenkit::Workplace& workplace, screenkit::Destination des
 bool PrintPolInvSchedule(screenkit::Workplace& workplace, screenkit::Destination destination,
                          const PolicyReportOptions& options = {});
 
-} // namespace analyses
+} // namespace client

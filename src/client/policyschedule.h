@@ -4,7 +4,7 @@
 
 #include "assessment/assessment.h"
 
-namespace analyses {
+namespace client {
 
 /// What one policy or investment comes to at the age of retirement, rand. 0 where it is not taken then.
 struct ValuesAtRetirement {
@@ -29,4 +29,4 @@ ValuesAtRetirement valuesAtRetirement(const assessment::Policy& policy, double a
 /// a damaged file holds, count as 999.
 std::vector<ValuesAtRetirement> CalculatePolInv(assessment::Assessment& record);
 
-} // namespace analyses
+} // namespace client

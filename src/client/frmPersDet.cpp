@@ -1,12 +1,12 @@
-#include "analyses/frmPersDet.h"
+#include "client/frmPersDet.h"
 
 #include <QTabWidget>
 
-#include "analyses/persdetreport.h"
+#include "client/persdetreport.h"
 #include "datastore/paths.h"
 #include "reports/report.h"
 
-namespace analyses {
+namespace client {
 
 using namespace screenkit;
 
@@ -25,11 +25,11 @@ frmPersDet::frmPersDet(Workplace& workplace)
                                       {"&Addresses and bank", addressPage()},
                                       {"&Dependants", dependantsPage()},
                                       {"&Review and notes", notesPage()}});
-    body(column(
-        {pages,
-         row({later("cmdOtherAssets", "Other Assets"), opener("cmdPolInvest", "&Policy/Investments", "frmPolInvest"),
-              button("cmdPrint", "Prin&t", [this] { m_printPanel->open(findChild<QWidget*>("Check3")); }), spring(),
-              okButton("cmOk", "&OK")})}));
+    body(
+        column({pages, row({disabledButton("cmdOtherAssets", "Other Assets"),
+                            opener("cmdPolInvest", "&Policy/Investments", "frmPolInvest"),
+                            button("cmdPrint", "Prin&t", [this] { m_printPanel->open(findChild<QWidget*>("Check3")); }),
+                            spring(), okButton("cmOk", "&OK")})}));
     buildPrintPanel();
 }
 
@@ -172,4 +172,4 @@ void frmPersDet::print(Destination destination) {
     m_work.reports.run("\\PersDetl.rpt", "Personal Details ", destination);
 }
 
-} // namespace analyses
+} // namespace client

@@ -1,11 +1,11 @@
 #include <QTabWidget>
 #include <limits>
 
-#include "analyses/frmPolInvest.h"
 #include "assessment/tables.h"
+#include "client/frmPolInvest.h"
 
 // The pages of the policies screen, and how their controls find the record on screen.
-namespace analyses {
+namespace client {
 
 using namespace screenkit;
 
@@ -208,4 +208,4 @@ Item frmPolInvest::valuesGroup() {
     return group("fraAtRetirement", "At retirement", values);
 }
 
-} // namespace analyses
+} // namespace client

@@ -1,14 +1,14 @@
-#include "analyses/policyreport.h"
+#include "client/policyreport.h"
 
 #include <numeric>
 #include <vector>
 
-#include "analyses/policyschedule.h"
 #include "assessment/tables.h"
 #include "base/day.h"
+#include "client/policyschedule.h"
 #include "datastore/printfeed.h"
 
-namespace analyses {
+namespace client {
 
 namespace {
 
@@ -116,4 +116,4 @@ void feedPolicies(const std::filesystem::path& printDbPath, assessment::Assessme
     feed.commit();
 }
 
-} // namespace analyses
+} // namespace client

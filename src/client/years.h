@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace analyses {
+namespace client {
 
 /// Ages of a walk from the first to the last in steps of a year, both counted; 0 if it ends before it begins.
 ///
@@ -14,4 +14,4 @@ inline int yearsFromTo(double first, double last) {
     return years >= 1 ? static_cast<int>(std::min(years, most)) : 0; // not a number: no walk
 }
 
-} // namespace analyses
+} // namespace client

@@ -3,9 +3,9 @@
 #include <QRadioButton>
 #include <algorithm>
 
-#include "analyses/frmPolInvest.h"
 #include "assessment/tables.h"
 #include "base/numberformat.h"
+#include "client/frmPolInvest.h"
 #include "reports/previewwindow.h"
 #include "reports/report.h"
 #include "shell/running_program.h"

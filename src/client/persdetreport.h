@@ -5,7 +5,7 @@
 
 #include "assessment/assessment.h"
 
-namespace analyses {
+namespace client {
 
 /// What the personal details report shows as words, and whether the notes go with it.
 struct PersDetWords {
@@ -18,4 +18,4 @@ struct PersDetWords {
 void feedPersonalDetails(const std::filesystem::path& printDbPath, assessment::Assessment& record,
                          const PersDetWords& words);
 
-} // namespace analyses
+} // namespace client

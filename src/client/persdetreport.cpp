@@ -1,10 +1,10 @@
-#include "analyses/persdetreport.h"
+#include "client/persdetreport.h"
 
 #include "assessment/tables.h"
 #include "base/day.h"
 #include "datastore/printfeed.h"
 
-namespace analyses {
+namespace client {
 
 namespace {
 
@@ -37,4 +37,4 @@ void feedPersonalDetails(const std::filesystem::path& printDbPath, assessment::A
     feed.commit();
 }
 
-} // namespace analyses
+} // namespace client
