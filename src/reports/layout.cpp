@@ -5,19 +5,14 @@
 
 #include "reports/content.h"
 #include "reports/face.h"
+#include "reports/pagelook.h"
 #include "reports/paragraph.h"
 
 namespace reports {
 namespace {
 
-constexpr double marginLeft = millimetres(20);
-constexpr double marginRight = millimetres(20);
-constexpr double marginTop = millimetres(14);
-constexpr double marginBottom = millimetres(12);
-constexpr double cellPadding = points(5);  // left and right of a cell's text
-constexpr double rowPadding = points(2.0); // above and below it
-constexpr double gutter = millimetres(9);  // between columns of the page
-constexpr double hairline = points(0.5);
+using namespace look;
+
 constexpr std::size_t rowsTogether = 4; // at least so many under a table's heads, if it has them
 
 /// A header or footer line; what is wider than the page is left out.
@@ -65,11 +60,11 @@ private:
     double headerHeight() const {
         if (m_headerLines.isEmpty()) return 0;
         const double others = static_cast<double>(m_headerLines.size() - 1) * Faces::all().header.lineHeight;
-        return Faces::all().practice.lineHeight + others + points(5) + points(14);
+        return Faces::all().practice.lineHeight + others + points(5) + belowHeader;
     }
     double footerHeight() const {
         const auto lines = static_cast<double>(std::max<qsizetype>(m_footerLines.size(), 1));
-        return lines * Faces::all().footer.lineHeight + points(5) + points(10);
+        return lines * Faces::all().footer.lineHeight + footerGap + aboveFooter;
     }
 
     void addFrame(Page& page, std::size_t index, const Measure& whole) {
@@ -81,11 +76,11 @@ private:
             y += face.lineHeight;
         }
         if (!m_headerLines.isEmpty())
-            page.fills.push_back({{whole.x, y + points(4), whole.width, points(1.2)}, ink::strong});
+            page.fills.push_back({{whole.x, y + headerGap, whole.width, frameLine}, ink::strong});
 
-        y = m_bottom + points(10);
+        y = m_bottom + aboveFooter;
         page.fills.push_back({{whole.x, y, whole.width, hairline}, faces.footer.ink});
-        y += points(5);
+        y += footerGap;
         const QString number = QString("Page %1 of %2").arg(index + 1).arg(m_layout.pages.size());
         const double numberWidth = faces.footer.metrics.horizontalAdvance(number);
         page.texts.push_back({{whole.x + whole.width - numberWidth, y + faces.footer.ascent}, number, &faces.footer});
@@ -117,7 +112,7 @@ private:
     Cursor place(const std::vector<Block>& blocks, const Measure& measure, Cursor at) {
         for (std::size_t index = 0; index < blocks.size(); ++index) {
             const Block& block = blocks[index];
-            at = withSpace(at, spaceBefore(block, index == 0));
+            at = withSpace(at, index == 0 ? 0 : spaceBefore(block));
             const bool isHeading = block.kind == Block::Kind::heading || block.kind == Block::Kind::title;
             const Block* next = isHeading && index + 1 < blocks.size() ? &blocks[index + 1] : nullptr;
             const double needed = leastHeight(block, measure) + (next ? leastHeight(*next, measure) : 0);
@@ -129,7 +124,7 @@ private:
 
     Cursor placeBlock(const Block& block, const Measure& measure, const Cursor& at) {
         switch (block.kind) {
-        case Block::Kind::table: return withSpace(placeTable(block.table, measure, at), points(4));
+        case Block::Kind::table: return withSpace(placeTable(block.table, measure, at), spaceAfter(block));
         case Block::Kind::columns: return placeColumns(block, measure, at);
         case Block::Kind::rule:
             page(at).fills.push_back({{measure.x, at.y, measure.width, hairline}, ink::hairline});
@@ -140,29 +135,6 @@ private:
 
     /// Space never opens a page.
     Cursor withSpace(const Cursor& at, double space) const { return atTop(at) ? at : Cursor{at.page, at.y + space}; }
-
-    static double spaceBefore(const Block& block, bool isFirst) {
-        if (isFirst) return 0;
-        switch (block.kind) {
-        case Block::Kind::heading: return points(14);
-        case Block::Kind::lead: return points(1);
-        case Block::Kind::table: return points(4);
-        case Block::Kind::columns: return points(10);
-        default: return points(6);
-        }
-    }
-    static double spaceAfter(const Block& block) { return block.kind == Block::Kind::lead ? points(9) : points(0); }
-
-    static const Face& faceOf(const Block& block) {
-        const Faces& faces = Faces::all();
-        switch (block.kind) {
-        case Block::Kind::title: return faces.title;
-        case Block::Kind::lead: return faces.lead;
-        case Block::Kind::heading: return faces.heading;
-        case Block::Kind::note: return faces.note;
-        default: return faces.body;
-        }
-    }
 
     /// What of a block must stand on one page: all of a heading, two lines of a text, the heads and a few rows of a
     /// table.
@@ -233,8 +205,7 @@ private:
     };
 
     static ShapedRow shapedRow(const Row& row, const Table& table, const Measure& measure, bool head) {
-        const Faces& faces = Faces::all();
-        const Face& face = head ? faces.columnHead : row.result ? faces.result : faces.body;
+        const Face& face = faceOf(row, head);
         ShapedRow shaped{.cells = {}, .head = head, .result = row.result};
         shaped.cells.reserve(row.cells.size());
         double x = measure.x;
@@ -286,7 +257,7 @@ private:
         Page& on = page(at);
         if (row.head || row.result)
             on.fills.push_back({{measure.x, at.y, measure.width, height}, row.head ? ink::headBand : ink::resultBand});
-        on.fills.push_back({{measure.x, at.y + height - hairline, measure.width, row.head ? points(0.9) : hairline},
+        on.fills.push_back({{measure.x, at.y + height - hairline, measure.width, row.head ? headLine : hairline},
                             row.head ? ink::strong : ink::hairline});
         for (const ShapedCell& cell : row.cells)
             for (std::size_t line = 0; line < cell.text.lines.size(); ++line)

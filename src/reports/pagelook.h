@@ -1,0 +1,37 @@
+#pragma once
+
+#include "reports/face.h"
+
+namespace reports {
+
+struct Block;
+struct Row;
+
+/// The measures of a printed page, in its units. The pages and the exports that keep their look share them.
+namespace look {
+inline constexpr double marginLeft = millimetres(20);
+inline constexpr double marginRight = millimetres(20);
+inline constexpr double marginTop = millimetres(14);
+inline constexpr double marginBottom = millimetres(12);
+inline constexpr double cellPadding = points(5);  ///< left and right of a cell's text
+inline constexpr double rowPadding = points(2.0); ///< above and below it
+inline constexpr double gutter = millimetres(9);  ///< between columns of the page
+inline constexpr double hairline = points(0.5);   ///< under a row and above the footer
+inline constexpr double headLine = points(0.9);   ///< under column heads
+inline constexpr double frameLine = points(1.2);  ///< under the header
+inline constexpr double headerGap = points(4);    ///< between the header's text and its rule
+inline constexpr double belowHeader = points(14); ///< between the rule's room and the flow
+inline constexpr double aboveFooter = points(10); ///< between the flow and the footer's rule
+inline constexpr double footerGap = points(5);    ///< between that rule and the footer's text
+inline constexpr double afterTable = points(4);
+} // namespace look
+
+/// The face of a block's text, and of a row's cells.
+const Face& faceOf(const Block& block);
+const Face& faceOf(const Row& row, bool head);
+
+/// Room above a block unless it opens its page or column, and below it.
+double spaceBefore(const Block& block);
+double spaceAfter(const Block& block);
+
+} // namespace reports
