@@ -9,6 +9,16 @@ QString textOf(const std::vector<Run>& runs) {
     return text;
 }
 
+QString documentTitle(const Content& content) {
+    return content.client.isEmpty() ? content.title : content.title + " - " + content.client;
+}
+
+QString practiceOf(const Content& content) {
+    for (const QString& line : content.headerLines)
+        if (!line.isEmpty()) return line;
+    return {};
+}
+
 QString Cell::text() const { return textOf(runs); }
 
 } // namespace reports

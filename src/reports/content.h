@@ -51,13 +51,19 @@ struct Block {
 
 /// A report filled with its figures: what the pages and all exports are made from. It holds no link to any file.
 struct Content {
-    QString title;
+    QString title;           ///< the definition's own
+    QString client;          ///< whom the report is about; empty where it is about nobody
     QStringList headerLines; ///< four; an empty one takes no room
     QStringList footerLines; ///< four
     std::vector<Block> blocks;
 };
 
 QString textOf(const std::vector<Run>& runs);
+
+/// What files of the report are called in their own properties: its title, and the client's name.
+QString documentTitle(const Content& content);
+/// The practice, as the author of such files: the first header line that is not empty.
+QString practiceOf(const Content& content);
 
 struct Definition;
 class Snapshot;

@@ -223,8 +223,6 @@ void failAt(const QString& file, qint64 line, const QString& why, store::Number 
                        "Put the report definition right, or install the program again.");
 }
 
-QString Definition::baseName() const { return QString::fromStdString(file.stem().string()); }
-
 Definition readDefinition(const std::filesystem::path& file) {
     Node root = Reader(file, {}).read();
     Definition definition;

@@ -46,9 +46,6 @@ struct Definition {
     QString table;        ///< empty in a form that prints no data
     qint64 tableLine = 1; ///< the line that names it
     std::vector<Node> body;
-
-    /// The file's name without its ending: what an export suggests as its name.
-    QString baseName() const;
 };
 
 /// Reads a definition. A missing file, one that is not well formed, an unclosed section, an element that a page cannot

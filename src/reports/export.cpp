@@ -63,20 +63,35 @@ QStringList exportFilters() {
     return filters;
 }
 
-Format formatOf(const QString& fileName) {
+QString endingOf(Format format) { return '.' + QString(offered[static_cast<int>(format)].ending); }
+
+std::optional<Format> formatOf(const QString& fileName) {
     const QString ending = QFileInfo(fileName).suffix();
     for (int kind = 0; kind < static_cast<int>(std::size(offered)); ++kind)
         if (ending.compare(QLatin1String(offered[kind].ending), Qt::CaseInsensitive) == 0)
             return static_cast<Format>(kind);
-    return Format::pdf;
+    return {};
+}
+
+QString proposedFileName(const QString& client, const QString& title, const QString& ending) {
+    const QString who = client.simplified();
+    QString name = who.isEmpty() ? title.simplified() : who + " - " + title.simplified();
+    for (QChar& letter : name)
+        if (letter < ' ' || QStringView(u"/\\:*?\"<>|\x7f").contains(letter)) letter = '-';
+    constexpr qsizetype mostBytes = 200; // of the 255 that a file name may have, since a save adds a part of its own
+    while (name.toUtf8().size() > mostBytes)
+        name.chop(name.back().isLowSurrogate() ? 2 : 1);
+    while (name.startsWith('.')) // would be hidden
+        name.remove(0, 1);
+    return name.trimmed() + ending;
 }
 
 QByteArray exported(const Report& report, Format format) {
     switch (format) {
-    case Format::html: return toHtml(report.content, report.title);
-    case Format::odt: return toOdt(report.content, report.title);
+    case Format::html: return toHtml(report.content);
+    case Format::odt: return toOdt(report.content);
     case Format::csv: return toCsv(report.content);
-    case Format::xlsx: return output().toXlsx(report.content, report.title);
+    case Format::xlsx: return output().toXlsx(report.content);
     case Format::pdf: break;
     }
     return toPdf(report);
@@ -87,7 +102,7 @@ QByteArray toPdf(const Report& report) {
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
     QPdfWriter writer(&buffer);
-    writer.setTitle(report.title.trimmed());
+    writer.setTitle(documentTitle(report.content));
     writer.setCreator("Marlowbeck");
     writer.setResolution(static_cast<int>(unitsPerInch));
     writer.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, {}));
@@ -100,10 +115,10 @@ QByteArray toPdf(const Report& report) {
     return bytes;
 }
 
-QByteArray toOdt(const Content& content, const QString& title) {
+QByteArray toOdt(const Content& content) {
     QTextDocument document;
-    document.setMetaInformation(QTextDocument::DocumentTitle, title.trimmed());
-    document.setHtml(QString::fromUtf8(toHtml(content, title)));
+    document.setMetaInformation(QTextDocument::DocumentTitle, documentTitle(content));
+    document.setHtml(QString::fromUtf8(toHtml(content)));
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);

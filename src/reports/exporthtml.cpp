@@ -27,9 +27,10 @@ const char* alignment(Align align) {
 
 class HtmlWriter {
 public:
-    QByteArray page(const Content& content, const QString& title) {
-        m_html = "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n<title>" +
-                 title.toHtmlEscaped().toUtf8() + "</title>\n<style>" + style + "</style>\n</head>\n<body>\n";
+    QByteArray page(const Content& content) {
+        m_html = "<!DOCTYPE html>\n<html lang=\"en-ZA\">\n<head>\n<meta charset=\"utf-8\">\n<title>" +
+                 documentTitle(content).toHtmlEscaped().toUtf8() + "</title>\n<style>" + style +
+                 "</style>\n</head>\n<body>\n";
         addLines(content.headerLines, "header");
         if (content.headerLines.join("").size() > 0) m_html += "<hr>\n";
         addBlocks(content.blocks);
@@ -124,6 +125,6 @@ private:
 
 } // namespace
 
-QByteArray toHtml(const Content& content, const QString& title) { return HtmlWriter().page(content, title); }
+QByteArray toHtml(const Content& content) { return HtmlWriter().page(content); }
 
 } // namespace reports

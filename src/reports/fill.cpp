@@ -26,16 +26,24 @@ Name parted(const QString& name) {
     return {name.left(point), name.mid(point + 1)};
 }
 
-/// Text as a page can hold it: line ends alike, no control characters (which no export format takes).
-QString printable(const std::string& stored) {
-    QString text = QString::fromStdString(stored);
+/// Text as a page can hold it: line ends alike, none of the characters that no export format takes.
+QString printable(QString text) {
     text.replace("\r\n", "\n").replace('\r', '\n');
-    text.removeIf([](QChar letter) { return letter < ' ' && letter != '\n' && letter != '\t'; });
+    text.removeIf([](QChar letter) {
+        const bool control = letter < ' ' && letter != '\n' && letter != '\t';
+        return control || letter == QChar(0xfffe) || letter == QChar(0xffff);
+    });
     return text;
 }
 
+QStringList printable(QStringList lines) {
+    for (QString& line : lines)
+        line = printable(line).replace('\n', ' ');
+    return lines;
+}
+
 QString shown(const store::Value& value, const QString& mask) {
-    if (const auto* text = std::get_if<std::string>(&value)) return printable(*text);
+    if (const auto* text = std::get_if<std::string>(&value)) return printable(QString::fromStdString(*text));
     const auto* number = std::get_if<double>(&value);
     if (!number) return {};
     const std::string allPlaces = "0.##########";
@@ -96,8 +104,9 @@ public:
         check(m_definition.body, hasTable ? &known(m_definition.table, file, m_definition.tableLine) : nullptr);
         const Scope scope = firstRow(m_definition.table);
         return {.title = m_definition.title,
-                .headerLines = m_snapshot.headerLines(),
-                .footerLines = m_snapshot.footerLines(),
+                .client = clientName(scope),
+                .headerLines = printable(m_snapshot.headerLines()),
+                .footerLines = printable(m_snapshot.footerLines()),
                 .blocks = flow(m_definition.body, scope)};
     }
 
@@ -109,6 +118,12 @@ private:
             throw store::Error(store::Number::noCurrentRecord, m_printDatabase.toStdString(),
                                "Its table \"" + name.toStdString() + "\" has no row.");
         return {table, &table->rows.front()};
+    }
+
+    /// Every table about a client has his name under this field.
+    QString clientName(const Scope& scope) const {
+        const bool named = scope.table && scope.table->column("Name") >= 0;
+        return named ? shown(value("Name", scope), {}).simplified() : QString();
     }
 
     /// Every field is looked up before a word is printed, so that a misspelt one shows even where its section is empty.

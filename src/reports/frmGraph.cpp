@@ -1,29 +1,21 @@
 #include "reports/frmGraph.h"
 
 #include <QFileInfo>
+#include <QLabel>
 #include <QPrinter>
 
+#include "reports/export.h"
 #include "reports/report.h"
 #include "screenkit/desk.h"
-#include "store/error.h"
-#include "store/files.h"
+#include "screenkit/savefile.h"
 
 namespace reports {
 
 namespace {
 
-const char* const exportTitle = "Export Graph";
-
 int amortisedYears(int shape, int wholeYears, int lastYear) { return shape == 1 ? wholeYears : lastYear; }
 
-// Without an ending that names a format no other program would know what the file holds.
-QString withPictureEnding(const QString& name) {
-    const QString ending = QFileInfo(name).suffix().toLower();
-    return QStringList{"png", "svg", "pdf"}.contains(ending) ? name : name + ".png";
-}
-
-// PNG for any ending but the other two.
-GraphFormat formatOf(const QString& fileName) {
+GraphFormat graphFormatOf(const QString& fileName) {
     const QString ending = QFileInfo(fileName).suffix().toLower();
     if (ending == "svg") return GraphFormat::svg;
     return ending == "pdf" ? GraphFormat::pdf : GraphFormat::png;
@@ -32,14 +24,17 @@ GraphFormat formatOf(const QString& fileName) {
 } // namespace
 
 frmGraph::frmGraph(screenkit::Workplace& workplace)
-    : Screen(workplace, "frmGraph", "Graph", screenkit::untracked()), m_pane(output().newGraphPane()) {
+    : Screen(workplace, "frmGraph", "Graph", screenkit::untracked()), m_pane(output().newGraphPane()),
+      m_savedLine(screenkit::newSavedLine(workplace.desk)) {
     m_pane.widget->setObjectName("ChartFX1");
     auto* orientations = options("Option1", {"&Landscape", "Po&rtrait"}, m_portrait, {}, Qt::Horizontal);
     using screenkit::Item;
     body(screenkit::column({Item(m_pane.widget, 1),
                             screenkit::row({screenkit::group("Frame1", "Print :", orientations), screenkit::spring(),
                                             button("cmdExport", "&Export", [this] { saveAs(); }),
-                                            button("cmdPrint", "&Print", [this] { print(); }), okButton()})}));
+                                            button("cmdPrint", "&Print", [this] { print(); }), okButton()}),
+                            Item(m_savedLine)}));
+    m_savedLine->hide();
 }
 
 QWidget* frmGraph::firstField() { return m_pane.widget; }
@@ -107,26 +102,16 @@ void frmGraph::print() {
         m_work.desk.tell(BoxStyle::critical, "The printer did not accept the graph.", "Print");
 }
 
-// The file dialog has asked about the name that was typed, not about the one with the ending.
-bool frmGraph::mayReplace(const QString& name) {
-    const QString text = QFileInfo(name).fileName() + " already exists. Replace it?";
-    return m_work.desk.box(screenkit::BoxStyle::question, text, exportTitle, screenkit::Buttons::yesNo,
-                           screenkit::Answer::no) == screenkit::Answer::yes;
-}
-
 void frmGraph::saveAs() {
-    const QString suggested = QString::fromStdString(fileNameOf(m_graph)) + ".png";
-    const auto chosen =
-        m_work.desk.fileToSave(exportTitle, suggested, {"PNG picture (*.png)", "SVG drawing (*.svg)", "PDF (*.pdf)"});
-    if (!chosen) return;
-    const QString name = withPictureEnding(*chosen);
-    if (name != *chosen && QFileInfo::exists(name) && !mayReplace(name)) return;
-    const QByteArray bytes = output().exportedGraph(m_graph, formatOf(name), orientation());
-    try {
-        store::writeFile(name.toStdString(), {bytes.constData(), static_cast<std::size_t>(bytes.size())});
-    } catch (const store::Error& error) {
-        m_work.desk.tell(screenkit::BoxStyle::critical, QString::fromStdString(error.message()), exportTitle);
-    }
+    const QString client = QString::fromStdString(m_work.record.client.Name);
+    const QString proposed = proposedFileName(client, QString::fromStdString(m_graph.title), ".png");
+    const auto name = screenkit::askWhereToSave(m_work.desk, "Export Graph", proposed,
+                                                {"PNG picture (*.png)", "SVG drawing (*.svg)", "PDF (*.pdf)"});
+    if (!name) return;
+    const auto bytes = [&] { return output().exportedGraph(m_graph, graphFormatOf(*name), orientation()); };
+    if (!screenkit::saveBytes(m_work.desk, "export the graph", *name, bytes)) return;
+    screenkit::showSaved(*m_savedLine, *name);
+    m_savedLine->show();
 }
 
 } // namespace reports

@@ -48,10 +48,10 @@ protected:
 private:
     void draw(const Graph& graph);
     void print();
-    bool mayReplace(const QString& name);
     void saveAs();
 
     GraphPane m_pane;
+    QLabel* m_savedLine;
     Graph m_graph;
     int m_portrait = 0; ///< index of the orientation chosen
 };

@@ -6,7 +6,6 @@
 #include <cstdio>
 
 #include "base/numberformat.h"
-#include "base/text.h"
 
 namespace reports {
 
@@ -161,12 +160,5 @@ std::string_view pointUnit(const Graph& graph) {
 }
 
 std::string amountText(double value) { return base::formatNumber(value, "# ### ### ##0.00"); }
-
-std::string fileNameOf(const Graph& graph) {
-    std::string name = base::trim(graph.title);
-    for (char& c : name)
-        if (std::string_view("/\\:*?\"<>|").find(c) != std::string_view::npos) c = '-';
-    return name.empty() ? "Graph" : name;
-}
 
 } // namespace reports

@@ -78,7 +78,4 @@ std::string_view pointUnit(const Graph& graph);
 /// An amount as the callout shows it: "1 234 567.89".
 std::string amountText(double value);
 
-/// A file name made of the title: trimmed, without the characters that file systems refuse.
-std::string fileNameOf(const Graph& graph);
-
 } // namespace reports

@@ -26,7 +26,7 @@ struct Output {
     GraphPane (*newGraphPane)();
     QByteArray (*exportedGraph)(const Graph& graph, GraphFormat format, QPageLayout::Orientation orientation);
     bool (*printGraph)(const Graph& graph, QPagedPaintDevice& device);
-    QByteArray (*toXlsx)(const Content& content, const QString& title);
+    QByteArray (*toXlsx)(const Content& content);
 };
 
 /// The library, loaded when it is first asked for. Throws store::Error if it does not lie beside the program.

@@ -1,22 +1,21 @@
 #include "reports/previewwindow.h"
 
 #include <QAction>
-#include <QFileInfo>
+#include <QLabel>
 #include <QMenu>
 #include <QScreen>
 #include <QSignalBlocker>
 #include <QSpinBox>
+#include <QStatusBar>
 #include <QToolBar>
 #include <QToolButton>
 #include <algorithm>
-#include <filesystem>
 
 #include "reports/pageview.h"
 #include "reports/printing.h"
 #include "screenkit/desk.h"
 #include "screenkit/icon.h"
-#include "screenkit/trouble.h"
-#include "store/files.h"
+#include "screenkit/savefile.h"
 
 namespace reports {
 namespace {
@@ -30,24 +29,16 @@ protected:
     void wheelEvent(QWheelEvent* event) override { event->ignore(); }
 };
 
-QString ending(Format format) {
-    static const char* const endings[] = {".pdf", ".html", ".odt", ".csv", ".xlsx"};
-    return endings[static_cast<int>(format)];
-}
-
-bool hasKnownEnding(const QString& fileName) {
-    return fileName.endsWith(ending(formatOf(fileName)), Qt::CaseInsensitive);
-}
-
 } // namespace
 
 PreviewWindow::PreviewWindow(std::shared_ptr<const Report> report, screenkit::Desk& desk, PrinterSession& printing)
     : m_report(std::move(report)), m_desk(desk), m_printing(printing),
-      m_view(new PageView({m_report, &m_report->layout}, this)), m_bar(addToolBar(tr("Report"))) {
+      m_view(new PageView({m_report, &m_report->layout}, this)), m_bar(addToolBar(tr("Report"))),
+      m_savedLine(screenkit::newSavedLine(desk)) {
     setObjectName("reportPreview");
     setAttribute(Qt::WA_DeleteOnClose);
     setAttribute(Qt::WA_QuitOnClose, false); // the program ends with its main window, not with its last preview
-    setWindowTitle(m_report->title);
+    setWindowTitle(m_report->windowTitle);
     setCentralWidget(m_view);
     m_view->setObjectName("pages");
     m_bar->setObjectName("reportToolBar");
@@ -57,6 +48,8 @@ PreviewWindow::PreviewWindow(std::shared_ptr<const Report> report, screenkit::De
     const int glyph = fontMetrics().height() * 5 / 4;
     m_bar->setIconSize({glyph, glyph});
     addActions();
+    statusBar()->addWidget(m_savedLine, 1);
+    statusBar()->hide(); // until there is something to say
     const QSize room = screen()->availableSize();
     resize(std::min(fontMetrics().height() * 54, room.width() * 95 / 100), room.height() * 88 / 100);
     connect(m_view, &PageView::pageChanged, this, &PreviewWindow::showPage);
@@ -174,25 +167,19 @@ void PreviewWindow::zoomBy(double factor) { m_view->setScale(m_view->scale() * f
 bool PreviewWindow::exportReport(Format first) {
     QStringList filters = exportFilters();
     filters.move(static_cast<int>(first), 0);
-    const std::optional<QString> chosen =
-        m_desk.fileToSave(tr("Export Report"), m_report->baseName + ending(first), filters);
-    if (!chosen || chosen->isEmpty()) return false;
-    if (hasKnownEnding(*chosen)) return exportTo(*chosen);
-    // The chooser asked before overwriting the name as typed, not the one that is written.
-    const QString fileName = *chosen + ending(first);
-    const QString question = tr("%1 exists already.\nDo you want to replace it ?").arg(fileName);
-    if (QFileInfo::exists(fileName) && m_desk.box(screenkit::BoxStyle::question, question, tr("Export Report"),
-                                                  screenkit::Buttons::yesNo) != screenkit::Answer::yes)
-        return false;
-    return exportTo(fileName);
+    const Content& content = m_report->content;
+    const QString proposed = proposedFileName(content.client, content.title, endingOf(first));
+    const std::optional<QString> name = screenkit::askWhereToSave(m_desk, tr("Export Report"), proposed, filters);
+    return name && exportTo(*name);
 }
 
 bool PreviewWindow::exportTo(const QString& fileName) {
-    return screenkit::guarded(m_desk, tr("export the report"), [&] {
-        const screenkit::BusyCursor busy;
-        store::writeFile(std::filesystem::path(fileName.toStdString()),
-                         exported(*m_report, formatOf(fileName)).toStdString());
-    });
+    const Format format = formatOf(fileName).value_or(Format::pdf);
+    if (!screenkit::saveBytes(m_desk, tr("export the report"), fileName, [&] { return exported(*m_report, format); }))
+        return false;
+    screenkit::showSaved(*m_savedLine, fileName);
+    statusBar()->show();
+    return true;
 }
 
 } // namespace reports

@@ -5,6 +5,7 @@
 
 #include "reports/export.h"
 
+class QLabel;
 class QSpinBox;
 class QToolButton;
 
@@ -30,7 +31,8 @@ public:
 
     /// Asks for a file name, this kind first among those offered, and exports. False if cancelled or failed.
     bool exportReport(Format first = Format::pdf);
-    /// Writes the export whole or not at all; a failure shows a box. The kind goes by the name's ending.
+    /// Writes the export whole or not at all, and says where; a failure shows a box. The kind goes by the name's
+    /// ending.
     bool exportTo(const QString& fileName);
 
 private:
@@ -49,6 +51,7 @@ private:
     PrinterSession& m_printing;
     PageView* m_view;
     QToolBar* m_bar;
+    QLabel* m_savedLine;
     QSpinBox* m_pageField = nullptr;
     QToolButton* m_zoomButton = nullptr;
     QAction* m_first = nullptr;

@@ -76,7 +76,7 @@ bool PrinterSession::chooseAndPrint(const Report& report) {
 bool PrinterSession::send(const Report& report) {
     return screenkit::guarded(m_desk, QObject::tr("print the report"), [&] {
         const screenkit::BusyCursor busy;
-        printer().setDocName(report.title.trimmed());
+        printer().setDocName(documentTitle(report.content));
         printer().setFullPage(true);
         printer().setPageOrientation(QPageLayout::Portrait);
         QPainter painter;

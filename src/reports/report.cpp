@@ -3,7 +3,6 @@
 #include <QPrinter>
 #include <algorithm>
 
-#include "base/text.h"
 #include "reports/definition.h"
 #include "reports/export.h"
 #include "reports/previewwindow.h"
@@ -49,8 +48,7 @@ std::shared_ptr<const Report> Engine::prepare(const QString& definition, const Q
     auto report = std::make_shared<Report>();
     report->content =
         fill(read, Snapshot(printDatabase, tablesOf(read)), QString::fromStdString(printDatabase.string()));
-    report->title = title.isEmpty() ? read.title : title;
-    report->baseName = read.baseName();
+    report->windowTitle = title.isEmpty() ? read.title : title;
     report->layout = layOut(report->content);
     return report;
 }

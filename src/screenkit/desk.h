@@ -30,7 +30,8 @@ public:
                        std::optional<Answer> defaultAnswer = {}) = 0;
 
     /// A file to open or a name to save under; nothing when the user cancels. filters: "PDF (*.pdf)" and the like,
-    /// the first being chosen at the start. For saving the file dialog itself asks before overwriting.
+    /// the first being chosen at the start. For saving the file dialog itself asks before overwriting; it opens in the
+    /// folder that the user saved in last, with `suggested`, a file's name, proposed.
     virtual std::optional<QString> fileToOpen(const QString& title, const QString& folder,
                                               const QStringList& filters) = 0;
     virtual std::optional<QString> fileToSave(const QString& title, const QString& suggested,

@@ -2,9 +2,11 @@
 
 #include <QApplication>
 #include <QDesktopServices>
+#include <QDir>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPrintDialog>
 #include <QPrinterInfo>
 #include <QProcess>
@@ -13,6 +15,7 @@
 #include <QUrl>
 
 #include "screenkit/trouble.h"
+#include "screenkit/usersettings.h"
 
 namespace screenkit {
 
@@ -53,12 +56,62 @@ QMessageBox::StandardButton escape(Buttons buttons) {
     return buttons == Buttons::yesNo ? QMessageBox::No : QMessageBox::Ok;
 }
 
+/// The window from which the user asked for what a box or dialog is about. A dialog over another window would bring
+/// that one to the front, and the next key would go to the client there.
+class AskingWindow {
+public:
+    explicit AskingWindow(QWidget* otherwise) : m_window(QApplication::activeWindow()) {
+        if (!m_window) m_window = otherwise;
+    }
+    ~AskingWindow() {
+        if (m_window && m_window->isVisible()) m_window->activateWindow();
+    }
+    AskingWindow(const AskingWindow&) = delete;
+    AskingWindow& operator=(const AskingWindow&) = delete;
+
+    QWidget* widget() const { return m_window; }
+
+private:
+    QPointer<QWidget> m_window;
+};
+
+const char* const folderKey = "saveFolder";
+
+/// The folder used last, at first the user's documents.
+QString saveFolder() {
+    const QStringList folders{userSettings().value(folderKey).toString(),
+                              QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)};
+    for (const QString& folder : folders)
+        if (!folder.isEmpty() && QDir(folder).exists()) return folder;
+    return QDir::homePath();
+}
+
+/// "PDF (*.pdf)" to "pdf".
+QString endingOf(const QString& filter) {
+    static const QRegularExpression pattern(R"(\*\.(\w+))");
+    return pattern.match(filter).captured(1);
+}
+
+/// A name goes with the kind that is chosen: a bare one gets its ending, one of another kind has it changed.
+void followKind(QFileDialog& dialog, const QStringList& filters) {
+    const auto follow = [&dialog, filters](const QString& chosen) {
+        dialog.setDefaultSuffix(endingOf(chosen));
+        const QFileInfo file(dialog.selectedFiles().value(0));
+        for (const QString& filter : filters)
+            if (file.suffix().compare(endingOf(filter), Qt::CaseInsensitive) == 0)
+                dialog.selectFile(file.completeBaseName() + '.' + endingOf(chosen));
+    };
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, follow);
+    follow(dialog.selectedNameFilter());
+}
+
 } // namespace
 
 Answer RealDesk::box(BoxStyle style, const QString& text, const QString& title, Buttons buttons,
                      std::optional<Answer> defaultAnswer) {
     const NormalCursor cursor;
-    QMessageBox box(icon(style), title, text, standard(buttons), m_window);
+    const AskingWindow asking(m_window);
+    QMessageBox box(icon(style), title, text, standard(buttons), asking.widget());
     box.setTextFormat(Qt::PlainText); // a client's name may hold what looks like markup
     box.setWindowModality(Qt::ApplicationModal);
     box.setEscapeButton(escape(buttons));
@@ -73,38 +126,38 @@ Answer RealDesk::box(BoxStyle style, const QString& text, const QString& title, 
 
 std::optional<QString> RealDesk::fileToOpen(const QString& title, const QString& folder, const QStringList& filters) {
     const NormalCursor cursor;
-    const QString file = QFileDialog::getOpenFileName(m_window, title, folder, filters.join(";;"));
+    const AskingWindow asking(m_window);
+    const QString file = QFileDialog::getOpenFileName(asking.widget(), title, folder, filters.join(";;"));
     return file.isEmpty() ? std::nullopt : std::optional(file);
 }
 
 std::optional<QString> RealDesk::fileToSave(const QString& title, const QString& suggested,
                                             const QStringList& filters) {
     const NormalCursor cursor;
-    QFileDialog dialog(m_window, title, suggested);
+    const AskingWindow asking(m_window);
+    QFileDialog dialog(asking.widget(), title, saveFolder());
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setNameFilters(filters);
-    // A bare name gets the ending of the kind that is chosen, before the dialog asks about replacing a file.
-    const auto follow = [&dialog](const QString& filter) {
-        static const QRegularExpression ending(R"(\*\.(\w+))");
-        dialog.setDefaultSuffix(ending.match(filter).captured(1));
-    };
-    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, follow);
-    follow(dialog.selectedNameFilter());
     dialog.selectFile(suggested);
+    followKind(dialog, filters); // before the dialog asks about replacing a file
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
-    return dialog.selectedFiles().constFirst();
+    const QString file = dialog.selectedFiles().constFirst();
+    userSettings().setValue(folderKey, QFileInfo(file).absolutePath());
+    return file;
 }
 
 std::optional<QString> RealDesk::input(const QString& text, const QString& title, const QString& initial) {
     const NormalCursor cursor;
+    const AskingWindow asking(m_window);
     bool accepted = false;
-    const QString line = QInputDialog::getText(m_window, title, text, QLineEdit::Normal, initial, &accepted);
+    const QString line = QInputDialog::getText(asking.widget(), title, text, QLineEdit::Normal, initial, &accepted);
     return accepted ? std::optional(line) : std::nullopt;
 }
 
 bool RealDesk::choosePrinter(QPrinter& printer) {
     const NormalCursor cursor;
-    return QPrintDialog(&printer, m_window).exec() == QDialog::Accepted;
+    const AskingWindow asking(m_window);
+    return QPrintDialog(&printer, asking.widget()).exec() == QDialog::Accepted;
 }
 
 bool RealDesk::hasPrinter() { return !QPrinterInfo::availablePrinterNames().isEmpty(); }

@@ -6,7 +6,8 @@ class QPrinter;
 
 namespace screenkit {
 
-/// The program's own desk: real boxes over the main window, the system's file and print dialogs, the system's clock.
+/// The program's own desk: real boxes, the system's file and print dialogs, the system's clock. Boxes and dialogs
+/// belong to the window that asked, which is in front again when they close.
 class RealDesk : public Desk {
 public:
     explicit RealDesk(QWidget* window = nullptr) : m_window(window) {}
@@ -26,7 +27,7 @@ public:
     bool startProgram(const QStringList& candidates) override;
 
 private:
-    QWidget* m_window;
+    QWidget* m_window; ///< asks where no window of ours is active
 };
 
 } // namespace screenkit

@@ -25,23 +25,23 @@ protected:
 TEST_F(LoanReport, EveryModeHasItsDefinitionsAndTitles) {
     struct Mode {
         QStringList typed;
-        const char *definition, *annual, *monthly;
+        const char *title, *annual, *monthly;
     };
     const std::vector<Mode> all{
         {{"100000", "25", "12", ""},
-         "Lonrepa",
+         "Monthly repayment of a loan",
          "Annual repayment of Loan with Amortisation",
          "Annual repayment of Loan with Monthly Amortisation"},
         {{"", "25", "12", "4540"},
-         "LonPrAm",
+         "Principal amount of a loan",
          "Principal calculation of Loan with Annual Amortisation",
          "Principal calculation of Loan with Monthly Amortisation"},
         {{"100000", "", "12", "4540"},
-         "LonRPer",
+         "Repayment period of a loan",
          "Repayment period calculation of Loan with Annual Amortisation",
          "Repayment period calculation of Loan with Monthly Amortisation"},
         {{"100000", "25", "", "4540"},
-         "LonInRt",
+         "Interest rate of a loan",
          "Interest rate calculation of Loan with Annual Amortisation",
          "Interest rate calculation of Loan with Monthly Amortisation"},
     };
@@ -53,8 +53,8 @@ TEST_F(LoanReport, EveryModeHasItsDefinitionsAndTitles) {
             for (const bool monthly : {false, true}) {
                 openPanel(amortised, monthly);
                 run.click("cmdVR");
-                const QString definition = QString(expected.definition) + (amortised ? "A" : "");
-                EXPECT_EQ(lastPreview().report().baseName, definition);
+                const QString title = QString(expected.title) + (amortised ? " with amortisation" : "");
+                EXPECT_EQ(lastPreview().report().content.title, title);
                 EXPECT_EQ(lastPreview().windowTitle(),
                           QString(amortised && monthly ? expected.monthly : expected.annual));
                 EXPECT_FALSE(visible("fraPrint"));

@@ -216,7 +216,7 @@ TEST(PersDetReport, FeedsOneRowWithEveryField) {
               "CTitleê CInitê CLNameê|Widow/er|Married COP|Never smoked|Smoker");
     ASSERT_EQ(run.program.reports().previews().size(), 1u);
     EXPECT_EQ(run.program.reports().previews()[0]->windowTitle(), "Personal Details ");
-    EXPECT_EQ(run.program.reports().previews()[0]->report().baseName, "PersDetl");
+    EXPECT_EQ(run.program.reports().previews()[0]->report().content.title, "Personal details");
 }
 
 TEST(PersDetReport, PrintsABlankForNoDateAndNoNotesUnlessAskedFor) {

@@ -42,7 +42,7 @@ TEST_F(Export, CsvHoldsRawValuesQuotedByTheRules) {
 
 TEST_F(Export, HtmlEscapesTextsAndKeepsHeadsAndFigures) {
     const QString html = QString::fromUtf8(bytes(Format::html));
-    EXPECT_TRUE(html.contains("<title>Shown title</title>"));
+    EXPECT_TRUE(html.contains("<title>Own title</title>"));
     EXPECT_TRUE(html.contains("O'Brien, &quot;Êksteen&quot;<br>Ṱhoho-Nḓou &lt;b&gt;&amp;&quot;x&quot;"));
     EXPECT_TRUE(html.contains("R 1 001.00 %")); // half to even
     EXPECT_TRUE(html.contains("<thead>"));
@@ -82,7 +82,7 @@ TEST_F(Export, PdfKeepsTheLettersAndItsTitle) {
     EXPECT_TRUE(text.contains("Ṱhoho-Nḓou <b>&\"x\""));
     storetest::put(folder / "own.pdf", pdf.toStdString());
     const QString info = runTool("pdfinfo", {QString::fromStdString((folder / "own.pdf").string())});
-    EXPECT_EQ(simplifiedLine(info, "Title:"), "Title: Shown title");
+    EXPECT_EQ(simplifiedLine(info, "Title:"), "Title: Own title");
     EXPECT_TRUE(simplifiedLine(info, "Page size:").contains("A4"));
 }
 

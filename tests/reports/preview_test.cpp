@@ -127,7 +127,7 @@ TEST_F(Preview, ExportsUnderTheNameThatTheUserPicks) {
     auto* button = window->findChild<QToolButton*>("exportButton");
     desk.expectFile(path("own.PDF"));
     QTest::mouseClick(button, Qt::LeftButton, {}, {8, button->height() / 2});
-    EXPECT_EQ(desk.suggestedName, "LonrepaA.pdf");
+    EXPECT_EQ(desk.suggestedName, "Monthly repayment of a loan with amortisation.pdf");
     EXPECT_EQ(desk.offeredFilters,
               QStringList({"PDF (*.pdf)", "HTML (*.html)", "ODT (*.odt)", "CSV (*.csv)", "XLSX (*.xlsx)"}));
     EXPECT_EQ(storetest::bytesOf(folder / "own.PDF").substr(0, 5), "%PDF-");

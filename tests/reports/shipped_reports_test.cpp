@@ -21,7 +21,7 @@ TEST_F(ShippedReports, LoanDefinitionsPrintTheFiguresWithTheSolvedOneLast) {
         for (const bool amortisation : {false, true}) {
             const QString file = QString(loan.file) + (amortisation ? "A.rpt" : ".rpt");
             const auto report = engine.prepare(file);
-            EXPECT_TRUE(report->title.startsWith(loan.heading)) << file.toStdString();
+            EXPECT_TRUE(report->windowTitle.startsWith(loan.heading)) << file.toStdString();
             const QString text = textOfPdf(reports::toPdf(*report));
             EXPECT_TRUE(text.contains(loan.heading)) << text.toStdString();
             for (const char* line :

@@ -95,7 +95,7 @@ private:
 
 } // namespace
 
-QByteArray toXlsx(const Content& content, const QString& title) {
+QByteArray toXlsx(const Content& content) {
     // The library writes to a named file only; the folder is ours alone and goes with the scope.
     const QTemporaryDir folder;
     const QByteArray path = QFile::encodeName(folder.filePath("report.xlsx"));
@@ -103,7 +103,7 @@ QByteArray toXlsx(const Content& content, const QString& title) {
     lxw_workbook_options options{};
     options.tmpdir = const_cast<char*>(scratch.constData()); // read only, though the library does not say so
     lxw_workbook* book = workbook_new_opt(path.constData(), &options);
-    QByteArray bookTitle = title.trimmed().toUtf8();
+    QByteArray bookTitle = documentTitle(content).toUtf8();
     lxw_doc_properties properties{};
     properties.title = bookTitle.data();
     workbook_set_properties(book, &properties);
