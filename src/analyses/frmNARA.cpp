@@ -110,7 +110,7 @@ Item frmNARA::requirementsPage() {
     auto* wanted =
         group("fraRequirements", "Requirements",
               form({{"&Monthly income required (present-day value)", row({m_income, itemiseButton(11), spring()})},
-                    {"Income required &for", m_cover, "years."},
+                    {"Income re&quired for", m_cover, "years."},
                     {"Source of monthly income available", row({itemiseButton(0), spring()})},
                     {"Inf&lation rate", m_inflation, "% a year"},
                     {"&Investment rate of return", m_rate, "% a year"}}));
@@ -138,7 +138,7 @@ Item frmNARA::capitalPage() {
                                {"Stoc&ks && cash etc.", row({stocks, itemiseButton(2), spring()})},
                                {"&Business sale ", row({business, itemiseButton(3), spring()})},
                                {"Policy/Investments", row({m_policies, policiesButton(4), spring()})},
-                               {"Ot&her capital", row({other, itemiseButton(5), spring()})},
+                               {"Othe&r capital", row({other, itemiseButton(5), spring()})},
                                {"Total capital", m_totalAssets}})),
                    spring()});
 }
@@ -156,9 +156,9 @@ Item frmNARA::expensesPage() {
     return column({group("fraExpenses", "Expenses at retirement",
                          form({{"Existing &mortgage", row({mortgage, itemiseButton(6), spring()})},
                                {"&Retirement property", row({property, itemiseButton(7), spring()})},
-                               {"Ne&w Car/RV", row({car, itemiseButton(8), spring()})},
-                               {"Tra&vel plans", row({travel, itemiseButton(9), spring()})},
-                               {"Ot&her expenses", row({other, itemiseButton(10), spring()})},
+                               {"New Car/R&V", row({car, itemiseButton(8), spring()})},
+                               {"Trave&l plans", row({travel, itemiseButton(9), spring()})},
+                               {"Other e&xpenses", row({other, itemiseButton(10), spring()})},
                                {"Total expenses", m_totalLiabilities}})),
                    spring()});
 }

@@ -22,12 +22,12 @@ frmPersDet::frmPersDet(Workplace& workplace)
       m_details(workplace.record.details), m_client(workplace.record.client) {
     auto* pages = tabs("tabPersDet", {{"&Client", clientPage()},
                                       {"&Spouse", spousePage()},
-                                      {"&Addresses and bank", addressPage()},
+                                      {"Addresses and ban&k", addressPage()},
                                       {"&Dependants", dependantsPage()},
-                                      {"&Review and notes", notesPage()}});
+                                      {"Re&view and notes", notesPage()}});
     body(
         column({pages, row({disabledButton("cmdOtherAssets", "Other Assets"),
-                            opener("cmdPolInvest", "&Policy/Investments", "frmPolInvest"),
+                            opener("cmdPolInvest", "Polic&y/Investments", "frmPolInvest"),
                             button("cmdPrint", "Prin&t", [this] { m_printPanel->open(findChild<QWidget*>("Check3")); }),
                             spring(), okButton("cmOk", "&OK")})}));
     buildPrintPanel();
@@ -88,10 +88,10 @@ Item frmPersDet::page(QWidget* person, const Contact& contact, QWidget* status) 
         return text("txt" + who + name, place, 20, phone);
     };
     auto* telephones = group("fra" + who + "Tel", "Telephone and e-mail",
-                             form({{"&Work", line("TelWork", contact.telWork)},
-                                   {"&Home", line("TelHome", contact.telHome)},
-                                   {"&Fax, work", line("FaxWork", contact.faxWork)},
-                                   {"Fa&x, home", line("FaxHome", contact.faxHome)},
+                             form({{"Wo&rk", line("TelWork", contact.telWork)},
+                                   {"Home", line("TelHome", contact.telHome)},
+                                   {"Fa&x, work", line("FaxWork", contact.faxWork)},
+                                   {"Fax, home", line("FaxHome", contact.faxHome)},
                                    {"Ce&ll", line("Cell", contact.cell)},
                                    {"&E-mail", text("txt" + who + "EMail", contact.email, 50)}}));
     auto* marital = group("fra" + who + "MaritalStat", "Marital status",
@@ -110,7 +110,7 @@ Item frmPersDet::addressPage() {
                          {"Line &3", text("txtPAdd3", m_details.PAdd3, 50)},
                          {"Postal cod&e", text("txtZipCode", m_details.PAddZip, 10, narrow)}});
     auto* copy =
-        button("cmdCopyPtoR", "Cop&y Postal Address to Residential Address :", [this] { copyPostalToResidential(); });
+        button("cmdCopyPtoR", "Copy Postal Address to Residentia&l Address :", [this] { copyPostalToResidential(); });
     m_residential[0] = text("txtResAdd1", m_details.ResAdd1, 50);
     m_residential[1] = text("txtResAdd2", m_details.ResAdd2, 50);
     m_residential[2] = text("txtResAdd3", m_details.ResAdd3, 50);
@@ -120,7 +120,7 @@ Item frmPersDet::addressPage() {
                         group("fraResidential", "Residential address", residential)}),
                    group("fraBank", "Bank and estate",
                          form({{"&Bank", text("txtBank", m_details.CBank, 80)},
-                               {"Branc&h", text("txtBranch", m_details.CBranch, 80)},
+                               {"B&ranch", text("txtBranch", m_details.CBranch, 80)},
                                {"Account &number", text("txtAccNo", m_details.CAccNo, 80)},
                                {"E&xecutors", text("txtExecutors", m_details.CExecutors, 80)}})),
                    spring()});
@@ -141,7 +141,7 @@ Item frmPersDet::dependantsPage() {
 Item frmPersDet::notesPage() {
     return column(
         {group("fraReview", "Review",
-               form({{"Re&view date", date("dtReviewDate", m_details.ReviewDate)},
+               form({{"&Review date", date("dtReviewDate", m_details.ReviewDate)},
                      {"&Next appointment", date("dtNextApp", m_details.NextApp)}})),
          Item(group("fraNotes", "Notes", form({{"Co&mments", memo("txtMemo", m_details.Comments, 2000)}})), 1)});
 }

@@ -63,23 +63,23 @@ frmPolInvest::frmPolInvest(Workplace& workplace)
     : Screen(workplace, "frmPolInvest", screenTitle, workplace.record.changed.PolInvestChanged),
       m_record(workplace.record) {
     m_pages = tabs("tabPolInvest", {{"Polic&y", policyPage()},
-                                    {"&Death", deathPage()},
-                                    {"Disability and &trauma", disabilityPage()},
-                                    {"&Retirement and investments", retirementPage()}});
+                                    {"D&eath", deathPage()},
+                                    {"Disa&bility and trauma", disabilityPage()},
+                                    {"Retirement and in&vestments", retirementPage()}});
     body(column({m_pages, valuesGroup(), buttons()}));
     buildCPIPanel();
     buildPrintPanel();
 }
 
 QLayout* frmPolInvest::buttons() {
-    m_back = button("cmdBack", "< &Back", [this] { step(-1); });
-    m_forward = button("cmdForward", "&Forward >", [this] { step(1); });
+    m_back = button("cmdBack", "< Bac&k", [this] { step(-1); });
+    m_forward = button("cmdForward", "Fo&rward >", [this] { step(1); });
     auto* solve = button("cmdCalculatePolInv", "&Calculate", [this] { calculate(); });
     defaultButton(solve);
-    return row({m_back, m_forward, button("cmdAdd", "&Add", [this] { add(); }),
+    return row({m_back, m_forward, button("cmdAdd", "A&dd", [this] { add(); }),
                 cancelButton("cmdDelete", "De&lete", [this] { remove(); }), solve,
                 button("cmdCPI", "CP&I", [this] { openCPI(); }),
-                button("cmdPrint", "&Print",
+                button("cmdPrint", "Prin&t",
                        [this] {
                            calculate();
                            m_printPanel->open(findChild<QWidget*>("chkPolInvestList"));

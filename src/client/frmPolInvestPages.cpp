@@ -80,10 +80,10 @@ CheckField* frmPolInvest::tick(const QString& column, const QString& caption, st
 
 Item frmPolInvest::policyPage() {
     m_type = line("PolInvType");
-    auto* who = form({{"Policy/Investment Typ&e", m_type},
+    auto* who = form({{"Policy/Investment Type", m_type},
                       {"&Underwriter/Institution", line("UnderInst")},
                       {"Policy/Ref &number", line("PolRefNum")},
-                      {"O&wner", line("PolOwner")},
+                      {"Owner", line("PolOwner")},
                       {"Inception date", date("dtInceptionDate", place("InceptionDate"))}});
     auto* states = row({tick("WoP", "Waiver of premium"),
                         tick("PaidUp", "Paid up", [this](bool paidUp) { lockPremiums(paidUp); }), spring()});
@@ -110,12 +110,12 @@ Item frmPolInvest::policyPage() {
 }
 
 Item frmPolInvest::deathPage() {
-    auto* benefit = form({{"D&eath benefit", amount("DeathBen")},
+    auto* benefit = form({{"Death benefit", amount("DeathBen")},
                           {"&Surrender value", amount("DeathBenSurrVal")},
                           {"Loan a&gainst", amount("DeathBenLoanAgainst")},
                           {"A&mount ceded", amount("DeathBenAmtCeded")},
                           {"Ceded to", line("DeathBenCededTo")},
-                          {"Lives ass&ured", line("DeathBenLifeAssured")}});
+                          {"Lives assured", line("DeathBenLifeAssured")}});
     const QStringList persons(beneficiaries.begin(), beneficiaries.end());
     const Bound<double> at = place("DeathBenPerson");
     auto* person = options(
@@ -125,22 +125,22 @@ Item frmPolInvest::deathPage() {
     auto* income = form({{"Mo&nthly", amount("DeathBenMonthly", "Monthly on death")},
                          {"Escalation", rate("DeathBenMonEsc", "Escalation on death"), "%"},
                          {"for", years("DeathBenYears", "Years of income on death"), "years"}});
-    auto* cash = form({{"Cash &value", valueAtAge("Cash value", "DeathBenCashVal", "DeathBenCashValAge",
+    auto* cash = form({{"Cash val&ue", valueAtAge("Cash value", "DeathBenCashVal", "DeathBenCashValAge",
                                                   "DeathBenCashValEscFor", "Escalate fwd at ")},
                        {"", tick("DeathBenUseCashAtRet", "Use cash value at retirement")}});
     return column(
         {row({Item(group("fraDeathBen", "Death benefit", benefit), 1),
-              Item(column({group("fraBeneficiary", "Beneficiary", column({person, form({{"Ot&her", m_other}})})),
+              Item(column({group("fraBeneficiary", "Beneficiary", column({person, form({{"Other", m_other}})})),
                            group("fraDeathIncome", "Income on death", income)}),
                    1)}),
          group("fraCashVal", "Cash value", cash), spring()});
 }
 
 Item frmPolInvest::disabilityPage() {
-    auto* disability = form({{"Disability l&ump sum", amount("DisabilLumpSum")},
+    auto* disability = form({{"Disability lump sum", amount("DisabilLumpSum")},
                              {"&Monthly", amount("DisabilMonthly", "Disability, monthly")},
-                             {"&esc at ", rate("DisabilMonEscAt", "Disability, escalation"), "%"}});
-    auto* trauma = form({{"Trauma/Dread disease Lump &sum", amount("TraumlLumpSum")},
+                             {"e&sc at ", rate("DisabilMonEscAt", "Disability, escalation"), "%"}});
+    auto* trauma = form({{"Trauma/Dread disease L&ump sum", amount("TraumlLumpSum")},
                          {"Mo&nthly", amount("TraumMonthly", "Trauma, monthly")},
                          {"esc at ", rate("TraumMonEscAt", "Trauma, escalation"), "%"}});
     auto* income = form({{"Monthly", amount("IncProMonthly", "Income protection, monthly")},
@@ -168,11 +168,11 @@ Item frmPolInvest::retirementPage() {
     for (CheckField* box : {useEndowment, takeCurrent, takeMaturity}) // their squares stand below one another
         box->setMinimumWidth(takeMaturity->sizeHint().width());
     auto* endowment =
-        form({{"&Estimated maturity value", valueAtAge("Estimated maturity value", "EndowEMV", "EndowEMVAge",
+        form({{"E&stimated maturity value", valueAtAge("Estimated maturity value", "EndowEMV", "EndowEMVAge",
                                                        "EndowEMVEscFwd", forward, useEndowment)}});
     auto* investment =
-        form({{"Current value of inve&stment",
-               row({amount("InvBensCurVal"), labelled("Loan against", amount("InvBensCurValLoanAgainst")), spring(),
+        form({{"Current value of investment",
+               row({amount("InvBensCurVal"), labelled("Loan a&gainst", amount("InvBensCurValLoanAgainst")), spring(),
                     takeCurrent})},
               {"Maturity value L/Sum", valueAtAge("Maturity value", "InvBensMatValLS", "InvBensMatValLSAtAge",
                                                   "InvBensMatValLSEscAt", "Escalating at   ", takeMaturity)}});

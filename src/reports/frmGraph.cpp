@@ -32,7 +32,7 @@ frmGraph::frmGraph(screenkit::Workplace& workplace)
     body(screenkit::column({Item(m_pane.widget, 1),
                             screenkit::row({screenkit::group("Frame1", "Print :", orientations), screenkit::spring(),
                                             button("cmdExport", "&Export", [this] { saveAs(); }),
-                                            button("cmdPrint", "&Print", [this] { print(); }), okButton()}),
+                                            button("cmdPrint", "Prin&t", [this] { print(); }), okButton()}),
                             Item(m_savedLine)}));
     m_savedLine->hide();
 }

@@ -4,9 +4,12 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QTabBar>
+#include <QTabWidget>
 #include <functional>
 
+#include "screenkit/pages.h"
 #include "screenkit/panel.h"
 #include "screenkit/screen.h"
 
@@ -33,6 +36,18 @@ bool means(const QString& caption, const QKeySequence& pressed) {
 
 bool reachable(const QWidget* widget) { return widget->isVisible() && widget->isEnabled(); }
 
+/// Selects also what a field holds that has the focus already: whoever presses its letter means to type it anew.
+void enter(QWidget* field) {
+    field->setFocus(Qt::ShortcutFocusReason);
+    if (auto* line = qobject_cast<QLineEdit*>(field)) line->selectAll();
+}
+
+void turnTo(QTabBar* bar, int tab) {
+    auto* book = qobject_cast<QTabWidget*>(bar->parentWidget());
+    if (book == nullptr) return bar->setCurrentIndex(tab);
+    turnToPage(book, tab);
+}
+
 std::vector<Target> targets(QWidget* scope, const QKeySequence& pressed) {
     std::vector<Target> found;
     for (auto* widget : scope->findChildren<QWidget*>()) {
@@ -46,9 +61,9 @@ std::vector<Target> targets(QWidget* scope, const QKeySequence& pressed) {
                                  button->click();
                              }});
         if (label != nullptr && label->buddy() != nullptr && reachable(label->buddy()) && means(label->text(), pressed))
-            found.push_back({label->buddy(), [label] { label->buddy()->setFocus(Qt::ShortcutFocusReason); }});
+            found.push_back({label->buddy(), [label] { enter(label->buddy()); }});
         for (int tab = 0; bar != nullptr && tab < bar->count(); ++tab)
-            if (means(bar->tabText(tab), pressed)) found.push_back({bar, [bar, tab] { bar->setCurrentIndex(tab); }});
+            if (means(bar->tabText(tab), pressed)) found.push_back({bar, [bar, tab] { turnTo(bar, tab); }});
     }
     return found;
 }

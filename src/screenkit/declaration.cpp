@@ -9,6 +9,7 @@
 #include <memory>
 
 #include "screenkit/look.h"
+#include "screenkit/pages.h"
 #include "screenkit/screen.h"
 
 // What a screen is declared with; its life is in screen.cpp.
@@ -179,6 +180,7 @@ QTabWidget* Screen::tabs(const QString& name, const std::vector<std::pair<QStrin
         }
         book->addTab(page, caption);
     }
+    leafByKey(book, m_area);
     return book;
 }
 

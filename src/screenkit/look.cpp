@@ -4,6 +4,7 @@
 #include <QFontDatabase>
 #include <QIcon>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPainter>
 #include <QProxyStyle>
 #include <QStyleFactory>
@@ -25,6 +26,8 @@ public:
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* answer) const override {
         if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+        // The main window opens its menu at Alt itself; the toolkit would do it only where no field keeps the key.
+        if (hint == SH_MenuBar_AltKeyNavigation) return qobject_cast<const QMenu*>(widget) != nullptr ? 1 : 0;
         return QProxyStyle::styleHint(hint, option, widget, answer);
     }
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,

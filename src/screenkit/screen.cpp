@@ -13,6 +13,7 @@
 #include <algorithm>
 
 #include "screenkit/look.h"
+#include "screenkit/pages.h"
 #include "screenkit/trouble.h"
 
 namespace screenkit {
@@ -162,11 +163,8 @@ bool Screen::checkFields() {
 
 void Screen::bringToView(QWidget* widget) {
     if (m_area->widget() == nullptr || !m_area->widget()->isAncestorOf(widget)) return; // in a panel
-    for (QWidget* page = widget; page != nullptr && page != this; page = page->parentWidget()) {
-        auto* stack = page->parentWidget() != nullptr ? page->parentWidget()->parentWidget() : nullptr;
-        if (auto* book = qobject_cast<QTabWidget*>(stack); book != nullptr && book->indexOf(page) >= 0)
-            book->setCurrentWidget(page);
-    }
+    for (Page page = pageOf(widget); page.book != nullptr; page = pageOf(page.book))
+        page.book->setCurrentIndex(page.index);
     const QRect place(widget->mapTo(m_area->widget(), QPoint()), widget->size());
     const QPoint middle = place.center();
     const int gap = look::lineHeight(this) / 4; // the frame of the focus as well
@@ -189,25 +187,36 @@ void Screen::enterPressed() {
     auto* focused = QApplication::focusWidget();
     if (auto* push = qobject_cast<QPushButton*>(focused); push != nullptr)
         push->click();
-    else if (QWidget* next = m_enterWalks ? nextEntry(focused) : nullptr; next != nullptr)
+    else if (QWidget* next = m_enterWalks ? nextEntry(focused) : nullptr; next != nullptr) {
+        bringToView(next);
         next->setFocus(Qt::TabFocusReason);
-    else if (m_default != nullptr)
+    } else if (m_default != nullptr)
         m_default->click();
     else
         focusNextChild();
 }
 
-QWidget* Screen::nextEntry(const QWidget* from) const {
-    const QWidget* content = m_area->widget(); // the chain of all windows' controls comes back to it
+QWidget* Screen::entryBehind(const QWidget* from, const QWidget* within) const {
     const auto isEntry = [](const QWidget* widget) {
         return [widget](Field* field) { return field->widget() == widget || field->widget()->isAncestorOf(widget); };
     };
-    if (from == nullptr || content == nullptr || !content->isAncestorOf(from)) return nullptr;
-    for (QWidget* next = from->nextInFocusChain(); next != content && next != from; next = next->nextInFocusChain())
-        if (content->isAncestorOf(next) && (next->focusPolicy() & Qt::TabFocus) == Qt::TabFocus && next->isEnabled() &&
-            next->isVisible() && std::any_of(m_fields.begin(), m_fields.end(), isEntry(next)))
+    // The chain of all windows' controls comes back to where it began.
+    for (QWidget* next = from->nextInFocusChain(); next != within && next != from; next = next->nextInFocusChain())
+        if (within->isAncestorOf(next) && (next->focusPolicy() & Qt::TabFocus) == Qt::TabFocus && next->isEnabled() &&
+            next->isVisibleTo(within) && std::any_of(m_fields.begin(), m_fields.end(), isEntry(next)))
             return next;
     return nullptr;
+}
+
+QWidget* Screen::nextEntry(const QWidget* from) const {
+    const QWidget* content = m_area->widget();
+    if (from == nullptr || content == nullptr || !content->isAncestorOf(from)) return nullptr;
+    const Page here = pageOf(from);
+    if (here.book == nullptr) return entryBehind(from, content);
+    if (QWidget* next = entryBehind(from, here.book->widget(here.index)); next != nullptr) return next;
+    for (int page = here.index + 1; page < here.book->count(); ++page)
+        if (QWidget* next = entryBehind(here.book->widget(page), here.book->widget(page)); next != nullptr) return next;
+    return entryBehind(from, content); // what stands below the pages
 }
 
 void Screen::keyPressEvent(QKeyEvent* event) {

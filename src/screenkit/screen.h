@@ -161,8 +161,10 @@ private:
     /// can't have it, so that no key would reach anything on the way back.
     void recoverFocus();
     void enterPressed();
-    /// The entry that follows in the tab order; nothing from the last one.
+    /// The entry that follows in the tab order, from the last one of a page the first of the next page that has any;
+    /// nothing from the last one of all.
     QWidget* nextEntry(const QWidget* from) const;
+    QWidget* entryBehind(const QWidget* from, const QWidget* within) const;
 
     std::int16_t& m_changed;
     std::vector<Field*> m_fields;

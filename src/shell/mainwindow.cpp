@@ -26,6 +26,7 @@
 #include "screenkit/screen.h"
 #include "screenkit/trouble.h"
 #include "shell/commands.h"
+#include "shell/menukeys.h"
 #include "shell/program.h"
 #include "shell/screens.h"
 
@@ -70,6 +71,7 @@ MDIForm1::MDIForm1(assessment::Assessment& record, const datastore::Paths& paths
         {"mnuAbout", [this] { about(); }},
     };
     new screenkit::AccessKeys(this);
+    new MenuKeys(this);
     buildMenu();
     buildToolbar();
     buildStatusBar();

@@ -81,14 +81,14 @@ QWidget* frmMonthly::buildInputs() {
                  form({{"A&ge", age},
                        {"Salary/remune&ration", wholeRand("numSalRemun", m_month.salary)},
                        {"Co&mmissions", wholeRand("numComm", m_month.commissions)},
-                       {"&Travel                     R", row({travel, labelled("taxable", taxable)})},
+                       {"Tra&vel                     R", row({travel, labelled("taxable", taxable)})},
                        {"Bon&us", number("silgEdit12", m_month.bonus, money)},
                        {"&Employer's R/Fund contributions ", wholeRand("numEmpRRFundCont", m_month.employerFund)},
                        {"Emplo&yee's R/Fund contributions", wholeRand("numEmpERFundCont", m_month.employeeFund)},
                        {"Employer's me&d aid contrib.", wholeRand("numEmpERMedAidCont", m_month.employerMedical)},
                        {"Employee's med aid contri&b.", wholeRand("numEmpEEMedAidCont", m_month.employeeMedical)},
-                       {"Medical aid &fund beneficiaries", number("numMedAidBens", m_month.medAidBens, persons)},
-                       {"St&art date", m_start},
+                       {"Medica&l aid fund beneficiaries", number("numMedAidBens", m_month.medAidBens, persons)},
+                       {"S&tart date", m_start},
                        {"E&nd date", m_end}}));
 }
 

@@ -3,6 +3,8 @@
 #include <QLabel>
 #include <QListView>
 #include <QMdiArea>
+#include <QMenu>
+#include <QMenuBar>
 #include <QRadioButton>
 #include <QTabBar>
 #include <map>
@@ -17,7 +19,7 @@ using shelltest::RunningProgram;
 
 struct Place {
     const char* item;  ///< menu item that opens the screen
-    const char* panel; ///< button that opens a panel over it; "" for the screen itself
+    const char* panel; ///< button that opens a panel over it, or another screen; "" for the screen itself
 };
 
 void PrintTo(const Place& place, std::ostream* out) { *out << place.item << ' ' << place.panel; }
@@ -27,6 +29,7 @@ const std::vector<Place> places{
     {"mnuPersDet", "cmdPrint"},
     {"mnuLoansCalc", ""},
     {"mnuLoansCalc", "cmdPrint"},
+    {"mnuLoansCalc", "cmdLoanGraph"},
     {"mnuPolInvests", ""},
     {"mnuPolInvests", "cmdPrint"},
     {"mnuPolInvests", "cmdCPI"},
@@ -73,6 +76,7 @@ class Keyboard : public testing::TestWithParam<Place> {
 protected:
     Keyboard() {
         run.record().FinChargeState = "DOWN"; // all rows of the loan
+        run.record().loans = {"Monthly repayment", 100000, 24, 10, 0};
         run.menu(GetParam().item);
     }
     void openPanel() {
@@ -131,24 +135,83 @@ TEST_P(Keyboard, EveryEntryHasALabelAndAName) {
     });
 }
 
-TEST_P(Keyboard, NoAccessKeyStandsTwiceOnAPage) {
+/// The captions whose letters were settled long before the menu's: the only ones that may keep a letter from it.
+const std::set<std::string> shadowing{"frmLoans &Fin. charges", "frmLoans &Annual Amort.", "frmLoans &Print",
+                                      "frmNARA &Amortisation",  "frmNARA &Print",          "frmKwikTax &Print",
+                                      "frmMonthly &Print",      "frmLoans C&ancel",        "frmNARA C&ancel",
+                                      "frmPersDet C&ancel",     "frmPolInvest C&ancel"};
+
+/// The letters in use, each with the captions that hold it.
+std::map<QKeySequence, QStringList> lettersOf(const QWidget* scope) {
+    std::map<QKeySequence, QStringList> letters;
+    const auto note = [&](const QString& caption) {
+        const QKeySequence letter = QKeySequence::mnemonic(caption);
+        if (!letter.isEmpty()) letters[letter] << caption;
+    };
+    for (auto* button : scope->findChildren<QAbstractButton*>())
+        if (button->isVisible()) note(button->text());
+    for (auto* label : scope->findChildren<QLabel*>())
+        if (label->isVisible() && label->buddy() != nullptr) note(label->text());
+    for (auto* bar : scope->findChildren<QTabBar*>())
+        for (int tab = 0; bar->isVisible() && tab < bar->count(); ++tab)
+            note(bar->tabText(tab));
+    return letters;
+}
+
+TEST_P(Keyboard, EachAccessKeyIsOneCaptionsAndNoneOfOursIsTheMenus) {
     openPanel();
     onEachPage([&](const std::string& page) {
-        std::map<std::string, std::vector<std::string>> keys;
-        const auto note = [&](const QString& caption) {
-            const QKeySequence key = QKeySequence::mnemonic(caption);
-            if (!key.isEmpty()) keys[key.toString().toStdString()].push_back(caption.toStdString());
-        };
-        for (auto* button : scope()->findChildren<QAbstractButton*>())
-            if (button->isVisible()) note(button->text());
-        for (auto* label : scope()->findChildren<QLabel*>())
-            if (label->isVisible() && label->buddy() != nullptr) note(label->text());
-        for (auto* bar : scope()->findChildren<QTabBar*>())
-            for (int tab = 0; tab < bar->count(); ++tab)
-                note(bar->tabText(tab));
-        for (const auto& [key, captions] : keys)
-            EXPECT_EQ(captions.size(), 1u) << key << " " << testing::PrintToString(captions) << " " << page;
+        const auto letters = lettersOf(scope());
+        for (const auto& [letter, captions] : letters)
+            EXPECT_EQ(captions.size(), 1) << captions.join(" | ").toStdString() << " " << page;
+        for (const QAction* item : run.window().menuBar()->actions()) {
+            const auto taken = letters.find(QKeySequence::mnemonic(item->text()));
+            if (taken == letters.end() || taken->first.isEmpty()) continue;
+            const QString caption = run.front()->objectName() + " " + taken->second.front();
+            EXPECT_TRUE(shadowing.contains(caption.toStdString())) << caption.toStdString() << " " << page;
+        }
     });
+}
+
+TEST_P(Keyboard, TheMenuOpensByF10ByAltAloneAndByEachLetterThatTheScreenLeavesIt) {
+    openPanel();
+    auto* bar = run.window().menuBar();
+    const auto opens = [&](const QAction* item, const std::function<void(QWidget*)>& press) {
+        QWidget* before = QApplication::focusWidget();
+        press(before);
+        EXPECT_EQ(bar->activeAction(), item);
+        ASSERT_TRUE(item->menu()->isVisible());
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+        EXPECT_FALSE(item->menu()->isVisible());
+        EXPECT_EQ(QApplication::focusWidget(), before);
+    };
+    opens(bar->actions().front(), [](QWidget* focused) { QTest::keyClick(focused, Qt::Key_F10); });
+    opens(bar->actions().front(), [](QWidget* focused) {
+        QTest::keyPress(focused, Qt::Key_Alt);
+        QTest::keyRelease(focused, Qt::Key_Alt, Qt::AltModifier);
+    });
+    const auto letters = lettersOf(scope());
+    for (const QAction* item : bar->actions()) {
+        const QKeySequence letter = QKeySequence::mnemonic(item->text());
+        if (letter.isEmpty() || item->menu() == nullptr || letters.contains(letter)) continue;
+        opens(item, [&](QWidget* focused) { QTest::keyClick(focused, letter[0].key(), Qt::AltModifier); });
+    }
+}
+
+TEST(MenuKeys, AltOpensNothingWhenMoreThanAltWasMeant) {
+    RunningProgram run;
+    run.menu("mnuQuickTax");
+    QWidget* field = QApplication::focusWidget();
+    const std::vector<std::function<void()>> between{
+        [&] { QTest::keyClick(field, Qt::Key_G, Qt::AltModifier); },
+        [&] { QTest::keyClick(field, Qt::Key_Shift, Qt::AltModifier); },
+        [&] { QTest::mouseClick(field, Qt::LeftButton, Qt::AltModifier); }};
+    for (const auto& more : between) {
+        QTest::keyPress(field, Qt::Key_Alt);
+        more();
+        QTest::keyRelease(field, Qt::Key_Alt, Qt::AltModifier);
+        EXPECT_EQ(run.window().menuBar()->activeAction(), nullptr);
+    }
 }
 
 // A screen of 1280 x 800 at twice the usual scale leaves this much to the main window.
