@@ -5,8 +5,6 @@
 #include <QPageLayout>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QTextDocument>
-#include <QTextDocumentWriter>
 #include <charconv>
 
 #include "reports/face.h"
@@ -89,7 +87,7 @@ QString proposedFileName(const QString& client, const QString& title, const QStr
 QByteArray exported(const Report& report, Format format) {
     switch (format) {
     case Format::html: return toHtml(report.content);
-    case Format::odt: return toOdt(report.content);
+    case Format::odt: return output().toOdt(report.content);
     case Format::csv: return toCsv(report.content);
     case Format::xlsx: return output().toXlsx(report.content);
     case Format::pdf: break;
@@ -112,17 +110,6 @@ QByteArray toPdf(const Report& report) {
         report.layout.paint(painter, page);
     }
     painter.end();
-    return bytes;
-}
-
-QByteArray toOdt(const Content& content) {
-    QTextDocument document;
-    document.setMetaInformation(QTextDocument::DocumentTitle, documentTitle(content));
-    document.setHtml(QString::fromUtf8(toHtml(content)));
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    QTextDocumentWriter(&buffer, "ODF").write(&document);
     return bytes;
 }
 

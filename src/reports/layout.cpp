@@ -13,8 +13,6 @@ namespace {
 
 using namespace look;
 
-constexpr std::size_t rowsTogether = 4; // at least so many under a table's heads, if it has them
-
 /// A header or footer line; what is wider than the page is left out.
 Line oneLine(const QString& text, const Face& face, double width) {
     return broken({Run{text}}, face, width).lines.front();

@@ -20,12 +20,14 @@ struct GraphPane {
     std::function<void(const Graph&)> show;
 };
 
-/// What draws charts and writes workbooks. It lives in a library of its own, since the toolkit's charts and the
-/// workbook writer bring more to load and relocate than all the rest of the program, and no start needs them.
+/// What draws charts, and writes text documents and workbooks. It lives in a library of its own, since the toolkit's
+/// charts and the workbook writer bring more to load and relocate than all the rest of the program, and no start needs
+/// them.
 struct Output {
     GraphPane (*newGraphPane)();
     QByteArray (*exportedGraph)(const Graph& graph, GraphFormat format, QPageLayout::Orientation orientation);
     bool (*printGraph)(const Graph& graph, QPagedPaintDevice& device);
+    QByteArray (*toOdt)(const Content& content);
     QByteArray (*toXlsx)(const Content& content);
 };
 

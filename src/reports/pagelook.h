@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+
 #include "reports/face.h"
 
 namespace reports {
@@ -24,6 +26,7 @@ inline constexpr double belowHeader = points(14); ///< between the rule's room a
 inline constexpr double aboveFooter = points(10); ///< between the flow and the footer's rule
 inline constexpr double footerGap = points(5);    ///< between that rule and the footer's text
 inline constexpr double afterTable = points(4);
+inline constexpr std::size_t rowsTogether = 4; ///< at least so many under a table's heads, if it has them
 } // namespace look
 
 /// The face of a block's text, and of a row's cells.

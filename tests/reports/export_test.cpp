@@ -1,5 +1,6 @@
 #include <sys/resource.h>
 
+#include <QXmlStreamReader>
 #include <csignal>
 
 #include "reports/report_support.h"
@@ -50,19 +51,44 @@ TEST_F(Export, HtmlEscapesTextsAndKeepsHeadsAndFigures) {
     EXPECT_TRUE(html.contains("information supplied by the undersigned client."));
 }
 
-TEST_F(Export, OdtHoldsTheTexts) {
-    EXPECT_EQ(bytes(Format::odt).left(2), "PK");
+/// The words of a document's XML, line by line; an XML that is not well formed fails the test.
+QString wordsOf(const QString& xml) {
+    QString words;
+    QXmlStreamReader reader(xml);
+    while (!reader.atEnd()) {
+        reader.readNext();
+        if (reader.isCharacters()) words += reader.text();
+        if (!reader.isStartElement()) continue;
+        if (reader.qualifiedName() == u"text:s") words += QString(reader.attributes().value("text:c").toInt(), ' ');
+        if (reader.qualifiedName() == u"text:tab") words += '\t';
+        if (QStringList{"text:p", "text:h", "text:line-break"}.contains(reader.qualifiedName())) words += '\n';
+    }
+    EXPECT_FALSE(reader.hasError()) << reader.errorString().toStdString();
+    return words;
+}
+
+TEST_F(Export, OdtHoldsEveryLetterAndFigureAlsoSideBySide) {
+    feed("PersDetails", {{"Name", "N"}, {"Comments", "  two  blanks\tand a tab \n\x01=\xef\xbf\xbf&<>\"' "}});
+    define("Own.rpt", page("<div><div><p>Left of</p><table><tr><td>{{Num1:# ### ##0.00}}</td></tr></table></div>"
+                           "<div><p>{{PersDetails.Comments}}</p></div></div><hr/>"
+                           "<table><col width=\"50%\"/><col width=\"50%\"/><tr><td colspan=\"2\">{{Heading}}</td></tr>"
+                           "<tr><td>1</td></tr></table>"));
+    const QByteArray file = bytes(Format::odt);
+    EXPECT_EQ(file.mid(30, 47), "mimetypeapplication/vnd.oasis.opendocument.text"); // stored, and first
     const QString content = part(Format::odt, "content.xml");
-    QString plain = content;
-    plain.replace("<text:line-break/>", "\n")
-        .remove(QRegularExpression("<[^>]*>"))
-        .replace("&lt;", "<")
-        .replace("&gt;", ">");
-    plain.replace("&quot;", "\"").replace("&amp;", "&");
-    EXPECT_TRUE(plain.contains("Ṱhoho-Nḓou <b>&\"x\"")) << plain.toStdString();
-    EXPECT_TRUE(plain.contains("O'Brien, \"Êksteen\""));
-    EXPECT_TRUE(plain.contains("1 234 567.12"));
-    EXPECT_TRUE(content.contains("table:table"));
+    const QString words = wordsOf(content);
+    for (const char* text : {"\nO'Brien, \"Êksteen\"\nṰhoho-Nḓou <b>&\"x\"", "\nLeft of", "\n1 234 567.12",
+                             "\n  two  blanks\tand a tab \n=&<>\"' "})
+        EXPECT_TRUE(words.contains(text)) << text << " in " << words.toStdString();
+    // A table stands in a cell, never between the rows of another; every row has all its cells.
+    EXPECT_FALSE(content.contains(QRegularExpression("table:table-row[^>]*>\\s*<table:table ")));
+    EXPECT_EQ(content.count("<table:table "), 3);
+    EXPECT_EQ(content.count("<table:table-cell ") + content.count("<table:covered-table-cell"), 2 + 1 + 4);
+    const QString frame = wordsOf(part(Format::odt, "styles.xml"));
+    EXPECT_TRUE(frame.contains("information supplied by the undersigned client.") && frame.contains("Page 1 of 1"));
+    EXPECT_TRUE(wordsOf(part(Format::odt, "meta.xml")).contains("Own title"));
+    wordsOf(part(Format::odt, "settings.xml"));
+    wordsOf(part(Format::odt, "META-INF/manifest.xml"));
 }
 
 TEST_F(Export, XlsxHoldsNumbersWithTheirFormat) {

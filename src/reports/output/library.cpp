@@ -15,6 +15,6 @@ GraphPane newGraphPane() {
 } // namespace
 
 /// What the program asks the library for once it is loaded.
-extern "C" const Output marlowbeckOutput{newGraphPane, exportedGraph, printGraph, toXlsx};
+extern "C" const Output marlowbeckOutput{newGraphPane, exportedGraph, printGraph, toOdt, toXlsx};
 
 } // namespace reports

@@ -1,0 +1,206 @@
+#include <QXmlStreamWriter>
+#include <algorithm>
+
+#include "reports/export.h"
+#include "reports/output/odtframe.h"
+#include "reports/output/odtstyles.h"
+#include "reports/output/odttext.h"
+#include "reports/output/zip.h"
+#include "reports/pagelook.h"
+
+namespace reports {
+namespace {
+
+using namespace look;
+
+/// Writes the flow of a report: texts, tables, and columns side by side as a table whose cells hold flows.
+class FlowWriter {
+public:
+    FlowWriter(QXmlStreamWriter& xml, OdtStyles& styles) : m_xml(xml), m_styles(styles) {}
+
+    void add(const std::vector<Block>& blocks, double width) {
+        double after = 0;
+        for (std::size_t index = 0; index < blocks.size(); ++index) {
+            const Block& block = blocks[index];
+            const double before = after + (index == 0 ? 0 : spaceBefore(block));
+            addBlock(block, width, before);
+            after = spaceAfter(block);
+        }
+        if (blocks.empty() || endsInTable(blocks.back())) addThinLine();
+    }
+
+private:
+    static bool endsInTable(const Block& block) {
+        return block.kind == Block::Kind::table || block.kind == Block::Kind::columns;
+    }
+
+    void addBlock(const Block& block, double width, double before) {
+        switch (block.kind) {
+        case Block::Kind::table: return addTable(block.table, width, before);
+        case Block::Kind::columns: return addColumns(block, width, before);
+        case Block::Kind::rule: return addRule(before);
+        default: return addText(block, before);
+        }
+    }
+
+    void addText(const Block& block, double before) {
+        const bool title = block.kind == Block::Kind::title;
+        const bool heading = title || block.kind == Block::Kind::heading;
+        const Face& face = faceOf(block);
+        m_xml.writeStartElement(heading ? "text:h" : "text:p");
+        m_xml.writeAttribute("text:style-name",
+                             m_styles.paragraph({.face = face, .before = before, .keepsNext = heading}));
+        if (heading) m_xml.writeAttribute("text:outline-level", title ? "1" : "2");
+        writeOdtRuns(m_xml, m_styles, block.runs, face);
+        m_xml.writeEndElement();
+    }
+
+    /// A text must follow a table at the end of a cell or of the page's flow: one that nobody sees.
+    void addThinLine() {
+        m_xml.writeEmptyElement("text:p");
+        m_xml.writeAttribute("text:style-name", "Thin");
+    }
+
+    void addRule(double before) {
+        const QString line =
+            QString(R"(fo:border-bottom="%1 solid %2")").arg(odtLength(hairline), ink::hairline.name());
+        static const Face thin{0.5};
+        m_xml.writeEmptyElement("text:p");
+        m_xml.writeAttribute("text:style-name", m_styles.paragraph({.face = thin, .before = before, .further = line}));
+    }
+
+    void startTable(const std::vector<double>& columns, double before) {
+        double width = 0;
+        for (const double column : columns)
+            width += column;
+        m_xml.writeStartElement("table:table");
+        m_xml.writeAttribute("table:style-name", m_styles.table(width, before));
+        for (const double column : columns) {
+            m_xml.writeEmptyElement("table:table-column");
+            m_xml.writeAttribute("table:style-name", m_styles.column(column));
+        }
+    }
+
+    void addTable(const Table& table, double width, double before) {
+        std::vector<double> columns;
+        for (const double share : table.widths)
+            columns.push_back(share * width);
+        startTable(columns, before);
+        if (!table.heads.empty()) m_xml.writeStartElement("table:table-header-rows");
+        for (const Row& row : table.heads)
+            addRow(row, table.widths.size(), true);
+        if (!table.heads.empty()) m_xml.writeEndElement();
+        for (std::size_t row = 0; row < table.rows.size(); ++row)
+            addRow(table.rows[row], table.widths.size(), false, row + 1 < std::min(rowsTogether, table.rows.size()));
+        if (table.heads.empty() && table.rows.empty()) addRow({}, table.widths.size(), false);
+        m_xml.writeEndElement();
+    }
+
+    /// keepsNext: the next row stands on the same page.
+    void addRow(const Row& row, std::size_t columns, bool head, bool keepsNext = false) {
+        m_xml.writeStartElement("table:table-row");
+        m_xml.writeAttribute("table:style-name", m_styles.row(fitsAPage(row)));
+        std::size_t column = 0;
+        for (const Cell& cell : row.cells) {
+            if (column == columns) break;
+            const auto wanted = static_cast<std::size_t>(std::max(cell.columns, 1));
+            const std::size_t spanned = std::min(wanted, columns - column);
+            addCell(row, cell, spanned, head, keepsNext);
+            column += spanned;
+        }
+        for (; column < columns; ++column)
+            addCell(row, {}, 1, head, keepsNext);
+        m_xml.writeEndElement();
+    }
+
+    static bool fitsAPage(const Row& row) {
+        constexpr qsizetype mostLetters = 600; // a narrow column takes so many on half a page
+        return std::all_of(row.cells.begin(), row.cells.end(), [](const Cell& cell) {
+            const QString text = cell.text();
+            return text.size() <= mostLetters && text.count('\n') < 20;
+        });
+    }
+
+    void addCell(const Row& row, const Cell& cell, std::size_t spanned, bool head, bool keepsNext) {
+        const Face& face = faceOf(row, head);
+        startCell(cellLook(row, head), spanned);
+        m_xml.writeStartElement("text:p");
+        m_xml.writeAttribute("text:style-name",
+                             m_styles.paragraph({.face = face, .align = cell.align, .keepsNext = keepsNext}));
+        writeOdtRuns(m_xml, m_styles, cell.runs, face);
+        m_xml.writeEndElement();
+        endCell(spanned);
+    }
+
+    void startCell(const QString& cellLook, std::size_t spanned) {
+        m_xml.writeStartElement("table:table-cell");
+        m_xml.writeAttribute("table:style-name", m_styles.cell(cellLook));
+        if (spanned > 1) m_xml.writeAttribute("table:number-columns-spanned", QString::number(spanned));
+    }
+
+    void endCell(std::size_t spanned) {
+        m_xml.writeEndElement();
+        for (std::size_t covered = 1; covered < spanned; ++covered)
+            m_xml.writeEmptyElement("table:covered-table-cell");
+    }
+
+    /// The rule is part of the row's height here as on the page.
+    static QString cellLook(const Row& row, bool head) {
+        const double rule = head ? headLine : hairline;
+        QString look =
+            QString(R"(fo:padding-left="%1" fo:padding-right="%1" fo:padding-top="%2" fo:padding-bottom="%3" )"
+                    R"(fo:border-left="none" fo:border-right="none" fo:border-top="none" )"
+                    R"(fo:border-bottom="%4 solid %5")")
+                .arg(odtLength(cellPadding), odtLength(rowPadding), odtLength(rowPadding - rule), odtLength(rule),
+                     (head ? ink::strong : ink::hairline).name());
+        if (head || row.result)
+            look += QString(R"( fo:background-color="%1")").arg((head ? ink::headBand : ink::resultBand).name());
+        return look;
+    }
+
+    void addColumns(const Block& block, double width, double before) {
+        if (block.columns.empty()) return;
+        const double forFlows = width - gutter * static_cast<double>(block.columns.size() - 1);
+        std::vector<double> widths;
+        for (std::size_t column = 0; column < block.columns.size(); ++column)
+            widths.push_back(forFlows * block.widths[column] + (column + 1 < block.columns.size() ? gutter : 0));
+        startTable(widths, before);
+        m_xml.writeStartElement("table:table-row");
+        m_xml.writeAttribute("table:style-name", m_styles.row(false));
+        for (std::size_t column = 0; column < block.columns.size(); ++column) {
+            const double beside = column + 1 < block.columns.size() ? gutter : 0;
+            startCell(QString(R"(fo:border="none" fo:padding="0pt" fo:padding-right="%1")").arg(odtLength(beside)), 1);
+            add(block.columns[column], forFlows * block.widths[column]);
+            endCell(1);
+        }
+        m_xml.writeEndElement();
+        m_xml.writeEndElement();
+    }
+
+    QXmlStreamWriter& m_xml;
+    OdtStyles& m_styles;
+};
+
+QByteArray contentXml(const Content& content) {
+    OdtStyles styles;
+    QByteArray body;
+    QXmlStreamWriter xml(&body);
+    FlowWriter(xml, styles).add(content.blocks, Layout::pageSize().width() - marginLeft - marginRight);
+    xml.writeEndDocument(); // closes an element that was left open for attributes
+    return odtRoot("document-content") + odtFonts() + "<office:automatic-styles>\n" + styles.xml().toUtf8() +
+           "</office:automatic-styles>\n<office:body><office:text>\n" + body +
+           "\n</office:text></office:body>\n</office:document-content>\n";
+}
+
+} // namespace
+
+QByteArray toOdt(const Content& content) {
+    return zipped({{"mimetype", "application/vnd.oasis.opendocument.text", true}, // other programs look here first
+                   {"content.xml", contentXml(content)},
+                   {"styles.xml", odtFrame(content)},
+                   {"meta.xml", odtMeta(content)},
+                   {"settings.xml", odtSettings()},
+                   {"META-INF/manifest.xml", odtManifest()}});
+}
+
+} // namespace reports

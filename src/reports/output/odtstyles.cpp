@@ -1,0 +1,58 @@
+#include "reports/output/odtstyles.h"
+
+#include "reports/face.h"
+
+namespace reports {
+
+QString odtLength(double units) { return QString::number(units * 72 / unitsPerInch, 'f', 3) + "pt"; }
+
+QString OdtStyles::letters(const Face& face) {
+    // The font's weight goes by its number: half-bold heads would else come out as bold as results.
+    return QString(R"(<style:text-properties style:font-name="Text" fo:font-size="%1" fo:font-weight="%2" )"
+                   R"(fo:font-style="%3" fo:color="%4"/>)")
+        .arg(odtLength(face.font.pixelSize()))
+        .arg(face.font.weight())
+        .arg(face.font.italic() ? "italic" : "normal", face.ink.name());
+}
+
+QString OdtStyles::named(const char* family, const QString& properties) {
+    const QString key = family + properties;
+    if (m_names.contains(key)) return m_names[key];
+    const QString name = QString("%1%2").arg(family).arg(m_names.size() + 1);
+    m_names.insert(key, name);
+    m_xml += QString(R"(<style:style style:name="%1" style:family="%2">)").arg(name, family) + properties +
+             "</style:style>\n";
+    return name;
+}
+
+QString OdtStyles::paragraph(const Text& text) {
+    const char* const align = text.align == Align::right ? "end" : text.align == Align::centre ? "center" : "start";
+    const QString spacing =
+        QString(R"(<style:paragraph-properties fo:margin-top="%1" fo:line-height="%2" fo:text-align="%3"%4 %5/>)")
+            .arg(odtLength(text.before), odtLength(text.face.lineHeight), align,
+                 text.keepsNext ? R"( fo:keep-with-next="always")" : "", text.further);
+    return named("paragraph", spacing + letters(text.face));
+}
+
+QString OdtStyles::span(const Face& face) { return named("text", letters(face)); }
+
+QString OdtStyles::table(double width, double before) {
+    return named("table", QString(R"(<style:table-properties style:width="%1" table:align="left" fo:margin-top="%2"/>)")
+                              .arg(odtLength(width), odtLength(before)));
+}
+
+QString OdtStyles::column(double width) {
+    return named("table-column",
+                 QString(R"(<style:table-column-properties style:column-width="%1"/>)").arg(odtLength(width)));
+}
+
+QString OdtStyles::row(bool whole) {
+    return named("table-row",
+                 QString(R"(<style:table-row-properties fo:keep-together="%1"/>)").arg(whole ? "always" : "auto"));
+}
+
+QString OdtStyles::cell(const QString& properties) {
+    return named("table-cell", "<style:table-cell-properties " + properties + "/>");
+}
+
+} // namespace reports
