@@ -3,12 +3,10 @@
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
-#include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
 #include <QSessionManager>
-#include <QStatusBar>
 #include <QStyle>
 #include <QToolBar>
 #include <QToolButton>
@@ -29,6 +27,7 @@
 #include "shell/menukeys.h"
 #include "shell/program.h"
 #include "shell/screens.h"
+#include "shell/statusline.h"
 
 namespace shell {
 
@@ -48,7 +47,7 @@ const QStringList calculators{
 
 MDIForm1::MDIForm1(assessment::Assessment& record, const datastore::Paths& paths, screenkit::Desk& desk,
                    reports::Engine& reports)
-    : m_work{record, paths, desk, reports, *this}, m_area(new QMdiArea(this)) {
+    : m_work{record, paths, desk, reports, *this}, m_area(new QMdiArea(this)), m_status(new StatusLine(this, record)) {
     setObjectName("MDIForm1");
     m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     m_area->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
@@ -74,7 +73,6 @@ MDIForm1::MDIForm1(assessment::Assessment& record, const datastore::Paths& paths
     new MenuKeys(this);
     buildMenu();
     buildToolbar();
-    buildStatusBar();
     connect(m_area, &QMdiArea::subWindowActivated, this, &MDIForm1::activated);
     connect(qApp, &QGuiApplication::commitDataRequest, this, &MDIForm1::sessionEnds, Qt::DirectConnection);
 }
@@ -159,18 +157,6 @@ void MDIForm1::buildToolbar() {
     }
 }
 
-void MDIForm1::buildStatusBar() {
-    statusBar()->setObjectName("StatusBar1");
-    auto* caption = new QLabel(tr("Client:"));
-    m_clientName = new QLabel;
-    m_clientName->setObjectName("StatusBar1.Panels(2)");
-    m_clientName->setTextFormat(Qt::PlainText);
-    caption->setBuddy(m_clientName);
-    caption->setIndent(caption->fontMetrics().averageCharWidth());
-    statusBar()->addWidget(caption);
-    statusBar()->addWidget(m_clientName, 1);
-}
-
 void MDIForm1::act(const std::function<void()>& command) {
     Screen* front = activeScreen();
     if (front != nullptr && !front->checkFields()) return;
@@ -243,11 +229,7 @@ void MDIForm1::refillScreens() {
         open->clientReplaced();
 }
 
-void MDIForm1::showClientName() {
-    const auto& details = m_work.record.details;
-    m_clientName->setText(
-        QString::fromStdString(assessment::displayName(details.CTitle, details.CInit, details.CLName)));
-}
+void MDIForm1::showClientName() { m_status->showClientName(); }
 
 void MDIForm1::enableToolbar(bool on) {
     m_toolbarHolders += on ? -1 : 1; // two screens that want it off may be open at once
@@ -308,6 +290,7 @@ bool MDIForm1::Save() {
     const bool done = screenkit::guarded(m_work.desk, tr("save the client"),
                                          [&] { saved = datastore::Save(m_work.record, m_work.paths.DataDbPath); });
     if (done && saved == datastore::Saved::thenNew) NEWUNLOAD();
+    if (done) m_status->showSaved();
     return done;
 }
 
@@ -324,7 +307,7 @@ void MDIForm1::CLEARLOAD() {
     for (const char* name : clientScreens())
         if (auto* open = qobject_cast<Screen*>(screen(name)); open != nullptr) open->drop();
     refillScreens(); // no old client's figures beside a new one
-    m_clientName->clear();
+    m_status->clear();
 }
 
 bool MDIForm1::mayExit() {
@@ -336,8 +319,9 @@ bool MDIForm1::mayExit() {
     assessment::CheckChanges(m_work.record);
     if (m_work.record.ClientChanged != 1) return true;
     // Two answers only, unlike New and Browse: whoever wants to keep the changes answers No and saves.
+    // No comes of itself, since Enter pressed twice on the way out must not lose a client's changes.
     return m_work.desk.box(BoxStyle::question, "Current changes have not been saved. Do you still want to exit. ?",
-                           "Exit ?", Buttons::yesNo) == Answer::yes;
+                           "Exit ?", Buttons::yesNo, Answer::no) == Answer::yes;
 }
 
 void MDIForm1::sessionEnds(QSessionManager& session) {

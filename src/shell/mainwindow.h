@@ -8,7 +8,6 @@
 
 #include "screenkit/workplace.h"
 
-class QLabel;
 class QMdiArea;
 class QMdiSubWindow;
 class QSessionManager;
@@ -18,6 +17,8 @@ class Screen;
 } // namespace screenkit
 
 namespace shell {
+
+class StatusLine;
 
 /// The one main window: menu, toolbar, status bar and the area of the child screens. It holds no client logic; it
 /// routes commands to screens, guards unsaved changes and shows the client's name.
@@ -54,7 +55,6 @@ protected:
 private:
     void buildMenu();
     void buildToolbar();
-    void buildStatusBar();
     QAction* addItem(const struct MenuItem& item);
     /// Runs a command once the screen in front has passed its checks.
     void act(const std::function<void()>& command);
@@ -75,8 +75,8 @@ private:
 
     screenkit::Workplace m_work;
     QMdiArea* m_area;
+    StatusLine* m_status;
     QToolBar* m_toolbar = nullptr;
-    QLabel* m_clientName = nullptr;
     QHash<QString, QAction*> m_actions;
     QHash<QString, std::function<void()>> m_commands;
     QPointer<QMdiSubWindow> m_front; ///< the child screen last in front, also while another program is

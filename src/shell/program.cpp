@@ -76,7 +76,6 @@ bool Program::MDIForm_Load() {
 
 void Program::showWindow() {
     m_window = std::make_unique<MDIForm1>(m_record, m_paths, m_desk, *m_reports);
-    m_window->setWindowTitle(QString::fromStdString(programCaption()));
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
     m_window->resize(windowSize.boundedTo(screen.size()));
     m_window->move(std::max(0, (screen.width() - windowSize.width()) / 2),

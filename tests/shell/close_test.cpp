@@ -40,6 +40,7 @@ TEST(Close, WarnsOfUnsavedChangesWithoutOfferingToSave) {
     EXPECT_EQ(run.desk.last().text, unsaved);
     EXPECT_EQ(run.desk.last().title, "Exit ?");
     EXPECT_EQ(run.desk.last().buttons, Buttons::yesNo);
+    EXPECT_EQ(run.desk.last().defaultAnswer, Answer::no);
     EXPECT_TRUE(run.window().isVisible());
     EXPECT_EQ(run.shown("txtCLName"), "Botha");
 
