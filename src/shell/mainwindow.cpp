@@ -25,6 +25,7 @@
 #include "screenkit/trouble.h"
 #include "shell/commands.h"
 #include "shell/menukeys.h"
+#include "shell/placing.h"
 #include "shell/program.h"
 #include "shell/screens.h"
 #include "shell/statusline.h"
@@ -64,8 +65,8 @@ MDIForm1::MDIForm1(assessment::Assessment& record, const datastore::Paths& paths
         {"mnuExit", [this] { close(); }},
         {"mnuCalculator", [this] { startCalculator(); }},
         {"mnuViewToolBar", {}}, // its check mark alone shows and hides the toolbar
-        {"mnuCascade", [this] { m_area->cascadeSubWindows(); }},
-        {"mnuIcon", [this] { arrangeIcons(); }},
+        {"mnuCascade", [this] { cascade(m_area); }},
+        {"mnuIcon", [this] { arrangeIcons(m_area); }},
         {"mnuVideoLectures", [this] { m_work.desk.openOnDesktop(lecturesAddress); }},
         {"mnuAbout", [this] { about(); }},
     };
@@ -166,7 +167,7 @@ void MDIForm1::act(const std::function<void()>& command) {
 void MDIForm1::afterToolbarCommand() {
     while (QGuiApplication::overrideCursor() != nullptr)
         QGuiApplication::restoreOverrideCursor();
-    if (screens().size() == 2) m_area->cascadeSubWindows(); // two screens side by side can both be seen
+    if (screens().size() == 2) cascade(m_area); // two screens side by side can both be seen
 }
 
 QList<Screen*> MDIForm1::screens() const {
@@ -198,6 +199,7 @@ void MDIForm1::open(const QString& name) {
     }
     auto* window = qobject_cast<QMdiSubWindow*>(present->parentWidget());
     if (window->isMinimized()) window->showNormal();
+    bringIntoView(m_area, window);
     m_area->setActiveSubWindow(window);
     window->raise();
 }
@@ -206,9 +208,7 @@ void MDIForm1::place(Screen* screen) {
     QMdiSubWindow* window = m_area->addSubWindow(screen);
     window->setAttribute(Qt::WA_DeleteOnClose);
     window->setObjectName(screen->objectName() + "Window");
-    const QSize frame = window->sizeHint() - screen->sizeHint();
-    window->resize((screen->sizeHint() + frame).boundedTo(m_area->viewport()->size()));
-    window->move(0, 0);
+    placeAtTopLeft(m_area, window);
     window->show();
     m_area->setActiveSubWindow(window);
 }
@@ -342,16 +342,6 @@ void MDIForm1::closeEvent(QCloseEvent* event) {
     m_exitWithoutAsking = true;
     m_work.reports.closePreviews();
     event->accept();
-}
-
-void MDIForm1::arrangeIcons() {
-    int left = 0;
-    for (QMdiSubWindow* window : m_area->subWindowList()) {
-        if (!window->isMinimized() || !window->isVisible()) continue;
-        if (left + window->width() > m_area->viewport()->width()) left = 0;
-        window->move(left, m_area->viewport()->height() - window->height());
-        left += window->width();
-    }
 }
 
 void MDIForm1::startCalculator() {

@@ -69,7 +69,6 @@ private:
     bool mayExit();
     /// The desktop logs the user out or shuts down: the same questions as at the close.
     void sessionEnds(QSessionManager& session);
-    void arrangeIcons();
     void startCalculator();
     void about();
 

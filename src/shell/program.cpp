@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QScreen>
-#include <algorithm>
 #include <cstdio>
 
 #include "base/rounding.h"
@@ -14,6 +13,7 @@
 #include "screenkit/trouble.h"
 #include "shell/instance.h"
 #include "shell/mainwindow.h"
+#include "shell/placing.h"
 
 namespace shell {
 
@@ -21,7 +21,6 @@ using screenkit::BoxStyle;
 
 namespace {
 
-constexpr QSize windowSize(947, 692);
 constexpr double checkedFutureValue = 25937; // 10 000 over ten years at 10 %
 constexpr double checkedBuyingPower = 3855;
 
@@ -76,10 +75,9 @@ bool Program::MDIForm_Load() {
 
 void Program::showWindow() {
     m_window = std::make_unique<MDIForm1>(m_record, m_paths, m_desk, *m_reports);
-    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
-    m_window->resize(windowSize.boundedTo(screen.size()));
-    m_window->move(std::max(0, (screen.width() - windowSize.width()) / 2),
-                   std::max(0, (screen.height() - windowSize.height()) / 2));
+    const QRect place = startGeometry(QGuiApplication::primaryScreen()->availableGeometry());
+    m_window->resize(place.size());
+    m_window->move(place.topLeft());
     m_window->show();
     QApplication::processEvents(); // painted before the files are looked for
 }

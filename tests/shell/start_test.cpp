@@ -1,3 +1,4 @@
+#include "shell/placing.h"
 #include "shell/running_program.h"
 
 #include <QScreen>
@@ -49,10 +50,8 @@ TEST(Start, WindowHasItsCaptionSizeAndPlace) {
     RunningProgram run;
     EXPECT_TRUE(run.window().windowTitle().startsWith("Marlowbeck"));
     EXPECT_TRUE(run.window().windowTitle().endsWith(" Version : 1.00.000"));
-    const QSize screen = QGuiApplication::primaryScreen()->size();
-    EXPECT_EQ(run.window().size(), QSize(947, 692).boundedTo(screen));
-    EXPECT_EQ(run.window().x(), std::max(0, (screen.width() - 947) / 2));
-    EXPECT_EQ(run.window().y(), std::max(0, (screen.height() - 692) / 2));
+    EXPECT_EQ(QRect(run.window().pos(), run.window().size()),
+              shell::startGeometry(QGuiApplication::primaryScreen()->availableGeometry()));
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
