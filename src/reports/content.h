@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDate>
 #include <QString>
 #include <QStringList>
 #include <optional>
@@ -23,6 +24,7 @@ struct Cell {
     /// The number behind the text, if the cell holds one field that is a number and nothing else.
     std::optional<double> number;
     QString mask; ///< by which that number was written
+    QDate date;   ///< the day behind the text, likewise; invalid if there is none
 
     QString text() const;
 };

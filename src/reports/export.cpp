@@ -5,6 +5,7 @@
 #include <QPageLayout>
 #include <QPainter>
 #include <QPdfWriter>
+#include <QRegularExpression>
 #include <charconv>
 
 #include "reports/face.h"
@@ -23,18 +24,36 @@ constexpr Offered offered[] = {{"pdf", "PDF (*.pdf)"},
                                {"csv", "CSV (*.csv)"},
                                {"xlsx", "XLSX (*.xlsx)"}};
 
-/// A number with all its places and no exponent, the shortest that reads back as the same double.
+/// A number with 15 digits, as many as a decimal figure keeps in a double, without exponent.
 QByteArray rawNumber(double number) {
     char digits[400];
-    const auto end = std::to_chars(digits, digits + sizeof digits, number, std::chars_format::fixed).ptr;
-    return {digits, end - digits};
+    const auto [end, ignored] =
+        std::to_chars(digits, digits + sizeof digits, number, std::chars_format::scientific, 14);
+    double rounded = 0; // to 15 digits: written in full it has no more
+    std::from_chars(digits, end, rounded);
+    const auto last = std::to_chars(digits, digits + sizeof digits, rounded, std::chars_format::fixed).ptr;
+    return {digits, last - digits};
 }
 
-/// RFC 4180: a field with a comma, a quote or a line end stands in quotes, quotes doubled.
+/// A text that a spreadsheet would take for a figure or a formula: an account number would lose its last digits, a
+/// postal code its first nought, and a note that begins with "=" would be worked out.
+bool wouldBeMisread(const QString& text) {
+    static const QRegularExpression misread(R"(^\s*([=+@-]|[\d(][\d\s.,:/()%-]*$))");
+    return misread.match(text).hasMatch();
+}
+
+/// RFC 4180: a field with a comma, a quote or a line end stands in quotes, quotes doubled. A tab keeps a text a text.
 QByteArray quoted(const QString& text) {
-    QByteArray field = text.toUtf8();
-    if (!field.contains(',') && !field.contains('"') && !field.contains('\n') && !field.contains('\r')) return field;
+    QByteArray field = (wouldBeMisread(text) ? '\t' + text : text).toUtf8();
+    static const char* const special = ",\"\n\r\t";
+    if (field.toStdString().find_first_of(special) == std::string::npos) return field;
     return '"' + field.replace("\"", "\"\"") + '"';
+}
+
+/// Days in the one form that every spreadsheet reads alike.
+QByteArray fieldOf(const Cell& cell) {
+    if (cell.number) return rawNumber(*cell.number);
+    return cell.date.isValid() ? cell.date.toString(Qt::ISODate).toUtf8() : quoted(cell.text());
 }
 
 void addRecords(QByteArray& csv, const std::vector<Block>& blocks) {
@@ -46,7 +65,7 @@ void addRecords(QByteArray& csv, const std::vector<Block>& blocks) {
             for (const Row& row : *rows) {
                 QByteArrayList fields;
                 for (const Cell& cell : row.cells)
-                    fields << (cell.number ? rawNumber(*cell.number) : quoted(cell.text()));
+                    fields << fieldOf(cell);
                 csv += fields.join(',') + "\r\n";
             }
     }
@@ -114,7 +133,7 @@ QByteArray toPdf(const Report& report) {
 }
 
 QByteArray toCsv(const Content& content) {
-    QByteArray csv;
+    QByteArray csv = "\xef\xbb\xbf"; // the mark by which a spreadsheet that is not asked takes the letters for UTF-8
     addRecords(csv, content.blocks);
     return csv;
 }

@@ -1,3 +1,4 @@
+#include <QRegularExpression>
 #include <algorithm>
 #include <functional>
 
@@ -289,7 +290,12 @@ private:
     }
 
     Cell cell(const Node& node, const Scope& scope, Align align) const {
-        Cell made{.runs = runs(node, scope), .align = alignment(node, align), .columns = 1, .number = {}, .mask = {}};
+        Cell made{.runs = runs(node, scope),
+                  .align = alignment(node, align),
+                  .columns = 1,
+                  .number = {},
+                  .mask = {},
+                  .date = {}};
         made.columns = std::max(1, node.attribute("colspan").toInt());
         const Node* only = nullptr;
         int parts = 0;
@@ -303,7 +309,21 @@ private:
         if (parts != 1 || only->kind != Node::Kind::field) return made;
         if (const auto* number = std::get_if<double>(&value(only->name, where))) made.number = *number;
         made.mask = only->mask;
+        if (!made.number) readText(made);
         return made;
+    }
+
+    /// Days, and the figures of lists whose rows hold heads as well, are stored as texts. A figure stands at the right
+    /// and is written in groups: what has five digits and more in one is an account's or an identity number.
+    static void readText(Cell& cell) {
+        const QString text = cell.text().trimmed();
+        static const QRegularExpression figure(R"(^[-\x{2212}]?(0|[1-9]\d{0,3}|[1-9]\d{0,2}( \d{3})+)(\.\d+)?$)");
+        const QRegularExpressionMatch match = figure.match(text);
+        cell.date = QDate::fromString(text, "dd/MM/yyyy");
+        if (cell.align != Align::right || !match.hasMatch()) return;
+        cell.number = QString(text).remove(' ').replace(QChar(0x2212), '-').toDouble();
+        const qsizetype places = match.capturedLength(3);
+        cell.mask = "# ##0" + (places > 0 ? '.' + QString(places - 1, '0') : QString());
     }
 
     std::vector<Run> runs(const Node& node, const Scope& scope) const {

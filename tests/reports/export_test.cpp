@@ -33,12 +33,42 @@ protected:
 } // namespace
 
 TEST_F(Export, CsvHoldsRawValuesQuotedByTheRules) {
-    EXPECT_EQ(bytes(Format::csv).toStdString(), "Title\r\n"
+    EXPECT_EQ(bytes(Format::csv).toStdString(), "\xef\xbb\xbfTitle\r\n"
                                                 "\"O'Brien, \"\"Êksteen\"\"\nṰhoho-Nḓou <b>&\"\"x\"\"\"\r\n"
                                                 "Year,Capital\r\n"
                                                 "1,1001.005\r\n"
                                                 "2,1002.005\r\n"
                                                 "Sum,1234567.125\r\n");
+}
+
+// What a cell's text is to a spreadsheet: text at the left, a figure at the right, or a day.
+TEST_F(Export, TextsAreTakenForWhatTheyMean) {
+    const struct {
+        const char *text, *csvLeft, *csvRight;
+        bool figure; ///< in a column of figures
+    } cases[] = {
+        {"62001234567890123", "\"\t62001234567890123\"", "\"\t62001234567890123\"", false},
+        {"6602285009087", "\"\t6602285009087\"", "\"\t6602285009087\"", false},
+        {"0011", "\"\t0011\"", "\"\t0011\"", false},
+        {"+27821234567", "\"\t+27821234567\"", "\"\t+27821234567\"", false},
+        {"=1+1", "\"\t=1+1\"", "\"\t=1+1\"", false},
+        {"12 Main Road", "12 Main Road", "12 Main Road", false},
+        {"1 234 567.50", "\"\t1 234 567.50\"", "1234567.5", true},
+        {"-1 250", "\"\t-1 250\"", "-1250", true},
+        {"65", "\"\t65\"", "65", true},
+        {"1 2345", "\"\t1 2345\"", "\"\t1 2345\"", false},
+        {"28/02/1966", "1966-02-28", "1966-02-28", false},
+        {"31/02/1966", "\"\t31/02/1966\"", "\"\t31/02/1966\"", false},
+    };
+    define("Own.rpt", page("<table><col/><col align=\"right\"/><tr><td>{{FinText1}}</td><td>{{FinText1}}</td></tr>"
+                           "<tr><td>{{Num1}}</td></tr></table>"));
+    for (const auto& c : cases) {
+        feed("Loans", {{"FinText1", c.text}, {"Num1", 0.1 + 0.2}});
+        EXPECT_EQ(bytes(Format::csv).mid(3).toStdString(), std::string(c.csvLeft) + "," + c.csvRight + "\r\n0.3\r\n") << c.text;
+        const QString cell =
+            part(Format::xlsx, "xl/worksheets/sheet1.xml").section("<c r=\"B1\"", 1).section("/c>", 0, 0);
+        EXPECT_EQ(!cell.contains("t=\"s\""), c.figure || c.csvRight == std::string("1966-02-28")) << c.text;
+    }
 }
 
 TEST_F(Export, HtmlEscapesTextsAndKeepsHeadsAndFigures) {
@@ -99,6 +129,32 @@ TEST_F(Export, XlsxHoldsNumbersWithTheirFormat) {
     EXPECT_TRUE(styles.contains("formatCode=\"&quot;R &quot;#,##0.00&quot; %&quot;\"")) << styles.toStdString();
     const QString texts = part(Format::xlsx, "xl/sharedStrings.xml");
     EXPECT_TRUE(texts.contains("O'Brien, \"Êksteen\"\nṰhoho-Nḓou &lt;b&gt;&amp;\"x\"")) << texts.toStdString();
+}
+
+TEST_F(Export, XlsxFitsItsColumnsAndPagesAndPutsNothingOverAnotherCell) {
+    std::string notes;
+    for (int word = 0; word < 8000; ++word) // more than a cell can hold
+        notes += "w" + std::to_string(word) + " ";
+    feed("PersDetails", {{"Name", "N"}, {"Comments", notes}, {"CEMail", "a.very.long.address@a-practice.co.za"}});
+    feedAmortisation(30);
+    define("Own.rpt", page("<h1>Title</h1><p>{{PersDetails.Comments}}</p><table><tr><td>{{PersDetails.CEMail}}</td>"
+                           "<td>x</td></tr></table><h2>Years: [all]</h2><table><thead><tr><th>Year</th><th>Capital</th>"
+                           "</tr></thead>{{#Amort}}<tr><td>{{Year:##}}</td><td>{{Capital:# ##0.00}}</td></tr>{{/Amort}}"
+                           "</table>"));
+    const QString book = part(Format::xlsx, "xl/workbook.xml");
+    EXPECT_TRUE(book.contains("<sheet name=\"Report\"") && book.contains("<sheet name=\"Years all\""));
+    EXPECT_TRUE(book.contains(">'Years all'!$2:$2</definedName>")) << book.toStdString();
+    const QString sheet = part(Format::xlsx, "xl/worksheets/sheet1.xml");
+    for (const char* setting :
+         {"<pageSetUpPr fitToPage=\"1\"/>", "paperSize=\"9\"", "fitToHeight=\"0\"", "<mergeCell "})
+        EXPECT_TRUE(sheet.contains(setting)) << setting;
+    const QRegularExpression firstColumn("<col min=\"1\" max=\"1\" width=\"([0-9.]+)\"");
+    EXPECT_GT(firstColumn.match(sheet).captured(1).toDouble(), 36);
+    EXPECT_LT(firstColumn.match(part(Format::xlsx, "xl/worksheets/sheet2.xml")).captured(1).toDouble(), 12);
+    QString texts = part(Format::xlsx, "xl/sharedStrings.xml");
+    texts.replace(QRegularExpression("<[^>]*>"), " ");
+    for (int word = 0; word < 8000; word += 37) // none is lost where the notes were parted
+        ASSERT_TRUE(texts.contains(QString(" w%1 ").arg(word))) << word;
 }
 
 TEST_F(Export, PdfKeepsTheLettersAndItsTitle) {
