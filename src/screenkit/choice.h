@@ -25,6 +25,7 @@ public:
     void fill() override;
     void takeFocus() override;
     int chosen() const { return m_group.checkedId(); }
+    std::optional<double> figure() const override { return chosen(); }
     QRadioButton* option(int index) const { return qobject_cast<QRadioButton*>(m_group.button(index)); }
 
     /// True while `picked` runs for an option that the arrow keys moved to.
@@ -58,6 +59,7 @@ public:
     QWidget* widget() override { return this; }
     void fill() override;
     void takeFocus() override { setFocus(Qt::OtherFocusReason); }
+    std::optional<double> figure() const override { return isChecked() ? 1 : 0; }
 
     std::function<void(bool)> ticked;
 

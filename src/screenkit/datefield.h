@@ -19,8 +19,12 @@ public:
     /// An empty date is a bad entry too, and every complaint goes under this title.
     void require(const QString& boxTitle) { m_requiredTitle = boxTitle; }
 
+    /// As if the user had typed it: a day number. One past the ends of the calendar changes nothing.
+    void enter(double day);
+
     void fill() override;
     std::optional<Complaint> complaint() override;
+    std::optional<double> figure() const override { return m_place.get(); }
     QSize sizeHint() const override;
     void showCalendar();
 
@@ -30,7 +34,6 @@ protected:
 
 private:
     void typed(const QString& text);
-    void enter(double day);
     /// Puts a day on or takes one off; false where the text is neither empty nor a date.
     bool step(int days);
     double today() const;

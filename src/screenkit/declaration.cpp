@@ -34,6 +34,8 @@ F* Screen::keep(F* field) {
         if (m_filling) return;
         m_changed = 1;
         attempt(tr("take the entry"), [this] { edited(); });
+        tellFaults();
+        showWhatIsStale();
     };
     base->left = [this, base] { leave(base); };
     return field;

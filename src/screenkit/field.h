@@ -26,8 +26,17 @@ public:
     virtual QWidget* entry() { return widget(); }
     /// Shows what the record holds.
     virtual void fill() = 0;
-    /// What is wrong with the content, if anything. A field may clear itself here (a date that is none).
+    /// What is wrong with what the user has put there, if anything. A field may clear itself here (a date that is
+    /// none).
     virtual std::optional<Complaint> complaint() { return {}; }
+    /// What is wrong with a content that the user found there, which the field shows by a mark. It is told, but never
+    /// held against anyone: what a file brought must not lock the way out.
+    virtual std::optional<Complaint> markFault() { return {}; }
+    /// What it holds is no longer the user's doing: another client's record stands behind it.
+    virtual void disown() {}
+    /// What a calculation takes from the field: a number, a day, the index of an option, a tick as 1 or 0. Nothing of a
+    /// result, or of words.
+    virtual std::optional<double> figure() const { return {}; }
     /// A result: yellow, read-only and out of the tab order. The four figures of a loan take turns at it.
     virtual void setResult(bool) {}
     /// The focus, with the whole content selected.

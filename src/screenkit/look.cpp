@@ -18,6 +18,38 @@ namespace {
 
 constexpr int middleGrey = 128; // of 255
 
+// What a line's colours follow from is kept with the line, since each part of it comes and goes by itself.
+constexpr const char* kindOfLine = "kindOfLine";
+constexpr const char* staleLine = "staleLine";
+constexpr const char* markedLine = "markedLine";
+enum Kind { entry, result, shown };
+const QColor amber(255, 213, 128);
+
+/// Between two colours, nearer to the first: what steps back and can still be read.
+QColor between(const QColor& ink, const QColor& paper) {
+    const auto mix = [](int near, int far) { return (near * 3 + far * 2) / 5; };
+    return {mix(ink.red(), paper.red()), mix(ink.green(), paper.green()), mix(ink.blue(), paper.blue())};
+}
+
+void setState(QLineEdit* line, const char* name, int state) {
+    line->setProperty(name, state);
+    QPalette palette;
+    const int kind = line->property(kindOfLine).toInt();
+    const bool marked = line->property(markedLine).toBool();
+    if (kind == Kind::shown) palette.setColor(QPalette::Base, palette.window().color());
+    if (kind == Kind::result) palette.setColor(QPalette::Base, Qt::yellow);
+    if (marked) palette.setColor(QPalette::Base, amber);
+    if (marked || kind == Kind::result) palette.setColor(QPalette::Text, Qt::black);
+    if (line->property(staleLine).toBool())
+        palette.setColor(QPalette::Text, between(palette.text().color(), palette.base().color()));
+    line->setPalette(palette);
+}
+
+void say(QLineEdit* line, const QString& words) {
+    line->setToolTip(words);
+    line->setAccessibleDescription(words);
+}
+
 /// Fusion without pictures on the buttons of boxes, since the toolkit's own are of another style than ours, and with a
 /// plain toolbar. Captions of buttons stand clear of the frame.
 class Style : public QProxyStyle {
@@ -94,19 +126,27 @@ QSize fieldSize(const QLineEdit* field, int characters) {
 void setResult(QLineEdit* field, bool result) {
     field->setReadOnly(result);
     field->setFocusPolicy(result ? Qt::ClickFocus : Qt::StrongFocus); // a click still lets the user copy it
-    QPalette palette;
-    if (result) {
-        palette.setColor(QPalette::Base, Qt::yellow);
-        palette.setColor(QPalette::Text, Qt::black);
-    }
-    field->setPalette(palette);
+    setState(field, kindOfLine, result ? Kind::result : Kind::entry);
 }
 
 void setShown(QLineEdit* field) {
     setResult(field, true);
-    QPalette palette;
-    palette.setColor(QPalette::Base, palette.window().color());
-    field->setPalette(palette);
+    setState(field, kindOfLine, Kind::shown);
+}
+
+void setStale(QLineEdit* result, bool stale) {
+    if (result->property(staleLine).toBool() == stale) return;
+    setState(result, staleLine, stale);
+    QFont font = result->font();
+    font.setItalic(stale);
+    result->setFont(font);
+    say(result, stale ? QObject::tr("Out of date: Calculate works it out again") : QString());
+}
+
+void setMarked(QLineEdit* field, const QString& why) {
+    if (field->property(markedLine).toBool() == !why.isEmpty()) return;
+    setState(field, markedLine, !why.isEmpty());
+    say(field, why);
 }
 
 int lineHeight(const QWidget* widget) { return widget->fontMetrics().height(); }

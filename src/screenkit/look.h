@@ -4,6 +4,7 @@
 
 class QApplication;
 class QLineEdit;
+class QString;
 class QWidget;
 
 /// The look that all screens share. Sizes follow the font, colours the palette, so that every screen holds at 200 % and
@@ -21,6 +22,14 @@ void setResult(QLineEdit* field, bool result);
 
 /// A text that is shown and not entered: on the window's own colour, with no look of a result.
 void setShown(QLineEdit* field);
+
+/// A result whose inputs have changed since it was worked out steps back, and says so to who asks and to a screen
+/// reader.
+void setStale(QLineEdit* result, bool stale);
+
+/// A content that something is wrong with stands out by its colour; `why` is said to who asks and to a screen reader.
+/// Empty: nothing is wrong.
+void setMarked(QLineEdit* field, const QString& why);
 
 /// One line's height in the widget's font: the measure for spaces and panels.
 int lineHeight(const QWidget* widget);

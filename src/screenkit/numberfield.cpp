@@ -2,6 +2,7 @@
 
 #include <QValidator>
 #include <algorithm>
+#include <cmath>
 
 #include "base/numberformat.h"
 #include "screenkit/look.h"
@@ -29,11 +30,13 @@ private:
 };
 
 constexpr int longestNumber = 24; // more digits than a double can tell apart
+constexpr const char* noFigure = "   Error";
 
 } // namespace
 
 // Screens in other files make their own kinds of these while the program is being loaded.
 constinit const NumberKind money{"# ### ### ##0.00", false, 16};
+constinit const NumberKind wholeRand{"# ### ### ##0", false, 16};
 constinit const NumberKind whole{"# ### ### ##0", true, 8};
 constinit const NumberKind percent{"0.000", false, 8};
 
@@ -75,28 +78,37 @@ void NumberField::fill() {
 }
 
 void NumberField::present(double value) {
-    m_value = value;
+    m_value = std::isfinite(value) ? value : 0;
     show(value);
+    markFault();
 }
 
 void NumberField::show(double value) {
-    const QString text = QString::fromStdString(base::formatNumber(value, m_kind.mask));
+    const QString text =
+        std::isfinite(value) ? QString::fromStdString(base::formatNumber(value, m_kind.mask)) : noFigure;
     setMaxLength(std::max(longestNumber, static_cast<int>(text.size()))); // a figure cut short is another figure
     setText(text);
     setCursorPosition(0); // of one too wide for the field the thousands tell more than the cents
 }
 
-void NumberField::typed(const QString& text) {
-    m_value = base::parseNumber(text.toStdString()).value_or(0);
-    m_place.set(m_value);
+void NumberField::typed(const QString& text) { take(base::parseNumber(text.toStdString()).value_or(0)); }
+
+void NumberField::take(double value) {
+    m_value = value;
+    m_place.set(value);
+    m_taken = m_place.get();
+    markFault();
     if (edited) edited();
 }
 
 void NumberField::enter(double value) {
-    m_value = value;
-    m_place.set(value);
     show(value);
-    if (edited) edited();
+    take(value);
+}
+
+void NumberField::entered() {
+    m_onEntry = m_value;
+    m_ownOnEntry = isOwn();
 }
 
 void NumberField::giveBack() {
@@ -104,14 +116,35 @@ void NumberField::giveBack() {
         enter(m_onEntry);
     else
         show(m_value);
+    if (!m_ownOnEntry) disown();
     takeFocus();
 }
 
-std::optional<Complaint> NumberField::complaint() {
+void NumberField::disown() {
+    m_taken.reset();
+    markFault();
+}
+
+std::optional<Complaint> NumberField::fault() const {
     if (isReadOnly()) return {};
     for (const Limit& limit : m_kind.limits)
         if (!limit.holds(m_value)) return limit.complaint;
     return {};
+}
+
+std::optional<Complaint> NumberField::complaint() { return isOwn() ? fault() : std::nullopt; }
+
+std::optional<Complaint> NumberField::markFault() {
+    const auto found = isOwn() ? std::nullopt : fault();
+    look::setMarked(this, found ? found->text : QString());
+    return found;
+}
+
+std::optional<double> NumberField::figure() const { return isReadOnly() ? std::nullopt : std::optional(m_value); }
+
+void NumberField::setResult(bool result) {
+    EntryLine::setResult(result);
+    markFault();
 }
 
 QSize NumberField::sizeHint() const { return look::fieldSize(this, m_kind.characters); }

@@ -31,9 +31,10 @@ struct NumberKind {
     NumberKind shownAs(const char* otherMask) const;
 };
 
-extern const NumberKind money;   ///< rand, shown with cents and grouped by blanks
-extern const NumberKind whole;   ///< a count: months, years, an age
-extern const NumberKind percent; ///< percent a year to three places
+extern const NumberKind money;     ///< rand, shown with cents and grouped by blanks
+extern const NumberKind wholeRand; ///< rand, shown without cents
+extern const NumberKind whole;     ///< a count: months, years, an age
+extern const NumberKind percent;   ///< percent a year to three places
 
 /// A number entry. The full double stays behind the display: what the user does not retype keeps every bit.
 ///
@@ -51,25 +52,35 @@ public:
     /// Undoes what was entered since the user came into the field, and selects it.
     void giveBack();
 
-    /// Shows a figure without writing it to the record.
+    /// Shows a figure without writing it to the record. What is not finite shows as an error and counts as 0.
     void present(double value);
 
     void fill() override;
     std::optional<Complaint> complaint() override;
+    std::optional<Complaint> markFault() override;
+    void disown() override;
+    std::optional<double> figure() const override;
+    void setResult(bool result) override;
     QSize sizeHint() const override;
 
 protected:
-    void entered() override { m_onEntry = m_value; }
+    void entered() override;
     void tidy() override;
 
 private:
     void show(double value);
     void typed(const QString& text);
+    void take(double value);
+    /// True if the user made the figure what it is.
+    bool isOwn() const { return m_taken.has_value() && *m_taken == m_place.get(); }
+    std::optional<Complaint> fault() const;
 
     Bound<double> m_place;
     NumberKind m_kind;
     double m_value = 0;
     double m_onEntry = 0; ///< what the user found when coming in
+    bool m_ownOnEntry = false;
+    std::optional<double> m_taken; ///< what the user entered last, as the record keeps it
 };
 
 } // namespace screenkit

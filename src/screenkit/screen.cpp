@@ -28,7 +28,7 @@ std::int16_t& untracked() {
 }
 
 Screen::Screen(Workplace& workplace, const QString& name, const QString& caption, std::int16_t& changed)
-    : m_work(workplace), m_changed(changed), m_area(new QScrollArea(this)) {
+    : m_work(workplace), m_changed(changed), m_area(new QScrollArea(this)), m_faults(new QLabel(this)) {
     setObjectName(name);
     setWindowTitle(caption);
     m_area->setWidgetResizable(true);
@@ -37,6 +37,11 @@ Screen::Screen(Workplace& workplace, const QString& name, const QString& caption
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_area);
+    m_faults->setObjectName("lblFaults");
+    m_faults->setWordWrap(true);
+    m_faults->setMargin(look::lineHeight(this) / 2);
+    m_faults->hide();
+    layout->addWidget(m_faults);
     m_leaving.setSingleShot(true);
     connect(&m_leaving, &QTimer::timeout, this, &Screen::checkLeft);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { followFocus(now); });
@@ -110,6 +115,52 @@ void Screen::refill() {
     for (Field* field : m_fields)
         field->fill();
     filled();
+    tellFaults();
+    showWhatIsStale();
+}
+
+void Screen::clientReplaced() {
+    for (Field* field : m_fields)
+        field->disown();
+    refill();
+}
+
+std::vector<std::optional<double>> Screen::inputs() const {
+    const auto isInput = [this](Field* field) {
+        if (std::find(m_asides.begin(), m_asides.end(), field) != m_asides.end()) return false;
+        return std::none_of(m_panels.begin(), m_panels.end(),
+                            [field](const Panel* made) { return made->isAncestorOf(field->widget()); });
+    };
+    std::vector<std::optional<double>> figures;
+    for (Field* field : m_fields)
+        figures.push_back(isInput(field) ? field->figure() : std::nullopt);
+    return figures;
+}
+
+void Screen::calculated() {
+    m_workedFrom = inputs();
+    showWhatIsStale();
+}
+
+void Screen::outdated() {
+    m_workedFrom.clear();
+    showWhatIsStale();
+}
+
+void Screen::showWhatIsStale() {
+    if (m_calculated.empty()) return;
+    const bool stale = inputs() != m_workedFrom;
+    for (QLineEdit* line : m_calculated)
+        look::setStale(line, stale && line->isReadOnly());
+}
+
+void Screen::tellFaults() {
+    QStringList told;
+    for (Field* field : m_fields)
+        if (const auto fault = field->markFault(); fault && inReach(field->widget()))
+            told << tr("Please check %1: %2").arg(field->widget()->accessibleName(), fault->text);
+    m_faults->setText(told.join('\n'));
+    m_faults->setVisible(!told.isEmpty());
 }
 
 bool Screen::attempt(const QString& what, const std::function<void()>& action) {
@@ -145,6 +196,8 @@ bool Screen::complain(Field* field) {
     const auto complaint = field->complaint();
     if (!complaint) {
         attempt(tr("take the entry"), [&] { settled(field); }); // told, but no reason to hold the user in the field
+        tellFaults();
+        showWhatIsStale();
         return false;
     }
     m_left.clear();
@@ -254,6 +307,7 @@ void Screen::resizeEvent(QResizeEvent* event) {
 
 QSize Screen::sizeHint() const {
     QSize size = m_area->widget() != nullptr ? m_area->widget()->sizeHint() : QSize();
+    if (!m_faults->isHidden()) size.rheight() += m_faults->heightForWidth(size.width());
     for (const Panel* made : m_panels)
         size = size.expandedTo(made->sizeHint());
     return size + QSize(2, 2);

@@ -51,7 +51,7 @@ public:
     /// Fills every field again, with the changed flag as it was.
     void refill();
     /// The record holds another client now, or none: show that one. Screens with a copy of their own take it afresh.
-    virtual void clientReplaced() { refill(); }
+    virtual void clientReplaced();
     /// Checks every field; false after showing the first complaint.
     bool checkFields();
     /// Before the record is saved or replaced: what the screen holds apart from it goes in or is dropped, as the user
@@ -98,6 +98,15 @@ protected:
     QLabel* over(QWidget* field, const QString& name, const QString& text);
     /// Choices of how to print and the like: no edit of the client's record.
     void untrackedField(Field* field);
+    /// A line that shows what a calculation gave: from an edit of what went into it the line looks out of date, until
+    /// `calculated`. A field that takes entries just now is no result, and does not.
+    void showsCalculated(QLineEdit* line) { m_calculated.push_back(line); }
+    /// A date or figure that no calculation takes: it leaves the results as they are.
+    void notCalculatedFrom(Field* field) { m_asides.push_back(field); }
+    /// The results on the screen are worked out from what its fields hold now.
+    void calculated();
+    /// They no longer are, whatever the fields hold: settings have changed.
+    void outdated();
     QTabWidget* tabs(const QString& name, const std::vector<std::pair<QString, Item>>& pages);
     void body(QLayout* content);
     void defaultButton(QPushButton* button) { m_default = button; }
@@ -154,6 +163,11 @@ private:
     /// False for what can't be put right just now: under a panel, in a panel that is gone, hidden by the screen.
     bool inReach(const QWidget* widget) const;
     bool complain(Field* field);
+    /// Says below the fields what lies outside its limits though the user did not put it there.
+    void tellFaults();
+    /// What the fields hold that a calculation takes; a panel's are copies until they are confirmed.
+    std::vector<std::optional<double>> inputs() const;
+    void showWhatIsStale();
     void runPrint(Panel* panel, const std::function<void(Destination)>& print, Destination destination);
     void bringToView(QWidget* widget);
     void followFocus(QWidget* focused);
@@ -172,9 +186,13 @@ private:
     Panel* m_gridPanel = nullptr;
     Grid* m_grid = nullptr;
     QWidget* m_afterGrid = nullptr;
-    std::vector<Field*> m_left; ///< left by the user, their checks still to come
+    std::vector<QLineEdit*> m_calculated;
+    std::vector<Field*> m_asides;
+    std::vector<std::optional<double>> m_workedFrom; ///< inputs of the last calculation
+    std::vector<Field*> m_left;                      ///< left by the user, their checks still to come
     QTimer m_leaving;
     QScrollArea* m_area = nullptr;
+    QLabel* m_faults = nullptr;
     QPushButton* m_default = nullptr;
     std::vector<NumberField*> m_givingBack;
     NumberField* m_enteredLast = nullptr; ///< one of them

@@ -34,6 +34,7 @@ frmKwikTax::frmKwikTax(Workplace& workplace)
 
 NumberField* frmKwikTax::answer(int index, double& figure, const NumberKind& kind) {
     m_answers.push_back(result(edit(index), figure, kind));
+    showsCalculated(m_answers.back());
     return m_answers.back();
 }
 
@@ -71,6 +72,7 @@ void frmKwikTax::calculate() {
     m_result = quickTax(m_client);
     for (NumberField* field : m_answers)
         field->fill();
+    calculated();
 }
 
 void frmKwikTax::openPrint() {

@@ -18,7 +18,6 @@ constexpr const char* title = "Monthly - To export printout click on the suitcas
 constexpr const char* wrongDate = "Incorrect Date";
 constexpr double inclusionRates[] = {0.8, 0.2};
 
-const NumberKind wholeMoney = money.shownAs("# ### ### ##0");
 const NumberKind years = whole.between(0, 150, "Please enter an age from 0 to 150 years.", "Incorrect Age");
 const NumberKind persons = whole.between(0, 99, "Please enter 0 to 99 beneficiaries.", "Incorrect Beneficiaries");
 const PrintButtons printButtons{"cmdVR", "cmdPD", "cmdCancel", "&Cancel"};
@@ -56,14 +55,15 @@ frmMonthly::frmMonthly(Workplace& workplace)
     work();
 }
 
-NumberField* frmMonthly::wholeRand(const QString& name, double& place) {
+NumberField* frmMonthly::randWithoutCents(const QString& name, double& place) {
     // Cents may be typed, so that a figure copied from a payslip is taken; they are dropped, not rounded.
-    return number(name, {[&place] { return place; }, [&place](double typed) { place = std::trunc(typed); }},
-                  wholeMoney);
+    return number(name, {[&place] { return place; }, [&place](double typed) { place = std::trunc(typed); }}, wholeRand);
 }
 
-NumberField* frmMonthly::answer(const QString& name, double& figure) {
-    auto* field = result(name, figure, money);
+NumberField* frmMonthly::answer(const QString& name, double& figure) { return keptAnswer(result(name, figure, money)); }
+
+NumberField* frmMonthly::keptAnswer(NumberField* field) {
+    showsCalculated(field);
     m_answers.push_back(field);
     return field;
 }
@@ -71,30 +71,29 @@ NumberField* frmMonthly::answer(const QString& name, double& figure) {
 QWidget* frmMonthly::buildInputs() {
     auto* age = number("silgEdit9", m_month.age, years);
     auto* travel = number("silgEdit13", m_month.travel, money);
-    auto* taxable = result("numMTAAns", rounded(m_result.taxableTravel), wholeMoney);
-    m_answers.push_back(taxable);
+    auto* taxable = keptAnswer(result("numMTAAns", rounded(m_result.taxableTravel), wholeRand));
     m_start = date("dtMStartDate", m_month.startDate);
     m_end = date("dtMEndDate", m_month.endDate);
     for (DateField* field : {m_start, m_end})
         field->require(wrongDate);
-    return group("fraInputs", "Employee",
-                 form({{"A&ge", age},
-                       {"Salary/remune&ration", wholeRand("numSalRemun", m_month.salary)},
-                       {"Co&mmissions", wholeRand("numComm", m_month.commissions)},
-                       {"Tra&vel                     R", row({travel, labelled("taxable", taxable)})},
-                       {"Bon&us", number("silgEdit12", m_month.bonus, money)},
-                       {"&Employer's R/Fund contributions ", wholeRand("numEmpRRFundCont", m_month.employerFund)},
-                       {"Emplo&yee's R/Fund contributions", wholeRand("numEmpERFundCont", m_month.employeeFund)},
-                       {"Employer's me&d aid contrib.", wholeRand("numEmpERMedAidCont", m_month.employerMedical)},
-                       {"Employee's med aid contri&b.", wholeRand("numEmpEEMedAidCont", m_month.employeeMedical)},
-                       {"Medica&l aid fund beneficiaries", number("numMedAidBens", m_month.medAidBens, persons)},
-                       {"S&tart date", m_start},
-                       {"E&nd date", m_end}}));
+    return group(
+        "fraInputs", "Employee",
+        form({{"A&ge", age},
+              {"Salary/remune&ration", randWithoutCents("numSalRemun", m_month.salary)},
+              {"Co&mmissions", randWithoutCents("numComm", m_month.commissions)},
+              {"Tra&vel                     R", row({travel, labelled("taxable", taxable)})},
+              {"Bon&us", number("silgEdit12", m_month.bonus, money)},
+              {"&Employer's R/Fund contributions ", randWithoutCents("numEmpRRFundCont", m_month.employerFund)},
+              {"Emplo&yee's R/Fund contributions", randWithoutCents("numEmpERFundCont", m_month.employeeFund)},
+              {"Employer's me&d aid contrib.", randWithoutCents("numEmpERMedAidCont", m_month.employerMedical)},
+              {"Employee's med aid contri&b.", randWithoutCents("numEmpEEMedAidCont", m_month.employeeMedical)},
+              {"Medica&l aid fund beneficiaries", number("numMedAidBens", m_month.medAidBens, persons)},
+              {"S&tart date", m_start},
+              {"E&nd date", m_end}}));
 }
 
 QWidget* frmMonthly::buildAnswers() {
-    auto* fund = result("numAllowableRFundDed", rounded(m_result.allowableFund), wholeMoney);
-    m_answers.push_back(fund);
+    auto* fund = keptAnswer(result("numAllowableRFundDed", rounded(m_result.allowableFund), wholeRand));
     return group("fraAnswers", "Month",
                  form({{"Allowable R/Fund deduction", fund},
                        {"UIF contribution Employee", answer("numMAns1", m_result.employeeUIF)},
@@ -174,8 +173,9 @@ void frmMonthly::work() {
     m_result = monthlyTax(m_month, m_setup, m_previousInclusionRate, m_work.record.tax);
     m_calculated = m_month;
     m_salaryLeft = salary;
-    for (Field* field : m_answers)
+    for (NumberField* field : m_answers)
         field->fill();
+    calculated();
 }
 
 void frmMonthly::openSettings() {
@@ -189,6 +189,7 @@ void frmMonthly::confirmSettings() {
     writePAYESetup(m_work.paths.DefaultDbPath, m_entered); // where it fails the panel stays, with what was entered
     m_setup = m_entered;
     m_calculated.reset();
+    outdated();
     m_settingsPanel->close();
     calculate();
 }

@@ -19,8 +19,9 @@ public:
     bool commitPendingEdits() override;
 
 private:
-    screenkit::NumberField* wholeRand(const QString& name, double& place);
+    screenkit::NumberField* randWithoutCents(const QString& name, double& place);
     screenkit::NumberField* answer(const QString& name, double& figure);
+    screenkit::NumberField* keptAnswer(screenkit::NumberField* field);
     QWidget* buildInputs();
     QWidget* buildAnswers();
     void buildBody();
@@ -49,7 +50,8 @@ private:
     std::optional<double> m_salaryLeft; ///< what the scale left in its place; nothing while the figure is the client's
     std::string m_employee;
 
-    std::vector<screenkit::Field*> m_answers, m_settings;
+    std::vector<screenkit::NumberField*> m_answers;
+    std::vector<screenkit::Field*> m_settings;
     screenkit::DateField *m_start = nullptr, *m_end = nullptr;
     screenkit::Panel *m_settingsPanel = nullptr, *m_printPanel = nullptr;
 };

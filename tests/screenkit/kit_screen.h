@@ -41,6 +41,8 @@ public:
         auto& loan = work.record.loans;
         auto* amount = number("numAmount", loan.Num1, money);
         auto* months = number("numMonths", loan.Num2, whole.upTo(600, "Too many months", "Months!"));
+        auto* total = result("numTotal", places.total, money);
+        showsCalculated(total);
         auto* name = text("txtName", places.name, 10);
         auto* run = button("cmdRun", "&Run", [this] {
             ++runs;
@@ -54,7 +56,7 @@ public:
                   {"&Count", number("numCount", places.count, whole.between(-99999, 99999, "Count", "C!"))},
                   {"&Shares", number("numShares", places.shares, whole)},
                   {"Ra&te", number("numRate", places.rate, percent), "% a year"},
-                  {"&Total", result("numTotal", places.total, money)},
+                  {"&Total", total},
                   {"&Date", date("dtDay", places.day)},
                   {"&Name", name},
                   {"N&otes", memo("txtNotes", places.notes, 2000)},
@@ -75,6 +77,8 @@ public:
                  findChild<QWidget*>("cmdOK"));
     }
 
+    using Screen::calculated;
+    using Screen::outdated;
     Panel* print = nullptr;
     std::function<void(Destination)> printed = [](Destination) {};
     std::function<void()> onFilled = [] {}, onRun = [] {}, onEdit = [] {};
@@ -86,7 +90,10 @@ protected:
         ++edits;
         onEdit();
     }
-    void filled() override { onFilled(); }
+    void filled() override {
+        onFilled();
+        calculated();
+    }
     void settled(Field* field) override { onSettled(field); }
 };
 

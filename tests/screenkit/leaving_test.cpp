@@ -122,9 +122,8 @@ TEST_F(LeavingTest, comingBackBeforeTheCheckIsNoLeaving) {
     enter("numMonths", "5");
 }
 
-TEST_F(LeavingTest, whatTheScreenHidesOrTheProgramGivesAsAResultIsNotHeldAgainstTheUser) {
-    bench.record.loans.Num2 = 700;
-    refresh();
+TEST_F(LeavingTest, whatTheScreenHidesOrShowsAsAResultIsNotHeldAgainstTheUser) {
+    enterTooMany();
     get("numMonths")->hide();
     click("cmdRun");
     get("numMonths")->show();
@@ -138,6 +137,71 @@ TEST_F(LeavingTest, whatTheScreenHidesOrTheProgramGivesAsAResultIsNotHeldAgainst
     get<NumberField>("numMonths")->setResult(false);
     click("cmdRun");
     EXPECT_EQ(screen->runs, 3);
+    enter("numMonths", "12");
+}
+
+TEST_F(LeavingTest, whatTheFileBroughtIsMarkedAndToldAndHoldsNobodyUp) {
+    auto* months = get<QLineEdit>("numMonths");
+    auto* told = get<QLabel>("lblFaults");
+    const auto isMarked = [&] {
+        EXPECT_EQ(months->accessibleDescription().isEmpty(), !told->isVisible());
+        return told->isVisible() && months->palette().color(QPalette::Base) != QPalette().color(QPalette::Base) &&
+               months->toolTip() == "Too many months";
+    };
+    EXPECT_FALSE(told->isVisible());
+    bench.record.loans.Num2 = 700;
+    refresh();
+    EXPECT_TRUE(isMarked());
+    EXPECT_EQ(told->text(), "Please check Months: Too many months");
+    go("numMonths");
+    key(Qt::Key_Tab);
+    click("cmdRun");
+    EXPECT_EQ(screen->runs, 1);
+
+    desk.expect(Answer::ok); // what he types himself is held against him, the same figure too
+    enter("numMonths", "700");
+    EXPECT_FALSE(told->isVisible());
+    click("cmdRun");
+    expectOneBox("numMonths");
+    screen->clientReplaced(); // as another client's it is none of his
+    EXPECT_TRUE(isMarked());
+    enter("numMonths", "600");
+    key(Qt::Key_Tab);
+    EXPECT_FALSE(told->isVisible());
+    EXPECT_EQ(months->toolTip(), "");
+}
+
+TEST_F(LeavingTest, aResultLooksOutOfDateWhileItsInputsAreOthers) {
+    auto* total = get<QLineEdit>("numTotal");
+    const auto isStale = [total] {
+        EXPECT_EQ(total->palette().color(QPalette::Base), QColor(Qt::yellow));
+        EXPECT_EQ(total->accessibleDescription().isEmpty(), !total->font().italic());
+        return total->font().italic() && total->palette().color(QPalette::Text) != QColor(Qt::black);
+    };
+    enter("numAmount", "5");
+    EXPECT_TRUE(isStale());
+    enter("numAmount", "0"); // back again
+    EXPECT_FALSE(isStale());
+    for (const char* words : {"txtName", "txtNotes"})
+        enter(words, "x");
+    click("cmdPrint");
+    get<QCheckBox>("Check3")->click(); // a choice of how to print
+    click("cmdPrintCancel");
+    EXPECT_FALSE(isStale());
+    get<QRadioButton>("optMode(2)")->click();
+    EXPECT_TRUE(isStale());
+    screen->calculated();
+    EXPECT_FALSE(isStale());
+    screen->outdated();
+    EXPECT_TRUE(isStale());
+    refresh();
+    EXPECT_FALSE(isStale());
+}
+
+TEST_F(LeavingTest, aResultThatIsNotFiniteShowsAsAnError) {
+    get<NumberField>("numTotal")->present(std::numeric_limits<double>::infinity());
+    EXPECT_EQ(text("numTotal"), "   Error");
+    EXPECT_EQ(get<NumberField>("numTotal")->value(), 0);
 }
 
 TEST_F(LeavingTest, aScreenTornDownInMidEditAsksNothing) {
