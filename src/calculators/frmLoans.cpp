@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <limits>
 
 #include "calculators/amortisation.h"
 #include "calculators/loanreport.h"
@@ -22,6 +23,7 @@ const NumberKind rate =
     percent.upTo(highestEnteredRate, "The maximum interest rate allowed is 50%", "Incorrect Interest Rate!");
 constexpr double monthsOfAnAnnualTable = 13; // twelve months make no second row to compare with
 constexpr const char* figures = "# ### ### ###.00";
+constexpr double noAnswer = std::numeric_limits<double>::quiet_NaN(); // shows as an error
 
 std::vector<std::vector<double>> gridRows(const std::vector<AmortisationRow>& table) {
     std::vector<std::vector<double>> rows;
@@ -62,6 +64,8 @@ void frmLoans::buildBody() {
     m_repayment = number("numMonRePay", m_loans.Num4, money);
     m_interest = result("numAns1", m_totalInterest, money);
     m_repayments = result("numAns2", m_totalRepayments, money);
+    for (NumberField* line : {m_principal, m_period, m_rate, m_repayment, m_interest, m_repayments})
+        showsCalculated(line);
     m_modeLabel = heading("Label12(1)");
     m_rateError = over(m_rate, "Text1", "   Error");
     auto* solveIt = button("cmdCalculate", "&Calculate", [this] { calculate(); });
@@ -121,11 +125,12 @@ void frmLoans::pickMode(int) {
 void frmLoans::showMode() {
     const int mode = modeIndex(m_loans);
     m_modeLabel->setText(QString::fromStdString(m_loans.Heading));
-    m_repayment->setResult(mode == 0);
-    m_principal->setResult(mode == 1);
-    m_period->setResult(mode == 2);
-    m_rate->setResult(mode == 3);
+    for (NumberField* field : solvedFields())
+        field->setResult(false);
+    if (mode >= 0) solvedFields()[static_cast<std::size_t>(mode)]->setResult(true);
 }
+
+std::array<NumberField*, 4> frmLoans::solvedFields() const { return {m_repayment, m_principal, m_period, m_rate}; }
 
 assessment::Loans frmLoans::shown() const {
     return {m_loans.Heading, m_principal->value(), m_period->value(), m_rate->value(), m_repayment->value()};
@@ -138,20 +143,23 @@ void frmLoans::calculate() {
 }
 
 void frmLoans::solve(assessment::Loans& loan) {
-    const bool tooHigh = LoanCalc(loan);
+    const LoanAnswer answer = LoanCalc(loan);
     m_principal->present(loan.Num1);
     m_period->present(loan.Num2);
     m_rate->present(loan.Num3);
     m_repayment->present(loan.Num4);
-    m_rateError->setVisible(tooHigh);
+    m_isSolved = answer != LoanAnswer::notFinite;
+    if (!m_isSolved) solvedFields()[static_cast<std::size_t>(modeIndex(loan))]->present(noAnswer);
+    m_rateError->setVisible(answer == LoanAnswer::rateTooHigh);
     showCharges(loan);
+    calculated();
 }
 
 bool frmLoans::charged() const { return m_work.record.FinChargeState == "DOWN"; }
 
 void frmLoans::showCharges(const assessment::Loans& loan) {
-    m_interest->present(totalInterest(loan));
-    m_repayments->present(totalRepayments(loan));
+    m_interest->present(m_isSolved ? totalInterest(loan) : noAnswer);
+    m_repayments->present(m_isSolved ? totalRepayments(loan) : noAnswer);
     setRowVisible(m_interest, charged());
     setRowVisible(m_repayments, charged());
 }

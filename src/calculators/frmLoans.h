@@ -3,6 +3,8 @@
 #include "assessment/assessment.h"
 #include "screenkit/screen.h"
 
+#include <array>
+
 namespace calculators {
 
 /// The loan calculator: any one of repayment, principal, period and rate from the other three, the amortisation by
@@ -21,6 +23,8 @@ private:
     void buildPrintPanel();
     void pickMode(int mode);
     void showMode();
+    /// The field of each mode's answer, by the mode's index.
+    std::array<screenkit::NumberField*, 4> solvedFields() const;
     /// Solves a loan and shows it; the record's own, or a copy where looking must not change the record.
     void solve(assessment::Loans& loan);
     void calculate();
@@ -36,6 +40,7 @@ private:
 
     assessment::Loans& m_loans;
     double m_totalInterest = 0, m_totalRepayments = 0;
+    bool m_isSolved = true; ///< false where the figures give no finite answer
     int m_includeAmort = 0; ///< `IncludeAmort`
     int m_amortOption = 0;  ///< 0 annual, 1 monthly
     screenkit::OptionGroup* m_modes;

@@ -19,7 +19,26 @@ void solvePeriod(Loans& loan) {
     PER(loan);
 }
 
+void solve(LoanMode mode, Loans& loan) {
+    switch (mode) {
+    case LoanMode::MonthlyRepayment: return RPAYMENT(loan);
+    case LoanMode::PrincipalAmount: return PAMOUNT(loan);
+    case LoanMode::RepaymentPeriod: return solvePeriod(loan);
+    case LoanMode::InterestRate: return Rate(loan);
+    }
+}
+
 } // namespace
+
+double Loans::*unknownOf(LoanMode mode) {
+    switch (mode) {
+    case LoanMode::PrincipalAmount: return &Loans::Num1;
+    case LoanMode::RepaymentPeriod: return &Loans::Num2;
+    case LoanMode::InterestRate: return &Loans::Num3;
+    case LoanMode::MonthlyRepayment: break;
+    }
+    return &Loans::Num4;
+}
 
 std::optional<LoanMode> loanMode(std::string_view heading) {
     for (std::size_t i = 0; i < loanHeadings.size(); ++i)
@@ -45,14 +64,18 @@ void RPAYMENT(Loans& loan) { loan.Num4 = repaymentFor(loan.Num1, loan.Num2, loan
 
 void PAMOUNT(Loans& loan) { loan.Num1 = principalFor(loan.Num4, loan.Num2, loan.Num3); }
 
-bool LoanCalc(Loans& loan) {
+LoanAnswer LoanCalc(Loans& loan) {
     const auto mode = loanMode(loan.Heading);
-    if (mode == LoanMode::MonthlyRepayment) RPAYMENT(loan);
-    if (mode == LoanMode::PrincipalAmount) PAMOUNT(loan);
-    if (mode == LoanMode::RepaymentPeriod) solvePeriod(loan);
-    if (mode != LoanMode::InterestRate) return false;
-    Rate(loan);
-    return loan.Num3 > highestEnteredRate;
+    if (!mode) return LoanAnswer::solved;
+    Loans answer = loan;
+    solve(*mode, answer);
+    if (!std::isfinite(answer.*unknownOf(*mode))) {
+        loan.*unknownOf(*mode) = 0;
+        return LoanAnswer::notFinite;
+    }
+    loan = answer;
+    return *mode == LoanMode::InterestRate && loan.Num3 > highestEnteredRate ? LoanAnswer::rateTooHigh
+                                                                             : LoanAnswer::solved;
 }
 
 double totalRepayments(const Loans& loan) { return loan.Num4 * loan.Num2; }

@@ -21,6 +21,9 @@ inline constexpr double highestEnteredRate = 50;
 /// The mode that a `Heading` names, whatever its case and the blanks around it. Nothing if it names none.
 std::optional<LoanMode> loanMode(std::string_view heading);
 
+/// Where the answer of a mode goes.
+double assessment::Loans::*unknownOf(LoanMode mode);
+
 /// Interest of one month as a fraction: 12 percent a year gives 0.01.
 double monthlyRate(double percentAYear);
 
@@ -40,12 +43,18 @@ void RPAYMENT(assessment::Loans& loan);
 /// Solves Num1, the principal, from Num2 to Num4.
 void PAMOUNT(assessment::Loans& loan);
 
+/// How a loan came out.
+enum class LoanAnswer {
+    solved,
+    rateTooHigh, ///< above `highestEnteredRate`: it stands, but the screen marks it as an error
+    notFinite,   ///< the figures are none of a loan: the unknown is 0 and the others are as they were
+};
+
 /// Solves the loan for what its Heading names; a Heading that names no mode changes nothing.
 ///
 /// The period is sought with a cent less than the repayment, which the search puts back where the loan clears: it may
-/// write Num4 as well as Num2. True if the solved rate is above `highestEnteredRate`, which the screen marks as an
-/// error.
-bool LoanCalc(assessment::Loans& loan);
+/// write Num4 as well as Num2. No figure that is not finite is left in the loan: it could not be saved.
+LoanAnswer LoanCalc(assessment::Loans& loan);
 
 /// All that is repaid over the loan's life, rand.
 double totalRepayments(const assessment::Loans& loan);

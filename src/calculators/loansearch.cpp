@@ -55,8 +55,9 @@ double surelyBelow(double principal, double months, double repayment) {
 
 LoanPeriod periodFor(double principal, double percentAYear, double repayment) {
     if (principal == 0 || percentAYear == 0 || repayment == 0) return {0, repayment};
-    const auto [months, exact] = coveredMonths(principal, percentAYear, repayment);
-    if (exact) return {static_cast<double>(months), repayment};
+    const CoveredMonths covered = coveredMonths(principal, percentAYear, repayment);
+    const int months = covered.months;
+    if (covered.exact) return {static_cast<double>(months), repayment};
     const double r = monthlyRate(percentAYear);
     const double factor = 1 - std::pow(1 + r, -static_cast<double>(months));
     const auto clears = [=](double raised) {

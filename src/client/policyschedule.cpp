@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "base/finite.h"
 #include "client/years.h"
 
 namespace client {
@@ -76,6 +77,14 @@ bool isTakenAtRetirement(const Policy& policy, double retirement) {
            isPaid(policy.RBPenLump, policy.RBPenLumpAge) || isPaid(policy.RBProvFLump, policy.RBProvFLumpAge);
 }
 
+/// Capital at retirement, added in the order of the values.
+double addTo(double capital, const ValuesAtRetirement& value) {
+    for (const double part :
+         {value.cashValue, value.raMaturity, value.pensionLump, value.providentLump, value.endowment, value.investment})
+        capital += part;
+    return capital;
+}
+
 double shownMonthlyOnDeath(const assessment::Assessment& record) {
     const auto shown = static_cast<std::size_t>(record.CurPolicy - 1);
     return shown < record.policies.size() ? record.policies[shown].DeathBenMonthly : 0;
@@ -111,9 +120,7 @@ std::vector<ValuesAtRetirement> CalculatePolInv(assessment::Assessment& record) 
         disabilityMonthly += policy.DisabilMonthly + policy.IncProMonthly;
 
         const ValuesAtRetirement value = atAge(policy, retirement, pensions);
-        for (const double part : {value.cashValue, value.raMaturity, value.pensionLump, value.providentLump,
-                                  value.endowment, value.investment})
-            capital += part;
+        capital = addTo(capital, value);
         atRetirement = atRetirement || isTakenAtRetirement(policy, retirement);
         values.push_back(value);
     }
@@ -123,11 +130,18 @@ std::vector<ValuesAtRetirement> CalculatePolInv(assessment::Assessment& record) 
     follow(flags.DISALifeAssItemise, disability > 0 || disabilityMonthly > 0,
            !(disability > 0) && disabilityMonthly == 0);
     flags.NARAPolicyIncomeItemise = pensions > 0 ? 1 : 0;
-    record.PolicyMonthlyIncome = pensions;
-    record.death.ANSAss5 = std::floor(death);
-    record.disability.DisaASS5 = std::floor(disability);
-    record.retirement.ANSLAss4 = std::floor(capital);
+    base::keepFinite(record.PolicyMonthlyIncome, pensions);
+    base::keepFinite(record.death.ANSAss5, std::floor(death));
+    base::keepFinite(record.disability.DisaASS5, std::floor(disability));
+    base::keepFinite(record.retirement.ANSLAss4, std::floor(capital));
     return values;
+}
+
+bool isFinite(const std::vector<ValuesAtRetirement>& values) {
+    double sum = 0;
+    for (const ValuesAtRetirement& value : values)
+        sum = addTo(sum, value) + value.monthlyIncome;
+    return std::isfinite(sum);
 }
 
 } // namespace client

@@ -29,4 +29,7 @@ ValuesAtRetirement valuesAtRetirement(const assessment::Policy& policy, double a
 /// a damaged file holds, count as 999.
 std::vector<ValuesAtRetirement> CalculatePolInv(assessment::Assessment& record);
 
+/// False if a value is too large to reckon with: a total that would not be finite has kept the figure from before.
+bool isFinite(const std::vector<ValuesAtRetirement>& values);
+
 } // namespace client

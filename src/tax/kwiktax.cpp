@@ -3,11 +3,13 @@
 #include <algorithm>
 #include <cmath>
 
+#include "base/finite.h"
+
 namespace tax {
 
 ScaleTax taxSalary(assessment::KwikTax& client, const TaxYear& year) {
     const ScaleTax result = taxOn(year, client.Salary);
-    client.LastScaleTax = result.tax;
+    base::keepFinite(client.LastScaleTax, result.tax);
     return result;
 }
 
@@ -27,10 +29,10 @@ QuickTax quickTax(assessment::KwikTax& client) {
     result.PortionAtRate = scale.portion;
     result.ScaleTax = scale.tax;
     const bool taxed = scale.tax > 0;
-    result.AverageBefore = taxed ? client.LastScaleTax / client.Salary * 100 : scale.rate;
-    result.TotalTax = client.LastScaleTax;
+    result.AverageBefore = taxed ? scale.tax / client.Salary * 100 : scale.rate;
+    result.TotalTax = scale.tax;
     result.TaxCommitment = std::max(0.0, result.TotalTax - result.TotalRebates);
-    if (taxed) result.AverageAfter = std::max(0.0, (client.LastScaleTax - result.TotalRebates) / client.Salary * 100);
+    if (taxed) result.AverageAfter = std::max(0.0, (scale.tax - result.TotalRebates) / client.Salary * 100);
     return result;
 }
 

@@ -1,6 +1,7 @@
 #include "tax/monthlytax.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "base/day.h"
 #include "tax/kwiktax.h"
@@ -81,6 +82,7 @@ MonthlyTax monthlyTax(const MonthlyInputs& month, const PAYESetup& setup, double
     previousInclusionRate = setup.TAIncRate8020;
     result.taxableTravel = month.travel * setup.TAIncRate8020;
 
+    const double kept = client.Salary;
     const double days = monthLength(month.startDate);
     const double worked = month.endDate - month.startDate + 1;
     client.Salary = (month.salary + month.commissions + result.taxableTravel - result.allowableFund +
@@ -91,6 +93,7 @@ MonthlyTax monthlyTax(const MonthlyInputs& month, const PAYESetup& setup, double
     const double withBonus = std::max(0.0, TABLEVIEW(client).tax - rebates);
     client.Salary -= month.bonus;
     const double withoutBonus = std::max(0.0, TABLEVIEW(client).tax - rebates);
+    if (!std::isfinite(client.Salary)) client.Salary = kept; // it could never be saved
     result.taxLiability = std::max(0.0, withoutBonus / monthsAYear * worked / days + (withBonus - withoutBonus));
     workLevies(month, setup, result);
     result.contributionCredit = contributionCredit(month, result.beneficiaryCredit);

@@ -115,6 +115,28 @@ TEST_F(LoanScreen, ASolvedRateAboveFiftyIsMarkedWithoutABox) {
     EXPECT_FALSE(visible("Text1"));
 }
 
+TEST_F(LoanScreen, AnAnswerThatIsNotFiniteShowsAnErrorAndKeepsWhatWasTyped) {
+    typeLoan(0, {"100000", "240", "0.0000000000001", ""});
+    run.click("cmdFinCharge");
+    run.click("cmdCalculate");
+    EXPECT_EQ(run.shown("numMonRePay"), "   Error");
+    EXPECT_EQ(run.shown("numAns1"), "   Error");
+    EXPECT_EQ(run.record().loans, Loans(modes[0].toStdString(), 100000, 240, 1e-13, 0));
+    run.click("cmdMonAmort"); // and no table of it
+    EXPECT_EQ(run.focused(), "numPrinAmount");
+    run.menu("mnuPersDet");
+    run.type("txtCLName", "Botha");
+    run.menu("mnuSave");
+    EXPECT_EQ(run.inClients("SELECT Num1, Num2, Num3, Num4 FROM Data"), "100000|240|1e-13|0");
+    run.menu("mnuLoansCalc");
+    EXPECT_EQ(run.shown("numMonRePay"), "   Error");
+    run.type("numIntRate", "12");
+    EXPECT_TRUE(run.control<QLineEdit>("numMonRePay")->font().italic());
+    run.click("cmdCalculate");
+    EXPECT_EQ(run.shown("numMonRePay"), "1 101.09");
+    EXPECT_FALSE(run.control<QLineEdit>("numMonRePay")->font().italic());
+}
+
 TEST_F(LoanScreen, FinancialChargesAreToggledAndKeptOverAReopening) {
     EXPECT_FALSE(visible("numAns1"));
     typeLoan(0, {"100000", "240", "12", ""});

@@ -16,6 +16,7 @@
 namespace {
 
 using assessment::Loans;
+using calculators::LoanAnswer;
 using calculators::LoanCalc;
 
 constexpr double infinite = std::numeric_limits<double>::infinity();
@@ -72,13 +73,13 @@ TEST(Loans, SolvesEachUnknown) {
     };
     for (const Case& c : cases) {
         Loans l = loan(c.heading, c.principal, c.months, c.rate, c.repayment);
-        EXPECT_FALSE(LoanCalc(l));
+        EXPECT_EQ(LoanAnswer::solved, LoanCalc(l));
         const double solved[] = {l.Num4, l.Num1, l.Num2, l.Num3};
         EXPECT_NEAR(solved[static_cast<int>(*calculators::loanMode(c.heading))], c.solved, 0.00501)
             << c.heading << " " << c.principal << " " << c.repayment;
     }
     Loans strange = loan("Something else", 100000, 240, 12, 7);
-    EXPECT_FALSE(LoanCalc(strange));
+    EXPECT_EQ(LoanAnswer::solved, LoanCalc(strange));
     EXPECT_TRUE(sameBits(strange, loan("", 100000, 240, 12, 7)));
 }
 
@@ -96,6 +97,17 @@ TEST(Loans, AnInputAtZeroGivesZero) {
         }
 }
 
+TEST(Loans, NoAnswerThatIsNotFiniteIsKept) {
+    for (const double rate : {1e-13, 1e-300}) {
+        Loans l = loan("Monthly repayment", 100000, 240, rate, 777); // a month's interest is lost beside the 1
+        EXPECT_EQ(LoanCalc(l), LoanAnswer::notFinite);
+        EXPECT_TRUE(sameBits(l, loan("", 100000, 240, rate, 0))) << rate;
+    }
+    Loans worthless = loan("Principal amount", 777, 600, -1199.9999, 1e300);
+    EXPECT_EQ(LoanCalc(worthless), LoanAnswer::notFinite);
+    EXPECT_TRUE(sameBits(worthless, loan("", 0, 600, -1199.9999, 1e300)));
+}
+
 TEST(Loans, ThePeriodTakesACentOffFirst) {
     struct Case {
         double principal, rate, repayment, months, raised;
@@ -111,7 +123,7 @@ TEST(Loans, ThePeriodTakesACentOffFirst) {
     };
     for (const Case& c : cases) {
         Loans l = loan("Repayment period", c.principal, 77, c.rate, c.repayment);
-        EXPECT_FALSE(LoanCalc(l));
+        EXPECT_EQ(LoanAnswer::solved, LoanCalc(l));
         EXPECT_EQ(l.Num2, c.months) << c.repayment;
         EXPECT_NEAR(l.Num4, c.raised, 1e-9) << c.repayment;
         EXPECT_EQ(l.Num1, c.principal);
@@ -180,7 +192,7 @@ TEST(Loans, TheRateIsThatOfSteppingBitForBit) {
         if (i % 3 == 2) l.Num4 = std::floor(l.Num4 * 100) / 100;
         Loans stepped = l;
         ASSERT_TRUE(stepping::Rate(stepped));
-        EXPECT_EQ(LoanCalc(l), stepped.Num3 > 50);
+        EXPECT_EQ(LoanCalc(l) == LoanAnswer::rateTooHigh, stepped.Num3 > 50);
         EXPECT_TRUE(sameBits(l, stepped)) << principal << " " << months << " " << rate;
         if (l.Num4 == 0) continue;
         EXPECT_TRUE(l.Num3 < 0.01 || calculators::repaymentFor(principal, months, l.Num3) <= l.Num4 * (1 + 1e-9));
@@ -222,7 +234,7 @@ TEST(Loans, AnOldFilesRateEndsWhereTheSteppingEnds) {
     const std::vector<double> months{-infinite, -120, -0.3, 0, 1e-15, 0.4, 1, 240, 1e16, notANumber};
     for (Loans l : oddLoans("Interest rate", months, {-12, 12, infinite, notANumber})) {
         Loans stepped = l;
-        const bool above = LoanCalc(l);
+        const bool above = LoanCalc(l) == LoanAnswer::rateTooHigh;
         if (stepping::Rate(stepped)) {
             EXPECT_TRUE(sameBits(l, stepped)) << l.Num1 << " " << l.Num2 << " " << l.Num4;
         } else {
