@@ -6,21 +6,35 @@
 
 namespace analyses {
 
-/// Where a search for more capital ends without an answer, rand.
-inline constexpr double highestCapital = 1e15;
+/// How a needs analysis steps to the capital that it looks for, rand.
+struct CapitalSteps {
+    double coarse = 0;
+    double fine = 0;        ///< within the last coarse step upwards; 0: the coarse steps are all
+    int mostFinePasses = 1; ///< where rounding keeps the fine steps from ever meeting the coarse one
+    double highest = 1e15;  ///< where a search upwards ends without an answer
+};
+
+/// What a search came to.
+struct CapitalFound {
+    std::optional<double> solved; ///< the capital that does; nothing if there is none
+    std::optional<double> failed; ///< the last capital below it that was tried and does not; nothing if all do
+    double lastTried = 0;         ///< what the last run was made with
+};
+
+/// True if a capital carries the years asked for. Must not turn false again for a larger one.
+using CapitalTest = std::function<bool(double capital)>;
+
+/// The least capital, by coarse steps down from `start`, that still does; nothing if it does down to 0.
+CapitalFound searchDown(double start, const CapitalSteps& steps, const CapitalTest& covers);
+
+/// The least capital, by fine steps within the last coarse step up from `start`, that does; nothing up to the highest.
+/// `start` itself is not tried: it is known to fall short.
+CapitalFound searchUp(double start, const CapitalSteps& steps, const CapitalTest& covers);
 
 /// start + step + step + ..., `steps` times, bit for bit as adding them one by one would round it.
 ///
 /// Within a power of two every further step adds the same amount exactly, so that it is taken in leaps of one power of
 /// two each: ten thousand million steps cost some fifty additions.
 double stepped(double start, double step, std::int64_t steps);
-
-/// The first of the steps 1 to `most` at which `holds` is true; nothing if it holds at none of them.
-///
-/// holds must not fall back to false at a later step: it is asked at steps 1, 2, 4, ... and then between the last two.
-std::optional<std::int64_t> firstStep(std::int64_t most, const std::function<bool(std::int64_t)>& holds);
-
-/// Steps of this size that lead from a capital past another; 0 if it lies the other way.
-std::int64_t stepsPast(double from, double to, double step);
 
 } // namespace analyses

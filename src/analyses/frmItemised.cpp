@@ -17,8 +17,6 @@ using assessment::ItemRow;
 
 namespace {
 
-constexpr const char* wholeRand = "# ### ### ##0";
-
 EditColumn editColumn(const ItemColumn& column) {
     const QString complaint = QString::fromUtf8(column.complaint);
     if (column.figure == nullptr) return {column.head, {}, static_cast<int>(column.most), complaint};
@@ -138,7 +136,7 @@ void ItemisedScreen::buildPanel() {
     m_grid = editGrid("grdItemise");
     untrackedField(m_grid); // a working copy: the record changes when it is taken
     m_grid->edited = [this] { showTotal(); };
-    m_totalField = result("numItemiseTotal", m_total, money.shownAs(wholeRand));
+    m_totalField = result("numItemiseTotal", m_total, wholeRand);
     auto* add = button("cmdAddRow", tr("Add &row"), [this] { m_grid->addRow(); });
     auto* remove = button("cmdDeleteRow", tr("&Delete row"), [this] { m_grid->deleteRow(); });
     auto* ok = button("cmdOKItemise", "&OK", [this] { take(); });

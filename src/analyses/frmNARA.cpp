@@ -6,8 +6,11 @@
 #include <utility>
 
 #include "analyses/amounts.h"
+#include "analyses/frmKinds.h"
 #include "analyses/retirementreport.h"
 #include "client/frmPolInvest.h"
+#include "client/policyschedule.h"
+#include "client/years.h"
 #include "datastore/paths.h"
 #include "reports/frmGraph.h"
 #include "reports/report.h"
@@ -20,25 +23,16 @@ using namespace screenkit;
 namespace {
 
 constexpr double highestAge = 99; ///< at retirement
-constexpr double oldestClient = 120;
 
 // A slip of the key must not pull the age of retirement along with it.
 const NumberKind ages = whole.from(0, "The minimum age is 0", "Incorrect Age!")
-                            .upTo(oldestClient, "The maximum age allowed is 120", "Incorrect Age!");
-const NumberKind years = whole.from(0, "The minimum Period is 0 years", "Incorrect Period!")
-                             .upTo(mostYears, "The Maximum Period is 50 years", "Incorrect Period!");
-const NumberKind inflation = percent.between(
-    -5, highestInflation, "The range for the Inflation Rate is between -5% and 30%", "Incorrect Inflation Rate!");
-const NumberKind bankRate =
-    percent.from(0, "The minimum Bank Interest Rate allowed is 0%", "Incorrect Bank Interest Rate!")
-        .upTo(highestBankInvest, "The maximum Bank Interest Rate allowed is 50%", "Incorrect Bank Interest Rate!");
-const NumberKind wholeRand = money.shownAs("# ### ### ##0");
+                            .upTo(client::oldestAge, "The maximum age allowed is 120", "Incorrect Age!");
 
 /// From the client's age to 99; a client past that retires today. The title is the bank rate's and is kept.
 NumberKind retirementAge(const assessment::NARetirement& needs) {
     return whole.where(
         [&needs](double age) {
-            const double today = needs.CurrAge > oldestClient ? 0 : needs.CurrAge; // its own field complains of it
+            const double today = needs.CurrAge > client::oldestAge ? 0 : needs.CurrAge; // its own field complains of it
             return age >= today && age <= std::max(highestAge, today);
         },
         "The maximum age allowed is 99 and the minimum age must be equal or greater than the current age",
@@ -66,7 +60,7 @@ frmNARA::frmNARA(Workplace& workplace)
                                         button("cmdPrint", "&Print",
                                                [this] {
                                                    calculate();
-                                                   m_printPanel->open(findChild<QWidget*>("Check1"));
+                                                   m_printPanel->open(m_firstChoice);
                                                }),
                                         spring(), m_ok})}));
     defaultButton(calculateIt);
@@ -97,7 +91,7 @@ Item frmNARA::requirementsPage() {
     m_retirement = number("numAgeOfRetirement", age(m_needs.AgeRetiment), retirementAge(m_needs));
     m_years = result("numYearsToRet", m_needs.YearsToRet, whole);
     m_income = amount("numMonIncPD", m_needs.IncomePD);
-    m_cover = number("numCoverReq", m_needs.CoverYears, years);
+    m_cover = number("numCoverReq", m_needs.CoverYears, coverPeriod);
     m_inflation = number("numInflationRate", m_needs.InflationRA, inflation);
     m_rate = number("numBankInvRate", m_needs.BankInvestRate, bankRate);
     auto* person = group("fraClient", "Client",
@@ -115,9 +109,12 @@ Item frmNARA::requirementsPage() {
                     {"Inf&lation rate", m_inflation, "% a year"},
                     {"&Investment rate of return", m_rate, "% a year"}}));
     locks(11, {m_income, m_cover});
+    auto* lastReview = date("dtNaraLastReview", m_needs.NaraLastReview);
+    auto* nextReview = date("dtNaraNextReview", m_needs.NaraNextReview);
+    for (DateField* reviewed : {lastReview, nextReview})
+        notCalculatedFrom(reviewed);
     auto* review = group("fraReview", "Review",
-                         form({{"Date of last re&view ", date("dtNaraLastReview", m_needs.NaraLastReview)},
-                               {"Date of ne&xt review ", date("dtNaraNextReview", m_needs.NaraNextReview)}}));
+                         form({{"Date of last re&view ", lastReview}, {"Date of ne&xt review ", nextReview}}));
     auto* notes = form({{"Notes", memo("txtNote", m_needs.RANotes, 2000)}});
     return column({row({Item(person, 1), Item(wanted, 1)}), row({Item(review), Item(notes, 1)}), spring()});
 }
@@ -176,6 +173,9 @@ Item frmNARA::netWorthPage() {
     m_needed = shown("txtAns2", 60);
     m_lasts->setAccessibleName("How long the capital lasts");
     m_needed->setAccessibleName("What more it takes");
+    for (QLineEdit* line : std::initializer_list<QLineEdit*>{m_required, m_available, m_difference, m_capital,
+                                                             m_expenses, m_netWorth, m_lasts, m_needed})
+        showsCalculated(line);
     return column({group("fraIncome", "Monthly income",
                          form({{"Actual monthly income required (at retirement date)", m_required},
                                {"Future-value monthly income available (at retirement date)", m_available},
@@ -193,6 +193,7 @@ void frmNARA::buildPrintPanel() {
     auto* notes = check("Check3", "Include &Notes", m_includeNotes);
     auto* items = check("Check4", "Include &Itemised Particulars", m_includeItems);
     auto* policies = check("chkPolInvestSchudule", "P&olicies && Investments Schedule", m_includePolicies);
+    m_firstChoice = amortised;
     premium->setEnabled(false); // no premium can be solved yet
     for (CheckField* choice : {amortised, premium, notes, items, policies})
         untrackedField(choice);
@@ -201,50 +202,51 @@ void frmNARA::buildPrintPanel() {
 
 // ---- ages
 
+double frmNARA::today() const {
+    const QDate today = m_work.desk.today();
+    return *base::dayNumber(today.year(), today.month(), today.day());
+}
+
 void frmNARA::filled() {
     const auto& client = m_work.record.client;
     m_name->setText(QString::fromStdString(client.Name));
     m_idNumber->setText(QString::fromStdString(client.IDNumber));
-    takeAge();
-    retireNotBeforeToday();
+    prepareRetirement(m_work.record, today());
+    m_birthUsed = client.BirthDate;
+    m_ageUsed = m_needs.CurrAge;
+    showAges();
     recalculate();
 }
 
+void frmNARA::showAges() {
+    for (NumberField* field : {m_age, m_retirement})
+        field->fill();
+    agesChanged();
+}
+
 void frmNARA::agesChanged() {
-    updateYearsToRet(m_needs);
-    const auto& list = m_work.record.itemised.RNAMonIncReq;
-    if (list.flag != 0) deriveIncomeRequired(m_needs, list.rows);
-    for (NumberField* follower : {m_years, m_income, m_cover})
+    followAges(m_work.record);
+    client::CalculatePolInv(m_work.record); // what the policies are worth at another age
+    for (NumberField* follower : {m_years, m_income, m_cover, m_policies})
         follower->fill();
-}
-
-void frmNARA::takeAge() {
-    m_birthUsed = m_work.record.client.BirthDate;
-    if (!base::isShownOnScreen(m_birthUsed)) return;
-    const QDate today = m_work.desk.today();
-    const double age = ageOn(*base::dayNumber(today.year(), today.month(), today.day()), m_birthUsed);
-    if (age == m_needs.CurrAge) return;
-    m_needs.CurrAge = age;
-    m_age->fill();
-    agesChanged();
-}
-
-void frmNARA::retireNotBeforeToday() {
-    m_ageUsed = m_needs.CurrAge;
-    if (m_needs.CurrAge <= m_needs.AgeRetiment) return;
-    m_needs.AgeRetiment = m_needs.CurrAge;
-    m_retirement->fill();
-    agesChanged();
+    showTotals();
 }
 
 void frmNARA::settled(Field* field) {
     const std::pair before(m_needs.CurrAge, m_needs.AgeRetiment);
-    const bool isBorn = field == m_birth && m_work.record.client.BirthDate != m_birthUsed;
-    if (isBorn) takeAge();
-    // Once for each new age: a retirement typed before today is told, not put right behind the user's back.
-    if (isBorn || (field == m_age && m_needs.CurrAge != m_ageUsed)) retireNotBeforeToday();
+    if (field == m_birth && m_work.record.client.BirthDate != m_birthUsed) {
+        m_birthUsed = m_work.record.client.BirthDate;
+        prepareRetirement(m_work.record, today());
+    } else if (field == m_age && m_needs.CurrAge != m_ageUsed) {
+        // Once for each new age: a retirement typed before today is told, not put right behind the user's back.
+        retireNotBeforeToday(m_needs);
+        followAges(m_work.record);
+    }
+    m_ageUsed = m_needs.CurrAge;
+    if (before == std::pair(m_needs.CurrAge, m_needs.AgeRetiment)) return;
+    showAges();
     // Who turns to the results straight from the field sees them worked out before the ages have followed.
-    if (before != std::pair(m_needs.CurrAge, m_needs.AgeRetiment) && showsResults()) recalculate();
+    if (showsResults()) recalculate();
 }
 
 // ---- results
@@ -265,6 +267,7 @@ void frmNARA::recalculate() {
     refreshItemised();
     showTotals();
     showResults();
+    calculated();
 }
 
 void frmNARA::calculate() {
@@ -293,10 +296,9 @@ void frmNARA::showResults() {
 
 void frmNARA::amortisation() {
     calculate();
-    NARAProjectCapital(m_work.record, m_analysis);
     std::vector<std::vector<double>> rows;
-    for (const RetirementYear& year : retirementYears(m_needs, m_analysis))
-        rows.push_back({year.age, year.capital, year.interest, year.available, year.required});
+    for (const ShownYear& year : m_analysis.years())
+        rows.push_back({year.number, year.capital, year.interest, year.available, year.required});
     showGrid("Amortisation",
              {{"   Age   ", "###"},
               {"       Capital       ", amountMask},
@@ -308,18 +310,16 @@ void frmNARA::amortisation() {
 
 void frmNARA::graph() {
     calculate();
-    NARAProjectCapital(m_work.record, m_analysis);
     const YearRun& run = m_analysis.run;
     const YearlyFlows& flows = m_analysis.flows;
     m_work.shell.open("frmGraph");
     if (auto* window = qobject_cast<reports::frmGraph*>(m_work.shell.screen("frmGraph")))
         window->NARAAmortGraph(run.CapitalByYear, run.InterestByYear, flows.AvailableByYear, flows.RequiredByYear,
-                               graphPoints(m_needs, m_analysis));
+                               graphPoints(run, m_analysis.yearsAsked));
 }
 
 void frmNARA::print(Destination destination) {
     auto& record = m_work.record;
-    NARAProjectCapital(record, m_analysis);
     feedRetirement(m_work.paths.PrintDbPath, record, m_analysis, {m_includeAmort == 1, m_includeNotes == 1});
     const bool amortised = m_includeAmort == 1;
     const bool ran = m_work.reports.run(amortised ? "\\RetiremA.rpt" : "\\Retirem.rpt",

@@ -32,10 +32,8 @@ private:
     /// One of the two ages, from which others follow as it is typed.
     screenkit::Bound<double> age(double& place);
     void agesChanged();
-    /// The age today of a client whose birth date is known.
-    void takeAge();
-    /// Waits until the age is typed in full: 6 on the way to 65 must not move the age of retirement.
-    void retireNotBeforeToday();
+    double today() const;
+    void showAges();
     bool showsResults() const;
     void showTotals();
     void showResults();
@@ -47,7 +45,7 @@ private:
     assessment::NARetirement& m_needs;
     RetirementAnalysis m_analysis;
     double m_birthUsed = base::blankDate; ///< birth date that the age was last worked out from
-    double m_ageUsed = 0;                 ///< age that retirement was last moved by
+    double m_ageUsed = 0;                 ///< age that retirement was last held against
     int m_includeAmort = 0, m_includePremium = 0, m_includeNotes = 0, m_includeItems = 0, m_includePolicies = 0;
     double m_assets = 0, m_liabilities = 0; ///< what the two capital pages sum to
     QTabWidget* m_pages = nullptr;
@@ -61,6 +59,7 @@ private:
     double m_shown[6] = {}; ///< behind the six results of the last page
     QLabel* m_shortfall = nullptr;
     QPushButton* m_ok = nullptr;
+    QWidget* m_firstChoice = nullptr; ///< of the print panel
     screenkit::Panel* m_printPanel = nullptr;
 };
 

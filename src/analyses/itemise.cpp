@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "analyses/amounts.h"
+#include "base/finite.h"
 
 namespace analyses {
 
@@ -150,27 +151,34 @@ void takeItems(Assessment& record, const ItemLine& line, std::vector<ItemRow> ro
     assessment::ItemList& list = line.list(record);
     list.rows = std::move(rows);
     list.flag = sum > 0 ? 1 : 0;
-    if (line.amount != nullptr) line.amount(record) = sum;
+    if (line.amount != nullptr) base::keepFinite(line.amount(record), sum);
     if (line.derive != nullptr) line.derive(record);
 }
 
-void deriveIncomeRequired(assessment::NARetirement& retirement, const std::vector<ItemRow>& rows) {
-    if (!(sumOfItems(rows) > 0)) return; // not in use: the figures that the user types stand
-    double atRetirement = 0, later = 0, first = 0, last = 0;
-    bool startsAtRetirement = false, spans = false;
+std::optional<IncomeAsked> incomeAsked(const std::vector<ItemRow>& rows, double first) {
+    if (!(sumOfItems(rows) > 0)) return {}; // not in use: the figures that the user types stand
+    double atFirst = 0, later = 0, begins = 0, ends = 0;
+    bool startsAtFirst = false, spans = false, lasts = false;
     for (const ItemRow& row : rows) {
-        if (row.FromAge == retirement.AgeRetiment) {
-            startsAtRetirement = true;
-            atRetirement += row.Amount;
+        if (row.FromAge == first) {
+            startsAtFirst = true;
+            atFirst += row.Amount;
         }
-        if (row.FromAge > retirement.AgeRetiment) later += row.Amount;
+        if (row.FromAge > first) later += row.Amount;
         if (row.Amount == 0) continue; // a row without an amount lasts no time
-        first = spans ? std::min(first, row.FromAge) : row.FromAge;
-        last = spans ? std::max(last, row.ToAge) : row.ToAge;
+        begins = spans ? std::min(begins, row.FromAge) : row.FromAge;
+        ends = spans ? std::max(ends, row.ToAge) : row.ToAge;
+        lasts = lasts || row.ToAge >= row.FromAge;
         spans = true;
     }
-    retirement.IncomePD = startsAtRetirement ? atRetirement : later;
-    retirement.CoverYears = std::clamp(last - first, 0.0, longestPeriod);
+    return IncomeAsked{startsAtFirst ? atFirst : later, lasts ? std::clamp(ends - begins, 0.0, longestPeriod) : 0};
+}
+
+void deriveIncomeRequired(assessment::NARetirement& retirement, const std::vector<ItemRow>& rows) {
+    const auto asked = incomeAsked(rows, retirement.AgeRetiment);
+    if (!asked) return;
+    base::keepFinite(retirement.IncomePD, asked->monthly);
+    retirement.CoverYears = asked->years;
 }
 
 } // namespace analyses

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -50,10 +51,19 @@ double sumOfItems(const std::vector<assessment::ItemRow>& rows);
 /// derived instead.
 void takeItems(assessment::Assessment& record, const ItemLine& line, std::vector<assessment::ItemRow> rows);
 
-/// Monthly income required and its period out of the list: `IncomePD` is the sum of the rows that start at
-/// `AgeRetiment`, or if none starts exactly then, of all that start later; what starts earlier counts nothing.
-/// `CoverYears` is the highest To less the lowest From of the rows with an amount, 0 to 50 years. A list that sums to 0
-/// or less changes nothing. To be done again when the age changes.
+/// What a list of the income required asks for.
+struct IncomeAsked {
+    double monthly =
+        0; ///< rand: the rows that start in the first year, or if none does exactly then, all that start later
+    double years = 0; ///< from the lowest From to the highest To of the rows with an amount, 0 to 50
+};
+
+/// What a list asks for, `first` being the age or year that the analysis begins with; what starts earlier counts
+/// nothing. Rows that all end before they begin last no time. Nothing if the list sums to 0 or less.
+std::optional<IncomeAsked> incomeAsked(const std::vector<assessment::ItemRow>& rows, double first);
+
+/// `IncomePD` and `CoverYears` out of the list, from `AgeRetiment` on. A list that sums to 0 or less changes nothing.
+/// To be done again when the age changes.
 void deriveIncomeRequired(assessment::NARetirement& retirement, const std::vector<assessment::ItemRow>& rows);
 
 } // namespace analyses

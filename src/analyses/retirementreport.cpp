@@ -1,6 +1,7 @@
 #include "analyses/retirementreport.h"
 
 #include "analyses/amounts.h"
+#include "analyses/reportlines.h"
 #include "base/day.h"
 #include "datastore/printfeed.h"
 
@@ -50,24 +51,6 @@ datastore::Row askedLines(const assessment::Assessment& record) {
             {"Limitedto50", needs.AgeRetiment - needs.CurrAge > mostYears ? "(limited to 50 years)" : ""}};
 }
 
-// Of a part that is not asked for every line is blank, so that none is left over from an earlier printout.
-
-datastore::Row notesLines(bool included, const std::string& notes) {
-    return {{"NotesHeading", included ? "Notes" : ""},
-            {"NotesColon", included ? ":" : ""},
-            {"Notes", included ? notes : std::string()}};
-}
-
-datastore::Row noPremium() {
-    datastore::Row row;
-    for (const char* text : {"PremHeading", "PremGRText", "PremPEscText", "ALTEMVText", "PremPeriodText", "PremAnsText",
-                             "PremColonText", "PremPAText", "PremYears"})
-        row.push_back({text, ""});
-    for (const char* number : {"PremGR", "PremPEsc", "ALTEMV", "PremPeriod", "PremAns"})
-        row.push_back({number, 0});
-    return row;
-}
-
 } // namespace
 
 void feedRetirement(const std::filesystem::path& printDbPath, const assessment::Assessment& record,
@@ -78,16 +61,7 @@ void feedRetirement(const std::filesystem::path& printDbPath, const assessment::
         row.insert(row.end(), more.begin(), more.end());
     datastore::PrintFeed feed(printDbPath);
     feed.replace("NARA", row);
-    if (options.amortised) {
-        std::vector<datastore::Row> years;
-        for (const RetirementYear& year : retirementYears(record.retirement, analysis))
-            years.push_back({{"Year", year.age},
-                             {"Capital", year.capital},
-                             {"Interest", year.interest},
-                             {"Required", year.required},
-                             {"Available", year.available}});
-        feed.replace("Amort", years);
-    }
+    if (options.amortised) feed.replace("Amort", amortisationRows(analysis.years()));
     feed.commit();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <vector>
 
 namespace analyses {
 
@@ -17,8 +18,7 @@ struct YearlyFlows {
     Yearly RequiredByYear{};        ///< rand a year
     Yearly AvailableByYear{};       ///< rand a year
     Yearly IncomeRA{};              ///< what of the income available is itemised, rand a month
-    Yearly paidOut{};               ///< policies that pay out in the year: they earn its interest (retirement)
-    Yearly sold{};                  ///< assets sold in the year: they earn none in it (death, disability)
+    Yearly paidOut{};               ///< policies that pay out in the year: they earn its interest
 };
 
 /// How a capital fares under such flows.
@@ -31,5 +31,21 @@ struct YearRun {
 /// Runs a capital from year 1 until a year needs more than capital, interest and income together, or year 51 is
 /// reached. percent: return a year. The first year's interest alone is cut down to whole rand.
 YearRun projectCapital(const YearlyFlows& flows, double capital, double percent);
+
+/// Years as an analysis counts them: whole, ties to even, 0 to 50.
+int wholeYears(double years);
+
+/// A line of the amortisation, on screen and in the report.
+struct ShownYear {
+    double number = 0; ///< of the year, or the age at its start
+    double capital = 0, interest = 0, available = 0, required = 0;
+};
+
+/// The years that the amortisation shows: those covered and the one after, at most 50, and no more than one beyond the
+/// years asked for. `first` is the number of the first.
+std::vector<ShownYear> shownYears(const YearlyFlows& flows, const YearRun& run, double asked, double first);
+
+/// Points of the graph: the years covered, and where all 50 are, the years asked for.
+int graphPoints(const YearRun& run, double asked);
 
 } // namespace analyses

@@ -14,4 +14,9 @@ inline int yearsFromTo(double first, double last) {
     return years >= 1 ? static_cast<int>(std::min(years, most)) : 0; // not a number: no walk
 }
 
+/// Age of who was born on a day number: whole years of 365.25 days, below 0 before the birth.
+inline double ageOn(double today, double birthDate) { return std::floor((today - birthDate) / 365.25); }
+
+inline constexpr double oldestAge = 120; ///< what no client is older than
+
 } // namespace client

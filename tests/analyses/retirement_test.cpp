@@ -6,6 +6,7 @@
 #include "analyses/capitalsearch.h"
 #include "analyses/retirement.h"
 #include "analyses/retirement_stepping.h"
+#include "analyses/sentences.h"
 
 namespace {
 
@@ -26,15 +27,13 @@ TEST(Retirement, FastSearchGivesTheAnswersOfPlainSteppingBitForBit) {
         ASSERT_EQ(fast.txtAns1, plain.txtAns1) << number;
         ASSERT_EQ(fast.txtAns2, plain.txtAns2) << number;
         ASSERT_EQ(client.retirement.IncomeRA, copy.retirement.IncomeRA) << number;
-        RetirementAnalysis again = fast;
-        NARAProjectCapital(client, again);
         stepping::Retirement last(copy);
         last.project();
         for (std::size_t year = 1; year <= static_cast<std::size_t>(last.YearsCovered) + 1; ++year) {
-            ASSERT_EQ(again.run.CapitalByYear[year], last.CapitalByYear[year]) << number << " " << year;
-            ASSERT_EQ(again.run.InterestByYear[year], last.InterestByYear[year]) << number << " " << year;
-            ASSERT_EQ(again.flows.RequiredByYear[year], last.RequiredByYear[year]) << number << " " << year;
-            ASSERT_EQ(again.flows.AvailableByYear[year], last.AvailableByYear[year]) << number << " " << year;
+            ASSERT_EQ(fast.run.CapitalByYear[year], last.CapitalByYear[year]) << number << " " << year;
+            ASSERT_EQ(fast.run.InterestByYear[year], last.InterestByYear[year]) << number << " " << year;
+            ASSERT_EQ(fast.flows.RequiredByYear[year], last.RequiredByYear[year]) << number << " " << year;
+            ASSERT_EQ(fast.flows.AvailableByYear[year], last.AvailableByYear[year]) << number << " " << year;
         }
         ++compared;
         excesses += fast.txtAns2.starts_with("(capital");
@@ -149,11 +148,66 @@ TEST(Retirement, TableAndGraphEndWithTheYearAfterTheLastOrTheYearsAskedFor) {
                              {500000, 50, 50, 50}}) {
         Assessment client = retiredClient(1000, line.capital, line.years);
         const RetirementAnalysis analysis = NARACalc(client);
-        const auto years = retirementYears(client.retirement, analysis);
+        const auto years = analysis.years();
         ASSERT_EQ(years.size(), line.rows) << line.capital << " " << line.years;
-        EXPECT_EQ(years.back().age, 65 + static_cast<double>(line.rows) - 1);
-        EXPECT_EQ(graphPoints(client.retirement, analysis), line.points) << line.capital << " " << line.years;
+        EXPECT_EQ(years.back().number, 65 + static_cast<double>(line.rows) - 1);
+        EXPECT_EQ(graphPoints(analysis.run, analysis.yearsAsked), line.points) << line.capital << " " << line.years;
     }
+}
+
+// What tells death and disability from retirement stands in their rules alone.
+TEST(Sentences, EachAnalysisHasItsOwnEdges) {
+    using analyses::Prospect;
+    const std::string less1 = "less than 1 year.", less2 = "less than 2 years.";
+    struct Case {
+        Prospect of;
+        std::string retirement, death, disability;
+    };
+    for (const Case& c : {
+             Case{{1000, 0, 5000, 1, 10}, "", less1, ""},      // nothing is capital on death alone
+             {{1000, 7000, 5000, 1, 10}, less1, less1, less2}, // exactly a year's need
+             {{1000, 7000, 5000.5, 1, 10}, less2, less2, less2},
+             {{1000, 7000, 5000, 3, 10}, less1, less1, "3 years."},
+             {{1000, 90000, 0, 12, 10.5}, "10 year/s.", "10 years.", "10 years."}, // no more than was asked for
+             {{-1, -20, 0, 1, 10}, "real", "", ""},
+             {{0, 0, 0, 50, 5}, "", "", "5 years."},
+         }) {
+        const auto says = [&](const analyses::SentenceRules& rules, const std::string& end) {
+            const std::string sentence = lastingSentence(rules, c.of);
+            EXPECT_TRUE(end.empty() ? sentence.empty() : sentence.ends_with(end == "real" ? "real." : " for " + end))
+                << sentence << " | " << end;
+        };
+        says(analyses::retirementSentences, c.retirement);
+        says(analyses::deathSentences, c.death);
+        says(analyses::disabilitySentences, c.disability);
+    }
+    EXPECT_EQ(excessSentence(analyses::retirementSentences, 100000), "");
+    EXPECT_EQ(excessSentence(analyses::deathSentences, 50000), "");
+    EXPECT_EQ(excessSentence(analyses::disabilitySentences, 50000), "(capital excess available of 50 000 detected)");
+}
+
+TEST(CapitalSearch, AnswersWithTheStepThatDoesAndTheOneThatFails) {
+    struct Case {
+        double start, needed;
+        analyses::CapitalSteps steps;
+        double solved, failed;
+    };
+    const double none = -1;
+    for (const Case& c : {Case{0, 1234567, {100000, 10000, 20, 1e15}, 1240000, 1230000},
+                          {500, 1234567, {10000, 0, 1, 1e15}, 1240500, 1230500}, // the coarse steps are all
+                          {0, 12345, {100, 0, 1, 1e15}, 12400, 12300},
+                          {0, 5e6, {100000, 10000, 20, 1e6}, none, 1.1e6},
+                          {0, 1e5, {100000, 30000, 2, 1e15}, 60000, 30000}}) { // passes that do not get there
+        const auto covers = [&](double capital) { return capital >= c.needed; };
+        const auto up = analyses::searchUp(c.start, c.steps, covers);
+        EXPECT_EQ(up.solved.value_or(none), c.solved) << c.needed;
+        EXPECT_EQ(up.failed, c.failed) << c.needed;
+        const auto down = analyses::searchDown(c.needed + 3.5 * c.steps.coarse, c.steps, covers);
+        EXPECT_EQ(down.solved, c.needed + 0.5 * c.steps.coarse) << c.needed;
+        EXPECT_EQ(down.failed, c.needed - 0.5 * c.steps.coarse) << c.needed;
+    }
+    const auto bottom = analyses::searchDown(25000, {10000}, [](double) { return true; });
+    EXPECT_FALSE(bottom.solved || bottom.failed); // every capital does
 }
 
 TEST(Retirement, DamagedFiguresNeitherCrashNorHoldUp) {
