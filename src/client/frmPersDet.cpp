@@ -1,7 +1,9 @@
 #include "client/frmPersDet.h"
 
+#include <QLabel>
 #include <QTabWidget>
 
+#include "client/idnumber.h"
 #include "client/persdetreport.h"
 #include "datastore/paths.h"
 #include "reports/report.h"
@@ -50,8 +52,9 @@ Item frmPersDet::clientPage() {
                                {"First &names", text("txtCFName", d.CFName, 50)},
                                {"Initials", namePart("txtCInit", d.CInit, 10, narrow)},
                                {"S&urname", namePart("txtCLName", d.CLName, 50)},
-                               {"Date of &birth", date("dtCDOB", m_client.BirthDate)},
-                               {"ID nu&mber", text("txtIDNum", m_client.IDNumber, 40)},
+                               {"Date of &birth", birthDate("dtCDOB", m_client.BirthDate)},
+                               {"ID nu&mber", identityNumber(m_ids[0], "txtIDNum", m_client.IDNumber, 40)},
+                               {"", identityRemark(m_ids[0], "C")},
                                {"Occupation", text("txtCOccupation", d.COccupation, 50)},
                                {"Employer", text("txtCEmployer", d.CEmployer, 50)},
                                {"Education", text("txtEducation", d.CEducation, 50)},
@@ -72,8 +75,9 @@ Item frmPersDet::spousePage() {
                                {"First &names", text("txtSFName", d.SFName, 50)},
                                {"Initials", text("txtSInit", d.SInit, 10, narrow)},
                                {"S&urname", text("txtSLName", d.SLName, 50)},
-                               {"Date of &birth", date("dtSDOB", d.SDOB)},
-                               {"ID nu&mber", text("txtSSinNum", d.SSinNum0, 50)},
+                               {"Date of &birth", birthDate("dtSDOB", d.SDOB)},
+                               {"ID nu&mber", identityNumber(m_ids[1], "txtSSinNum", d.SSinNum0, 50)},
+                               {"", identityRemark(m_ids[1], "S")},
                                {"Occupation", text("txtSOccupation", d.SOccupation, 50)},
                                {"Employer", text("txtSEmployer", d.SEmployer, 50)},
                                {"Education", text("txtSEducation", d.SEducation, 50)}}));
@@ -104,6 +108,64 @@ Item frmPersDet::page(QWidget* person, const Contact& contact, QWidget* status) 
     return row({Item(left, 1), Item(right, 1)});
 }
 
+// ---- dates of birth and identity numbers
+
+double frmPersDet::today() const {
+    const QDate today = m_work.desk.today();
+    return *base::dayNumber(today.year(), today.month(), today.day());
+}
+
+DateField* frmPersDet::birthDate(const QString& name, double& place) {
+    m_births.push_back({date(name, place), &place});
+    return m_births.back().field;
+}
+
+TextField* frmPersDet::identityNumber(Identity& identity, const QString& name, std::string& place, int size) {
+    identity.number = text(name, place, size);
+    identity.digits = &place;
+    identity.birth = m_births.size() - 1;
+    return identity.number;
+}
+
+Item frmPersDet::identityRemark(Identity& identity, const QString& who) {
+    identity.remark = note({});
+    identity.remark->setObjectName("lbl" + who + "IDRemark");
+    identity.take = button("cmd" + who + "UseIDDate", "Use th&is date", [this, &identity] {
+        identity.number->takeFocus(); // the button is about to go
+        m_births[identity.birth].field->enter(*identity.offered);
+        showRemark(identity);
+    });
+    return row({Item(identity.remark, 1), identity.take});
+}
+
+void frmPersDet::showRemark(Identity& identity) {
+    const IDCheck check = checkIDNumber(*identity.digits, *m_births[identity.birth].date, today());
+    identity.offered = check.offered;
+    identity.remark->setText(QString::fromStdString(check.remark));
+    identity.number->setAccessibleDescription(identity.remark->text());
+    identity.remark->setVisible(!check.remark.empty());
+    identity.take->setVisible(check.offered.has_value());
+}
+
+void frmPersDet::filled() {
+    for (Birth& birth : m_births)
+        birth.seen = *birth.date;
+    for (Identity& identity : m_ids)
+        showRemark(identity);
+}
+
+void frmPersDet::settled(Field* field) {
+    for (Birth& birth : m_births) {
+        if (birth.field != field || birth.seen == *birth.date) continue;
+        birth.seen = *birth.date;
+        const std::string remark = birthRemark(*birth.date, today());
+        if (!remark.empty())
+            m_work.desk.tell(BoxStyle::warning, QString::fromStdString(remark), field->widget()->accessibleName());
+    }
+    for (Identity& identity : m_ids)
+        showRemark(identity);
+}
+
 Item frmPersDet::addressPage() {
     auto* postal = form({{"Line &1", text("txtPAdd1", m_details.PAdd1, 50)},
                          {"Line &2", text("txtPAdd2", m_details.PAdd2, 50)},
@@ -131,7 +193,7 @@ Item frmPersDet::dependantsPage() {
     for (std::size_t i = 0; i < m_details.DEP.size(); ++i) {
         const auto number = static_cast<int>(i);
         auto* name = text(QString("txtDepName(%1)").arg(number), m_details.DEP[i], 50);
-        auto* birth = date(QString("dtDepDOB%1").arg(number + 1), m_details.DEPDOB[i]);
+        auto* birth = birthDate(QString("dtDepDOB%1").arg(number + 1), m_details.DEPDOB[i]);
         rows.emplace_back(QString("Name &%1").arg(number + 1), row({name, labelled("Date of birth", birth)}));
         birth->setAccessibleName(QString("Date of birth %1").arg(number + 1));
     }

@@ -1,7 +1,12 @@
 #pragma once
 
+#include <optional>
+#include <vector>
+
 #include "assessment/assessment.h"
 #include "screenkit/screen.h"
+
+class QLabel;
 
 namespace client {
 
@@ -11,7 +16,32 @@ class frmPersDet : public screenkit::Screen {
 public:
     explicit frmPersDet(screenkit::Workplace& workplace);
 
+protected:
+    void filled() override;
+    void settled(screenkit::Field* field) override;
+
 private:
+    /// A date of birth, which is asked about when it can hardly be one.
+    struct Birth {
+        screenkit::DateField* field;
+        const double* date;
+        double seen = base::blankDate; ///< asked about already, or found there
+    };
+    /// An identity number, what is said of it, and the button that takes the date of birth from it.
+    struct Identity {
+        screenkit::TextField* number = nullptr;
+        const std::string* digits = nullptr;
+        std::size_t birth = 0; ///< the date that belongs to it, in `m_births`
+        QLabel* remark = nullptr;
+        QPushButton* take = nullptr;
+        std::optional<double> offered = {};
+    };
+    screenkit::DateField* birthDate(const QString& name, double& place);
+    /// Belongs to the date of birth declared last.
+    screenkit::TextField* identityNumber(Identity& identity, const QString& name, std::string& place, int size);
+    screenkit::Item identityRemark(Identity& identity, const QString& who);
+    void showRemark(Identity& identity);
+    double today() const;
     screenkit::Item clientPage();
     screenkit::Item spousePage();
     screenkit::Item addressPage();
@@ -34,6 +64,8 @@ private:
     assessment::PersonalDetails& m_details;
     assessment::Client& m_client;
     int m_includeNotes = 0;
+    std::vector<Birth> m_births;
+    Identity m_ids[2]; ///< the client's and the spouse's
     screenkit::TextField* m_residential[3] = {};
     screenkit::Panel* m_printPanel = nullptr;
 };

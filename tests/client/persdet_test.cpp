@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QLabel>
 #include <QRadioButton>
 #include <sstream>
 
@@ -219,10 +220,56 @@ TEST(PersDetReport, FeedsOneRowWithEveryField) {
     EXPECT_EQ(run.program.reports().previews()[0]->report().content.title, "Personal details");
 }
 
+TEST(PersDet, ADateOfBirthThatIsHardlyOneIsAskedAboutOnceAndTaken) {
+    RunningProgram run;
+    run.menu("mnuNewFile");
+    for (const char* name : {"dtCDOB", "dtSDOB", "dtDepDOB8"})
+        for (const auto& [typed, remark] :
+             {std::pair{"05/03/28", "Born in the future ?"}, {"01/01/1900", "More than 120 years old ?"}}) {
+            run.desk.expect(Answer::ok);
+            run.type(name, typed);
+            EXPECT_EQ(run.desk.last().text, remark);
+            EXPECT_NE(run.focused(), name);
+        }
+    EXPECT_EQ(run.record().client.BirthDate, 2);
+    run.type("dtCDOB", "22/11/2026"); // today
+    run.menu("mnuPolInvests");
+    run.menu("mnuPersDet");
+    run.click("cmOk");
+    EXPECT_EQ(run.desk.boxes.size(), 6u);
+}
+
+TEST(PersDet, AnIDNumberOffersItsDateOfBirthAndSaysWhereTheTwoDiffer) {
+    RunningProgram run;
+    run.menu("mnuNewFile");
+    struct Person {
+        const char *number, *birth, *remark, *take;
+    };
+    for (const Person& who : {Person{"txtIDNum", "dtCDOB", "lblCIDRemark", "cmdCUseIDDate"},
+                              {"txtSSinNum", "dtSDOB", "lblSIDRemark", "cmdSUseIDDate"}}) {
+        auto* remark = run.control<QLabel>(who.remark);
+        auto* take = run.control<QAbstractButton>(who.take);
+        run.type(who.number, "8001015009087");
+        EXPECT_EQ(remark->text(), "Born on 01/01/1980 by the ID number.");
+        EXPECT_EQ(run.control<QLineEdit>(who.number)->accessibleDescription(), remark->text());
+        run.click(who.take);
+        EXPECT_EQ(run.shown(who.birth), "01/01/1980");
+        EXPECT_FALSE(remark->isVisible() || take->isVisible());
+        run.type(who.birth, "02/01/1980");
+        EXPECT_EQ(remark->text(), "By the ID number the date of birth is 01/01/1980.");
+        EXPECT_TRUE(remark->isVisible() && !take->isVisible());
+        run.type(who.number, "another country's");
+        EXPECT_FALSE(remark->isVisible());
+    }
+    EXPECT_EQ(run.record().client.BirthDate, 29222);
+    EXPECT_EQ(run.record().details.SDOB, 29222);
+}
+
 TEST(PersDetReport, PrintsABlankForNoDateAndNoNotesUnlessAskedFor) {
     RunningProgram run;
     run.menu("mnuNewFile");
     run.type("txtMemo", "confidential");
+    run.desk.expect(Answer::ok);
     run.type("dtSDOB", "02/01/1800"); // fills a control and prints as none
     run.click("cmdPrint");
     run.click("cmdVR");
