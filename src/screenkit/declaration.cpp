@@ -24,6 +24,11 @@ public:
     QSize minimumSizeHint() const override { return sizeHint() / 4; }
 };
 
+void greyOut(QPushButton* push) {
+    push->setEnabled(false);
+    push->setToolTip(QObject::tr("Not in this version yet"));
+}
+
 } // namespace
 
 template <class F>
@@ -120,13 +125,13 @@ QPushButton* Screen::okButton(const QString& name, const QString& caption) {
 
 QPushButton* Screen::opener(const QString& name, const QString& caption, const QString& screen) {
     auto* push = button(name, caption, [this, screen] { m_work.shell.open(screen); });
-    push->setEnabled(m_work.shell.exists(screen));
+    if (!m_work.shell.exists(screen)) greyOut(push);
     return push;
 }
 
 QPushButton* Screen::disabledButton(const QString& name, const QString& caption) {
     auto* push = button(name, caption, [] {});
-    push->setEnabled(false);
+    greyOut(push);
     return push;
 }
 

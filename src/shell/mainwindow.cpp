@@ -24,6 +24,7 @@
 #include "screenkit/screen.h"
 #include "screenkit/trouble.h"
 #include "shell/commands.h"
+#include "shell/frmBrowser.h"
 #include "shell/menukeys.h"
 #include "shell/placing.h"
 #include "shell/program.h"
@@ -68,6 +69,7 @@ MDIForm1::MDIForm1(assessment::Assessment& record, const datastore::Paths& paths
         {"mnuCascade", [this] { cascade(m_area); }},
         {"mnuIcon", [this] { arrangeIcons(m_area); }},
         {"mnuVideoLectures", [this] { m_work.desk.openOnDesktop(lecturesAddress); }},
+        {"mnuContents", [this] { help(); }},
         {"mnuAbout", [this] { about(); }},
     };
     new screenkit::AccessKeys(this);
@@ -94,6 +96,7 @@ void MDIForm1::buildMenu() {
         QMenu* under = popUp ? nullptr : menus.value(item.parent);
         if (parents.contains(item.name)) {
             auto* menu = new QMenu(item.caption, this);
+            menu->setToolTipsVisible(true); // only what is greyed out has one
             menu->setObjectName(item.name);
             menus[item.name] = menu;
             m_actions[item.name] = menu->menuAction();
@@ -120,6 +123,7 @@ QAction* MDIForm1::addItem(const MenuItem& item) {
     if (!m_commands.contains(item.name)) {
         if (screenEntry(screen) == nullptr) {
             action->setEnabled(false); // its screen does not exist yet: nothing pretends
+            action->setToolTip(tr("Not in this version yet"));
             return action;
         }
         m_commands[item.name] = [this, screen] { open(screen); };
@@ -138,6 +142,7 @@ void MDIForm1::buildToolbar() {
     for (const ToolButton& entry : toolButtons()) {
         QAction* item = m_actions.value(entry.item);
         auto* action = m_toolbar->addAction(screenkit::icon(entry.icon), entry.tip);
+        action->setData(entry.item);
         action->setObjectName(QString("tb_") + entry.icon);
         action->setEnabled(item->isEnabled());
         auto* button = qobject_cast<QToolButton*>(m_toolbar->widgetForAction(action));
@@ -155,6 +160,21 @@ void MDIForm1::buildToolbar() {
                 afterToolbarCommand();
             });
         }
+    }
+    showTips();
+}
+
+void MDIForm1::showTips() {
+    for (QAction* button : m_toolbar->actions()) {
+        const QKeySequence shortcut = m_actions[button->data().toString()]->shortcut();
+        QString tip = button->text();
+        if (!button->isEnabled())
+            tip += tr(": not in this version yet");
+        else if (!m_toolbar->isEnabled())
+            tip += tr(": not while Browse or Save As is open");
+        else if (!shortcut.isEmpty())
+            tip += " (" + shortcut.toString(QKeySequence::NativeText) + ")";
+        button->setToolTip(tip);
     }
 }
 
@@ -234,6 +254,7 @@ void MDIForm1::showClientName() { m_status->showClientName(); }
 void MDIForm1::enableToolbar(bool on) {
     m_toolbarHolders += on ? -1 : 1; // two screens that want it off may be open at once
     m_toolbar->setEnabled(m_toolbarHolders == 0);
+    showTips();
 }
 
 bool MDIForm1::allEditsCommitted() const {
@@ -348,6 +369,14 @@ void MDIForm1::startCalculator() {
     if (!m_work.desk.startProgram(calculators))
         m_work.desk.tell(BoxStyle::warning, "The Microsoft Calculator is not installed or in the Windows directory",
                          "Marlowbeck");
+}
+
+void MDIForm1::help() {
+    const Screen* front = activeScreen();
+    const ScreenEntry* entry = front != nullptr ? screenEntry(front->objectName()) : nullptr;
+    open("frmBrowser");
+    auto* guide = qobject_cast<frmBrowser*>(screen("frmBrowser"));
+    if (guide != nullptr && entry != nullptr && front != guide) guide->showChapter(entry->chapter);
 }
 
 void MDIForm1::about() {

@@ -55,6 +55,8 @@ protected:
 private:
     void buildMenu();
     void buildToolbar();
+    /// The toolbar's tips name the shortcut, or why a button is greyed out.
+    void showTips();
     QAction* addItem(const struct MenuItem& item);
     /// Runs a command once the screen in front has passed its checks.
     void act(const std::function<void()>& command);
@@ -70,6 +72,8 @@ private:
     /// The desktop logs the user out or shuts down: the same questions as at the close.
     void sessionEnds(QSessionManager& session);
     void startCalculator();
+    /// The guide, at the chapter of the screen in front.
+    void help();
     void about();
 
     screenkit::Workplace m_work;

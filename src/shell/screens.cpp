@@ -25,12 +25,17 @@ screenkit::Screen* build(screenkit::Workplace& workplace) {
 }
 
 constexpr ScreenEntry entries[] = {
-    {"frmBrowse", build<datastore::frmBrowse>},   {"frmSaveFileAs", build<datastore::frmSaveFileAs>},
-    {"frmPersDet", build<client::frmPersDet>},    {"frmPolInvest", build<client::frmPolInvest>},
-    {"frmNARA", build<analyses::frmNARA>},        {"frmLoans", build<calculators::frmLoans>},
-    {"frmHeadFoot", build<reports::frmHeadFoot>}, {"frmGraph", build<reports::frmGraph>},
-    {"frmBrowser", build<shell::frmBrowser>},     {"frmKwikTax", build<tax::frmKwikTax>},
-    {"frmMonthly", build<tax::frmMonthly>},
+    {"frmBrowse", build<datastore::frmBrowse>, "Finding a client again"},
+    {"frmSaveFileAs", build<datastore::frmSaveFileAs>, "Saving"},
+    {"frmPersDet", build<client::frmPersDet>, "Recording a client"},
+    {"frmPolInvest", build<client::frmPolInvest>, "Policies and investments"},
+    {"frmNARA", build<analyses::frmNARA>, "The retirement needs analysis"},
+    {"frmLoans", build<calculators::frmLoans>, "The loan calculator"},
+    {"frmHeadFoot", build<reports::frmHeadFoot>, "Your header and footer lines"},
+    {"frmGraph", build<reports::frmGraph>, "Graphs"},
+    {"frmBrowser", build<shell::frmBrowser>, "Working by keyboard"},
+    {"frmKwikTax", build<tax::frmKwikTax>, "Quick tax"},
+    {"frmMonthly", build<tax::frmMonthly>, "Monthly tax"},
 };
 
 constexpr const char* closedWithTheClient[] = {
@@ -48,6 +53,8 @@ const ScreenEntry* screenEntry(const QString& name) {
                                     [&](const ScreenEntry& entry) { return name == entry.name; });
     return found == std::end(entries) ? nullptr : found;
 }
+
+std::span<const ScreenEntry> screenEntries() { return entries; }
 
 std::span<const char* const> clientScreens() { return closedWithTheClient; }
 
