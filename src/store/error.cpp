@@ -1,53 +1,67 @@
 #include "store/error.h"
 
+#include <filesystem>
+#include <string_view>
 #include <utility>
 
 namespace store {
 
 namespace {
 
+/// In an advice {name} stands for the file's name and {folder} for the folder that it lies in.
 struct Usual {
     Number number;
     const char* reason;
     const char* advice;
 };
 
-constexpr const char* seekRestore =
-    "Put back the last backup (Restore), or copy the file from your own backup, and try again.";
-constexpr const char* reinstall = "The file may be of another version. Install the program again; clients are kept.";
-constexpr const char* makeRoom = "Delete what you no longer need or empty the waste basket, then try again. What was "
-                                 "on the disk before is unchanged.";
+// Worded so that it can be followed whether the program goes on or ends with the box.
+constexpr const char* copyBackup =
+    "Close Marlowbeck, rename {name} in the folder {folder}, copy {name} from your last backup there, and start again. "
+    "Keep the renamed file: it may be of use to whoever helps you.";
+constexpr const char* reinstall =
+    "The file {name} may be of another version. Install Marlowbeck again; clients and settings are kept.";
+constexpr const char* makeRoom =
+    "Delete what you no longer need from the disk that holds the folder {folder}, or empty "
+    "the waste basket, then try again. What was on the disk before is unchanged.";
 constexpr const char* askOwner =
-    "Ask whoever looks after this computer for the right to read and write the file and its folder, then try again.";
+    "Allow the file {name} and the folder {folder} to be read and written (their "
+    "properties, \"Permissions\"), or ask whoever looks after this computer, then try again.";
 constexpr const char* checkPath =
-    "Check that the disk or network share is connected and that the path in DataPath.txt is right, then try again.";
+    "Check that the disk or network share with the folder {folder} is connected, and that "
+    "DataPath.txt in the program folder names the right file, then try again.";
 constexpr const char* report = "Try again. If it happens a second time, note what you did and report this message.";
 
 constexpr Usual usual[] = {
-    {Number::fileNotFound53, "The file was not found.", "Check its name and its folder, then try again."},
+    {Number::fileNotFound53, "The file was not found.",
+     "Check its name and its folder, then try again. A file that belongs to Marlowbeck comes back when it is installed "
+     "again."},
     {Number::deviceError, "The disk could not be read or written.",
-     "Check that the disk or network share is connected, make a backup elsewhere and try again."},
+     "Check that the disk or network share with the folder {folder} is connected and has room, then try again."},
     {Number::fileExists58, "There is a file of this name already.", "Choose another name, or move that file away."},
     {Number::diskFull61, "The disk is full.", makeRoom},
     {Number::deviceUnavailable, "The disk or drive is not available.", "Connect it and try again."},
     {Number::permissionDenied, "You are not allowed to read or write this file.", askOwner},
     {Number::diskNotReady, "The disk is not ready.", "Put it in or connect it, wait a moment and try again."},
     {Number::pathAccess, "The file cannot be used at this place.",
-     "Check that the name is that of a file, not of a folder, and that the file can be changed."},
+     "Check that {name} in the folder {folder} is a file, not a folder, and that it can be changed, then try again."},
     {Number::pathNotFound, "The folder was not found.",
-     "Check that the disk or network share is connected and that the folder's name is right."},
-    {Number::null, "A field that must have a value is empty.", seekRestore},
+     "Check that the disk or network share is connected and that the name of the folder {folder} is right."},
+    {Number::null, "A field that must have a value is empty.", copyBackup},
     {Number::invalidFileFormat, "The file is not what the program expects.", reinstall},
     {Number::reserved, "The database could not do what was asked of it.", report},
     {Number::tableExists, "The table exists already.", "Nothing was changed; the table can be used as it is."},
     {Number::noSuchTable, "A table that the program needs is missing in this file.", reinstall},
-    {Number::noCurrentRecord, "A table that must have a row is empty.", reinstall},
-    {Number::fileNotFound, "The database was not found.", checkPath},
+    {Number::noCurrentRecord, "A table that must have a row is empty.", copyBackup},
+    {Number::fileNotFound, "The database was not found.",
+     "Check that the disk or network share with the folder {folder} is connected. If the file is lost, copy {name} "
+     "from "
+     "your last backup into that folder, then try again."},
     {Number::diskFull, "The disk is full, or the database may grow no further.", makeRoom},
     {Number::readOnly, "The database is read-only, so nothing can be saved in it.",
-     "Allow the file to be written (its properties, \"Permissions\"), or work on a copy that you may write."},
+     "Allow {name} in the folder {folder} to be written (its properties, \"Permissions\"), then try again."},
     {Number::badPath, "The folder of the database was not found.", checkPath},
-    {Number::corrupt, "The database is damaged or was cut short.", seekRestore},
+    {Number::corrupt, "The database is damaged or was cut short.", copyBackup},
     {Number::heldByAnother, "Another program is using the database.",
      "Close the other program, or wait until it is done, and try again. Nothing was changed."},
     {Number::cannotOpen, "The database, or the folder that it lies in, cannot be opened for this.", askOwner},
@@ -56,11 +70,13 @@ constexpr Usual usual[] = {
      "Shorten the text and try again."},
     {Number::fieldDefined, "The table has a field of this name already.",
      "Nothing was changed; the field can be used as it is."},
+    {Number::changedByAnother, "Another program has changed the client in the file.",
+     "Choose the client again in Browse, or use Save As to keep both."},
     {Number::databaseExists, "There is a database of this name already.",
      "Choose another name, or move that file away."},
     {Number::noSuchField, "A field that the program needs is missing in this file.", reinstall},
     {Number::indexExists, "The index exists already.", "Nothing was changed; the index can be used as it is."},
-    {Number::notADatabase, "This file is not a database.", seekRestore},
+    {Number::notADatabase, "This file is not a database.", copyBackup},
     {Number::wrongType, "A value does not fit the kind of field that it is meant for.",
      "Check the figures on the screen and try again."},
 };
@@ -71,11 +87,23 @@ const Usual& usualFor(Number number) {
     return usualFor(Number::reserved);
 }
 
+void put(std::string& text, std::string_view placeholder, const std::string& value) {
+    for (auto at = text.find(placeholder); at != std::string::npos; at = text.find(placeholder, at + value.size()))
+        text.replace(at, placeholder.size(), value);
+}
+
+std::string addressed(std::string advice, const std::string& file) {
+    const std::filesystem::path path(file);
+    put(advice, "{name}", file.empty() ? "the file" : path.filename().string());
+    put(advice, "{folder}", path.has_parent_path() ? path.parent_path().string() : "of the program");
+    return advice;
+}
+
 } // namespace
 
 Error::Error(Number number, std::string file, const std::string& why, std::string advice)
-    : std::runtime_error(why.empty() ? usualReason(number) : why), m_number(number), m_file(std::move(file)),
-      m_advice(advice.empty() ? usualAdvice(number) : std::move(advice)) {}
+    : std::runtime_error(why.empty() ? usualFor(number).reason : why), m_number(number), m_file(std::move(file)),
+      m_advice(addressed(advice.empty() ? usualFor(number).advice : std::move(advice), m_file)) {}
 
 std::string Error::message() const {
     std::string text;
@@ -83,8 +111,5 @@ std::string Error::message() const {
         if (!part.empty()) text += part + "\n";
     return text + "Error (" + std::to_string(number()) + ")";
 }
-
-std::string usualReason(Number number) { return usualFor(number).reason; }
-std::string usualAdvice(Number number) { return usualFor(number).advice; }
 
 } // namespace store

@@ -32,6 +32,7 @@ enum class Number {
     noSuchTableInQuery = 3078,
     textTooLong = 3163,
     fieldDefined = 3191,
+    changedByAnother = 3197,
     databaseExists = 3204,
     noSuchField = 3265,
     indexExists = 3284,
@@ -42,10 +43,12 @@ enum class Number {
 /// The one error of the database and file floors: what failed, on which file, why, and what the user can do about it.
 class Error : public std::runtime_error {
 public:
-    /// why: one sentence in plain words; advice: what the user can do. Each is taken from the number where it is empty.
+    /// why: one sentence in plain words; advice: what the user can do, with {name} for the file's name and {folder} for
+    /// its folder. Each is taken from the number where it is empty.
     Error(Number number, std::string file, const std::string& why = {}, std::string advice = {});
 
     int number() const { return static_cast<int>(m_number); }
+    Number kind() const { return m_number; }
     bool is(Number number) const { return m_number == number; }
     const std::string& file() const { return m_file; }
     std::string why() const { return what(); }
@@ -59,11 +62,5 @@ private:
     std::string m_file;
     std::string m_advice;
 };
-
-/// The usual sentence for a number, used where the cause has no words of its own.
-std::string usualReason(Number number);
-
-/// What a user can usually do about it.
-std::string usualAdvice(Number number);
 
 } // namespace store
