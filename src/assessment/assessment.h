@@ -211,6 +211,13 @@ struct RATaxAdvantage {
     double TaxCGT = 0;
 };
 
+/// The client's rows as this program last read or wrote them, by which a save knows that they are still the same.
+struct ClientInFile {
+    std::string Name;
+    double BirthDate = base::blankDate;
+    std::uint64_t contents = 0; ///< checksum of all that the file holds of the client
+};
+
 /// Costs of a draw-down annuity as they stand after a reset; the screen reads its own settings over them.
 struct DrawDownCosts {
     double BrokerCom = 0;
@@ -275,6 +282,7 @@ struct Assessment {
 
     double DCLNO = 0; ///< client key, 0 while the client has none
     std::int16_t ClientOnFile = 0;
+    ClientInFile inFile; ///< while `ClientOnFile` is 1
     std::int16_t ClientChanged = 0;
     std::int16_t SaveThenNew = 0; ///< 1 while a save is to end in a blank client
     Changed changed;

@@ -94,6 +94,7 @@ struct FieldLine {
     Place (*at)(void* row) = nullptr;
 
     bool isWritten() const { return at != nullptr || rule == Rule::key || rule == Rule::rowCount; }
+    bool isRead() const { return isWritten() && rule != Rule::writtenOnly; }
 };
 
 template <class Row>

@@ -69,10 +69,12 @@ std::vector<int> columnsOf(const TableDescription& table, const store::Statement
 int RowWriterCore::bindFields(store::Statement& statement, void* row, const RowPlace& place) const {
     int index = 0;
     const std::string file = m_database.path().string();
-    for (const FieldLine& line : m_table.fields())
-        if (line.isWritten())
-            statement.bind(++index,
-                           store::toStored(valueToWrite(line, row, place), line.kind.declared, file, line.name));
+    for (const FieldLine& line : m_table.fields()) {
+        if (!line.isWritten()) continue;
+        const store::Value value = store::toStored(valueToWrite(line, row, place), line.kind.declared, file, line.name);
+        if (m_sum != nullptr && line.isRead()) m_sum->add(value);
+        statement.bind(++index, value);
+    }
     return index;
 }
 
@@ -89,13 +91,14 @@ void RowWriterCore::overwrite(void* row, const RowPlace& place, std::int64_t row
     update.run();
 }
 
-RowReaderCore::RowReaderCore(store::Database& database, const TableDescription& table, std::optional<double> key)
-    : m_select(database, selectSql(table, key.has_value())) {
+RowReaderCore::RowReaderCore(store::Database& database, const TableDescription& table, std::optional<double> key,
+                             Checksum* sum)
+    : m_select(database, selectSql(table, key.has_value())), m_sum(sum) {
     if (key) m_select.bind(1, *key);
     const std::vector<int> columns = columnsOf(table, m_select);
     for (std::size_t i = 0; i < columns.size(); ++i) {
         const FieldLine& line = table.fields()[i];
-        if (line.isWritten() && line.rule != Rule::writtenOnly) m_sources.push_back({&line, columns[i]});
+        if (line.isRead()) m_sources.push_back({&line, columns[i]});
     }
 }
 
@@ -103,6 +106,7 @@ bool RowReaderCore::next(void* row) {
     if (!m_select.step()) return false;
     for (const auto& [field, column] : m_sources) {
         store::Value value = column < 0 ? store::Value{} : m_select.column(column);
+        if (m_sum != nullptr) m_sum->add(value);
         if (field->rule == Rule::key)
             m_key = numberOrZero(value);
         else if (field->rule == Rule::rowCount)

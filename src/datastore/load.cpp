@@ -23,20 +23,22 @@ public:
     void read(Assessment& record) {
         record.DCLNO = readClientRow(assessment::dataTable(), record);
         readClientRow(assessment::persDetailsTable(), record);
+        record.inFile = {record.client.Name, record.client.BirthDate};
         readItemLists(record.itemised);
         constexpr double fewestPolicies = 1;
         const auto policies = readList(assessment::polsInvestsTable(), fewestPolicies);
         if (!policies.empty()) record.policies = policies;
         assessment::CapitalGains& gains = record.capitalGains;
         gains.assets = readList(assessment::cgtDetailsTable());
-        RowReader(m_database, assessment::cgtDetailsOtherTable(), m_key).next(gains);
-        RowReader(m_database, assessment::lumpSumTaxTable(), m_key).next(record.lumpSums);
+        RowReader(m_database, assessment::cgtDetailsOtherTable(), m_key, &m_sum).next(gains);
+        RowReader(m_database, assessment::lumpSumTaxTable(), m_key, &m_sum).next(record.lumpSums);
         if (gains.ItemiseAdditCapGain == 1) gains.trustOther = readList(assessment::cgtTrustOtherTable());
+        record.inFile.contents = m_sum.value();
     }
 
 private:
     double readClientRow(const FieldTable<Assessment>& table, Assessment& record) {
-        RowReader reader(m_database, table, m_key);
+        RowReader reader(m_database, table, m_key, &m_sum);
         if (!reader.next(record))
             throw store::Error(store::Number::noCurrentRecord, m_database.path().string(),
                                "The client is no longer in the table " + table.name() + ".",
@@ -48,7 +50,7 @@ private:
     template <class Row>
     std::vector<Row> readList(const FieldTable<Row>& table, double atLeast = 0) {
         std::vector<Row> rows;
-        RowReader reader(m_database, table, m_key);
+        RowReader reader(m_database, table, m_key, &m_sum);
         double count = 0;
         for (Row row; reader.next(row); row = Row()) {
             if (rows.empty()) count = std::max(reader.rowCount(), atLeast);
@@ -68,9 +70,12 @@ private:
 
     store::Database& m_database;
     double m_key;
+    assessment::Checksum m_sum; ///< its order is that of the save
 };
 
 } // namespace
+
+void readClient(Assessment& record, store::Database& database, double key) { ClientReader(database, key).read(record); }
 
 void load(Assessment& record, const Paths& paths, double key) {
     Assessment blank = blankRecord(paths.DefaultDbPath);
@@ -79,7 +84,7 @@ void load(Assessment& record, const Paths& paths, double key) {
         const store::Transaction oneView(database, store::Access::read);
         readCPI(blank, database);
         Assessment loaded = blank;
-        ClientReader(database, key).read(loaded);
+        readClient(loaded, database, key);
         loaded.ClientOnFile = 1;
         record = std::move(loaded);
     } catch (...) {

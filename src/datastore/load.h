@@ -2,6 +2,7 @@
 
 #include "assessment/assessment.h"
 #include "datastore/paths.h"
+#include "store/database.h"
 
 namespace datastore {
 
@@ -10,5 +11,9 @@ namespace datastore {
 /// Error 3021 if the client has vanished; then, or on any other error while reading, the record is blank and not on
 /// file. Fields that an older file lacks or left Null read as their blanks.
 void load(assessment::Assessment& record, const Paths& paths, double key);
+
+/// What a file holds of the client of this key, put into a blank record; `inFile` tells it apart from any other state
+/// of the file. For callers whose transaction holds the view of the file still. Error 3021 as above.
+void readClient(assessment::Assessment& record, store::Database& database, double key);
 
 } // namespace datastore

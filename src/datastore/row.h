@@ -9,6 +9,8 @@
 #include "store/database.h"
 #include "store/value.h"
 
+/// Rows put together field by field: what a report or a settings panel writes. A table whose rows are a struct goes by
+/// its field table instead, `assessment/rows.h`.
 namespace datastore {
 
 /// One field of one row, by its name in the table (case does not count). Any kind of number will do for a number.

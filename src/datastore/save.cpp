@@ -5,6 +5,9 @@
 
 #include "assessment/rows.h"
 #include "assessment/tables.h"
+#include "base/day.h"
+#include "base/text.h"
+#include "datastore/load.h"
 #include "store/error.h"
 
 namespace datastore {
@@ -25,6 +28,7 @@ public:
           m_key(m_isUpdate ? record.DCLNO : newKey()) {}
 
     double key() const { return m_key; }
+    std::uint64_t contents() const { return m_sum.value(); }
 
     void write() {
         writeClientRow(assessment::dataTable());
@@ -49,7 +53,7 @@ private:
 
     template <class Row>
     void put(const FieldTable<Row>& table, Row& row, std::optional<std::int64_t> rowid) {
-        RowWriter<Row> writer(m_database, table);
+        RowWriter<Row> writer(m_database, table, &m_sum);
         const RowPlace place{m_key};
         if (rowid)
             writer.overwrite(row, place, *rowid);
@@ -80,7 +84,7 @@ private:
     template <class Row>
     void writeList(const FieldTable<Row>& table, std::vector<Row>& rows) {
         if (rows.empty()) return;
-        RowWriter<Row> writer(m_database, table);
+        RowWriter<Row> writer(m_database, table, &m_sum);
         RowPlace place{m_key, static_cast<int>(rows.size())};
         for (Row& row : rows) {
             writer.add(row, place);
@@ -111,7 +115,33 @@ private:
     Assessment& m_record;
     bool m_isUpdate;
     double m_key;
+    assessment::Checksum m_sum; ///< its order is that of a load
 };
+
+/// "Mr P J O'Brien (born 17/03/1960)"
+std::string described(const std::string& name, double born) {
+    const std::string shown = base::trim(name).empty() ? "a client without a name" : base::trim(name);
+    return born > base::blankDate ? shown + " (born " + base::formatDate(born) + ")" : shown;
+}
+
+/// Nothing is written over a stranger, nor unasked over what another program has put into the file meanwhile.
+void requireUnchanged(store::Database& database, const Assessment& record, TheirChanges theirs) {
+    for (const FieldTable<Assessment>* table : {&assessment::dataTable(), &assessment::persDetailsTable()})
+        if (!assessment::firstRow(database, *table, record.DCLNO)) return; // the writer has its own words for that
+    Assessment found;
+    readClient(found, database, record.DCLNO);
+    const assessment::ClientInFile& known = record.inFile;
+    const std::string client = "Client " + std::to_string(static_cast<long long>(record.DCLNO)) + " in the file ";
+    if (found.inFile.Name != known.Name || found.inFile.BirthDate != known.BirthDate)
+        throw OtherClientInFile(store::Number::changedByAnother, database.path().string(),
+                                client + "is now " + described(found.inFile.Name, found.inFile.BirthDate) +
+                                    " and no longer " + described(known.Name, known.BirthDate) + ".",
+                                "Nothing was saved. Use Save As to save the client on the screen as a new one.");
+    if (theirs == TheirChanges::keep && found.inFile.contents != known.contents)
+        throw ChangedInFile(store::Number::changedByAnother, database.path().string(),
+                            client + "was changed by another program since it was loaded here.",
+                            "Nothing was saved. Use Save As to keep both.");
+}
 
 /// However a save ends, the next one is a plain one again.
 class ThenNewCleared {
@@ -125,33 +155,35 @@ private:
     Assessment& m_record;
 };
 
-void markSaved(Assessment& record, double key) {
+void markSaved(Assessment& record, const ClientWriter& written) {
     double& born = record.client.BirthDate;
     if (born == base::NoDate || born == base::NoDate - 1) born = base::blankDate;
     record.changed.clearAfterSave();
     record.ClientChanged = 0;
     record.ClientOnFile = 1;
-    record.DCLNO = key;
+    record.DCLNO = written.key();
+    record.inFile = {record.client.Name, born, written.contents()};
 }
 
 } // namespace
 
-Saved Save(Assessment& record, store::Database& database) {
+Saved Save(Assessment& record, store::Database& database, TheirChanges theirs) {
     const ThenNewCleared guard(record);
     assessment::CheckChanges(record);
     if (record.ClientOnFile == 1 && record.ClientChanged == 0) return Saved::nothing;
     store::Transaction transaction(database);
+    if (record.ClientOnFile == 1) requireUnchanged(database, record, theirs);
     ClientWriter writer(database, record);
     writer.write();
     transaction.commit();
-    markSaved(record, writer.key());
+    markSaved(record, writer);
     return record.SaveThenNew == 1 ? Saved::thenNew : Saved::written;
 }
 
-Saved Save(Assessment& record, const std::filesystem::path& dataDbPath) {
+Saved Save(Assessment& record, const std::filesystem::path& dataDbPath, TheirChanges theirs) {
     const ThenNewCleared guard(record);
     store::Database database(dataDbPath);
-    return Save(record, database);
+    return Save(record, database, theirs);
 }
 
 } // namespace datastore

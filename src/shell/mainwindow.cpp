@@ -15,7 +15,6 @@
 #include "base/text.h"
 #include "datastore/paths.h"
 #include "datastore/reset.h"
-#include "datastore/save.h"
 #include "reports/report.h"
 #include "screenkit/accesskeys.h"
 #include "screenkit/desk.h"
@@ -28,6 +27,7 @@
 #include "shell/menukeys.h"
 #include "shell/placing.h"
 #include "shell/program.h"
+#include "shell/saving.h"
 #include "shell/screens.h"
 #include "shell/statusline.h"
 
@@ -307,12 +307,10 @@ void MDIForm1::mnuSave_Click() {
 
 bool MDIForm1::Save() {
     if (!allEditsCommitted()) return false;
-    auto saved = datastore::Saved::nothing;
-    const bool done = screenkit::guarded(m_work.desk, tr("save the client"),
-                                         [&] { saved = datastore::Save(m_work.record, m_work.paths.DataDbPath); });
-    if (done && saved == datastore::Saved::thenNew) NEWUNLOAD();
-    if (done) m_status->showSaved();
-    return done;
+    const auto saved = saveClient(m_work);
+    if (saved == datastore::Saved::thenNew) NEWUNLOAD();
+    if (saved) m_status->showSaved();
+    return saved.has_value();
 }
 
 bool MDIForm1::NEWUNLOAD() {

@@ -82,7 +82,8 @@ TEST_F(SaveTest, EmptyDatesAreStoredAsTheFirstOfJanuary1800) {
 
 TEST_F(SaveTest, AListIsKeptOnlyWhileItsFlagIsOne) {
     Assessment record = fullClient();
-    record.itemised.DTHInvestments = {1, {{"unit trusts"}}};
+    record.itemised.DTHInvestments.flag = 1;
+    record.itemised.DTHInvestments.rows.emplace_back().IncomeSource = "unit trusts";
     Save(record, file);
     EXPECT_EQ(rowCount("DTHInvestments", 1), "0"); // this list and its flag are never written
     EXPECT_EQ(cell(file, "SELECT DTHInvestmentsItemise FROM Data"), "0");
@@ -138,6 +139,55 @@ TEST_F(SaveTest, AClientWithoutRowsIsAddedToAnEmptyTableAndElseAnError) {
         EXPECT_EQ(record.SaveThenNew, 0);
         folder.run("Data.Mdb", "UPDATE " + std::string(table) + " SET DCLNO=1 WHERE DCLNO=99");
     }
+}
+
+TEST_F(SaveTest, WritesOverNoStrangerAndOnlyWhenToldOverAnothersChanges) {
+    const struct {
+        const char* meanwhile;
+        bool isStranger, isChange;
+    } cases[] = {
+        {"UPDATE Data SET Name='Ms A Botha'; UPDATE PersDetails SET Name='Ms A Botha', BirthDate=25569", true, true},
+        {"UPDATE Data SET BirthDate=3; UPDATE PersDetails SET BirthDate=3", true, true},
+        {"UPDATE Data SET BirthDate=NULL; UPDATE PersDetails SET BirthDate=NULL", true, true},
+        {"UPDATE Data SET Num2=Num2+1", false, true},
+        {"UPDATE PersDetails SET CCell='083 555 0101'", false, true},
+        {"UPDATE PolsInvests SET DeathBen=1 WHERE rowid=(SELECT max(rowid) FROM PolsInvests)", false, true},
+        {"DELETE FROM DISAOtherExp WHERE rowid=1", false, true},
+        {"UPDATE CGTTrustOther SET Proceeds=NULL", false, true},
+        {"UPDATE LumpSumTax SET FstLumpTaken=-1", false, true},
+        {"UPDATE CPIDefault SET CPI=9; UPDATE HeadFoot SET HEADERV0='x'; INSERT INTO Data(DCLNO) VALUES(7)", false,
+         false},
+    };
+    for (const bool afterALoad : {true, false})
+        for (const auto& [meanwhile, isStranger, isChange] : cases) {
+            folder.makeClientDb();
+            Assessment record = fullClient();
+            record.client.Name = "Mr P J O'Brien";
+            Save(record, file);
+            if (afterALoad) record = loaded(1);
+            record.loans.Num1 = 42;
+            record.ClientChanged = record.changed.LoansChanged = record.SaveThenNew = 1;
+            folder.run("Data.Mdb", meanwhile);
+            const std::string before = dump(file);
+            const std::string now = cell(file, "SELECT Name FROM PersDetails");
+            try {
+                EXPECT_EQ(Save(record, file), Saved::thenNew) << meanwhile;
+                EXPECT_FALSE(isChange) << meanwhile;
+                continue;
+            } catch (const datastore::OtherClientInFile& error) {
+                EXPECT_TRUE(isStranger) << meanwhile;
+                EXPECT_EQ(error.why().find("Client 1 in the file is now " + now), 0U) << error.why();
+            } catch (const datastore::ChangedInFile&) {
+                EXPECT_TRUE(isChange && !isStranger) << meanwhile;
+            }
+            EXPECT_EQ(dump(file), before) << meanwhile;
+            EXPECT_EQ(record.ClientChanged + record.changed.LoansChanged, 2) << meanwhile;
+            const int error = errorOf([&] { Save(record, file, datastore::TheirChanges::overwrite); });
+            EXPECT_EQ(error, isStranger ? 3197 : 0) << meanwhile;
+            if (isStranger) continue;
+            Assessment again = loaded(1);
+            expectSameClient(record, again);
+        }
 }
 
 TEST_F(SaveTest, TellsWhenNewIsToFollow) {

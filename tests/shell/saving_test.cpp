@@ -1,0 +1,52 @@
+#include <gtest/gtest.h>
+
+#include "shell/running_program.h"
+
+/// What the user is asked when the file is no longer as the program left it.
+namespace {
+
+using screenkit::Answer;
+using shelltest::RunningProgram;
+
+class Saving : public testing::Test {
+protected:
+    Saving() {
+        run.saveClient("Botha");
+        run.type("txtDescription", "typed here");
+    }
+    void meanwhile(const std::string& sql) { store::Database(run.folder / "Data.Mdb").execute(sql); }
+    std::string description() { return run.inClients("SELECT [Description] FROM [PersDetails] ORDER BY DCLNO"); }
+    RunningProgram run;
+};
+
+TEST_F(Saving, OffersSaveAsWhereTheFileHoldsAStranger) {
+    meanwhile("UPDATE PersDetails SET Name='Ms T Nkosi', BirthDate=25569, Description='of another'");
+    for (const Answer answer : {Answer::no, Answer::yes}) {
+        run.desk.expect(answer);
+        run.menu("mnuSave");
+        EXPECT_TRUE(run.desk.last().text.startsWith("Client 1 in the file is now Ms T Nkosi (born 01/01/1970) and no "
+                                                    "longer Botha."))
+            << run.desk.last().text.toStdString();
+        EXPECT_EQ(description(), "of another");
+        EXPECT_EQ(run.isOpen("frmSaveFileAs"), answer == Answer::yes);
+    }
+    run.click("cmdOK");
+    EXPECT_EQ(description(), "of another\ntyped here");
+    EXPECT_EQ(run.record().DCLNO, 2);
+}
+
+TEST_F(Saving, AsksBeforeItWritesOverAnotherProgramsChanges) {
+    meanwhile("UPDATE PersDetails SET Description='typed there'");
+    run.desk.expect(Answer::no);
+    run.menu("mnuSave");
+    EXPECT_EQ(run.desk.last().defaultAnswer, Answer::no);
+    EXPECT_EQ(description(), "typed there");
+    EXPECT_EQ(run.shown("txtDescription"), "typed here");
+    run.desk.expect(Answer::yes); // to the save that New asks about
+    run.desk.expect(Answer::yes);
+    run.menu("mnuNewFile");
+    EXPECT_EQ(description(), "typed here");
+    EXPECT_EQ(run.record().client.Name, ""); // the new client that the save was for
+}
+
+} // namespace
