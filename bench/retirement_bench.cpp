@@ -57,8 +57,11 @@ double solveWorst() {
     }
     for (auto* list : {&client.itemised.RNAFutMonInc, &client.itemised.RNAMonIncReq, &client.itemised.RNAOtherExp}) {
         list->flag = 1;
-        for (int row = 0; row < 5000; ++row)
-            list->rows.push_back({"", 1, 5, 65.0 + row % 50, 120, 65.0 + row % 50});
+        for (int row = 0; row < 5000; ++row) {
+            assessment::ItemRow& added = list->rows.emplace_back();
+            added.Amount = 1, added.Escalation = 5, added.ToAge = 120;
+            added.FromAge = added.At = 65.0 + row % 50;
+        }
     }
     return bench::milliseconds([&] { bench::keep(analyses::NARACalc(client).CapitalSolved); });
 }

@@ -33,7 +33,7 @@ void feedPersonalDetails(const std::filesystem::path& printDbPath, assessment::A
     row.push_back({"CSmoker", words.clientSmoker});
     row.push_back({"SSmoker", words.spouseSmoker});
     datastore::PrintFeed feed(printDbPath);
-    feed.replace("PersDetails", row);
+    feed.replace("PersDetails", feed.printedOf("PersDetails", std::move(row)));
     feed.commit();
 }
 

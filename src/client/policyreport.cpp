@@ -95,7 +95,7 @@ datastore::Row policyRow(Policy& policy, int number, const PolicyReportOptions& 
     row.reserve(fields.size() + 2);
     row.emplace_back("PolNum", number);
     for (const assessment::FieldLine& line : fields) {
-        if (line.at == nullptr || line.name == "PremInvAmtMonthlyAnnEsc") continue; // Print.mdb has no place for it
+        if (line.at == nullptr) continue;
         row.emplace_back(line.name, printed(policy, line.name, assessment::valueAt(line.at(&policy)), options));
     }
     row.emplace_back("PremInvAmtAnnualCPI", 0); // no record ever had it
@@ -112,7 +112,7 @@ void feedPolicies(const std::filesystem::path& printDbPath, assessment::Assessme
     feed.clear("PolsInvestsAmorts");
     int number = 0;
     for (Policy& policy : record.policies)
-        feed.add("PolsInvestsAmorts", policyRow(policy, ++number, options));
+        feed.add("PolsInvestsAmorts", feed.printedOf("PolsInvestsAmorts", policyRow(policy, ++number, options)));
     feed.commit();
 }
 

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "base/text.h"
+
 namespace datastore {
 
 PrintFeed::PrintFeed(const std::filesystem::path& printDatabase)
@@ -20,6 +22,15 @@ void PrintFeed::replace(std::string_view table, const std::vector<Row>& rows) {
         add(table, row);
 }
 
+Row PrintFeed::printedOf(std::string_view table, Row row) {
+    turnTo(table);
+    std::erase_if(row, [&](const Field& field) {
+        return std::none_of(m_columns.begin(), m_columns.end(),
+                            [&](const store::Column& column) { return base::sameName(column.name, field.name); });
+    });
+    return row;
+}
+
 void PrintFeed::clear(std::string_view table) {
     requiredColumns(m_database, table);
     m_database.execute("DELETE FROM " + store::bracketed(table));
@@ -36,14 +47,18 @@ void PrintFeed::commit() {
     m_transaction.commit();
 }
 
+void PrintFeed::turnTo(std::string_view table) {
+    if (m_table == table) return;
+    m_insertion.reset();
+    m_columns = requiredColumns(m_database, table);
+    m_table = table;
+}
+
 void PrintFeed::prepare(std::string_view table, const Row& row) {
     const auto sameField = [](const Field& field, const std::string& name) { return field.name == name; };
-    const bool sameTable = m_table == table;
-    if (m_insertion && sameTable && std::equal(row.begin(), row.end(), m_names.begin(), m_names.end(), sameField))
-        return;
+    turnTo(table);
+    if (m_insertion && std::equal(row.begin(), row.end(), m_names.begin(), m_names.end(), sameField)) return;
     m_insertion.reset();
-    if (!sameTable) m_columns = requiredColumns(m_database, table);
-    m_table = table;
     m_names.clear();
     for (const Field& field : row) {
         requiredField(m_database, table, m_columns, field.name);

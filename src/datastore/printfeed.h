@@ -31,6 +31,9 @@ public:
     /// These rows, in this order, in place of all that the table held.
     void replace(std::string_view table, const std::vector<Row>& rows);
 
+    /// The fields of a row that the table has a place for: of a client's table a report shows what Print.mdb has.
+    Row printedOf(std::string_view table, Row row);
+
     void clear(std::string_view table);
     void add(std::string_view table, const Row& row);
 
@@ -38,6 +41,7 @@ public:
     void commit();
 
 private:
+    void turnTo(std::string_view table);
     void prepare(std::string_view table, const Row& row);
 
     store::Database m_database;

@@ -223,7 +223,9 @@ inline Assessment someClient(std::mt19937_64& random) {
         for (int row = pick(0, 4); row > 0; --row) {
             const double start = needs.AgeRetiment + pick(-4, 20);
             const double end = start + pick(0, 20);
-            list->rows.push_back({"", cents(9000), pick(0, 30) / 2.0, start, end, start});
+            assessment::ItemRow& added = list->rows.emplace_back();
+            added.Amount = cents(9000), added.Escalation = pick(0, 30) / 2.0;
+            added.FromAge = added.At = start, added.ToAge = end;
         }
     }
     return client;

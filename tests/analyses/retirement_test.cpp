@@ -94,6 +94,12 @@ TEST(Retirement, SentencesToTheLetter) {
     }
 }
 
+assessment::ItemRow need(double amount, double escalation, double from, double to) {
+    assessment::ItemRow row;
+    row.Amount = amount, row.Escalation = escalation, row.FromAge = from, row.ToAge = to;
+    return row;
+}
+
 TEST(Retirement, TheFirstNeedStartsAYearEarlyAndOthersOnTime) {
     Assessment client = retiredClient(1000, 1e6, 10);
     auto& needs = client.retirement;
@@ -101,7 +107,7 @@ TEST(Retirement, TheFirstNeedStartsAYearEarlyAndOthersOnTime) {
     needs.YearsToRet = 2;
     needs.InflationRA = 10;
     client.itemised.RNAMonIncReq.flag = 1;
-    client.itemised.RNAMonIncReq.rows = {{"Travel", 2000, 20, 67, 68}, {"Care", 3000, 5, 70, 72}, {"", 500, 8, 72, 80}};
+    client.itemised.RNAMonIncReq.rows = {need(2000, 20, 67, 68), need(3000, 5, 70, 72), need(500, 8, 72, 80)};
     const RetirementAnalysis analysis = NARACalc(client);
     // 65: the plain figure inflated; 66: the first need of 67 (to 65) written back; 68 at 20 %; 69 at inflation;
     // 70: 3000 inflated to 69; 71 at 5 %; 72: 500 inflated to 71, since the last row in force counts; then at 8 %

@@ -88,7 +88,8 @@ TEST(RoundTrip, NamesComeThroughLetterForLetter) {
     for (const std::string& name : names) {
         Assessment record;
         record.client.Name = record.details.CLName = record.loans.Heading = name;
-        record.itemised.RNATravel = {1, {{name}}};
+        record.itemised.RNATravel.flag = 1;
+        record.itemised.RNATravel.rows.emplace_back().IncomeSource = name;
         datastore::Save(record, folder / "Data.Mdb");
         Assessment loaded;
         datastore::load(loaded, folder.paths(), record.DCLNO);
@@ -123,7 +124,7 @@ TEST(RoundTrip, AFileOfVersion3IsBroughtUpAndThenHoldsEverything) {
     folder.run("Data.Mdb", "INSERT INTO Data(DCLNO,Name,Num1) VALUES(7,'Old client',5);"
                            "INSERT INTO PersDetails(DCLNO,Name,CLName) VALUES(7,'Old client','Client')");
     Assessment record;
-    ASSERT_EQ(datastore::startUp(folder.path(), record).UpDateDBValue, 18);
+    ASSERT_EQ(datastore::startUp(folder.path(), record).UpDateDBValue, datastore::currentVersion);
     datastore::load(record, folder.paths(), 7);
     EXPECT_EQ(record.client.Name, "Old client");
     EXPECT_EQ(record.loans.Num1, 5);
