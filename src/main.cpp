@@ -1,7 +1,10 @@
 #include <QApplication>
 #include <QTimer>
 #include <clocale>
+#include <cstdio>
+#include <cstdlib>
 #include <filesystem>
+#include <string_view>
 
 #include "datastore/programfolder.h"
 #include "screenkit/look.h"
@@ -10,8 +13,41 @@
 #include "shell/mainwindow.h"
 #include "shell/program.h"
 
+namespace {
+
+constexpr const char* help = "Usage: marlowbeck [--help | --version]\n"
+                             "Workstation for financial advisers. It needs a desktop to show its window on; its files "
+                             "lie in its program folder,\n"
+                             "which the guide (F1) tells of.\n";
+
+/// Questions that need no window are answered without one.
+bool answered(int argc, char** argv) {
+    for (int i = 1; i < argc; ++i) {
+        const std::string_view word = argv[i];
+        if (word == "--help" || word == "-h") return std::fputs(help, stdout) >= 0;
+        if (word == "--version" || word == "-v") return std::puts(shell::programCaption().c_str()) >= 0;
+    }
+    return false;
+}
+
+/// The toolkit ends the program by an abort where it finds no display, after a page of advice on its plug-ins.
+void endWithoutDisplay(QtMsgType type, const QMessageLogContext&, const QString& text) {
+    if (type != QtFatalMsg) return;
+    if (text.contains("platform plugin"))
+        std::fputs("marlowbeck: there is no display here to show its window on; start it from a desktop session.\n",
+                   stderr);
+    else
+        std::fprintf(stderr, "marlowbeck: %s\n", text.toUtf8().constData());
+    std::_Exit(EXIT_FAILURE);
+}
+
+} // namespace
+
 int main(int argc, char** argv) {
+    if (answered(argc, argv)) return EXIT_SUCCESS;
+    const QtMessageHandler usual = qInstallMessageHandler(endWithoutDisplay);
     QApplication application(argc, argv);
+    qInstallMessageHandler(usual);
     std::setlocale(LC_NUMERIC, "C"); // the toolkit has taken the system's; figures here have one form
     QApplication::setApplicationName("marlowbeck");
     QApplication::setDesktopFileName("marlowbeck");

@@ -40,12 +40,4 @@ bool sameName(std::string_view a, std::string_view b) {
 
 bool sameWord(std::string_view a, std::string_view b) { return sameName(trim(a), trim(b)); }
 
-std::string AppendBackslash(std::string_view path) {
-    std::string trimmed = trim(path);
-    if (trimmed.empty() || (trimmed.back() != '/' && trimmed.back() != '\\')) trimmed += '\\';
-    return trimmed;
-}
-
-std::string CutAtNull(std::string_view buffer) { return std::string(buffer.substr(0, buffer.find('\0'))); }
-
 } // namespace base

@@ -24,11 +24,4 @@ bool sameName(std::string_view a, std::string_view b);
 /// True if two stored words (a mode, "Yes", "annually") are the same: trimmed, without case.
 bool sameWord(std::string_view a, std::string_view b);
 
-/// Trims a path and appends `\` unless it ends in a slash of either kind. A string helper only: what it gives must
-/// pass through `store::nativePath` before the system sees it.
-std::string AppendBackslash(std::string_view path);
-
-/// A fixed buffer cut at its first NUL.
-std::string CutAtNull(std::string_view buffer);
-
 } // namespace base

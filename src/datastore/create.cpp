@@ -51,15 +51,6 @@ int attributeOf(assessment::Initial initial) {
     }
 }
 
-fs::path besideOf(const fs::path& path) { return path.parent_path() / ("." + path.filename().string() + ".new"); }
-
-/// What a creation that was killed has left behind.
-void removeLeftovers(const fs::path& beside) {
-    std::error_code ignored;
-    fs::remove(beside, ignored);
-    fs::remove(beside.string() + "-journal", ignored);
-}
-
 void describe(Creator& creator, const assessment::TableDescription& table) {
     creator.CreateOrOpenTable(table.name());
     for (const assessment::FieldLine& line : table.fields()) {
@@ -87,8 +78,7 @@ Creator::Creator(store::Database& database) : m_database(&database) {}
 
 Creator::~Creator() {
     m_transaction.reset();
-    m_own.reset();
-    if (!m_beside.empty()) removeLeftovers(m_beside);
+    m_own.reset(); // before the file beside goes
 }
 
 void Creator::CreateOrOpenDb(const fs::path& path) {
@@ -96,14 +86,14 @@ void Creator::CreateOrOpenDb(const fs::path& path) {
     try {
         std::error_code ignored;
         if (!fs::exists(fs::symlink_status(m_path, ignored))) {
-            m_beside = besideOf(m_path);
-            removeLeftovers(m_beside);
-            store::Database::create(m_beside);
+            m_beside.emplace(m_path);
+            store::Database::create(m_beside->path());
         }
-        m_own.emplace(m_beside.empty() ? m_path : m_beside);
+        m_own.emplace(m_beside ? m_beside->path() : m_path);
         m_transaction.emplace(*m_own);
         m_database = &*m_own;
-    } catch (const store::Error&) {
+    } catch (const store::Error& error) {
+        m_failure.emplace(error.kind(), m_path.string(), error.why());
         if (m_notice)
             m_notice("Operation Unsuccessful",
                      "Cannot Update " + m_path.string() + " at this stage.Please try again later");
@@ -179,9 +169,7 @@ void Creator::finish(const std::function<void(store::Database&)>& lastly) {
     m_transaction->commit();
     m_transaction.reset();
     m_own.reset();
-    if (m_beside.empty()) return;
-    store::moveIntoPlace(m_beside, m_path);
-    m_beside.clear();
+    if (m_beside) m_beside->settle();
 }
 
 bool MakeNewDb(const fs::path& path, const Notice& notice) {
@@ -199,13 +187,16 @@ void MakeNewDb(store::Database& database) {
     creator.finish();
 }
 
-bool createClientDb(const fs::path& path, const Notice& notice) {
+void createClientDb(const fs::path& path, const Notice& notice) {
     Creator creator(notice);
     creator.CreateOrOpenDb(path);
-    if (!creator.hasDatabase()) return false;
-    describeAll(creator);
-    creator.finish(addFirstRows);
-    return true;
+    if (creator.failure()) throw store::Error(*creator.failure());
+    try {
+        describeAll(creator);
+        creator.finish(addFirstRows);
+    } catch (const store::Error& error) {
+        throw store::Error(error.kind(), path.string(), error.why()); // it happened to a file that nobody knows of
+    }
 }
 
 } // namespace datastore

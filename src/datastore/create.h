@@ -9,6 +9,8 @@
 
 #include "assessment/fieldtable.h"
 #include "store/database.h"
+#include "store/error.h"
+#include "store/files.h"
 
 namespace datastore {
 
@@ -42,6 +44,8 @@ public:
     void finish(const std::function<void(store::Database&)>& lastly = {});
 
     bool hasDatabase() const { return m_database != nullptr; }
+    /// Why there is none, for whoever can't go on without; nothing while there is one.
+    const std::optional<store::Error>& failure() const { return m_failure; }
 
 private:
     void flushTable();
@@ -50,7 +54,8 @@ private:
 
     Notice m_notice;
     std::filesystem::path m_path;
-    std::filesystem::path m_beside; ///< where a new file is built; empty for an existing one
+    std::optional<store::FileBeside> m_beside; ///< where a new file is built
+    std::optional<store::Error> m_failure;
     std::optional<store::Database> m_own;
     store::Database* m_database = nullptr;
     std::optional<store::Transaction> m_transaction;
@@ -72,7 +77,8 @@ bool MakeNewDb(const std::filesystem::path& path, const Notice& notice = {});
 void MakeNewDb(store::Database& database);
 
 /// A client database ready for its first start: the tables, the row of `HeadFoot` and a `DataSetup` of version 1. It
-/// appears whole or not at all, so that a killed program never leaves one without a version.
-bool createClientDb(const std::filesystem::path& path, const Notice& notice = {});
+/// appears whole or not at all, so that a killed program never leaves one without a version. Throws what is in the way,
+/// after the notice.
+void createClientDb(const std::filesystem::path& path, const Notice& notice = {});
 
 } // namespace datastore

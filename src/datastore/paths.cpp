@@ -12,6 +12,7 @@ namespace {
 constexpr auto locationFile = "DataPath.txt";
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 constexpr std::string_view blanks = " \t";
+constexpr std::string_view lineEnds = "\r\n";
 
 std::string_view withoutBlanks(std::string_view text) {
     const auto first = text.find_first_not_of(blanks);
@@ -19,13 +20,40 @@ std::string_view withoutBlanks(std::string_view text) {
     return text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
 
-/// Whatever keeps the file from being read counts as a file with nothing in it.
-std::string readQuietly(const fs::path& path) {
-    try {
-        return store::readFile(path);
-    } catch (const store::Error&) {
-        return {};
+/// The path of one line, quoted or bare.
+std::optional<std::string> pathOfLine(std::string_view line) {
+    std::string_view path = withoutBlanks(line.substr(0, line.find_first_of(lineEnds)));
+    if (path.starts_with('"')) {
+        path.remove_prefix(1);
+        path = withoutBlanks(path.substr(0, path.find('"')));
     }
+    if (path.empty()) return {};
+    return std::string(path);
+}
+
+/// The program folder that the file says it was written for.
+std::optional<std::string> parseWrittenFor(std::string_view text) {
+    const auto end = text.find('\n');
+    return end == std::string_view::npos ? std::nullopt : pathOfLine(text.substr(end + 1));
+}
+
+/// Nothing for a file that is not there. A link that leads nowhere is there: its disk may not be connected.
+std::optional<std::string> readLocation(const fs::path& programFolder) {
+    const fs::path file = store::existingSpelling(programFolder / locationFile);
+    std::error_code ignored;
+    if (!fs::exists(fs::symlink_status(file, ignored))) return {};
+    try {
+        return store::readFile(file);
+    } catch (const store::Error& error) {
+        throw store::Error(error.kind(), error.file(), "The file that tells where your clients lie cannot be read.",
+                           "Allow {name} in the folder {folder} to be read (its properties, \"Permissions\"), or, if "
+                           "your clients lie in that folder, remove {name}. Then start again.");
+    }
+}
+
+bool isUsable(const fs::path& path) {
+    const auto read = parseDataPath("\"" + path.string() + "\"\r\n");
+    return read && store::nativePath(*read) == path;
 }
 
 void writeQuietly(const fs::path& programFolder, const fs::path& dataDbPath) {
@@ -36,35 +64,82 @@ void writeQuietly(const fs::path& programFolder, const fs::path& dataDbPath) {
     }
 }
 
+fs::path ownDataDb(const fs::path& programFolder) { return store::existingSpelling(programFolder / "Data.Mdb"); }
+
 fs::path findDataDb(const fs::path& programFolder) {
-    if (const auto named = parseDataPath(readQuietly(programFolder / locationFile)))
+    if (const auto named = parseDataPath(readLocation(programFolder).value_or("")))
         return store::existingSpelling(store::nativePath(*named, programFolder));
-    fs::path usual = store::existingSpelling(programFolder / "Data.Mdb");
-    writeQuietly(programFolder, usual);
-    return usual;
+    requireUsableName(programFolder);
+    fs::path own = ownDataDb(programFolder);
+    writeQuietly(programFolder, own);
+    return own;
+}
+
+bool isThere(const fs::path& path) {
+    std::error_code ignored;
+    return fs::exists(path, ignored);
+}
+
+bool isSame(const fs::path& one, const fs::path& other) {
+    std::error_code failed;
+    return one == other || (fs::equivalent(one, other, failed) && !failed);
+}
+
+bool isProgramFolder(const fs::path& folder) {
+    return isThere(store::existingSpelling(folder / "Default.Mdb")) || isThere(printDbPath(folder));
+}
+
+bool isWrittenForAnother(const Paths& paths) {
+    const std::string text = readLocation(paths.programFolder).value_or("");
+    if (const auto writtenFor = parseWrittenFor(text)) return !isSame(*writtenFor, paths.programFolder);
+    const fs::path folder = paths.DataDbPath.parent_path();
+    return !isSame(folder, paths.programFolder) && (isProgramFolder(folder) || !isThere(paths.DataDbPath));
 }
 
 } // namespace
 
 std::optional<std::string> parseDataPath(std::string_view text) {
     if (text.starts_with(byteOrderMark)) text.remove_prefix(byteOrderMark.size());
-    std::string_view path = withoutBlanks(text.substr(0, text.find_first_of("\r\n")));
-    if (path.starts_with('"')) {
-        path.remove_prefix(1);
-        path = withoutBlanks(path.substr(0, path.find('"')));
-    }
-    if (path.empty()) return {};
-    return std::string(path);
+    return pathOfLine(text);
+}
+
+void requireUsableName(const fs::path& programFolder) {
+    if (isUsable(programFolder / "Data.Mdb")) return;
+    throw store::Error(
+        store::Number::pathAccess, programFolder.string(),
+        "The name of the program folder, or of one that it lies in, has a quotation mark, a backslash or "
+        "a line break in it, so that the program would not find your clients again.",
+        "Nothing was written. Rename that folder, or move the program to another, and start again.");
 }
 
 void writeDataPath(const fs::path& programFolder, const fs::path& dataDbPath) {
-    store::writeFile(programFolder / locationFile, "\"" + dataDbPath.string() + "\"\r\n");
+    if (!isUsable(dataDbPath))
+        throw store::Error(
+            store::Number::pathAccess, dataDbPath.string(),
+            "The name of this file or of its folder has a quotation mark, a backslash or a line break in "
+            "it, which DataPath.txt cannot hold.",
+            "Rename the file or the folder, then try again.");
+    std::string text = "\"" + dataDbPath.string() + "\"\r\n";
+    if (!isSame(dataDbPath.parent_path(), programFolder)) text += "\"" + programFolder.string() + "\"\r\n";
+    store::writeFile(programFolder / locationFile, text);
 }
+
+fs::path printDbPath(const fs::path& programFolder) { return store::existingSpelling(programFolder / "Print.mdb"); }
 
 Paths findPaths(const fs::path& programFolder) {
     const auto beside = [&](const char* name) { return store::existingSpelling(programFolder / name); };
-    return {programFolder,       findDataDb(programFolder), beside("Default.Mdb"),
-            beside("Print.mdb"), beside("units.mdb"),       beside("Diary.mdb")};
+    return {programFolder,       findDataDb(programFolder), beside("Default.Mdb"), printDbPath(programFolder),
+            beside("units.mdb"), beside("Diary.mdb")};
+}
+
+std::string copiedFolderNotice(const Paths& paths) {
+    const fs::path own = ownDataDb(paths.programFolder);
+    if (!isThere(own) || isSame(own, paths.DataDbPath) || !isWrittenForAnother(paths)) return {};
+    return "The clients that you see are those of\n" + paths.DataDbPath.string() + "\nas DataPath.txt says.\n\n" +
+           "This folder has a client file of its own as well:\n" + own.string() +
+           "\nIt looks as if the folder had been copied from elsewhere. To work with its own file, close Marlowbeck, "
+           "delete DataPath.txt in the folder\n" +
+           paths.programFolder.string() + "\nand start again.";
 }
 
 } // namespace datastore

@@ -7,6 +7,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "datastore/paths.h"
 #include "store/error.h"
 #include "store/files.h"
 
@@ -77,6 +78,7 @@ fs::path programFolder(const fs::path& realExecutable) {
 
 void seedProgramFolder(const fs::path& realExecutable, const fs::path& folder) {
     if (!isInstalledForAll(realExecutable)) return;
+    requireUsableName(folder);
     try {
         seed(realExecutable.parent_path(), folder);
     } catch (const fs::filesystem_error& error) {

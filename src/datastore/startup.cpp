@@ -1,16 +1,27 @@
 #include "datastore/startup.h"
 
 #include "assessment/tables.h"
+#include "base/text.h"
 #include "datastore/reset.h"
 #include "datastore/settings.h"
+#include "datastore/shipped.h"
 #include "datastore/upgrade.h"
 #include "store/error.h"
+#include "store/files.h"
 
 namespace datastore {
 
 namespace fs = std::filesystem;
 
 namespace {
+
+/// What a start that was killed while it wrote a file of its own left behind.
+void clearUnfinished(const fs::path& programFolder) {
+    store::removeUnfinished(programFolder, [](const std::string& name) {
+        const std::string kind = base::lowerAscii(fs::path(name).extension().string());
+        return base::sameName(name, "DataPath.txt") || kind == ".mdb" || kind == ".rpt" || kind == ".md";
+    });
+}
 
 bool isMissing(const fs::path& path) {
     try {
@@ -22,12 +33,30 @@ bool isMissing(const fs::path& path) {
     }
 }
 
+/// The way out for whoever has no folder of that name: the start ends, so the path can only be mended by hand.
+std::string wayToThePath(const Paths& paths) {
+    std::string advice = "Check that the disk or network share with the folder {folder} is connected, and that "
+                         "DataPath.txt in the folder " +
+                         paths.programFolder.string() + " names the right file, then start again.";
+    const fs::path own = store::existingSpelling(paths.programFolder / "Data.Mdb");
+    std::error_code ignored;
+    if (fs::exists(own, ignored))
+        advice += " That folder has a client file of its own, " + own.string() +
+                  "; to work with that one delete DataPath.txt.";
+    return advice;
+}
+
 /// Creates the client database if there is none. A missing folder is an error instead: an empty database in place of
 /// an unmounted share would look as if all clients were lost.
-void provideClientDb(const fs::path& path, const Notice& notice) {
+void provideClientDb(const Paths& paths, const Notice& notice) {
+    const fs::path& path = paths.DataDbPath;
     std::error_code ignored;
-    if (fs::exists(path, ignored) || !isMissing(path)) return;
-    if (!createClientDb(path, notice)) const store::Database stillMissing(path); // throws
+    try {
+        if (!fs::exists(path, ignored) && isMissing(path)) createClientDb(path, notice);
+    } catch (const store::Error& error) {
+        if (!error.is(store::Number::badPath)) throw;
+        throw store::Error(error.kind(), error.file(), error.why(), wayToThePath(paths));
+    }
 }
 
 assessment::FundDefaults fundsFrom(const SettingsRow& row) {
@@ -61,12 +90,17 @@ assessment::FundDefaults readFunds(store::Database& settings) {
 } // namespace
 
 StartUpResult startUp(const fs::path& programFolder, assessment::Assessment& record, const Notice& notice) {
-    StartUpResult result{findPaths(programFolder)};
-    provideClientDb(result.paths.DataDbPath, notice);
+    clearUnfinished(programFolder);
+    StartUpResult result;
+    result.paths = findPaths(programFolder);
+    result.notice = copiedFolderNotice(result.paths);
+    provideClientDb(result.paths, notice);
     // One connection a file: reading the definitions of its tables is most of the work of a start on it.
     store::Database clients(result.paths.DataDbPath);
+    renewPrintDb(clients, result.paths.PrintDbPath);
     result.UpDateDBValue = bringUpToDate(clients, result.paths);
     store::Database settings(result.paths.DefaultDbPath);
+    completeSettings(settings);
     ResetAssessment(record, settings, clients);
     record.funds = readFunds(settings);
     return result;

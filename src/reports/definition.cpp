@@ -38,6 +38,7 @@ public:
     /// The file's nodes; a piece need have no single root, so one is put around whatever there is.
     Node read() {
         const QByteArray bytes = QByteArray::fromStdString(store::readFile(m_file));
+        if (bytes.trimmed().isEmpty()) failAt(m_name, 1, "The definition is empty.");
         m_xml.addData("<piece>" + bytes + "</piece>");
         Node root = node(Node::Kind::element, "piece");
         m_open = {&root};

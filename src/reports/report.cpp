@@ -3,6 +3,7 @@
 #include <QPrinter>
 #include <algorithm>
 
+#include "datastore/paths.h"
 #include "reports/definition.h"
 #include "reports/export.h"
 #include "reports/previewwindow.h"
@@ -44,7 +45,7 @@ bool Engine::run(const QString& definition, const QString& title, Destination de
 
 std::shared_ptr<const Report> Engine::prepare(const QString& definition, const QString& title) const {
     const Definition read = readDefinition(named(m_programFolder, definition));
-    const std::filesystem::path printDatabase = named(m_programFolder, "Print.mdb");
+    const std::filesystem::path printDatabase = datastore::printDbPath(m_programFolder);
     auto report = std::make_shared<Report>();
     report->content =
         fill(read, Snapshot(printDatabase, tablesOf(read)), QString::fromStdString(printDatabase.string()));

@@ -61,15 +61,18 @@ bool Program::MDIForm_Load() {
     const auto notice = [this](const std::string& title, const std::string& text) {
         m_desk.tell(BoxStyle::critical, QString::fromStdString(text), QString::fromStdString(title));
     };
+    datastore::StartUpResult result;
     const bool started = screenkit::guarded(m_desk, QObject::tr("start"), [&] {
         datastore::seedProgramFolder(std::filesystem::read_symlink("/proc/self/exe"), m_programFolder);
-        m_paths = datastore::startUp(m_programFolder, m_record, notice).paths;
+        result = datastore::startUp(m_programFolder, m_record, notice);
+        m_paths = result.paths;
     });
     if (!started) {
         m_window->exitWithoutAsking();
         return false;
     }
     checkArithmetic();
+    if (!result.notice.empty()) m_desk.tell(BoxStyle::warning, QString::fromStdString(result.notice), "Marlowbeck");
     return true;
 }
 
@@ -84,7 +87,9 @@ void Program::showWindow() {
 
 void Program::checkArithmetic() {
     assessment::Inflation& inflation = m_record.inflation;
-    inflation = {10000, 10, 10};
+    inflation.PresCostInflation = 10000;
+    inflation.PeriodInflation = 10;
+    inflation.IntRateInflation = 10;
     const auto results = calculators::LTLINFL(inflation);
     m_record.changed.InflationChanged = 0;
     inflation = {};

@@ -196,6 +196,10 @@ Database::Database(const fs::path& path) : m_path(existingSpelling(path)) {
         throw Error(Number::corrupt, m_path.string());
 }
 
+Database::Database(InMemory) : m_connection(connect(":memory:", SQLite::OPEN_READWRITE)) {
+    configure(m_connection->getHandle());
+}
+
 Database::~Database() = default;
 
 void Database::create(const fs::path& path) {

@@ -53,6 +53,9 @@ struct Column {
     Declared declared;
 };
 
+/// Asks for a database that lies in memory alone and is gone with its object.
+struct InMemory {};
+
 /// One connection to one database file, open for one operation only and closed with the object. Statements and
 /// transactions must go before it. The file's name is matched without case.
 ///
@@ -62,6 +65,7 @@ struct Column {
 class Database {
 public:
     explicit Database(const std::filesystem::path& path);
+    explicit Database(InMemory);
     ~Database();
     Database(const Database&) = delete;
     Database& operator=(const Database&) = delete;

@@ -5,9 +5,12 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cctype>
 #include <cerrno>
+#include <cstring>
 #include <optional>
 #include <system_error>
+#include <vector>
 
 #include "base/text.h"
 #include "store/error.h"
@@ -60,11 +63,13 @@ private:
     int m_handle;
 };
 
+constexpr const char* temporaryEnding = ".XXXXXX"; // each X becomes a letter or a digit
+
 /// The file beside: gone with its scope unless it has taken the place of the real one.
 class TemporaryFile {
 public:
     explicit TemporaryFile(const fs::path& target)
-        : m_name((target.parent_path() / ("." + target.filename().string() + ".XXXXXX")).string()),
+        : m_name((target.parent_path() / ("." + target.filename().string() + temporaryEnding)).string()),
           m_handle(::mkostemp(m_name.data(), O_CLOEXEC)), m_target(target) {
         if (!m_handle.ok()) fail(target, errno == ENOENT ? ENOTDIR : errno);
     }
@@ -111,6 +116,28 @@ fs::path targetOf(const fs::path& path) {
     if (!fs::is_symlink(spelled, ignored)) return spelled;
     fs::path end = fs::weakly_canonical(spelled, ignored);
     return end.empty() ? spelled : end;
+}
+
+void removeJournals(const fs::path& database) {
+    std::error_code ignored;
+    for (const char* ending : {"-journal", "-wal", "-shm"})
+        fs::remove(database.string() + ending, ignored);
+}
+
+void removeWithJournals(const fs::path& database) {
+    std::error_code ignored;
+    fs::remove(database, ignored);
+    removeJournals(database);
+}
+
+/// The name of the file that a temporary one was to become; nothing if that is none of ours by its look.
+std::optional<std::string> unfinishedName(const std::string& temporary) {
+    const std::size_t ending = std::strlen(temporaryEnding);
+    if (!temporary.starts_with('.') || temporary.size() < ending + 2) return {};
+    const std::string tail = temporary.substr(temporary.size() - ending);
+    const auto isLetter = [](unsigned char c) { return std::isalnum(c) != 0; };
+    if (tail[0] != '.' || !std::all_of(tail.begin() + 1, tail.end(), isLetter)) return {};
+    return temporary.substr(1, temporary.size() - 1 - ending);
 }
 
 } // namespace
@@ -162,6 +189,40 @@ void writeFile(const fs::path& path, std::string_view bytes, unsigned mode) {
     beside.fill(bytes, mode);
     beside.takePlace();
     flushFolder(folderOf(target));
+}
+
+FileBeside::FileBeside(const fs::path& target)
+    : m_target(targetOf(target)), m_path(m_target.parent_path() / ("." + m_target.filename().string() + ".new")) {
+    removeWithJournals(m_path);
+}
+
+FileBeside::~FileBeside() {
+    if (!m_kept) removeWithJournals(m_path);
+}
+
+void FileBeside::settle() {
+    moveIntoPlace(m_path, m_target);
+    m_kept = true;
+}
+
+void FileBeside::replace() {
+    removeJournals(m_target);
+    if (::rename(m_path.c_str(), m_target.c_str()) != 0) fail(m_target, errno);
+    m_kept = true;
+    flushFolder(folderOf(m_target));
+}
+
+void removeUnfinished(const fs::path& folder, const std::function<bool(const std::string& name)>& isOurs) {
+    std::error_code ignored;
+    std::vector<fs::path> found;
+    fs::directory_iterator entry(folder, ignored);
+    for (; !ignored && entry != fs::directory_iterator(); entry.increment(ignored)) {
+        const auto name = unfinishedName(entry->path().filename().string());
+        if (name && isOurs(*name) && entry->symlink_status(ignored).type() == fs::file_type::regular)
+            found.push_back(entry->path());
+    }
+    for (const fs::path& file : found)
+        fs::remove(file, ignored);
 }
 
 void moveIntoPlace(const fs::path& from, const fs::path& to) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -21,6 +22,32 @@ std::string readFile(const std::filesystem::path& path);
 /// keeps its spelling, a link stays a link. Readable by the owner alone unless `mode` says otherwise. Throws Error 57,
 /// 61, 70, 75 or 76 and leaves the old file as it was.
 void writeFile(const std::filesystem::path& path, std::string_view bytes, unsigned mode = 0600);
+
+/// A file that is built beside its place, as `.NAME.new`, and gone with its scope unless it has taken that place. What
+/// a killed program left of an earlier attempt is removed first, its journals too.
+class FileBeside {
+public:
+    explicit FileBeside(const std::filesystem::path& target);
+    ~FileBeside();
+    FileBeside(const FileBeside&) = delete;
+    FileBeside& operator=(const FileBeside&) = delete;
+
+    const std::filesystem::path& path() const { return m_path; }
+    /// Takes a place that is free; Error 58 and nothing done if there is a file of that name by now.
+    void settle();
+    /// Takes the place of the file that is there, in one step; a journal of that file goes first, or the database that
+    /// takes its place would be spoilt by it.
+    void replace();
+
+private:
+    std::filesystem::path m_target;
+    std::filesystem::path m_path;
+    bool m_kept = false;
+};
+
+/// Removes what a killed `writeFile` has left in a folder of the files that are ours: `.NAME.` and six letters. Only
+/// for a folder in which no other program is writing just then. What can't be removed stays, without a word.
+void removeUnfinished(const std::filesystem::path& folder, const std::function<bool(const std::string& name)>& isOurs);
 
 /// Gives a finished new file its name and flushes the folder. Throws Error 58 and leaves both as they are if there is a
 /// file of that name by now.

@@ -11,6 +11,8 @@
 #include "assessment/tables.h"
 #include "datastore/create.h"
 #include "datastore/paths.h"
+#include "datastore/shipped.h"
+#include "datastore/upgrade.h"
 #include "store/store_support.h"
 
 namespace datastoretest {
@@ -41,24 +43,16 @@ class ProgramFolder : public storetest::Folder {
 public:
     ProgramFolder() {
         static const Template settings([](const fs::path& file) {
-            std::string fields;
-            std::string factory;
+            std::string rates;
             int number = 0;
-            for (const auto& line : assessment::mutualFundsTable().fields()) {
-                fields += (fields.empty() ? "" : ",") + store::bracketed(line.name);
-                factory += (factory.empty() ? "" : ",") + std::to_string(++number) + ".5";
-            }
+            for (const auto& line : assessment::mutualFundsTable().fields())
+                rates += (rates.empty() ? "" : ",") + line.name + "=" + std::to_string(++number) + ".5";
             store::Database::create(file);
-            std::string sql = "CREATE TABLE Setup(GRINC DOUBLE); INSERT INTO Setup VALUES(0.5);";
-            for (const std::string table : {"MutualFunds", "TallowenDefault"})
-                sql += "CREATE TABLE " + table + "(" + fields + "); INSERT INTO " + table + " VALUES(" + factory + ");";
-            runSql(file, sql);
+            runSql(file, std::string(datastore::defaultSource()) + "UPDATE MutualFunds SET " + rates);
         });
         static const Template print([](const fs::path& file) {
             store::Database::create(file);
-            runSql(file, "CREATE TABLE HeadFoot(HEADERV0 VARCHAR(80),HEADERV1 VARCHAR(80),HEADERV2 VARCHAR(80),"
-                         "HEADERV3 VARCHAR(80),footv0 VARCHAR(80),footv1 VARCHAR(80),footv2 VARCHAR(80),"
-                         "footv3 VARCHAR(80)); INSERT INTO HeadFoot(HEADERV0) VALUES('old')");
+            runSql(file, std::string(datastore::printSource()) + "UPDATE HeadFoot SET HEADERV0='old'");
         });
         storetest::put(path() / "Default.Mdb", settings.bytes);
         storetest::put(path() / "Print.mdb", print.bytes);
@@ -73,13 +67,14 @@ public:
     }
     void run(const std::string& name, const std::string& sql) const { runSql(path() / name, sql); }
     /// The client database with all tables and no client, as a start leaves it.
-    void makeClientDb(double version = 18) const {
+    void makeClientDb(double version = datastore::currentVersion) const {
         static const Template clients([](const fs::path& file) {
             datastore::createClientDb(file);
-            runSql(file, "UPDATE DataSetup SET UpDateDB=18");
+            runSql(file, "UPDATE DataSetup SET UpDateDB=" + std::to_string(datastore::currentVersion));
         });
         storetest::put(path() / "Data.Mdb", clients.bytes);
-        if (version != 18) run("Data.Mdb", "UPDATE DataSetup SET UpDateDB=" + std::to_string(version));
+        if (version != datastore::currentVersion)
+            run("Data.Mdb", "UPDATE DataSetup SET UpDateDB=" + std::to_string(version));
     }
 };
 
@@ -97,6 +92,9 @@ inline std::string cell(const fs::path& path, const std::string& sql) {
     }
     return std::get<std::string>(value);
 }
+
+/// The version of an up-to-date client database as `cell` shows it.
+inline const std::string current = std::to_string(static_cast<int>(datastore::currentVersion));
 
 /// Every table's definition and rows, so that two states of a file can be compared.
 inline std::string dump(const fs::path& path) {

@@ -15,10 +15,10 @@ TEST(StartUp, AFirstRunMakesTheClientDatabaseAndReadsTheSettings) {
     Assessment record;
     record.client.Name = "of an earlier life";
     const datastore::StartUpResult result = datastore::startUp(folder.path(), record);
-    EXPECT_EQ(result.UpDateDBValue, 18);
+    EXPECT_EQ(result.UpDateDBValue, datastore::currentVersion);
     EXPECT_EQ(result.paths.DataDbPath, folder / "Data.Mdb");
     EXPECT_EQ(storetest::bytesOf(folder / "DataPath.txt"), "\"" + (folder / "Data.Mdb").string() + "\"\r\n");
-    EXPECT_EQ(cell(folder / "Data.Mdb", "SELECT UpDateDB FROM DataSetup"), "18");
+    EXPECT_EQ(cell(folder / "Data.Mdb", "SELECT UpDateDB FROM DataSetup"), current);
     EXPECT_EQ(cell(folder / "Data.Mdb", "SELECT count(*)||footv0||footv1||footv2||HEADERV0 FROM HeadFoot"),
               "1This report was prepared in accordance with information supplied by the undersigned client.");
     EXPECT_EQ(modeOf(folder / "Data.Mdb"), 0600U);
@@ -79,13 +79,130 @@ TEST(StartUp, UsesTheFilesUnderTheirOwnSpelling) {
     EXPECT_FALSE(fs::exists(folder / "Data.Mdb"));
 }
 
+TEST(StartUp, AFolderOfANameThatDataPathCannotHoldIsRefusedBeforeAnythingIsWritten) {
+    for (const char* name : {"a \"b\"", "a\nb", "a\rb", "a\\b"}) {
+        const ProgramFolder shipped;
+        const fs::path folder = shipped / name / "program";
+        fs::create_directories(folder);
+        for (const char* file : {"Default.Mdb", "Print.mdb"})
+            fs::copy_file(shipped / file, folder / file);
+        Assessment record;
+        EXPECT_EQ(errorOf([&] { datastore::startUp(folder, record); }), 75) << name;
+        EXPECT_EQ(std::distance(fs::directory_iterator(folder), {}), 2) << name;
+        storetest::put(folder / "DataPath.txt", (shipped / "Mine.Mdb").string()); // needs no line of ours
+        EXPECT_EQ(datastore::startUp(folder, record).paths.DataDbPath, shipped / "Mine.Mdb") << name;
+    }
+}
+
+TEST(StartUp, ADataPathThatCannotBeReadEndsItRatherThanOpenAnEmptyDatabase) {
+    const struct {
+        const char* what;
+        std::function<void(const fs::path&)> make;
+        int error;
+    } cases[] = {
+        {"a folder", [](const fs::path& file) { fs::create_directory(file); }, 75},
+        {"not to be read",
+         [](const fs::path& file) {
+             storetest::put(file, "/remote/Data.Mdb");
+             fs::permissions(file, fs::perms::owner_write);
+         },
+         70},
+        {"a link to a disk that is away", [](const fs::path& file) { fs::create_symlink("/away/DataPath.txt", file); },
+         53},
+    };
+    for (const auto& [what, make, error] : cases) {
+        const ProgramFolder folder;
+        make(folder / "DataPath.txt");
+        const storetest::OrdinaryUser user(folder);
+        Assessment record;
+        EXPECT_EQ(errorOf([&] { datastore::startUp(folder.path(), record); }), error) << what;
+        EXPECT_FALSE(fs::exists(folder / "Data.Mdb")) << what;
+    }
+}
+
+TEST(StartUp, ACopiedFolderIsToldOfAndOpensWhatItsLineNames) {
+    const struct {
+        const char* what;
+        std::function<void(const fs::path& original, const fs::path& copy)> prepare;
+        bool isTold;
+    } cases[] = {
+        {"the folder itself", [](const fs::path&, const fs::path& copy) { fs::remove(copy / "DataPath.txt"); }, false},
+        {"a copy", [](const fs::path&, const fs::path&) {}, true},
+        {"a copy whose original has lost its clients",
+         [](const fs::path& original, const fs::path&) { fs::remove(original / "Data.Mdb"); }, true},
+        {"a copy without clients", [](const fs::path&, const fs::path& copy) { fs::remove(copy / "Data.Mdb"); }, false},
+        {"a line set by hand, an old file left behind",
+         [](const fs::path& original, const fs::path& copy) {
+             const fs::path share = original.parent_path() / "share";
+             fs::create_directory(share);
+             fs::copy_file(original / "Data.Mdb", share / "Data.Mdb");
+             storetest::put(copy / "DataPath.txt", (share / "Data.Mdb").string());
+         },
+         false},
+        {"a copy of a folder whose clients lie on a share",
+         [](const fs::path& original, const fs::path& copy) {
+             const fs::path share = original.parent_path() / "share";
+             fs::create_directory(share);
+             fs::copy_file(original / "Data.Mdb", share / "Data.Mdb");
+             datastore::writeDataPath(original, share / "Data.Mdb");
+             fs::copy_file(original / "DataPath.txt", copy / "DataPath.txt", fs::copy_options::overwrite_existing);
+         },
+         true},
+        {"the same file through a link",
+         [](const fs::path& original, const fs::path& copy) {
+             fs::remove(copy / "Data.Mdb");
+             fs::create_symlink(original / "Data.Mdb", copy / "Data.Mdb");
+         },
+         false},
+    };
+    for (const auto& [what, prepare, isTold] : cases) {
+        const ProgramFolder shipped;
+        const fs::path original = shipped / "program";
+        const fs::path copy = shipped / "copy";
+        fs::create_directory(original);
+        for (const char* file : {"Default.Mdb", "Print.mdb"})
+            fs::copy_file(shipped / file, original / file);
+        Assessment record;
+        EXPECT_EQ(datastore::startUp(original, record).notice, "") << what;
+        fs::copy(original, copy, fs::copy_options::recursive);
+        prepare(original, copy);
+        const std::string line = storetest::bytesOf(copy / "DataPath.txt");
+        const datastore::StartUpResult result = datastore::startUp(copy, record);
+        EXPECT_EQ(!result.notice.empty(), isTold) << what << "\n" << result.notice;
+        if (!isTold) continue;
+        EXPECT_EQ(result.paths.DataDbPath.string(), datastore::parseDataPath(line)) << what;
+        EXPECT_EQ(storetest::bytesOf(copy / "DataPath.txt"), line) << what;
+        for (const fs::path& file : {result.paths.DataDbPath, copy / "Data.Mdb"})
+            EXPECT_NE(result.notice.find(file.string()), std::string::npos) << what;
+        fs::remove(copy / "DataPath.txt"); // as the notice says
+        EXPECT_EQ(datastore::startUp(copy, record).paths.DataDbPath, copy / "Data.Mdb") << what;
+    }
+}
+
+TEST(StartUp, ClearsWhatAKilledStartLeftAndNothingElse) {
+    const ProgramFolder folder;
+    const char* left[] = {".DataPath.txt.aZ09bc", ".Default.Mdb.000000", ".guide.md.abcdef", ".Lonrepa.rpt.QQQQQQ"};
+    const char* others[] = {".DataPath.txt.abcde", ".DataPath.txt.abc-ef", "DataPath.txt.abcdef", ".notes.abcdef",
+                            ".bashrc"};
+    for (const char* name : left)
+        storetest::put(folder / name, "x");
+    for (const char* name : others)
+        storetest::put(folder / name, "x");
+    Assessment record;
+    datastore::startUp(folder.path(), record);
+    for (const char* name : left)
+        EXPECT_FALSE(fs::exists(folder / name)) << name;
+    for (const char* name : others)
+        EXPECT_TRUE(fs::exists(folder / name)) << name;
+}
+
 TEST(StartUp, CreatesWhatIsMissingButNeverInAMissingFolder) {
     const ProgramFolder folder;
     Assessment record;
     fs::create_directory(folder / "Elsewhere");
     storetest::put(folder / "DataPath.txt", "\"" + (folder / "Elsewhere/Mine.Mdb").string() + "\"\r\n");
     datastore::startUp(folder.path(), record);
-    EXPECT_EQ(cell(folder / "Elsewhere/Mine.Mdb", "SELECT UpDateDB FROM DataSetup"), "18");
+    EXPECT_EQ(cell(folder / "Elsewhere/Mine.Mdb", "SELECT UpDateDB FROM DataSetup"), current);
     for (const std::string& path :
          {"\"" + (folder / "gone/Data.Mdb").string() + "\"", std::string("C:\\Data\\Data.Mdb")}) {
         storetest::put(folder / "DataPath.txt", path);
@@ -107,7 +224,7 @@ TEST(StartUp, AFolderThatMayNotBeWrittenIsToldAndEndsTheStart) {
                   datastore::startUp(folder.path(), record,
                                      [&](const std::string&, const std::string& text) { told += text; });
               }),
-              3024);
+              3051);
     EXPECT_EQ(told, "Cannot Update " + (folder / "Data.Mdb").string() + " at this stage.Please try again later");
     EXPECT_FALSE(fs::exists(folder / "DataPath.txt"));
 }
@@ -117,14 +234,10 @@ TEST(StartUp, NeedsTheSettingsAndMustBeAbleToWriteThem) {
         const char* spoil;
         int error;
     } cases[] = {{"DELETE FROM Setup", 3021},
-                 {"DROP TABLE Setup", 3011},
-                 {"ALTER TABLE Setup RENAME GRINC TO Other", 3265},
                  {"DELETE FROM MutualFunds", 3021},
                  {"UPDATE MutualFunds SET UTDiv=NULL", 94},
-                 {"ALTER TABLE TallowenDefault DROP COLUMN UTDiv", 3265},
-                 {"ALTER TABLE MutualFunds RENAME UTDiv TO Other", 3265},
-                 {"DELETE FROM TallowenDefault", 3021},
-                 {"DROP TABLE TallowenDefault", 3011}};
+                 {"UPDATE MutualFunds SET UTDiv='three'", 3421},
+                 {"DELETE FROM TallowenDefault", 3021}};
     for (const auto& [spoil, error] : cases) {
         const ProgramFolder folder;
         folder.makeClientDb();
@@ -163,21 +276,29 @@ TEST(StartUp, WorksOnTheDatabasesThatAreShipped) {
     for (const char* name : {"Default.Mdb", "Print.mdb"})
         storetest::put(folder / name, storetest::bytesOf(fs::path(MARLOWBECK_PROGRAM_DIR) / name));
     Assessment record;
-    EXPECT_EQ(datastore::startUp(folder.path(), record).UpDateDBValue, 18);
+    EXPECT_EQ(datastore::startUp(folder.path(), record).UpDateDBValue, datastore::currentVersion);
     EXPECT_EQ(record.GRINC, 0.5);
     EXPECT_GT(record.funds.AllocationPer, 0);
     EXPECT_EQ(cell(folder / "Print.mdb", "SELECT footv1 FROM HeadFoot"),
               "information supplied by the undersigned client.");
 }
 
+calculators::InflationResult carried(double cost, int years, double rate) {
+    assessment::Inflation inflation;
+    inflation.PresCostInflation = cost;
+    inflation.PeriodInflation = static_cast<std::int16_t>(years);
+    inflation.IntRateInflation = rate;
+    return calculators::LTLINFL(inflation);
+}
+
 TEST(Inflation, CarriesACostAndItsBuyingPowerYearByYear) {
-    const auto check = calculators::LTLINFL({10000, 10, 10}); // the figures by which a start checks the arithmetic
+    const auto check = carried(10000, 10, 10); // the figures by which a start checks the arithmetic
     EXPECT_EQ(std::nearbyint(check.futureValue), 25937);
     EXPECT_EQ(std::nearbyint(check.buyingPower), 3855);
     EXPECT_NEAR(check.futureValue * check.buyingPower, 1e8, 1e-4); // what a cost grows by, money shrinks by
     for (const int years : {0, 1, 40})
-        EXPECT_EQ(calculators::LTLINFL({100, static_cast<std::int16_t>(years), 0}).futureValue, 100);
-    const auto falling = calculators::LTLINFL({100, 1, -5});
+        EXPECT_EQ(carried(100, years, 0).futureValue, 100);
+    const auto falling = carried(100, 1, -5);
     EXPECT_DOUBLE_EQ(falling.futureValue, 95);
     EXPECT_DOUBLE_EQ(falling.buyingPower, 100 + 5 * 100 / 95.0);
 }

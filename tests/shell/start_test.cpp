@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 
+#include "reports/report.h"
 #include "shell/instance.h"
 
 namespace {
@@ -94,6 +95,57 @@ TEST(Start, EndsWithABoxThatNamesTheFileAndTheError) {
         }
         EXPECT_FALSE(fs::exists(run.folder / "share"));
     }
+}
+
+void eachTable(const fs::path& file, const std::function<void(store::Database&, const std::string& table)>& action) {
+    store::Database database(file);
+    std::vector<std::string> names;
+    store::Statement tables = database.prepare("SELECT name FROM sqlite_master WHERE type='table'");
+    while (tables.step())
+        names.push_back(tables.text(0));
+    for (const std::string& name : names)
+        action(database, name);
+}
+
+TEST(Start, YesterdaysProgramFolderRunsEveryReportOfToday) {
+    RunningProgram run(false);
+    for (const char* file : {"Print.mdb", "Default.Mdb"})
+        eachTable(run.folder / file, [](store::Database& database, const std::string& table) {
+            const auto columns = database.columns(table);
+            if (columns.size() > 1)
+                database.execute("ALTER TABLE [" + table + "] DROP COLUMN [" + columns[columns.size() / 2].name + "]");
+        });
+    ASSERT_TRUE(run.start());
+    eachTable(run.folder / "Print.mdb", [](store::Database& database, const std::string& table) {
+        database.execute("INSERT INTO [" + table + "] DEFAULT VALUES");
+    });
+    int reports = 0;
+    for (const auto& entry : fs::directory_iterator(run.folder.path())) {
+        if (entry.path().extension() != ".rpt") continue;
+        const std::string definition = storetest::bytesOf(entry.path());
+        if (definition.find("<html") == std::string::npos) continue; // a piece of others
+        EXPECT_NO_THROW(run.program.reports().pdf(QString::fromStdString(entry.path().filename().string()), {}))
+            << entry.path();
+        ++reports;
+    }
+    EXPECT_GT(reports, 10);
+    run.menu("mnuPAYE"); // and the settings are whole
+    EXPECT_TRUE(run.isOpen("frmMonthly"));
+}
+
+TEST(Start, ACopyOfTheProgramFolderSaysWhoseClientsItOpens) {
+    const shelltest::ProgramFolder original;
+    RunningProgram copy(false);
+    {
+        RunningProgram earlier;
+        for (const auto& file : {original / "Data.Mdb", copy.folder / "Data.Mdb"})
+            fs::copy_file(earlier.folder / "Data.Mdb", file);
+    }
+    storetest::put(copy.folder / "DataPath.txt", "\"" + (original / "Data.Mdb").string() + "\"\r\n");
+    copy.desk.expect(screenkit::Answer::ok);
+    EXPECT_TRUE(copy.start());
+    for (const auto& file : {original / "Data.Mdb", copy.folder / "Data.Mdb"})
+        EXPECT_TRUE(copy.desk.last().text.contains(QString::fromStdString(file.string())));
 }
 
 TEST(Start, AClientFileLockedByAnotherProgramIsNamedAndLeftAlone) {

@@ -57,7 +57,7 @@ public:
 
 private:
     static void give(const fs::path& path, uid_t user) {
-        EXPECT_EQ(::chown(path.c_str(), user, static_cast<gid_t>(-1)), 0);
+        EXPECT_EQ(::lchown(path.c_str(), user, static_cast<gid_t>(-1)), 0);
     }
     uid_t m_was;
 };
