@@ -1,10 +1,12 @@
 #include "base/day.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <chrono>
 #include <cmath>
 #include <cstdio>
+#include <vector>
 
 #include "base/text.h"
 
@@ -22,6 +24,35 @@ std::optional<int> wholeNumber(std::string_view digits) {
     const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
     if (error != std::errc{} || end != digits.data() + digits.size() || number < 0) return std::nullopt;
     return number;
+}
+
+/// The groups of digits that one separator parts, blanks around it or not; nothing if anything else stands there.
+std::optional<std::vector<std::string_view>> digitGroups(std::string_view text) {
+    constexpr std::string_view digits = "0123456789";
+    std::vector<std::string_view> groups;
+    while (true) {
+        const auto end = std::min(text.find_first_not_of(digits), text.size());
+        if (end == 0) return std::nullopt;
+        groups.push_back(text.substr(0, end));
+        text.remove_prefix(end);
+        if (text.empty()) return groups;
+        const auto next = std::min(text.find_first_of(digits), text.size());
+        const std::string separator = trim(text.substr(0, next));
+        if (separator.size() > 1 || std::string_view("/-.").find(separator) == std::string_view::npos)
+            return std::nullopt;
+        text.remove_prefix(next);
+    }
+}
+
+std::optional<double> dateOf(std::string_view year, std::string_view month, std::string_view day) {
+    constexpr int firstYearOfThe1900s = 30; // of two digits
+    auto number = wholeNumber(year);
+    if (!number || month.size() > 2 || day.size() > 2) return std::nullopt;
+    if (year.size() == 2)
+        *number += *number >= firstYearOfThe1900s ? 1900 : 2000;
+    else if (year.size() != 4)
+        return std::nullopt;
+    return dayNumber(*number, wholeNumber(month).value_or(0), wholeNumber(day).value_or(0));
 }
 } // namespace
 
@@ -53,22 +84,18 @@ std::string reportDate(double dayNumber) {
     return dayNumber > lastUnprintedDay ? formatDate(dayNumber) : std::string(" ");
 }
 
-std::optional<double> parseDate(std::string_view typed) {
+std::optional<double> parseDate(std::string_view typed, std::optional<int> thisYear) {
     const std::string text = trim(typed);
-    const auto first = text.find_first_of("/-.");
-    if (first == std::string::npos) return std::nullopt;
-    const auto second = text.find_first_of("/-.", first + 1);
-    if (second == std::string::npos) return std::nullopt;
-    const auto day = wholeNumber(std::string_view(text).substr(0, first));
-    const auto month = wholeNumber(std::string_view(text).substr(first + 1, second - first - 1));
-    const std::string_view yearDigits = std::string_view(text).substr(second + 1);
-    auto year = wholeNumber(yearDigits);
-    if (!day || !month || !year || *day > 31 || *month > 12) return std::nullopt;
-    if (yearDigits.size() == 2)
-        *year += *year >= 30 ? 1900 : 2000;
-    else if (yearDigits.size() != 4)
-        return std::nullopt;
-    return dayNumber(*year, *month, *day);
+    const auto parts = digitGroups(text);
+    if (!parts) return std::nullopt;
+    const auto& group = *parts;
+    constexpr std::size_t dayAndMonth = 4; // digits
+    if (group.size() == 1 && (group[0].size() == dayAndMonth + 2 || group[0].size() == dayAndMonth + 4))
+        return dateOf(group[0].substr(dayAndMonth), group[0].substr(2, 2), group[0].substr(0, 2));
+    if (group.size() == 2 && thisYear) return dateOf(std::to_string(*thisYear), group[1], group[0]);
+    if (group.size() != 3) return std::nullopt;
+    const bool yearFirst = group[0].size() == 4;
+    return yearFirst ? dateOf(group[0], group[1], group[2]) : dateOf(group[2], group[1], group[0]);
 }
 
 } // namespace base

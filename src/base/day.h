@@ -34,8 +34,12 @@ constexpr bool isShownOnScreen(double dayNumber) { return dayNumber > blankDate;
 /// dd/mm/yyyy as reports print it; one blank where there is no date. The limit lies a day above the screens' own.
 std::string reportDate(double dayNumber);
 
-/// A date as typed: d/m/yyyy, with `-` or `.` for `/`, a two-digit year 30-99 meaning 19xx and 00-29 20xx.
-/// Day and month are never swapped. Nothing if it is no date.
-std::optional<double> parseDate(std::string_view typed);
+/// A date as typed: d/m/yyyy with `/`, `-`, `.` or a blank between, ddmmyyyy, ddmmyy, or yyyy-mm-dd with the year
+/// first.
+///
+/// Day and month are never swapped. Of two digits 30 to 99 are a year 19xx and 00 to 29 one 20xx: clients' dates of
+/// birth lie as far back as policies and reviews lie ahead. A day and month alone are of `thisYear`; without it they
+/// are no date. Nothing if the text is none.
+std::optional<double> parseDate(std::string_view typed, std::optional<int> thisYear = {});
 
 } // namespace base

@@ -15,13 +15,23 @@ TEST(Day, NumbersCountFromTheEndOf1899) {
 }
 
 TEST(Day, ReadsADateAsTyped) {
-    EXPECT_EQ(base::parseDate("1/3/2026"), 46082);
-    EXPECT_EQ(base::parseDate(" 01-03-26 "), 46082);
-    EXPECT_EQ(base::parseDate("1.3.2026"), 46082);
-    EXPECT_EQ(base::formatDate(*base::parseDate("5/6/30")), "05/06/1930");
-    EXPECT_EQ(base::formatDate(*base::parseDate("5/6/29")), "05/06/2029");
-    for (const char* wrong : {"", "13/13/2026", "3/2026", "2026/03/01", "1/2/203", "31/4/2026", "a/b/c", "1/3/26/"})
-        EXPECT_FALSE(base::parseDate(wrong)) << wrong; // day and month are never swapped to make sense of it
+    const struct {
+        const char *typed, *meant;
+    } cases[] = {{"1/3/2026", "01/03/2026"},    {" 01-03-26 ", "01/03/2026"}, {"1.3.2026", "01/03/2026"},
+                 {"28021966", "28/02/1966"},    {"280266", "28/02/1966"},     {"28 2 1966", "28/02/1966"},
+                 {"28 / 2 - 66", "28/02/1966"}, {"1966-02-28", "28/02/1966"}, {"1966/2/28", "28/02/1966"},
+                 {"28/2", "28/02/2026"},        {"28 2", "28/02/2026"},       {"5/6/30", "05/06/1930"},
+                 {"5/6/29", "05/06/2029"},      {"290224", "29/02/2024"}};
+    for (const auto& c : cases) {
+        const auto day = base::parseDate(c.typed, 2026);
+        ASSERT_TRUE(day) << c.typed;
+        EXPECT_EQ(base::formatDate(*day), c.meant) << c.typed;
+    }
+    EXPECT_FALSE(base::parseDate("28/2")) << "no year";
+    for (const char* wrong :
+         {"", "13/13/2026", "3/2026", "2026/31/01", "1/2/203", "31/4/2026", "a/b/c", "1/3/26/", "29/2", "/1/3", "1//3",
+          "2802", "2802196", "19660228", "28021966/", "1/3/026", "001/3/26", "28 2 1966 1"})
+        EXPECT_FALSE(base::parseDate(wrong, 2026)) << wrong; // day and month are never swapped to make sense of it
 }
 
 TEST(Day, ReportsAndScreensDrawTheLineOfNoDateADayApart) {
