@@ -5,10 +5,10 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <algorithm>
 
 #include "base/numberformat.h"
 #include "screenkit/look.h"
+#include "screenkit/tabletext.h"
 
 namespace screenkit {
 
@@ -90,16 +90,7 @@ void Grid::keyPressEvent(QKeyEvent* event) {
 }
 
 void Grid::copySelection() const {
-    QStringList lines;
-    auto rows = selectionModel()->selectedRows();
-    std::sort(rows.begin(), rows.end()); // they come in the order in which they were picked
-    for (const QModelIndex& row : rows) {
-        QStringList cells;
-        for (int column = 0; column < model()->columnCount(); ++column)
-            cells << row.siblingAtColumn(column).data().toString();
-        lines << cells.join('\t');
-    }
-    QGuiApplication::clipboard()->setText(lines.join('\n'));
+    if (selectionModel()->hasSelection()) QGuiApplication::clipboard()->setText(tableText(selectedIndexes()));
 }
 
 } // namespace screenkit

@@ -12,7 +12,8 @@ struct GridColumn {
     std::string mask;
 };
 
-/// A read-only table of numbers, walked by the arrow keys; Ctrl+C copies the selected rows, tabs between columns.
+/// A read-only table of numbers, walked by the arrow keys; Ctrl+C copies the selected rows below
+/// their heads, as `tableText` tells.
 class Grid : public QTableView {
     Q_OBJECT
 public:

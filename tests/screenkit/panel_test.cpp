@@ -121,14 +121,14 @@ TEST_F(PanelTest, theGridIsWalkedByKeysAndItsRowsAreCopiedFromTheTop) {
     key(Qt::Key_Down);
     key(Qt::Key_Up, Qt::ShiftModifier); // picked upwards
     key(Qt::Key_C, Qt::ControlModifier);
-    EXPECT_EQ(QApplication::clipboard()->text(), "2\t2 000.12\n3\t-3.00");
+    EXPECT_EQ(QApplication::clipboard()->text(), "Year\tBalance\n2\t2 000.12\n3\t-3.00");
     key(Qt::Key_Up, Qt::ControlModifier); // the first row, picked last
     key(Qt::Key_Space, Qt::ControlModifier);
     key(Qt::Key_C, Qt::ControlModifier);
-    EXPECT_EQ(QApplication::clipboard()->text(), "1\t1 000.50\n2\t2 000.12\n3\t-3.00");
+    EXPECT_EQ(QApplication::clipboard()->text(), "Year\tBalance\n1\t1 000.50\n2\t2 000.12\n3\t-3.00");
     key(Qt::Key_A, Qt::ControlModifier);
     key(Qt::Key_C, Qt::ControlModifier);
-    EXPECT_EQ(QApplication::clipboard()->text(), "1\t1 000.50\n2\t2 000.12\n3\t-3.00");
+    EXPECT_EQ(QApplication::clipboard()->text(), "Year\tBalance\n1\t1 000.50\n2\t2 000.12\n3\t-3.00");
 
     key(Qt::Key_Tab);
     EXPECT_EQ(focus(), "cmdGridClose") << "Tab leaves the table";
