@@ -1,5 +1,6 @@
 #include "screenkit/textfield.h"
 
+#include <QMimeData>
 #include <QScopedValueRollback>
 #include <QValidator>
 #include <QWheelEvent>
@@ -109,6 +110,11 @@ void MemoField::cutToRoom() {
     cut.setPosition(end, QTextCursor::KeepAnchor);
     cut.removeSelectedText();
     cut.endEditBlock();
+}
+
+void MemoField::insertFromMimeData(const QMimeData* source) {
+    // The toolkit reads the first of the formats, and there is none once the program that was copied from has closed.
+    if (source != nullptr && source->hasText()) QPlainTextEdit::insertFromMimeData(source);
 }
 
 void MemoField::takeFocus() { setFocus(Qt::OtherFocusReason); }

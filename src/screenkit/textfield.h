@@ -47,6 +47,7 @@ public:
 
 protected:
     void wheelEvent(QWheelEvent* event) override;
+    void insertFromMimeData(const QMimeData* source) override;
 
 private:
     void typed();

@@ -1,3 +1,4 @@
+#include <QMimeData>
 #include <QPlainTextEdit>
 
 #include "base/text.h"
@@ -88,6 +89,20 @@ TEST_F(KitTest, notesTakeTheirCharactersAndNoMore) {
     key(Qt::Key_Tab);
     EXPECT_EQ(focus().substr(0, 7), "optMode");
     EXPECT_EQ(changed(), 1);
+}
+
+TEST_F(KitTest, notesStandAnEmptyClipboard) {
+    go("txtNotes");
+    type("kept");
+    for (auto* source : {new QMimeData, static_cast<QMimeData*>(nullptr)}) {
+        QApplication::clipboard()->setMimeData(source); // the program that was copied from has closed
+        key(Qt::Key_V, Qt::ControlModifier);
+        key(Qt::Key_Insert, Qt::ShiftModifier);
+    }
+    QMimeData nothing; // as of a wheel press or a drop
+    QDropEvent drop({5, 5}, Qt::CopyAction, &nothing, Qt::LeftButton, {});
+    QApplication::sendEvent(get<QPlainTextEdit>("txtNotes")->viewport(), &drop);
+    EXPECT_EQ(places.notes, "kept");
 }
 
 TEST_F(KitTest, longerNotesFromTheFileAreKeptWhole) {
