@@ -7,7 +7,7 @@
 #include <cmath>
 
 #include "assessment/tables.h"
-#include "base/numberformat.h"
+#include "base/amount.h"
 #include "screenkit/screen.h"
 #include "tour/journal.h"
 
@@ -45,7 +45,7 @@ void keepRows(Figures& stored, const assessment::FieldTable<Row>& table, std::ve
 } // namespace
 
 double cellOf(const QAbstractItemModel* table, int row, int column) {
-    return base::parseNumber(table->index(row, column).data().toString().toStdString()).value_or(NAN);
+    return base::readAmount(table->index(row, column).data().toString().toStdString(), 2).figure.value_or(NAN);
 }
 
 Figures shownOn(const screenkit::Screen* screen) {

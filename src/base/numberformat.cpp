@@ -2,12 +2,10 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <cmath>
 #include <cstdio>
 
 #include "base/rounding.h"
-#include "base/text.h"
 
 namespace base {
 
@@ -50,12 +48,16 @@ std::string groupedInThrees(const std::string& digits) {
     return grouped;
 }
 
+int shownPlaces(const Mask& mask) { return static_cast<int>(std::min<std::size_t>(mask.places, 15)); }
+
 } // namespace
+
+int placesOf(std::string_view mask) { return shownPlaces(readMask(mask)); }
 
 std::string formatNumber(double value, std::string_view maskText) {
     if (!std::isfinite(value)) return {};
     const Mask mask = readMask(maskText);
-    const double rounded = roundHalfEven(value, static_cast<int>(std::min<std::size_t>(mask.places, 15)));
+    const double rounded = roundHalfEven(value, shownPlaces(mask));
     std::array<char, 400> buffer{}; // the largest double has 309 digits before the point
     std::snprintf(buffer.data(), buffer.size(), "%.*f", static_cast<int>(mask.places), std::fabs(rounded));
     const std::string digits = buffer.data();
@@ -71,37 +73,6 @@ std::string formatNumber(double value, std::string_view maskText) {
     if (mask.point && !(places.empty() && mask.forcedPlaces == 0)) number += "." + places;
     if (number.empty()) return {};
     return std::string(mask.before) + number + std::string(mask.after);
-}
-
-std::optional<double> parseNumber(std::string_view typed) {
-    std::string plain;
-    for (std::size_t i = 0; i < typed.size(); ++i) {
-        const char c = typed[i];
-        if (c == ' ' || c == '\t') continue;
-        if (typed.substr(i, 2) == "\u00A0") {
-            ++i;
-            continue;
-        }
-        if (typed.substr(i, 3) == "\u202F") {
-            i += 2;
-            continue;
-        }
-        const bool sign = (c == '-' || c == '+') && plain.empty();
-        if (!sign && c != '.' && c != ',' && (c < '0' || c > '9')) return std::nullopt;
-        plain += c == ',' ? '.' : c;
-    }
-    if (!plain.empty() && plain.front() == '+') plain.erase(0, 1);
-    double number = 0;
-    const auto [end, error] =
-        std::from_chars(plain.data(), plain.data() + plain.size(), number, std::chars_format::fixed);
-    if (error != std::errc{} || end != plain.data() + plain.size()) return std::nullopt;
-    return number == 0 ? 0 : number; // a typed "-0" is 0
-}
-
-double Val(std::string_view text) {
-    const std::string trimmed = trim(text);
-    const auto end = trimmed.find_first_not_of(" .,0123456789", trimmed.find_first_of("+-") == 0 ? 1 : 0);
-    return parseNumber(std::string_view(trimmed).substr(0, end)).value_or(0);
 }
 
 } // namespace base

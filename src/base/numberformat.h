@@ -1,6 +1,5 @@
 #pragma once
 
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -14,11 +13,7 @@ namespace base {
 /// Other characters at the mask's two ends print as they are. What is not finite prints as nothing.
 std::string formatNumber(double value, std::string_view mask);
 
-/// A number as typed, whatever the system's locale: `.` or `,` is the decimal sign, blanks (also unbreakable ones)
-/// may stand anywhere between digits, one sign may lead. Nothing if it is no number; empty text is no number.
-std::optional<double> parseNumber(std::string_view typed);
-
-/// The leading number of a text, 0 if there is none: "65 years" gives 65.
-double Val(std::string_view text);
+/// Digits that a mask shows after the point, 0 to 15.
+int placesOf(std::string_view mask);
 
 } // namespace base

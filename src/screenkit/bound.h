@@ -10,7 +10,7 @@
 namespace screenkit {
 
 /// A number put into a record's member: whole numbers are rounded half to even and held at the ends of their width, so
-/// that a figure too large to keep never turns into another one before the field has had its say about it.
+/// that a figure too large to keep never wraps round into another one.
 template <class T>
 T narrowed(double number) {
     if constexpr (std::integral<T>) {
@@ -29,6 +29,9 @@ template <class T>
 struct Bound {
     std::function<T()> get;
     std::function<void(T)> set;
+    /// Of a number: what the place can hold. A field refuses what lies beyond.
+    double lowest = -std::numeric_limits<double>::max();
+    double highest = std::numeric_limits<double>::max();
 
     Bound(std::function<T()> getter, std::function<void(T)> setter) : get(std::move(getter)), set(std::move(setter)) {}
 
@@ -36,7 +39,9 @@ struct Bound {
     requires std::is_arithmetic_v<Member> && std::is_arithmetic_v<T>
     Bound(Member& member) // NOLINT(google-explicit-constructor): a declaration reads better without it
         : get([&member] { return static_cast<T>(member); }),
-          set([&member](T value) { member = narrowed<Member>(static_cast<double>(value)); }) {}
+          set([&member](T value) { member = narrowed<Member>(static_cast<double>(value)); }),
+          lowest(static_cast<double>(std::numeric_limits<Member>::lowest())),
+          highest(static_cast<double>(std::numeric_limits<Member>::max())) {}
 
     Bound(std::string& member) // NOLINT(google-explicit-constructor)
         requires std::same_as<T, QString> : get([&member] { return QString::fromStdString(member); }),

@@ -15,19 +15,50 @@ namespace screenkit {
 
 namespace {
 
-std::optional<double> readDate(const QString& text) {
-    const auto day = base::parseDate(text.toStdString());
+std::optional<double> readDate(const QString& text, std::optional<int> thisYear = {}) {
+    const auto day = base::parseDate(text.simplified().toStdString(), thisYear);
     return day && base::isShownOnScreen(*day) ? day : std::nullopt;
 }
 
 const QDate dayZero(1899, 12, 30);
-constexpr int longestDate = 20; // with blanks around, as dates come from elsewhere
 
 } // namespace
 
-DateField::DateField(const QString& name, Bound<double> place, Desk& desk, QWidget* parent)
-    : EntryLine(name, OnClick::selectsAll, parent), m_place(std::move(place)), m_desk(desk) {
-    setMaxLength(longestDate);
+DateKind DateKind::required(const QString& boxTitle) const {
+    DateKind kind = *this;
+    kind.requiredTitle = kind.noDate.title = boxTitle;
+    return kind;
+}
+
+DateKind DateKind::worded(const QString& text, const QString& boxTitle) const {
+    DateKind kind = *this;
+    kind.noDate = {text, boxTitle};
+    return kind;
+}
+
+DateKind DateKind::where(std::function<bool(double)> holds, std::function<Complaint()> complaint) const {
+    DateKind kind = *this;
+    kind.limits.push_back({std::move(holds), std::move(complaint)});
+    return kind;
+}
+
+DateKind DateKind::notBefore(std::function<double()> earliest, std::function<Complaint()> complaint) const {
+    const auto holds = [end = std::move(earliest)](double day) {
+        return !base::isShownOnScreen(end()) || day >= end();
+    };
+    return where(holds, std::move(complaint));
+}
+
+DateKind DateKind::notAfter(std::function<double()> latest, std::function<Complaint()> complaint) const {
+    const auto holds = [end = std::move(latest)](double day) { return !base::isShownOnScreen(end()) || day <= end(); };
+    return where(holds, std::move(complaint));
+}
+
+DateField::DateField(const QString& name, Bound<double> place, Desk& desk, DateKind kind, QWidget* parent)
+    : EntryLine(name, OnClick::selectsAll, parent), m_place(std::move(place)), m_desk(desk), m_kind(std::move(kind)) {
+    if (m_kind.noDate.text.isEmpty())
+        m_kind.noDate.text = tr("The date entered is in the wrong format\nPlease use the dd/mm/yyyy format.");
+    m_kind.noDate.rings = true;
     setPlaceholderText("dd/mm/yyyy");
     setToolTip(tr("T is today, + and - a day on and back, F4 the calendar"));
     QAction* calendar = addAction(icon("calendar"), TrailingPosition);
@@ -38,12 +69,36 @@ DateField::DateField(const QString& name, Bound<double> place, Desk& desk, QWidg
 
 void DateField::fill() {
     const double day = m_place.get();
+    if (keepsText() && day == m_stood) return;
+    accept();
     setText(base::isShownOnScreen(day) ? QString::fromStdString(base::formatDate(day)) : QString());
+    m_stood = day;
 }
 
-void DateField::typed(const QString& text) {
-    m_place.set(readDate(text).value_or(base::NoDate));
+void DateField::typed(const QString& text) { put(read(text)); }
+
+void DateField::put(double day) {
+    m_place.set(day);
     if (edited) edited();
+}
+
+double DateField::read(const QString& text) {
+    accept();
+    if (text.trimmed().isEmpty()) return base::NoDate;
+    const auto day = dateIn(text);
+    if (!day) refuse(m_kind.noDate);
+    for (const Limit& limit : m_kind.limits)
+        if (day && !isRefused() && !limit.holds(*day)) refuse(limit.complaint());
+    return isRefused() ? m_stood : *day;
+}
+
+std::optional<double> DateField::dateIn(const QString& text) const { return readDate(text, m_desk.today().year()); }
+
+void DateField::giveBack() {
+    put(m_stood);
+    accept();
+    fill();
+    takeFocus();
 }
 
 void DateField::enter(double day) {
@@ -63,20 +118,20 @@ bool DateField::step(int days) {
 double DateField::today() const { return static_cast<double>(dayZero.daysTo(m_desk.today())); }
 
 std::optional<Complaint> DateField::complaint() {
-    if (readDate(text())) return {};
-    if (text().trimmed().isEmpty()) {
-        if (m_requiredTitle.isEmpty()) return {};
-        return Complaint{tr("A date is needed here\nPlease enter it in the dd/mm/yyyy format."), m_requiredTitle};
+    if (isRefused()) { // an end may have moved since
+        const double day = read(text());
+        if (!isRefused()) put(day);
     }
-    clear();
-    typed({});
-    return Complaint{tr("The date entered is in the wrong format\nPlease use the dd/mm/yyyy format."), m_requiredTitle};
+    if (isRefused()) return refusal();
+    m_stood = m_place.get();
+    if (!text().trimmed().isEmpty() || m_kind.requiredTitle.isEmpty()) return {};
+    return Complaint{tr("A date is needed here\nPlease enter it in the dd/mm/yyyy format."), m_kind.requiredTitle};
 }
 
 QSize DateField::sizeHint() const { return look::fieldSize(this, 14); }
 
 void DateField::tidy() {
-    if (readDate(text()) || text().trimmed().isEmpty()) fill(); // 1-3-26 is shown as 01/03/2026
+    if (!isRefused()) fill(); // 1-3-26 is shown as 01/03/2026
 }
 
 void DateField::keyPressEvent(QKeyEvent* event) {
@@ -90,7 +145,7 @@ void DateField::keyPressEvent(QKeyEvent* event) {
     else if (event->key() == Qt::Key_F4 && plain)
         showCalendar();
     else
-        QLineEdit::keyPressEvent(event);
+        EntryLine::keyPressEvent(event);
 }
 
 void DateField::showCalendar() {
@@ -98,7 +153,7 @@ void DateField::showCalendar() {
     auto* calendar = new QCalendarWidget(&menu);
     calendar->setFirstDayOfWeek(Qt::Monday);
     calendar->setMinimumDate(dayZero.addDays(static_cast<qint64>(base::blankDate) + 1));
-    calendar->setSelectedDate(dayZero.addDays(static_cast<qint64>(readDate(text()).value_or(today()))));
+    calendar->setSelectedDate(dayZero.addDays(static_cast<qint64>(dateIn(text()).value_or(today()))));
     auto* holder = new QWidgetAction(&menu);
     holder->setDefaultWidget(calendar);
     menu.addAction(holder);

@@ -64,8 +64,8 @@ MemoField* Screen::memo(const QString& name, Bound<QString> place, int size) {
     return keep(new MemoField(name, std::move(place), size));
 }
 
-DateField* Screen::date(const QString& name, Bound<double> place) {
-    return keep(new DateField(name, std::move(place), m_work.desk));
+DateField* Screen::date(const QString& name, Bound<double> place, const DateKind& kind) {
+    return keep(new DateField(name, std::move(place), m_work.desk, kind));
 }
 
 OptionGroup* Screen::options(const QString& name, const QStringList& captions, Bound<int> place,
@@ -143,15 +143,29 @@ QLineEdit* Screen::shown(const QString& name, int characters) {
     return line;
 }
 
-SpinButtons* Screen::spin(const QString& name, NumberField* field, std::function<void(int)> step) {
-    const auto stepChecked = [this, step = std::move(step)](int direction) {
-        return checkFields() && attempt(tr("take the step"), [&] { step(direction); });
+SpinButtons* Screen::spin(const QString& name, NumberField* field, const SpinRule& rule,
+                          std::function<void()> stepped) {
+    const auto step = [this, field, rule, stepped = std::move(stepped)](int direction) {
+        if (!checkFields()) return false;
+        const auto next = spun(rule, field->value(), direction);
+        if (!next) return false;
+        if (next->rings) m_work.desk.bell();
+        return attempt(tr("take the step"), [&] {
+            field->enter(next->value);
+            if (stepped) stepped();
+        });
     };
     for (const auto& [key, direction] : {std::pair{Qt::Key_Up, 1}, std::pair{Qt::Key_Down, -1}}) {
         auto* shortcut = new QShortcut(key, field, nullptr, nullptr, Qt::WidgetShortcut);
-        connect(shortcut, &QShortcut::activated, this, [stepChecked, way = direction] { stepChecked(way); });
+        connect(shortcut, &QShortcut::activated, this, [field, step, way = direction] {
+            if (step(way)) field->confirm();
+        });
     }
-    return new SpinButtons(name, stepChecked);
+    return new SpinButtons(name, [step, focus = rule.focus](int direction) {
+        const bool taken = step(direction);
+        if (QWidget* next = taken && focus ? focus() : nullptr) next->setFocus(Qt::OtherFocusReason);
+        return taken;
+    });
 }
 
 QLabel* Screen::heading(const QString& name) {

@@ -1,16 +1,24 @@
 #include "screenkit/editgrid.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QStyledItemDelegate>
 #include <algorithm>
 #include <utility>
 
-#include "base/text.h"
 #include "screenkit/look.h"
+#include "screenkit/tabletext.h"
 #include "screenkit/textfield.h"
 
 namespace screenkit {
+
+namespace {
+
+bool isOneCell(const std::vector<QStringList>& rows) { return rows.size() == 1 && rows.front().size() == 1; }
+
+} // namespace
 
 /// Lays the kit's own fields over the cells, and leaves it to the table when an entry is taken: the toolkit's delegate
 /// would take or drop it without a check.
@@ -41,7 +49,7 @@ EditGrid::EditGrid(const QString& name, QWidget* parent) : QTableView(parent), m
     setModel(m_cells);
     setItemDelegate(new Delegate(this));
     setAlternatingRowColors(true);
-    setSelectionMode(SingleSelection);
+    setSelectionMode(ContiguousSelection);
     setTabKeyNavigation(false); // Tab is walked by ourselves, since it adds rows and leaves at the end
     setEditTriggers(DoubleClicked | EditKeyPressed | AnyKeyPressed);
     setCornerButtonEnabled(false);
@@ -123,20 +131,61 @@ void EditGrid::keyPressEvent(QKeyEvent* event) {
     const QModelIndex here = currentIndex();
     const bool control = event->modifiers().testFlag(Qt::ControlModifier);
     const int key = event->key();
-    if (key == Qt::Key_Escape || !here.isValid())
+    if (event->matches(QKeySequence::Paste))
+        paste();
+    else if (key == Qt::Key_Escape || !here.isValid())
         event->ignore();
     else if (key == Qt::Key_Return || key == Qt::Key_Enter)
-        control ? event->ignore() : edit(here);
+        control ? event->ignore() : enterPressed(here);
     else if (key == Qt::Key_Delete && control)
         deleteRow();
     else if (key == Qt::Key_Delete)
         editAfresh([](EntryLine& cell) { cell.del(); });
-    else if (event->matches(QKeySequence::Paste))
-        editAfresh([](EntryLine& cell) { cell.paste(); });
+    else if (event->matches(QKeySequence::Copy))
+        copy();
     else if (key == Qt::Key_Down && here.row() == m_cells->rowCount() - 1 && m_cells->offer())
         goTo(here.row() + 1, here.column());
     else
         QTableView::keyPressEvent(event);
+}
+
+void EditGrid::enterPressed(const QModelIndex& cell) {
+    if (m_cells->isBlank(cell))
+        focusNextPrevChild(true);
+    else
+        edit(cell);
+}
+
+// ---- to and from other programs
+
+void EditGrid::copy() const {
+    const QModelIndexList cells = selectedIndexes();
+    QGuiApplication::clipboard()->setText(cells.size() > 1 ? tableText(cells) : currentIndex().data().toString());
+}
+
+void EditGrid::paste() {
+    if (!currentIndex().isValid()) goTo(0, 0); // a click below the rows has left none
+    auto rows = tableRows(QGuiApplication::clipboard()->text());
+    if (isOneCell(rows))
+        editAfresh([](EntryLine& cell) { cell.paste(); });
+    else
+        pasteRows(std::move(rows));
+}
+
+void EditGrid::pasteRows(std::vector<QStringList> rows) {
+    if (!leaveCell()) return;
+    const QModelIndex from = currentIndex();
+    QStringList heads;
+    for (int column = from.column(); column < m_cells->columnCount(); ++column)
+        heads << m_cells->column(from.siblingAtColumn(column)).head;
+    if (rows.front() == heads) rows.erase(rows.begin()); // has been copied from a table like this one
+    m_pasteFault = m_cells->paste(from, rows);
+    if (!m_pasteFault) {
+        if (edited) edited();
+    } else if (check) {
+        check();
+    }
+    m_pasteFault.reset();
 }
 
 // ---- the cell in edit
@@ -173,10 +222,16 @@ void EditGrid::editAfresh(const std::function<void(EntryLine&)>& begin) {
 }
 
 bool EditGrid::editorKey(const QKeyEvent& event) {
+    if (event.matches(QKeySequence::Paste)) {
+        auto rows = tableRows(QGuiApplication::clipboard()->text());
+        if (isOneCell(rows)) return false;
+        pasteRows(std::move(rows));
+        return true;
+    }
     if (event.modifiers().testFlag(Qt::ControlModifier)) return false;
     const int row = currentIndex().row();
     switch (event.key()) {
-    case Qt::Key_Escape: leaveCell(); return true;
+    case Qt::Key_Escape: m_editor->isRefused() ? giveBack() : void(leaveCell()); return true;
     case Qt::Key_Tab:
     case Qt::Key_Return:
     case Qt::Key_Enter: focusNextPrevChild(true); return true;
@@ -191,19 +246,25 @@ bool EditGrid::editorKey(const QKeyEvent& event) {
     }
 }
 
+NumberField* EditGrid::numberInEdit() const { return qobject_cast<NumberField*>(m_editor.data()); }
+
 /// What the user has not typed over is not held against him, whatever the file had there.
 std::optional<Complaint> EditGrid::wrong() const {
     if (!hasOpenEntry()) return {};
-    const EditColumn& column = m_cells->column(m_edited);
-    if (column.number) return m_editor->complaint();
-    if (base::characterCount(m_text.toStdString()) <= static_cast<std::size_t>(column.characters)) return {};
-    return Complaint{column.complaint, {}};
+    if (const NumberField* number = numberInEdit()) return number->fault();
+    return m_cells->column(m_edited).read(m_text).refusal;
+}
+
+void EditGrid::giveBack() {
+    m_editor->giveBack();
+    m_touched = false;
 }
 
 void EditGrid::takeEntry() {
     if (!hasOpenEntry() || !m_edited.isValid()) return;
     m_touched = false;
-    m_cells->put(m_edited, m_cells->column(m_edited).number ? EditCell(m_number) : EditCell(m_text));
+    m_cells->put(m_edited,
+                 numberInEdit() != nullptr ? EditCell(m_number) : m_cells->column(m_edited).read(m_text).cell);
     if (edited) edited();
 }
 
@@ -232,6 +293,8 @@ void EditGrid::editorLeft(const EntryLine* editor) {
 }
 
 std::optional<Complaint> EditGrid::complaint() {
+    if (m_pasteFault) return std::exchange(m_pasteFault, {});
+    if (m_editor != nullptr && m_editor->isRefused()) return m_editor->complaint();
     auto complaint = wrong();
     if (!complaint) {
         takeEntry();

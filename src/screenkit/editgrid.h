@@ -13,12 +13,14 @@ namespace screenkit {
 
 /// A table that the user fills in place, by keyboard alone if he likes. It holds its rows itself.
 ///
-/// Typing, F2, Enter or a double click edits a cell. Enter and Tab take the entry and go to the next cell, from the
-/// last one to a new row; Up, Down and Escape take it as well, Down past the last row adds one. A blank row at the end
-/// is not followed by another: from there Tab leaves the table, as Ctrl+Enter does to the default button from
-/// anywhere. Ctrl+Delete deletes the row; one blank row always stays. A cell is checked whenever it is left, by key, by
-/// mouse or by a button: what can't stand is told in a box, the cell gets back what it held, and stays in edit. Numbers
-/// are typed as in a NumberField, and keep every bit behind their mask until they are typed over.
+/// Typing, F2, Enter or a double click edits a cell; on an empty one Enter walks on. Enter and Tab take the entry and
+/// go to the next cell, from the last one to a new row; Up, Down and Escape take it as well, Down past the last row
+/// adds one. A blank row at the end is not followed by another: from there Tab leaves the table, as Ctrl+Enter does to
+/// the default button from anywhere. Ctrl+Delete deletes the row; one blank row always stays. A cell is checked
+/// whenever it is left, by key, by mouse or by a button: what can't stand is told in a box, the cell gets back what it
+/// held, and stays in edit. Numbers are typed as in a NumberField, refused as there, and keep every bit behind their
+/// mask until they are typed over. Rows of a spreadsheet are pasted from the current cell on, all of them or none;
+/// several cells are copied below their heads.
 class EditGrid : public QTableView, public Field {
     Q_OBJECT
 public:
@@ -62,10 +64,17 @@ private:
 
     QWidget* openEditor(QWidget* parent, const QModelIndex& cell);
     bool editorKey(const QKeyEvent& event);
+    NumberField* numberInEdit() const;
     std::optional<Complaint> wrong() const;
+    void paste();
+    void pasteRows(std::vector<QStringList> rows);
+    void copy() const;
     void takeEntry();
     void endEdit();
     bool leaveCell();
+    /// Drops an entry that can't be read for what the cell held.
+    void giveBack();
+    void enterPressed(const QModelIndex& cell);
     void editorLeft(const EntryLine* editor);
     bool isHeldByMouse();
     bool walk(bool forward);
@@ -80,6 +89,7 @@ private:
     double m_number = 0;
     QString m_text;
     bool m_touched = false;
+    std::optional<Complaint> m_pasteFault; ///< for the box that comes next
 };
 
 } // namespace screenkit

@@ -1,6 +1,7 @@
 #include "screenkit/entryline.h"
 
 #include <QFocusEvent>
+#include <QKeyEvent>
 #include <QWheelEvent>
 #include <utility>
 
@@ -30,6 +31,23 @@ void EntryLine::takeFocus() {
     selectAll();
 }
 
+void EntryLine::confirm() {
+    tidy();
+    selectAll();
+}
+
+void EntryLine::accept() {
+    m_refusal.reset();
+    if (std::exchange(m_marked, false)) look::setMarked(this, {});
+}
+
+std::optional<Complaint> EntryLine::refusal() {
+    if (m_refusal && !std::exchange(m_marked, true)) look::setMarked(this, m_refusal->text);
+    return m_refusal;
+}
+
+bool EntryLine::keepsText() const { return isRefused() && window()->focusWidget() == this; }
+
 void EntryLine::focusInEvent(QFocusEvent* event) {
     QLineEdit::focusInEvent(event);
     if (isLent(event)) return;
@@ -43,8 +61,16 @@ void EntryLine::focusInEvent(QFocusEvent* event) {
 void EntryLine::focusOutEvent(QFocusEvent* event) {
     QLineEdit::focusOutEvent(event);
     if (isLent(event)) return;
+    refusal();
     tidy();
     if (left) left();
+}
+
+void EntryLine::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape && isRefused())
+        giveBack();
+    else
+        QLineEdit::keyPressEvent(event);
 }
 
 void EntryLine::mouseReleaseEvent(QMouseEvent* event) {

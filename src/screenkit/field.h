@@ -8,10 +8,22 @@ class QWidget;
 
 namespace screenkit {
 
-/// Why a field's content can't stand: the box that says so.
+class Field;
+
+/// Why a field's content can't stand: the box that says so, and where the focus goes after it. Without a text there is
+/// no box; the user stays all the same.
 struct Complaint {
-    QString text;
-    QString title;
+    QString text = {};
+    QString title = {};
+    Field* focus = nullptr; ///< nothing: back to the field itself
+    bool rings = false;     ///< the bell: what was typed has not been understood
+};
+
+/// What a field's number or day must be.
+struct Limit {
+    std::function<bool(double)> holds;
+    std::function<Complaint()> complaint; ///< asked when it is shown, as its words may hold another field's content
+    std::function<double()> instead = {}; ///< of a number: what the field goes back to
 };
 
 /// What the screen does with every entry field, whatever it holds.

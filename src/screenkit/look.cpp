@@ -45,8 +45,11 @@ void setState(QLineEdit* line, const char* name, int state) {
     line->setPalette(palette);
 }
 
+/// In place of the line's own tip, which comes back when there is nothing to say.
 void say(QLineEdit* line, const QString& words) {
-    line->setToolTip(words);
+    constexpr const char* ownTip = "ownTip";
+    if (!line->property(ownTip).isValid()) line->setProperty(ownTip, line->toolTip());
+    line->setToolTip(words.isEmpty() ? line->property(ownTip).toString() : words);
     line->setAccessibleDescription(words);
 }
 
@@ -144,7 +147,7 @@ void setStale(QLineEdit* result, bool stale) {
 }
 
 void setMarked(QLineEdit* field, const QString& why) {
-    if (field->property(markedLine).toBool() == !why.isEmpty()) return;
+    if (field->property(markedLine).toBool() == !why.isEmpty() && field->accessibleDescription() == why) return;
     setState(field, markedLine, !why.isEmpty());
     say(field, why);
 }

@@ -1,74 +1,19 @@
 #include "screenkit/numberfield.h"
 
-#include <QValidator>
-#include <algorithm>
+#include <QKeyEvent>
 #include <cmath>
 
-#include "base/numberformat.h"
 #include "screenkit/look.h"
 
 namespace screenkit {
 
 namespace {
-
-/// Lets through what can become a number, so that a stray letter is simply not taken. A comma becomes the point, for
-/// figures that can be compared at a glance; the tabs and line ends of a pasted cell become blanks.
-class NumberValidator : public QValidator {
-public:
-    NumberValidator(bool whole, QObject* parent) : QValidator(parent), m_whole(whole) {}
-    State validate(QString& text, int&) const override {
-        for (QChar& c : text)
-            c = c == ',' ? '.' : c.isSpace() ? ' ' : c;
-        if (m_whole && text.contains('.')) return Invalid;
-        const QString bare = text.trimmed();
-        if (bare.isEmpty() || bare == "-" || bare == "+" || bare == "." || bare == "-.") return Acceptable;
-        return base::parseNumber(text.toStdString()) ? Acceptable : Invalid;
-    }
-
-private:
-    bool m_whole;
-};
-
-constexpr int longestNumber = 24; // more digits than a double can tell apart
 constexpr const char* noFigure = "   Error";
-
 } // namespace
-
-// Screens in other files make their own kinds of these while the program is being loaded.
-constinit const NumberKind money{"# ### ### ##0.00", false, 16};
-constinit const NumberKind wholeRand{"# ### ### ##0", false, 16};
-constinit const NumberKind whole{"# ### ### ##0", true, 8};
-constinit const NumberKind percent{"0.000", false, 8};
-
-NumberKind NumberKind::from(double minimum, const QString& text, const QString& title) const {
-    return where([minimum](double value) { return !(value < minimum); }, text, title);
-}
-
-NumberKind NumberKind::upTo(double maximum, const QString& text, const QString& title) const {
-    return where([maximum](double value) { return !(value > maximum); }, text, title);
-}
-
-NumberKind NumberKind::between(double minimum, double maximum, const QString& text, const QString& title) const {
-    return from(minimum, text, title).upTo(maximum, text, title);
-}
-
-NumberKind NumberKind::where(std::function<bool(double)> holds, const QString& text, const QString& title) const {
-    NumberKind kind = *this;
-    kind.limits.push_back({std::move(holds), {text, title}});
-    return kind;
-}
-
-NumberKind NumberKind::shownAs(const char* otherMask) const {
-    NumberKind kind = *this;
-    kind.mask = otherMask;
-    return kind;
-}
 
 NumberField::NumberField(const QString& name, Bound<double> place, NumberKind kind, QWidget* parent)
     : EntryLine(name, OnClick::selectsAll, parent), m_place(std::move(place)), m_kind(std::move(kind)) {
     setAlignment(Qt::AlignRight);
-    setMaxLength(longestNumber);
-    setValidator(new NumberValidator(m_kind.isWhole, this));
     connect(this, &QLineEdit::textEdited, this, &NumberField::typed);
 }
 
@@ -78,20 +23,31 @@ void NumberField::fill() {
 }
 
 void NumberField::present(double value) {
+    if (keepsText() && value == m_value) return;
     m_value = std::isfinite(value) ? value : 0;
-    show(value);
+    display(value);
     markFault();
 }
 
-void NumberField::show(double value) {
-    const QString text =
-        std::isfinite(value) ? QString::fromStdString(base::formatNumber(value, m_kind.mask)) : noFigure;
-    setMaxLength(std::max(longestNumber, static_cast<int>(text.size()))); // a figure cut short is another figure
-    setText(text);
+void NumberField::display(double value) {
+    accept();
+    m_stood = m_value;
+    setText(std::isfinite(value) ? m_kind.format(value) : noFigure);
     setCursorPosition(0); // of one too wide for the field the thousands tell more than the cents
 }
 
-void NumberField::typed(const QString& text) { take(base::parseNumber(text.toStdString()).value_or(0)); }
+void NumberField::typed(const QString& text) {
+    const NumberKind::Reading reading = m_kind.read(text);
+    const auto refused = reading.refusal ? reading.refusal : tooWide(reading.value);
+    if (!refused) {
+        accept();
+        return take(reading.value);
+    }
+    refuse(*refused);
+    m_value = m_stood;
+    m_place.set(m_value);
+    if (edited) edited();
+}
 
 void NumberField::take(double value) {
     m_value = value;
@@ -101,8 +57,17 @@ void NumberField::take(double value) {
     if (edited) edited();
 }
 
+std::optional<Complaint> NumberField::tooWide(double value) const {
+    if (value >= m_place.lowest && value <= m_place.highest) return {};
+    if (const Limit* limit = m_kind.brokenBy(value)) return limit->complaint();
+    return Complaint{.text = tr("Please enter a number from %1 to %2.")
+                                 .arg(m_kind.format(m_place.lowest), m_kind.format(m_place.highest)),
+                     .rings = true};
+}
+
 void NumberField::enter(double value) {
-    show(value);
+    m_value = value;
+    display(value);
     take(value);
 }
 
@@ -112,10 +77,10 @@ void NumberField::entered() {
 }
 
 void NumberField::giveBack() {
-    if (m_value != m_onEntry)
+    if (!isRefused() && m_value != m_onEntry)
         enter(m_onEntry);
     else
-        show(m_value);
+        display(m_value);
     if (!m_ownOnEntry) disown();
     takeFocus();
 }
@@ -127,14 +92,26 @@ void NumberField::disown() {
 
 std::optional<Complaint> NumberField::fault() const {
     if (isReadOnly()) return {};
-    for (const Limit& limit : m_kind.limits)
-        if (!limit.holds(m_value)) return limit.complaint;
-    return {};
+    if (why()) return why();
+    const Limit* limit = m_kind.brokenBy(m_value);
+    return limit != nullptr ? std::optional(limit->complaint()) : std::nullopt;
 }
 
-std::optional<Complaint> NumberField::complaint() { return isOwn() ? fault() : std::nullopt; }
+std::optional<Complaint> NumberField::complaint() {
+    if (isReadOnly()) return {};
+    if (isRefused()) return refusal();
+    const Limit* limit = isOwn() ? m_kind.brokenBy(m_value) : nullptr;
+    if (limit == nullptr) {
+        m_stood = m_value;
+        return {};
+    }
+    const Complaint complaint = limit->complaint();
+    if (limit->instead) enter(limit->instead());
+    return complaint;
+}
 
 std::optional<Complaint> NumberField::markFault() {
+    if (isRefused()) return {}; // has a mark of its own, and its box
     const auto found = isOwn() ? std::nullopt : fault();
     look::setMarked(this, found ? found->text : QString());
     return found;
@@ -150,7 +127,23 @@ void NumberField::setResult(bool result) {
 QSize NumberField::sizeHint() const { return look::fieldSize(this, m_kind.characters); }
 
 void NumberField::tidy() {
-    if (isModified()) present(m_place.get());
+    if (isModified() && !isRefused()) present(m_place.get());
+}
+
+void NumberField::keyPressEvent(QKeyEvent* event) {
+    const bool isDecimalKey = event->text() == "," || event->text() == ".";
+    if (event->modifiers() == Qt::KeypadModifier && isDecimalKey && !isReadOnly())
+        typeDecimalSign();
+    else
+        EntryLine::keyPressEvent(event);
+}
+
+/// The point, unless points part the thousands already: beside them the comma is the decimal sign.
+void NumberField::typeDecimalSign() {
+    QString rest = text();
+    if (hasSelectedText()) rest.remove(selectionStart(), selectionLength());
+    const bool isSum = rest.trimmed().startsWith('=');
+    insert(rest.contains('.') && !isSum ? "," : ".");
 }
 
 } // namespace screenkit

@@ -201,9 +201,13 @@ bool Screen::complain(Field* field) {
         return false;
     }
     m_left.clear();
-    m_work.desk.tell(BoxStyle::critical, complaint->text, complaint->title.isEmpty() ? "Marlowbeck" : complaint->title);
-    bringToView(field->widget());
-    field->takeFocus();
+    if (complaint->rings) m_work.desk.bell();
+    if (!complaint->text.isEmpty())
+        m_work.desk.tell(BoxStyle::critical, complaint->text,
+                         complaint->title.isEmpty() ? "Marlowbeck" : complaint->title);
+    Field* next = complaint->focus != nullptr ? complaint->focus : field;
+    bringToView(next->widget());
+    next->takeFocus();
     return true;
 }
 
@@ -244,9 +248,15 @@ void Screen::enterPressed() {
         bringToView(next);
         next->setFocus(Qt::TabFocusReason);
     } else if (m_default != nullptr)
-        m_default->click();
+        pressDefault();
     else
         focusNextChild();
+}
+
+void Screen::pressDefault() {
+    m_default->click();
+    // The user is still in the field, and the next figure must not be appended to this one.
+    if (auto* line = dynamic_cast<EntryLine*>(QApplication::focusWidget())) line->confirm();
 }
 
 QWidget* Screen::entryBehind(const QWidget* from, const QWidget* within) const {

@@ -70,7 +70,7 @@ protected:
     NumberField* result(const QString& name, Bound<double> place, const NumberKind& kind);
     TextField* text(const QString& name, Bound<QString> place, int size, int characters = 0);
     MemoField* memo(const QString& name, Bound<QString> place, int size);
-    DateField* date(const QString& name, Bound<double> place);
+    DateField* date(const QString& name, Bound<double> place, const DateKind& kind = {});
     OptionGroup* options(const QString& name, const QStringList& captions, Bound<int> place,
                          std::function<void(int)> picked = {}, Qt::Orientation orientation = Qt::Vertical);
     CheckField* check(const QString& name, const QString& caption, Bound<int> place,
@@ -90,8 +90,10 @@ protected:
     QPushButton* disabledButton(const QString& name, const QString& caption);
     /// A line that shows a text and takes none.
     QLineEdit* shown(const QString& name, int characters);
-    /// Spin buttons that step a field, then `stepped` (recalculate).
-    SpinButtons* spin(const QString& name, NumberField* field, std::function<void(int)> step);
+    /// Spin buttons that step a field by the rule, then `stepped` (recalculate). The field's Up and Down keys do the
+    /// same, and leave the focus there.
+    SpinButtons* spin(const QString& name, NumberField* field, const SpinRule& rule,
+                      std::function<void()> stepped = {});
     /// A line in bold above what it heads.
     QLabel* heading(const QString& name);
     /// A warning that covers a field while it is shown; hidden at first.
@@ -175,6 +177,7 @@ private:
     /// can't have it, so that no key would reach anything on the way back.
     void recoverFocus();
     void enterPressed();
+    void pressDefault();
     /// The entry that follows in the tab order, from the last one of a page the first of the next page that has any;
     /// nothing from the last one of all.
     QWidget* nextEntry(const QWidget* from) const;

@@ -2,10 +2,25 @@
 
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <cmath>
 
 #include "screenkit/look.h"
 
 namespace screenkit {
+
+std::optional<Spun> spun(const SpinRule& rule, double value, int direction) {
+    constexpr double grain = 1e-9; // steps of a tenth add up to a hair beside the end
+    const double step = rule.step();
+    if (step == 0 || (rule.idleAtZero && std::fabs(value) < grain)) return {};
+    double next = value + direction * step;
+    if (std::fabs(next) < grain) next = 0;
+    const bool isDown = next < value;
+    if (isDown && rule.floor && next < *rule.floor + (rule.holdsFloor ? -grain : grain))
+        return rule.wrapsTo ? std::optional(Spun{*rule.wrapsTo, rule.rings}) : std::nullopt;
+    if (!isDown && rule.ceiling && next > *rule.ceiling + grain)
+        return rule.wrapsTo ? std::optional(Spun{step, false}) : std::nullopt;
+    return Spun{next, false};
+}
 
 SpinButtons::SpinButtons(const QString& name, std::function<bool(int)> step, QWidget* parent) : QWidget(parent) {
     setObjectName(name);

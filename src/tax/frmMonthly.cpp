@@ -72,10 +72,9 @@ QWidget* frmMonthly::buildInputs() {
     auto* age = number("silgEdit9", m_month.age, years);
     auto* travel = number("silgEdit13", m_month.travel, money);
     auto* taxable = keptAnswer(result("numMTAAns", rounded(m_result.taxableTravel), wholeRand));
-    m_start = date("dtMStartDate", m_month.startDate);
-    m_end = date("dtMEndDate", m_month.endDate);
-    for (DateField* field : {m_start, m_end})
-        field->require(wrongDate);
+    const DateKind dayOfTheMonth = DateKind{}.required(wrongDate);
+    m_start = date("dtMStartDate", m_month.startDate, dayOfTheMonth);
+    m_end = date("dtMEndDate", m_month.endDate, dayOfTheMonth);
     return group(
         "fraInputs", "Employee",
         form({{"A&ge", age},

@@ -32,15 +32,4 @@ TEST(NumberFormat, PrintsByMask) {
         EXPECT_EQ(base::formatNumber(c.value, c.mask), c.printed) << c.value << ' ' << c.mask;
 }
 
-TEST(NumberFormat, ReadsWhatIsTyped) {
-    EXPECT_EQ(base::parseNumber("1 234 567,89"), 1234567.89);
-    EXPECT_EQ(base::parseNumber(" -0.25 "), -0.25);
-    EXPECT_EQ(base::parseNumber("1\u00A0000"), 1000);
-    EXPECT_EQ(base::parseNumber(".5"), 0.5);
-    for (const char* wrong : {"", " ", "-", "1.2.3", "1,234,567", "1e5", "inf", "12a", "5-", "0x10"})
-        EXPECT_FALSE(base::parseNumber(wrong)) << wrong;
-    EXPECT_EQ(base::Val("65 years"), 65);
-    EXPECT_EQ(base::Val("years"), 0);
-}
-
 } // namespace

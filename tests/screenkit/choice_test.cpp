@@ -102,6 +102,50 @@ TEST_F(KitTest, spinButtonsStepByMouseAndByUpAndDown) {
     go("numCount");
     key(Qt::Key_Up);
     EXPECT_EQ(places.count, 0) << "a field without spin buttons does not step";
+
+    enter("numMonths", "1");
+    screen->clickFocus = get("cmdRun");
+    key(Qt::Key_Down);
+    EXPECT_EQ(bench.record.loans.Num2, 40);
+    EXPECT_EQ(desk.bells, 1);
+    EXPECT_EQ(selected(), "40") << "the keys leave the focus there";
+    click(up);
+    EXPECT_EQ(focus(), "cmdRun") << "a click takes it on";
+}
+
+TEST(SpinRule, saysWhereAStepLeads) {
+    const auto by = [](double step) { return [step] { return step; }; };
+    const SpinRule years{
+        .idleAtZero = true, .floor = 0, .holdsFloor = false, .ceiling = 40, .wrapsTo = 40, .rings = true};
+    const SpinRule rate{.step = by(0.1),
+                        .idleAtZero = true,
+                        .floor = 0,
+                        .holdsFloor = false,
+                        .ceiling = 50,
+                        .wrapsTo = 50,
+                        .rings = true};
+    const SpinRule inflation{.step = by(0.25), .floor = -5, .ceiling = 40, .wrapsTo = 30};
+    const SpinRule copies{.floor = 1, .ceiling = 9};
+    const SpinRule stuck{.step = by(0)};
+    constexpr double nowhere = -999;
+    const struct {
+        const SpinRule& rule;
+        double from;
+        int direction;
+        double to;
+        bool rings;
+    } cases[] = {
+        {years, 2, -1, 1, false},        {years, 1, -1, 40, true},          {years, 40, 1, 1, false},
+        {years, 0, 1, nowhere, false},   {years, 0.5, -1, 40, true}, // a part of a step meets the floor as well
+        {rate, 0.1, -1, 50, true},       {rate, 0.3 - 0.2, -1, 50, true},   {rate, 50, 1, 0.1, false},
+        {inflation, 0, 1, 0.25, false},  {inflation, -4.75, -1, -5, false}, {inflation, -5, -1, 30, false},
+        {inflation, 40, 1, 0.25, false}, {inflation, 0.25, -1, 0, false},   {copies, 1, -1, nowhere, false},
+        {copies, 9, 1, nowhere, false},  {copies, 8, 1, 9, false},          {stuck, 5, 1, nowhere, false}};
+    for (const auto& c : cases) {
+        const auto next = spun(c.rule, c.from, c.direction);
+        EXPECT_NEAR(next ? next->value : nowhere, c.to, 1e-12) << c.from << ' ' << c.direction;
+        EXPECT_EQ(next && next->rings, c.rings) << c.from << ' ' << c.direction;
+    }
 }
 
 } // namespace

@@ -30,6 +30,9 @@ TEST_F(KitTest, datesAreTypedFreelyAndShownInOneForm) {
                  {"1/3/2026-", day(2026, 2, 28), "28/02/2026"},
                  {"2/1/1800-", day(1800, 1, 2), "02/01/1800"}, // the day before would mean no date
                  {"31/12/9999+", day(9999, 12, 31), "31/12/9999"},
+                 {"28-2-66", day(1966, 2, 28), "28/02/1966"}, // - parts what has no year yet
+                 {"1966-02-28", day(1966, 2, 28), "28/02/1966"},
+                 {"28/2", day(2026, 2, 28), "28/02/2026"},
                  {"12+/5/2026", day(2026, 5, 12), "12/05/2026"}}; // in a half-typed date + means nothing
     for (const auto& c : cases) {
         SCOPED_TRACE(c.typed);
@@ -67,15 +70,16 @@ TEST_F(KitTest, onlyDaysAfterTheEmptyOneFillADate) {
     EXPECT_EQ(changed(), 0);
 }
 
-TEST_F(KitTest, aWrongDateIsClearedWithABoxAndTheFocusComesBack) {
-    const char* const wrong[] = {"31/02/2026", "13/13/2026", "abc", "1/3", "01/01/1800", "3/5/1652", "5"};
+TEST_F(KitTest, aRefusedDateKeepsWhatWasTypedUntilItIsMended) {
+    const char* const wrong[] = {"31/02/2026", "13/13/2026", "abc", "1/3/202", "01/01/1800", "3/5/1652", "5"};
+    const double stood = day(1970, 1, 1);
+    places.day = stood;
+    refresh();
     for (const char* typed : wrong)
         for (const bool byButton : {false, true}) {
             SCOPED_TRACE(typed);
-            places.day = day(1970, 1, 1);
-            refresh();
             enter("dtDay", typed);
-            EXPECT_EQ(places.day, base::NoDate) << "the record never holds a date that the screen does not show";
+            EXPECT_EQ(places.day, stood) << "a slip never wipes a good date";
             desk.boxes.clear();
             desk.expect(Answer::ok);
             if (byButton)
@@ -86,12 +90,53 @@ TEST_F(KitTest, aWrongDateIsClearedWithABoxAndTheFocusComesBack) {
             EXPECT_EQ(desk.last().text, "The date entered is in the wrong format\nPlease use the dd/mm/yyyy format.");
             EXPECT_EQ(desk.last().title, "Marlowbeck");
             EXPECT_EQ(desk.last().style, BoxStyle::critical);
-            EXPECT_EQ(text("dtDay"), "");
+            refresh();
+            EXPECT_EQ(selected(), typed);
             EXPECT_EQ(focus(), "dtDay");
             EXPECT_EQ(screen->runs, 0);
         }
+    key(Qt::Key_Escape);
+    EXPECT_EQ(selected(), "01/01/1970");
     key(Qt::Key_Tab);
-    EXPECT_EQ(focus(), "txtName") << "an empty date is right";
+    EXPECT_EQ(focus(), "txtName");
+    EXPECT_EQ(places.day, stood);
+}
+
+TEST_F(KitTest, aDatesLimitsMoveWithAnotherDateAndHaveWordsOfTheirOwn) {
+    double end = base::NoDate;
+    const DateKind kind =
+        DateKind{}
+            .worded("No such day", "INVALID DATE")
+            .notBefore([] { return 46082.0; }, [] { return Complaint{"Too early"}; })
+            .notAfter([&end] { return end; },
+                      [&end] { return Complaint{"Not after " + QString::fromStdString(base::formatDate(end))}; });
+    double held = day(1990, 1, 1); // from the file: his to look at
+    auto* field = screen->add("dtOther", held, kind);
+    const struct {
+        double end;
+        const char* typed;
+        const char* told;
+    } cases[] = {{base::NoDate, "1/3/26", nullptr},
+                 {base::NoDate, "28/2/26", "Too early"},
+                 {base::NoDate, "31/2/26", "No such day"},
+                 {day(2026, 5, 1), "2/5/26", "Not after 01/05/2026"},
+                 {day(2026, 5, 2), "2/5/26", nullptr}};
+    screen->checkFields();
+    EXPECT_EQ(held, day(1990, 1, 1));
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.typed);
+        const double stood = held;
+        end = c.end;
+        field->takeFocus();
+        type(c.typed);
+        if (c.told != nullptr) desk.expect(Answer::ok);
+        EXPECT_EQ(screen->checkFields(), c.told == nullptr);
+        if (c.told == nullptr) continue;
+        EXPECT_EQ(desk.last().text, c.told);
+        EXPECT_EQ(held, stood);
+        key(Qt::Key_Escape);
+    }
+    EXPECT_EQ(held, day(2026, 5, 2));
 }
 
 /// Works the calendar while it is up; gives false if none came.
@@ -132,7 +177,7 @@ TEST_F(KitTest, theCalendarIsWorkedByKeys) {
     EXPECT_TRUE(inCalendar(this, keys({Qt::Key_Down, Qt::Key_Escape}), byF4));
     EXPECT_EQ(text("dtDay"), "1/3/2026") << "Escape leaves what was typed";
 
-    enter("dtDay", "31/2"); // the calendar is no leaving: it is what the user turns to then
+    enter("dtDay", "31/2/26"); // the calendar is no leaving: it is what the user turns to then
     EXPECT_TRUE(inCalendar(
         this,
         [this](QCalendarWidget* calendar) {

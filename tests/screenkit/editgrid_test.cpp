@@ -100,7 +100,7 @@ TEST_F(EditGridTest, aListIsTypedByKeyboardAlone) {
     key(Qt::Key_Down); // no second blank row
     key(Qt::Key_Tab);
     EXPECT_EQ(place(), std::pair(2, 1));
-    type("x7y.5"); // letters are not taken
+    type("7.5");
     key(Qt::Key_Up);
     EXPECT_EQ(place(), std::pair(1, 1));
     key(Qt::Key_Tab, Qt::ShiftModifier);
@@ -197,10 +197,111 @@ TEST_F(EditGridTest, mousePasteAndScreenReaderKnowTheCells) {
     key(Qt::Key_Escape);
     EXPECT_EQ(grid().rows(), (Rows{twoRows[0], {"Shop", 7.0, 2.0}}));
     EXPECT_EQ(grid().currentIndex().data(Qt::AccessibleTextRole), "Amount, row 2: 7");
-    goTo(1, 0);
-    paste("a\nb\tc"); // a text of two lines would hide its second one
+}
+
+TEST_F(EditGridTest, whatCannotBeReadStaysMarkedInItsCellUntilItIsMended) {
+    show(twoRows, 0, 1);
+    for (const char* typed : {"1.2.3", "12x"})
+        for (const Way& way : waysOut()) {
+            if (QString(way.name) == "Escape") continue;
+            SCOPED_TRACE(testing::Message() << typed << ", " << way.name);
+            if (inEdit()) key(Qt::Key_Escape);
+            key(Qt::Key_F2);
+            qobject_cast<QLineEdit*>(QApplication::focusWidget())->selectAll();
+            paste(typed);
+            desk.boxes.clear();
+            desk.expect(Answer::ok);
+            way.leave();
+            settle();
+            ASSERT_EQ(desk.boxes.size(), 1U);
+            EXPECT_EQ(selected(), typed);
+            EXPECT_EQ(grid().rows(), twoRows);
+        }
     key(Qt::Key_Escape);
-    EXPECT_EQ(grid().rows()[1][0], EditCell("a b c"));
+    EXPECT_EQ(selected(), "12.35") << "Escape gives back what the cell held";
+    key(Qt::Key_Escape);
+    EXPECT_FALSE(inEdit());
+    EXPECT_EQ(grid().rows(), twoRows);
+}
+
+TEST_F(EditGridTest, rowsOfASpreadsheetArePastedWholeOrNotAtAll) {
+    const struct {
+        const char* copied;
+        int row, column;
+        Rows held;
+        const char* told; // nothing: they are taken
+    } cases[] = {
+        {"a\tR 1,5\t7\r\nb\t2\t8\r\nc\t\t9\r\n",
+         1,
+         0,
+         {twoRows[0], {"a", 1.5, 7.0}, {"b", 2.0, 8.0}, {"c", 0.0, 9.0}},
+         nullptr},
+        {"7\n8", 0, 1, {{"Farm", 7.0, 1.0}, {"Shop", 8.0, 2.0}}, nullptr},      // what lies beside stays
+        {"\"a\nb\"\t1", 0, 0, {{"a b", 1.0, 1.0}, twoRows[1]}, nullptr},        // a line end within a cell
+        {"Amount\tAge\n3\t4", 1, 1, {twoRows[0], {"Shop", 3.0, 4.0}}, nullptr}, // copied here, with its heads
+        {"a\t1\nb\tmany", 0, 0, twoRows, "Row 2, Amount: “many” can't be read"},
+        {"a\t1\nHouses\t2", 0, 0, twoRows, "Row 2, Item: At most five"},
+        {"1\n100.5", 0, 2, twoRows, "Row 2, Age: 0 to 100"},
+        {"1\t2\t3", 0, 1, twoRows, "Row 1 has more cells"},
+    };
+    for (const auto& c : cases)
+        for (const bool fromTheCell : {false, true}) {
+            SCOPED_TRACE(testing::Message() << c.copied << (fromTheCell ? " in edit" : ""));
+            show(twoRows, c.row, c.column);
+            if (fromTheCell) key(Qt::Key_F2);
+            desk.boxes.clear();
+            if (c.told != nullptr) desk.expect(Answer::ok);
+            paste(c.copied);
+            settle();
+            EXPECT_EQ(grid().rows(), c.held);
+            ASSERT_EQ(desk.boxes.size(), c.told != nullptr ? 1U : 0U);
+            EXPECT_TRUE(c.told == nullptr || desk.last().text.startsWith(c.told)) << desk.last().text.toStdString();
+        }
+    show(twoRows);
+    grid().setCurrentIndex({}); // nothing is chosen
+    paste("x\t5");
+    EXPECT_EQ(grid().rows()[0], (EditRow{"x", 5.0, 1.0}));
+}
+
+TEST_F(EditGridTest, cellsAreCopiedBelowTheirHeadsAndOneCellAlone) {
+    show({{"\"Farm\"", 12.3456, 1.0}, twoRows[1]});
+    key(Qt::Key_A, Qt::ControlModifier);
+    key(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text(), "Item\tAmount\tAge\n\"\"\"Farm\"\"\"\t12.35\t1\nShop\t50\t2");
+    goTo(1, 1);
+    key(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text(), "50");
+}
+
+TEST_F(EditGridTest, enterOnAnEmptyCellWalksOn) {
+    show({{"a", 0.0, 3.0}});
+    goTo(0, 1);
+    key(Qt::Key_Return);
+    EXPECT_EQ(place(), std::pair(0, 2));
+    key(Qt::Key_Return);
+    EXPECT_TRUE(inEdit()) << "a filled one is edited";
+}
+
+TEST_F(EditGridTest, aColumnOfYesAndNoTakesTheWordInAnyFormAndNoOther) {
+    grid().present({{"Item", {}, 9, {}}, yesNoColumn("Split?")}, {{"a", "No"}}, 5);
+    grid().setFocus(Qt::OtherFocusReason);
+    const struct {
+        const char *typed, *kept;
+    } cases[] = {{"y", "Yes"}, {" N ", "No"}, {"YES", "Yes"}, {"no", "No"}, {"maybe", nullptr}, {"", "No"}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.typed);
+        goTo(0, 1);
+        key(Qt::Key_Delete);
+        type(c.typed);
+        if (c.kept == nullptr) desk.expect(Answer::ok);
+        key(Qt::Key_Return);
+        if (c.kept == nullptr)
+            EXPECT_EQ(desk.last().text, "Please enter Yes or No.");
+        else
+            EXPECT_EQ(grid().rows()[0][1], EditCell(c.kept));
+        key(Qt::Key_Escape);
+    }
+    EXPECT_EQ(grid().rows().size(), 1U) << "a new row with its No is still blank";
 }
 
 } // namespace

@@ -49,18 +49,16 @@ public:
             onRun();
         });
         body(column(
-            {form(
-                 {{"&Amount", amount},
-                  {"&Months", row({months, spin("spnMonths", months,
-                                                [this, months](int step) { months->enter(months->value() + step); })})},
-                  {"&Count", number("numCount", places.count, whole.between(-99999, 99999, "Count", "C!"))},
-                  {"&Shares", number("numShares", places.shares, whole)},
-                  {"Ra&te", number("numRate", places.rate, percent), "% a year"},
-                  {"&Total", total},
-                  {"&Date", date("dtDay", places.day)},
-                  {"&Name", name},
-                  {"N&otes", memo("txtNotes", places.notes, 2000)},
-                  {"Mo&de", options("optMode", {"First", "Second", "Third"}, places.mode, [this](int) { ++picks; })}}),
+            {form({{"&Amount", amount},
+                   {"&Months", row({months, spin("spnMonths", months, monthsSpin())})},
+                   {"&Count", number("numCount", places.count, whole.between(-99999, 99999, "Count", "C!"))},
+                   {"&Shares", number("numShares", places.shares, whole)},
+                   {"Ra&te", number("numRate", places.rate, percent), "% a year"},
+                   {"&Total", total},
+                   {"&Date", date("dtDay", places.day)},
+                   {"&Name", name},
+                   {"N&otes", memo("txtNotes", places.notes, 2000)},
+                   {"Mo&de", options("optMode", {"First", "Second", "Third"}, places.mode, [this](int) { ++picks; })}}),
              button("cmdBetween", "&Between", [] {}), check("chkSmokes", "Smo&kes", places.smokes),
              row({run, cancelButton("cmdCancel", "Cance&l", [this] { ++cancels; }),
                   button("cmdPrint", "&Print", [this] { print->open(findChild<QWidget*>("Check3")); }), okButton()})}));
@@ -69,6 +67,21 @@ public:
         auto* withNotes = check("Check3", "&Include Notes", places.withNotes);
         untrackedField(withNotes);
         print = printPanel({withNotes}, [this](Destination to) { printed(to); });
+    }
+
+    /// Enter calculates from every field.
+    void enterRuns() { enterPresses(findChild<QPushButton*>("cmdRun")); }
+    /// One more field, of a kind of the test's own.
+    NumberField* add(const QString& name, double& place, const NumberKind& kind) {
+        return added(number(name, place, kind));
+    }
+    DateField* add(const QString& name, double& place, const DateKind& kind) { return added(date(name, place, kind)); }
+
+    /// From 1 to 600 months, round and round past the lower end.
+    SpinRule monthsSpin() {
+        return {.floor = 0, .holdsFloor = false, .ceiling = 600, .wrapsTo = 40, .rings = true, .focus = [this] {
+                    return clickFocus;
+                }};
     }
 
     /// Brings up the panel with the table of figures.
@@ -80,12 +93,20 @@ public:
     using Screen::calculated;
     using Screen::outdated;
     Panel* print = nullptr;
+    QWidget* clickFocus = nullptr; ///< where a click on the spin buttons leads
     std::function<void(Destination)> printed = [](Destination) {};
     std::function<void()> onFilled = [] {}, onRun = [] {}, onEdit = [] {};
     std::function<void(Field*)> onSettled = [](Field*) {};
     int runs = 0, cancels = 0, picks = 0, edits = 0;
 
 protected:
+    template <class F>
+    F* added(F* field) {
+        field->setParent(this);
+        field->fill();
+        field->show();
+        return field;
+    }
     void edited() override {
         ++edits;
         onEdit();

@@ -7,53 +7,159 @@
 namespace screenkit {
 namespace {
 
-TEST_F(KitTest, typedFiguresAreReadAndShownWithoutTheSystemsLocale) {
+struct NumberFieldTest : KitTest {
+    double kept(const QString& field) {
+        if (field == "numAmount") return bench.record.loans.Num1;
+        if (field == "numMonths") return bench.record.loans.Num2;
+        if (field == "numRate") return static_cast<double>(places.rate);
+        return field == "numShares" ? static_cast<double>(places.shares) : static_cast<double>(places.count);
+    }
+    bool isMarked(const char* field) {
+        return !get(field)->accessibleDescription().isEmpty() &&
+               get(field)->palette().color(QPalette::Base) == QColor(255, 213, 128);
+    }
+};
+
+TEST_F(NumberFieldTest, whatIsTypedOrPastedIsReadAndShownGroupedWithoutTheSystemsLocale) {
     const struct {
         const char* field;
         const char* typed;
         double kept;
         const char* shownAfterwards;
     } cases[] = {
-        {"numAmount", "1234.5", 1234.5, "1 234.50"},
         {"numAmount", "1234,5", 1234.5, "1 234.50"},
-        {"numAmount", " 1 234 567.891 ", 1234567.891, "1 234 567.89"},
-        {"numAmount", "12abc.5x", 12.5, "12.50"}, // stray letters are not taken
-        {"numAmount", "1.2.3", 1.23, "1.23"},     // nor is a second decimal sign
-        {"numAmount", "1,2.3", 1.23, "1.23"},
-        {"numAmount", "1e5", 15, "15.00"},
-        {"numAmount", "-", 0, "0.00"},
-        {"numAmount", ".", 0, "0.00"},
-        {"numAmount", "-5", -5, "-5.00"},
-        {"numAmount", "5-", 5, "5.00"},
-        {"numAmount", "-0", 0, "0.00"},
+        {"numAmount", "1,250,000", 1250000, "1 250 000.00"},
+        {"numAmount", "R 1 250 000,50", 1250000.5, "1 250 000.50"},
+        {"numAmount", "=1000*12", 12000, "12 000.00"},
+        {"numAmount", "", 0, "0.00"},
         {"numAmount", "123456789012345678901234", 123456789012345678901234.0, "123 456 789 012 345 685 803 008.00"},
-        {"numMonths", "12.5", 125, "125"}, // a count has no decimal sign
-        {"numMonths", "12,5", 125, "125"},
+        {"numMonths", "3.5", 4, "4"}, // a count is rounded half to even
+        {"numMonths", "12,5", 12, "12"},
         {"numRate", "12.3456", static_cast<double>(12.3456F), "12.346"},
-        {"numShares", "2147483648", 2147483647, "2 147 483 647"},
-        {"numShares", "-99999999999", -2147483648.0, "-2 147 483 648"},
-        {"numCount", "32768", 32767, "32 767"},
-        {"numCount", "-40000", -32768, "-32 768"},
+        {"numRate", "6,125%", 6.125, "6.125"}, // three places: the comma parts no thousands
+        {"numShares", "2147483647", 2147483647, "2 147 483 647"},
+        {"numCount", "32,767", 32767, "32 767"},
     };
     const QLocale system;
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
-    const auto kept = [this](const QString& field) {
-        if (field == "numAmount") return bench.record.loans.Num1;
-        if (field == "numMonths") return bench.record.loans.Num2;
-        if (field == "numRate") return static_cast<double>(places.rate);
-        return field == "numShares" ? static_cast<double>(places.shares) : static_cast<double>(places.count);
-    };
+    for (const auto& c : cases)
+        for (const bool pasted : {false, true}) {
+            if (pasted && *c.typed == 0) continue; // there is nothing to paste
+            SCOPED_TRACE(testing::Message() << c.typed << (pasted ? " pasted" : " typed"));
+            changed() = 0;
+            go(c.field);
+            if (pasted)
+                paste(QString("\t%1\r\n").arg(c.typed)); // a cell of a spreadsheet comes with its line end
+            else if (*c.typed == 0)
+                key(Qt::Key_Delete);
+            else
+                type(c.typed);
+            EXPECT_EQ(kept(c.field), c.kept);
+            EXPECT_EQ(changed(), 1);
+            go("txtName");
+            EXPECT_EQ(text(c.field), c.shownAfterwards);
+        }
+    QLocale::setDefault(system);
+}
+
+TEST_F(NumberFieldTest, whatCannotBeReadIsRefusedAloudAndKeptUntilItIsMended) {
+    const char* const width = "Please enter a number from -2 147 483 648 to 2 147 483 647.";
+    const struct {
+        const char *field, *typed, *told;
+    } cases[] = {{"numAmount", "1.2.3", "groups of three"},  {"numAmount", "12x", "can't be read"},
+                 {"numAmount", "1000*12", "put ="},          {"numAmount", "=5/0", "divide by 0"},
+                 {"numMonths", "4 months", "can't be read"}, {"numShares", "2147483648", width},
+                 {"numShares", "-99999999999", width},       {"numCount", "100000", "Count"}}; // by its own limit
+    places.count = 7;
+    places.shares = 7;
+    bench.record.loans.Num1 = bench.record.loans.Num2 = 7;
+    refresh();
     for (const auto& c : cases) {
         SCOPED_TRACE(c.typed);
-        changed() = 0;
-        enter(c.field, c.typed);
-        EXPECT_EQ(kept(c.field), c.kept);
-        EXPECT_EQ(changed(), 1);
+        const std::string stood = text(c.field);
+        for (const auto& leave : std::initializer_list<std::function<void()>>{
+                 [this] { key(Qt::Key_Tab); }, [this] { key(Qt::Key_R, Qt::AltModifier); },
+                 [this] { key(Qt::Key_Return); }, [this] { screen->checkFields(); }}) {
+            enter(c.field, c.typed);
+            desk.boxes.clear();
+            desk.expect(Answer::ok);
+            leave();
+            ASSERT_EQ(desk.boxes.size(), 1U);
+            EXPECT_TRUE(desk.last().text.contains(c.told)) << desk.last().text.toStdString();
+            EXPECT_EQ(text(c.field), c.typed);
+            EXPECT_EQ(selected(), c.typed);
+            EXPECT_TRUE(isMarked(c.field));
+            EXPECT_EQ(kept(c.field), 7) << "the record holds what stood there";
+            refresh(); // another screen was in front for a moment
+            EXPECT_EQ(text(c.field), c.typed);
+        }
+        EXPECT_EQ(screen->runs, 0);
+        key(Qt::Key_Escape);
+        EXPECT_EQ(selected(), stood);
+        EXPECT_FALSE(isMarked(c.field));
         go("txtName");
-        EXPECT_EQ(text(c.field), c.shownAfterwards);
-        EXPECT_FALSE(std::signbit(kept(c.field)) && kept(c.field) == 0);
     }
-    QLocale::setDefault(system);
+    EXPECT_GT(desk.bells, 0);
+    EXPECT_EQ(kept("numAmount"), 7);
+
+    enter("numAmount", "12x");
+    click("cmdCancel"); // the way out stays open, and what was refused doesn't come back
+    refresh();
+    EXPECT_EQ(text("numAmount"), "7.00");
+}
+
+TEST_F(NumberFieldTest, afterEnterTheFieldShowsItsFigureGroupedAndWhollySelected) {
+    screen->enterRuns();
+    go("numAmount");
+    for (const char* figure : {"650000", "700000", "=2*350000"}) {
+        type(figure);
+        key(Qt::Key_Return);
+        EXPECT_EQ(selected(), text("numAmount"));
+        EXPECT_EQ(focus(), "numAmount");
+    }
+    EXPECT_EQ(screen->runs, 3);
+    EXPECT_EQ(kept("numAmount"), 700000);
+    EXPECT_EQ(text("numAmount"), "700 000.00");
+    key(Qt::Key_End);
+    key(Qt::Key_A, Qt::AltModifier);
+    EXPECT_EQ(selected(), "700 000.00") << "its own access key selects it, too";
+}
+
+TEST_F(NumberFieldTest, aLimitMayWordItselfPutAValueBackOrSendTheFocusElsewhere) {
+    auto* amount = get<NumberField>("numAmount");
+    double held = 0;
+    const auto atMost = [](double most) { return [most](double value) { return value <= most; }; };
+    const struct {
+        NumberKind kind;
+        const char *told, *shown, *focus;
+    } cases[] = {
+        {money.where(atMost(5),
+                     [&held] {
+                         return Complaint{QString("%1 is too much").arg(held), "T"};
+                     }),
+         "9 is too much", "9", "field"},
+        {money.where(atMost(5), [] { return Complaint{"At most 5"}; }).orElse(2.5), "At most 5", "2.50", "field"},
+        {money.where(atMost(5), [] { return Complaint{}; }).orElse(0), nullptr, "0.00", "field"},
+        {money.where(atMost(5), [amount] { return Complaint{.text = "Elsewhere", .focus = amount}; }), "Elsewhere",
+         "9.00", "numAmount"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.shown);
+        auto* field = screen->add("field", held, c.kind);
+        field->setFocus(Qt::TabFocusReason);
+        type("9");
+        desk.boxes.clear();
+        if (c.told != nullptr) desk.expect(Answer::ok);
+        key(Qt::Key_R, Qt::AltModifier);
+        EXPECT_EQ(desk.boxes.size(), c.told != nullptr ? 1U : 0U);
+        EXPECT_TRUE(c.told == nullptr || desk.boxes.empty() || desk.last().text == c.told);
+        EXPECT_EQ(focus(), c.focus);
+        EXPECT_EQ(screen->runs, 0);
+        EXPECT_TRUE(field->text().startsWith(c.shown)) << field->text().toStdString();
+        EXPECT_EQ(field->value(), held);
+        field->enter(1);
+        field->setObjectName({});
+    }
 }
 
 TEST_F(KitTest, aRecordHoldsEachKeystrokeAtOnce) {
@@ -72,39 +178,19 @@ TEST_F(KitTest, aRecordHoldsEachKeystrokeAtOnce) {
     EXPECT_EQ(changed(), 1);
 }
 
-TEST_F(KitTest, theKeypadsDecimalKeyIsThePoint) {
-    go("numAmount");
-    type("7");
-    QTest::sendKeyEvent(QTest::Click, QApplication::focusWidget(), Qt::Key_Comma, ",", Qt::KeypadModifier);
-    type("5");
-    EXPECT_EQ(text("numAmount"), "7.5");
-    EXPECT_EQ(bench.record.loans.Num1, 7.5);
-}
-
-TEST_F(KitTest, figuresArePastedFromOtherPrograms) {
+TEST_F(NumberFieldTest, theKeypadsDecimalKeyIsTheDecimalSignWhateverStandsThere) {
     const struct {
-        const char* copied;
+        const char *before, *after;
         double kept;
-    } cases[] = {{"1 234,56", 1234.56},
-                 {"1\u00A0234.56", 1234.56},
-                 {"2500\n", 2500}, // a cell of a spreadsheet comes with its line end
-                 {"\t3500.25\r\n", 3500.25},
-                 {"R 12", 8}}; // a word is refused whole
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.copied);
-        enter("numAmount", "8");
-        get<QLineEdit>("numAmount")->selectAll();
-        paste(c.copied);
-        EXPECT_EQ(bench.record.loans.Num1, c.kept);
-        EXPECT_EQ(text("numAmount").find(','), std::string::npos);
-    }
-    // the context menu's paste is an edit like any other
-    go("numAmount");
-    changed() = 0;
-    QApplication::clipboard()->setText("77");
-    get<QLineEdit>("numAmount")->paste();
-    EXPECT_EQ(bench.record.loans.Num1, 77);
-    EXPECT_EQ(changed(), 1);
+    } cases[] = {{"7", "250", 7.25}, {"1,250", "5", 1250.5}, {"1.250.000", "50", 1250000.5}, {"=2*7", "5", 15}};
+    for (const auto& c : cases)
+        for (const auto& [code, sign] : {std::pair{Qt::Key_Comma, ","}, std::pair{Qt::Key_Period, "."}}) {
+            SCOPED_TRACE(c.before);
+            enter("numAmount", c.before);
+            QTest::sendKeyEvent(QTest::Click, QApplication::focusWidget(), code, sign, Qt::KeypadModifier);
+            type(c.after);
+            EXPECT_EQ(bench.record.loans.Num1, c.kept);
+        }
 }
 
 TEST_F(KitTest, whatIsNotRetypedKeepsEveryBit) {

