@@ -9,12 +9,14 @@ QString textOf(const std::vector<Run>& runs) {
     return text;
 }
 
-QString documentTitle(const Content& content) {
-    return content.client.isEmpty() ? content.title : content.title + " - " + content.client;
+QString documentTitle(const QString& title, const QString& client) {
+    return client.isEmpty() ? title : title + " - " + client;
 }
 
-QString practiceOf(const Content& content) {
-    for (const QString& line : content.headerLines)
+QString documentTitle(const Content& content) { return documentTitle(content.title, content.client); }
+
+QString practiceOf(const QStringList& headerLines) {
+    for (const QString& line : headerLines)
         if (!line.isEmpty()) return line;
     return {};
 }

@@ -63,9 +63,10 @@ struct Content {
 QString textOf(const std::vector<Run>& runs);
 
 /// What files of the report are called in their own properties: its title, and the client's name.
+QString documentTitle(const QString& title, const QString& client);
 QString documentTitle(const Content& content);
 /// The practice, as the author of such files: the first header line that is not empty.
-QString practiceOf(const Content& content);
+QString practiceOf(const QStringList& headerLines);
 
 struct Definition;
 class Snapshot;

@@ -10,6 +10,7 @@
 
 #include "reports/face.h"
 #include "reports/output.h"
+#include "reports/output/pdfproperties.h"
 
 namespace reports {
 namespace {
@@ -114,12 +115,31 @@ QByteArray exported(const Report& report, Format format) {
     return toPdf(report);
 }
 
+std::vector<PdfHeading> headingsOf(const Layout& layout) {
+    const Faces& faces = Faces::all();
+    std::vector<PdfHeading> headings;
+    for (int page = 0; page < layout.count(); ++page) {
+        const PlacedText* before = nullptr; // the piece before this one, if that is part of a heading too
+        for (const PlacedText& text : layout.pages[static_cast<std::size_t>(page)].texts) {
+            const bool heads = text.face == &faces.title || text.face == &faces.heading;
+            const double down = before && heads ? text.at.y() - before->at.y() : -1;
+            const bool goesOn = down >= 0 && before->face == text.face && down < 1.1 * text.face->lineHeight;
+            if (goesOn)
+                headings.back().text += (down > 0 ? " " : "") + text.text;
+            else if (heads)
+                headings.push_back({text.text, text.face == &faces.title ? 1 : 2, page,
+                                    (text.at.y() - text.face->ascent) * 72 / unitsPerInch});
+            before = heads ? &text : nullptr;
+        }
+    }
+    return headings;
+}
+
 QByteArray toPdf(const Report& report) {
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
     QPdfWriter writer(&buffer);
-    writer.setTitle(documentTitle(report.content));
     writer.setCreator("Marlowbeck");
     writer.setResolution(static_cast<int>(unitsPerInch));
     writer.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, {}));
@@ -129,7 +149,8 @@ QByteArray toPdf(const Report& report) {
         report.layout.paint(painter, page);
     }
     painter.end();
-    return bytes;
+    return output().withProperties(bytes, documentTitle(report.content), practiceOf(report.content.headerLines),
+                                   headingsOf(report.layout));
 }
 
 QByteArray toCsv(const Content& content) {

@@ -11,6 +11,8 @@
 
 namespace reports {
 
+struct PdfHeading;
+
 /// A report that has been run: its figures and its pages. It reads no file any more, so any number of windows and
 /// exports can share one.
 struct Report {
@@ -38,6 +40,9 @@ QString proposedFileName(const QString& client, const QString& title, const QStr
 /// header lines above and the footer lines below. ODT: the flow on pages like the printed ones. CSV: UTF-8, one record
 /// a row. XLSX: numbers as numbers. Throws store::Error if the kind's own writer fails.
 QByteArray exported(const Report& report, Format format);
+
+/// The headings of the pages in their order, those of several lines as one.
+std::vector<PdfHeading> headingsOf(const Layout& layout);
 
 QByteArray toPdf(const Report& report);
 QByteArray toHtml(const Content& content);

@@ -5,6 +5,7 @@
 #include <QPrinter>
 
 #include "reports/export.h"
+#include "reports/output/pdfproperties.h"
 #include "reports/report.h"
 #include "screenkit/desk.h"
 #include "screenkit/savefile.h"
@@ -108,7 +109,13 @@ void frmGraph::saveAs() {
     const auto name = screenkit::askWhereToSave(m_work.desk, "Export Graph", proposed,
                                                 {"PNG picture (*.png)", "SVG drawing (*.svg)", "PDF (*.pdf)"});
     if (!name) return;
-    const auto bytes = [&] { return output().exportedGraph(m_graph, graphFormatOf(*name), orientation()); };
+    const auto bytes = [&] {
+        const GraphFormat format = graphFormatOf(*name);
+        const QByteArray picture = output().exportedGraph(m_graph, format, orientation());
+        if (format != GraphFormat::pdf) return picture;
+        const QString title = documentTitle(QString::fromStdString(m_graph.title).trimmed(), client);
+        return output().withProperties(picture, title, m_work.reports.practice(), {});
+    };
     if (!screenkit::saveBytes(m_work.desk, "export the graph", *name, bytes)) return;
     screenkit::showSaved(*m_savedLine, *name);
     m_savedLine->show();

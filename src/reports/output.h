@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QPageLayout>
 #include <functional>
+#include <vector>
 
 class QPagedPaintDevice;
 class QWidget;
@@ -11,6 +12,7 @@ namespace reports {
 
 struct Content;
 struct Graph;
+struct PdfHeading;
 
 enum class GraphFormat { png, svg, pdf };
 
@@ -20,13 +22,15 @@ struct GraphPane {
     std::function<void(const Graph&)> show;
 };
 
-/// What draws charts, and writes text documents and workbooks. It lives in a library of its own, since the toolkit's
-/// charts and the workbook writer bring more to load and relocate than all the rest of the program, and no start needs
-/// them.
+/// What draws charts, and writes text documents, workbooks and the properties of PDF files. It lives in a library of
+/// its own, since the toolkit's charts and the workbook writer bring more to load and relocate than all the rest of the
+/// program, and no start needs them.
 struct Output {
     GraphPane (*newGraphPane)();
     QByteArray (*exportedGraph)(const Graph& graph, GraphFormat format, QPageLayout::Orientation orientation);
     bool (*printGraph)(const Graph& graph, QPagedPaintDevice& device);
+    QByteArray (*withProperties)(const QByteArray& pdf, const QString& title, const QString& author,
+                                 const std::vector<PdfHeading>& headings);
     QByteArray (*toOdt)(const Content& content);
     QByteArray (*toXlsx)(const Content& content);
 };

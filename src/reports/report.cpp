@@ -58,6 +58,14 @@ QByteArray Engine::pdf(const QString& definition, const QString& title) const {
     return toPdf(*prepare(definition, title));
 }
 
+QString Engine::practice() const {
+    try {
+        return practiceOf(Snapshot(named(m_programFolder, "Print.mdb"), {}).headerLines());
+    } catch (const store::Error&) {
+        return {}; // a picture of figures can do without
+    }
+}
+
 void Engine::show(std::shared_ptr<const Report> report) {
     m_previews.erase(std::remove(m_previews.begin(), m_previews.end(), nullptr), m_previews.end());
     auto* window = new PreviewWindow(std::move(report), m_desk, *m_printing);

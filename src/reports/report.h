@@ -56,6 +56,8 @@ public:
     /// The menu's Printer Setup: the system's print dialog, whose choice lasts for the session. With no printer
     /// installed a warning box says so.
     void setUpPrinter();
+    /// The practice, as files of all kinds name their author; empty if it has not said so or Print.mdb can't be read.
+    QString practice() const;
     /// The session's printer, for what else prints (graphs).
     QPrinter& printer();
 

@@ -1,5 +1,8 @@
 #include <sys/resource.h>
 
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QXmlStreamReader>
 #include <csignal>
 
@@ -64,7 +67,8 @@ TEST_F(Export, TextsAreTakenForWhatTheyMean) {
                            "<tr><td>{{Num1}}</td></tr></table>"));
     for (const auto& c : cases) {
         feed("Loans", {{"FinText1", c.text}, {"Num1", 0.1 + 0.2}});
-        EXPECT_EQ(bytes(Format::csv).mid(3).toStdString(), std::string(c.csvLeft) + "," + c.csvRight + "\r\n0.3\r\n") << c.text;
+        EXPECT_EQ(bytes(Format::csv).mid(3).toStdString(), std::string(c.csvLeft) + "," + c.csvRight + "\r\n0.3\r\n")
+            << c.text;
         const QString cell =
             part(Format::xlsx, "xl/worksheets/sheet1.xml").section("<c r=\"B1\"", 1).section("/c>", 0, 0);
         EXPECT_EQ(!cell.contains("t=\"s\""), c.figure || c.csvRight == std::string("1966-02-28")) << c.text;
@@ -166,6 +170,38 @@ TEST_F(Export, PdfKeepsTheLettersAndItsTitle) {
     const QString info = runTool("pdfinfo", {QString::fromStdString((folder / "own.pdf").string())});
     EXPECT_EQ(simplifiedLine(info, "Title:"), "Title: Own title");
     EXPECT_TRUE(simplifiedLine(info, "Page size:").contains("A4"));
+}
+
+TEST_F(Export, PdfHasItsLanguageItsAuthorAndAnOutlineOfItsHeadings) {
+    feed("HeadFoot", {{"HEADERV0", ""}, {"HEADERV1", "Marlow & Ṱhoho"}});
+    feedAmortisation(60);
+    define("Own.rpt",
+           page("<h1>Title</h1><h2>First</h2><p>x</p><h2>Years</h2><table>{{#Amort}}<tr><td>{{Year:##}}"
+                "</td></tr>{{/Amort}}</table><h2>Last</h2><p>y</p>"));
+    const fs::path file = folder / "own.pdf";
+    storetest::put(file, bytes(Format::pdf).toStdString());
+    const QString name = QString::fromStdString(file.string());
+    EXPECT_TRUE(runTool("qpdf", {"--check", name}).contains("No syntax or stream encoding errors found"));
+    EXPECT_EQ(simplifiedLine(runTool("pdfinfo", {name}), "Author:"), "Author: Marlow & Ṱhoho");
+    const QJsonObject json =
+        QJsonDocument::fromJson(
+            runTool("qpdf", {"--json=1", "--json-key=outlines", "--json-key=objects", name}).toUtf8())
+            .object();
+    QStringList found;
+    const std::function<void(const QJsonArray&, int)> list = [&](const QJsonArray& items, int level) {
+        for (const QJsonValue& item : items) {
+            found << QString("%1 %2 page %3")
+                         .arg(level)
+                         .arg(item["title"].toString())
+                         .arg(item["destpageposfrom1"].toInt());
+            list(item["kids"].toArray(), level + 1);
+        }
+    };
+    list(json["outlines"].toArray(), 1);
+    EXPECT_EQ(found, QStringList({"1 Title page 1", "2 First page 1", "2 Years page 1", "2 Last page 2"}));
+    const QJsonObject objects = json["objects"].toObject();
+    const QString root = objects["trailer"]["/Root"].toString();
+    EXPECT_EQ(objects[root]["/Lang"].toString(), "en-ZA");
 }
 
 TEST_F(Export, AFailedWriteShowsABoxAndLeavesNothing) {

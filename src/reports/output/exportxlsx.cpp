@@ -253,7 +253,7 @@ QByteArray toXlsx(const Content& content) {
     options.tmpdir = const_cast<char*>(scratch.constData()); // read only, though the library does not say so
     lxw_workbook* book = workbook_new_opt(path.constData(), &options);
     QByteArray bookTitle = documentTitle(content).toUtf8();
-    QByteArray author = practiceOf(content).toUtf8();
+    QByteArray author = practiceOf(content.headerLines).toUtf8();
     lxw_doc_properties properties{};
     properties.title = bookTitle.data();
     properties.author = author.data();

@@ -2,6 +2,7 @@
 #include "reports/output.h"
 #include "reports/output/graphexport.h"
 #include "reports/output/graphview.h"
+#include "reports/output/pdfproperties.h"
 
 namespace reports {
 
@@ -15,6 +16,6 @@ GraphPane newGraphPane() {
 } // namespace
 
 /// What the program asks the library for once it is loaded.
-extern "C" const Output marlowbeckOutput{newGraphPane, exportedGraph, printGraph, toOdt, toXlsx};
+extern "C" const Output marlowbeckOutput{newGraphPane, exportedGraph, printGraph, withProperties, toOdt, toXlsx};
 
 } // namespace reports

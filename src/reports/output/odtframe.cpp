@@ -155,8 +155,9 @@ QByteArray odtMeta(const Content& content) {
         return QByteArray("<") + name + ">" + text.toHtmlEscaped().toUtf8() + "</" + name + ">";
     };
     return odtRoot("document-meta") + "<office:meta>" + element("meta:generator", "Marlowbeck") +
-           element("dc:title", documentTitle(content)) + element("meta:initial-creator", practiceOf(content)) +
-           element("dc:creator", practiceOf(content)) + element("dc:language", "en-ZA") +
+           element("dc:title", documentTitle(content)) +
+           element("meta:initial-creator", practiceOf(content.headerLines)) +
+           element("dc:creator", practiceOf(content.headerLines)) + element("dc:language", "en-ZA") +
            "</office:meta>\n</office:document-meta>\n";
 }
 
