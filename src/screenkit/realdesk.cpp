@@ -57,11 +57,14 @@ QMessageBox::StandardButton escape(Buttons buttons) {
 }
 
 /// The window from which the user asked for what a box or dialog is about. A dialog over another window would bring
-/// that one to the front, and the next key would go to the client there.
+/// that one to the front, and the next key would go to the client there. Right after a dialog no window is active yet:
+/// then it is the one that asked last.
 class AskingWindow {
 public:
-    explicit AskingWindow(QWidget* otherwise) : m_window(QApplication::activeWindow()) {
+    AskingWindow(QPointer<QWidget>& last, QWidget* otherwise) : m_window(QApplication::activeWindow()) {
+        if (!m_window && last && last->isVisible()) m_window = last;
         if (!m_window) m_window = otherwise;
+        last = m_window;
     }
     ~AskingWindow() {
         if (m_window && m_window->isVisible()) m_window->activateWindow();
@@ -110,7 +113,7 @@ void followKind(QFileDialog& dialog, const QStringList& filters) {
 Answer RealDesk::box(BoxStyle style, const QString& text, const QString& title, Buttons buttons,
                      std::optional<Answer> defaultAnswer) {
     const NormalCursor cursor;
-    const AskingWindow asking(m_window);
+    const AskingWindow asking(m_lastAsking, m_window);
     QMessageBox box(icon(style), title, text, standard(buttons), asking.widget());
     box.setTextFormat(Qt::PlainText); // a client's name may hold what looks like markup
     box.setWindowModality(Qt::ApplicationModal);
@@ -126,7 +129,7 @@ Answer RealDesk::box(BoxStyle style, const QString& text, const QString& title, 
 
 std::optional<QString> RealDesk::fileToOpen(const QString& title, const QString& folder, const QStringList& filters) {
     const NormalCursor cursor;
-    const AskingWindow asking(m_window);
+    const AskingWindow asking(m_lastAsking, m_window);
     const QString file = QFileDialog::getOpenFileName(asking.widget(), title, folder, filters.join(";;"));
     return file.isEmpty() ? std::nullopt : std::optional(file);
 }
@@ -134,7 +137,7 @@ std::optional<QString> RealDesk::fileToOpen(const QString& title, const QString&
 std::optional<QString> RealDesk::fileToSave(const QString& title, const QString& suggested,
                                             const QStringList& filters) {
     const NormalCursor cursor;
-    const AskingWindow asking(m_window);
+    const AskingWindow asking(m_lastAsking, m_window);
     QFileDialog dialog(asking.widget(), title, saveFolder());
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setNameFilters(filters);
@@ -148,7 +151,7 @@ std::optional<QString> RealDesk::fileToSave(const QString& title, const QString&
 
 std::optional<QString> RealDesk::input(const QString& text, const QString& title, const QString& initial) {
     const NormalCursor cursor;
-    const AskingWindow asking(m_window);
+    const AskingWindow asking(m_lastAsking, m_window);
     bool accepted = false;
     const QString line = QInputDialog::getText(asking.widget(), title, text, QLineEdit::Normal, initial, &accepted);
     return accepted ? std::optional(line) : std::nullopt;
@@ -156,7 +159,7 @@ std::optional<QString> RealDesk::input(const QString& text, const QString& title
 
 bool RealDesk::choosePrinter(QPrinter& printer) {
     const NormalCursor cursor;
-    const AskingWindow asking(m_window);
+    const AskingWindow asking(m_lastAsking, m_window);
     return QPrintDialog(&printer, asking.widget()).exec() == QDialog::Accepted;
 }
 

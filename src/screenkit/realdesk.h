@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QPointer>
+
 #include "screenkit/desk.h"
 
 class QPrinter;
@@ -28,6 +30,7 @@ public:
 
 private:
     QWidget* m_window; ///< asks where no window of ours is active
+    QPointer<QWidget> m_lastAsking;
 };
 
 } // namespace screenkit

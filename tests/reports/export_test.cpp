@@ -75,6 +75,21 @@ TEST_F(Export, TextsAreTakenForWhatTheyMean) {
     }
 }
 
+TEST_F(Export, ProposesAFileNameThatEveryFileSystemTakes) {
+    const QString wide(300, QChar(0x1e70));
+    const struct {
+        QString client, title, name;
+    } cases[] = {
+        {"Mr P  Botha ", "Needs analysis for retirement", "Mr P Botha - Needs analysis for retirement.pdf"},
+        {"", "Quick tax", "Quick tax.pdf"},
+        {"A/B\\C:*?\"<>|\x01", " Policies: details", "A-B-C-------- - Policies- details.pdf"},
+        {"..", "x", "- x.pdf"},
+        {wide, "x", wide.left(66) + ".pdf"},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(reports::proposedFileName(c.client, c.title, ".pdf"), c.name) << c.name.toStdString();
+}
+
 TEST_F(Export, HtmlEscapesTextsAndKeepsHeadsAndFigures) {
     const QString html = QString::fromUtf8(bytes(Format::html));
     EXPECT_TRUE(html.contains("<title>Own title</title>"));

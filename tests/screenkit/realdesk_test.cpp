@@ -3,8 +3,13 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QMainWindow>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QStandardPaths>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 
@@ -48,6 +53,68 @@ TEST(RealDeskTest, boxesAnswerToEscapeEnterAndTheCloseButton) {
         EXPECT_EQ(answered(c, [](QMessageBox* box) { QTest::keyClick(box, Qt::Key_Return); }), c.enter);
     }
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+}
+
+/// Lets `act` deal with the file dialog, and gives what the desk then answers.
+std::optional<QString> answeredByFileDialog(RealDesk& desk, const std::function<void(QFileDialog&)>& act) {
+    QTimer::singleShot(50, qApp, [&] {
+        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(dialog, nullptr);
+        act(*dialog);
+    });
+    return desk.fileToSave("Export Report", "Botha - Loan.pdf", {"PDF (*.pdf)", "ODT (*.odt)"});
+}
+
+// A dialog over another window than the one that asked would bring that other one to the front.
+TEST(RealDeskTest, dialogsBelongToTheWindowThatAsks) {
+    QMainWindow main;
+    QMainWindow preview;
+    main.show();
+    preview.show();
+    RealDesk desk(&main);
+    for (QWidget* asking : {static_cast<QWidget*>(&preview), static_cast<QWidget*>(&main)}) {
+        asking->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(asking));
+        EXPECT_FALSE(answeredByFileDialog(desk, [&](QFileDialog& dialog) {
+            EXPECT_EQ(dialog.parentWidget(), asking);
+            dialog.reject();
+        }));
+        // At once, before the window is active again: as when an export fails after its file dialog.
+        QTimer::singleShot(50, qApp, [&] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_NE(box, nullptr);
+            EXPECT_EQ(box->parentWidget(), asking);
+            box->accept();
+        });
+        desk.tell(BoxStyle::information, "x", "y");
+        EXPECT_TRUE(QTest::qWaitForWindowActive(asking));
+    }
+}
+
+TEST(RealDeskTest, savingOpensInTheFolderUsedLastWithTheNameProposed) {
+    const QTemporaryDir folder;
+    QDir(folder.path()).mkdir("clients");
+    const QString last = folder.filePath("clients");
+    RealDesk desk;
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    const auto accepted = answeredByFileDialog(desk, [&](QFileDialog& dialog) {
+        EXPECT_EQ(QFileInfo(dialog.selectedFiles().constFirst()).fileName(), "Botha - Loan.pdf");
+        dialog.setDirectory(last);
+        dialog.selectNameFilter("ODT (*.odt)");
+        emit dialog.filterSelected("ODT (*.odt)");
+        dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save)->click();
+    });
+    EXPECT_EQ(accepted, last + "/Botha - Loan.odt"); // the name goes with the kind chosen
+    const auto opensIn = [&](const QString& expected) {
+        answeredByFileDialog(desk, [&](QFileDialog& dialog) {
+            EXPECT_EQ(dialog.directory().canonicalPath(), QDir(expected).canonicalPath());
+            dialog.reject();
+        });
+    };
+    opensIn(last);
+    QDir(last).removeRecursively(); // a memory stick that was pulled out
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    opensIn(QDir(documents).exists() ? documents : QDir::homePath());
 }
 
 } // namespace
