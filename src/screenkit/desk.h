@@ -15,7 +15,7 @@ enum class Destination { preview = 0, printer = 1 };
 
 enum class BoxStyle { plain, information, question, warning, critical };
 enum class Answer { ok, yes, no, cancel };
-enum class Buttons { ok, yesNo, yesNoCancel };
+enum class Buttons { ok, okCancel, yesNo, yesNoCancel };
 
 /// Everything that a screen asks of the user or of the desktop outside its own window. The program's desk shows real
 /// boxes; a test's desk answers from a queue and keeps the words. Boxes are modal to the whole program and always show
@@ -24,7 +24,7 @@ class Desk {
 public:
     virtual ~Desk() = default;
 
-    /// Escape or the close button means Cancel where there is Cancel, No in Yes/No, OK in OK-only.
+    /// Escape or the close button means Cancel where there is Cancel, No in Yes/No, OK where there is only OK.
     /// defaultAnswer: the button that Enter presses; by default the first.
     virtual Answer box(BoxStyle style, const QString& text, const QString& title, Buttons buttons,
                        std::optional<Answer> defaultAnswer = {}) = 0;

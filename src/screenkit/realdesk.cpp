@@ -34,6 +34,7 @@ QMessageBox::Icon icon(BoxStyle style) {
 
 QMessageBox::StandardButtons standard(Buttons buttons) {
     switch (buttons) {
+    case Buttons::okCancel: return QMessageBox::Ok | QMessageBox::Cancel;
     case Buttons::yesNo: return QMessageBox::Yes | QMessageBox::No;
     case Buttons::yesNoCancel: return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
     case Buttons::ok: break;
@@ -52,8 +53,12 @@ QMessageBox::StandardButton standard(Answer answer) {
 }
 
 QMessageBox::StandardButton escape(Buttons buttons) {
-    if (buttons == Buttons::yesNoCancel) return QMessageBox::Cancel;
+    if (buttons == Buttons::yesNoCancel || buttons == Buttons::okCancel) return QMessageBox::Cancel;
     return buttons == Buttons::yesNo ? QMessageBox::No : QMessageBox::Ok;
+}
+
+Answer first(Buttons buttons) {
+    return buttons == Buttons::ok || buttons == Buttons::okCancel ? Answer::ok : Answer::yes;
 }
 
 /// The window from which the user asked for what a box or dialog is about. A dialog over another window would bring
@@ -118,7 +123,7 @@ Answer RealDesk::box(BoxStyle style, const QString& text, const QString& title, 
     box.setTextFormat(Qt::PlainText); // a client's name may hold what looks like markup
     box.setWindowModality(Qt::ApplicationModal);
     box.setEscapeButton(escape(buttons));
-    box.setDefaultButton(standard(defaultAnswer.value_or(buttons == Buttons::ok ? Answer::ok : Answer::yes)));
+    box.setDefaultButton(standard(defaultAnswer.value_or(first(buttons))));
     switch (box.exec()) {
     case QMessageBox::Yes: return Answer::yes;
     case QMessageBox::No: return Answer::no;

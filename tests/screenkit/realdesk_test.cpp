@@ -25,6 +25,8 @@ TEST(RealDeskTest, boxesAnswerToEscapeEnterAndTheCloseButton) {
         std::optional<Answer> standard;
         Answer escape, enter;
     } cases[] = {{Buttons::ok, {}, ok, ok},
+                 {Buttons::okCancel, {}, cancel, ok},
+                 {Buttons::okCancel, cancel, cancel, cancel},
                  {Buttons::yesNo, {}, no, yes},
                  {Buttons::yesNo, no, no, no}, // a box that must not be answered by mistake
                  {Buttons::yesNoCancel, {}, cancel, yes}};
