@@ -25,6 +25,7 @@ EntryLine::EntryLine(const QString& name, OnClick onClick, QWidget* parent) : QL
 }
 
 void EntryLine::setResult(bool result) { look::setResult(this, result); }
+void EntryLine::setLocked(bool locked) { look::setLocked(this, locked); }
 
 void EntryLine::takeFocus() {
     setFocus(Qt::OtherFocusReason);
@@ -76,6 +77,12 @@ void EntryLine::keyPressEvent(QKeyEvent* event) {
 void EntryLine::mouseReleaseEvent(QMouseEvent* event) {
     QLineEdit::mouseReleaseEvent(event);
     if (std::exchange(m_selectOnRelease, false) && !hasSelectedText()) selectAll();
+}
+
+void EntryLine::changeEvent(QEvent* event) {
+    QLineEdit::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && m_isLocked)
+        look::setLocked(this, true); // the shade follows the theme
 }
 
 void EntryLine::wheelEvent(QWheelEvent* event) { event->ignore(); }

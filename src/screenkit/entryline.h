@@ -20,6 +20,7 @@ class EntryLine : public QLineEdit, public Field {
 public:
     QWidget* widget() override { return this; }
     void setResult(bool result) override;
+    void setLocked(bool locked) override;
     void takeFocus() override;
     /// Enter has taken the content: shows it in its usual form, wholly selected.
     void confirm();
@@ -50,6 +51,7 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     OnClick m_onClick;

@@ -1,10 +1,9 @@
 #pragma once
 
 #include <QString>
+#include <QWidget>
 #include <functional>
 #include <optional>
-
-class QWidget;
 
 namespace screenkit {
 
@@ -36,6 +35,8 @@ public:
     virtual QWidget* widget() = 0;
     /// The control that holds the focus while the user is in it: of a table the cell in edit.
     virtual QWidget* entry() { return widget(); }
+    /// True for each control that is the field's or lies inside it.
+    virtual bool holds(const QWidget* control) { return widget() == control || widget()->isAncestorOf(control); }
     /// Shows what the record holds.
     virtual void fill() = 0;
     /// What is wrong with what the user has put there, if anything. A field may clear itself here (a date that is
@@ -51,6 +52,8 @@ public:
     virtual std::optional<double> figure() const { return {}; }
     /// A result: yellow, read-only and out of the tab order. The four figures of a loan take turns at it.
     virtual void setResult(bool) {}
+    /// An input that shows what is entered elsewhere (the total of a list): read-only, in a shade of its own.
+    virtual void setLocked(bool) {}
     /// The focus, with the whole content selected.
     virtual void takeFocus() = 0;
 

@@ -22,7 +22,7 @@ constexpr int middleGrey = 128; // of 255
 constexpr const char* kindOfLine = "kindOfLine";
 constexpr const char* staleLine = "staleLine";
 constexpr const char* markedLine = "markedLine";
-enum Kind { entry, result, shown };
+enum Kind { entry, result, shown, locked };
 const QColor amber(255, 213, 128);
 
 /// Between two colours, nearer to the first: what steps back and can still be read.
@@ -31,18 +31,31 @@ QColor between(const QColor& ink, const QColor& paper) {
     return {mix(ink.red(), paper.red()), mix(ink.green(), paper.green()), mix(ink.blue(), paper.blue())};
 }
 
-void setState(QLineEdit* line, const char* name, int state) {
-    line->setProperty(name, state);
+/// The window's colour with a breath of the highlight's: neither an open field nor a result, in light and dark alike.
+QColor lockedShade(const QPalette& palette) {
+    constexpr int share = 5; // one part in so many
+    const QColor window = palette.window().color(), tint = palette.highlight().color();
+    const auto mixed = [](int of, int with) { return of + (with - of) / share; };
+    return {mixed(window.red(), tint.red()), mixed(window.green(), tint.green()), mixed(window.blue(), tint.blue())};
+}
+
+void colour(QLineEdit* line) {
     QPalette palette;
     const int kind = line->property(kindOfLine).toInt();
     const bool marked = line->property(markedLine).toBool();
     if (kind == Kind::shown) palette.setColor(QPalette::Base, palette.window().color());
+    if (kind == Kind::locked) palette.setColor(QPalette::Base, lockedShade(palette));
     if (kind == Kind::result) palette.setColor(QPalette::Base, Qt::yellow);
     if (marked) palette.setColor(QPalette::Base, amber);
     if (marked || kind == Kind::result) palette.setColor(QPalette::Text, Qt::black);
     if (line->property(staleLine).toBool())
         palette.setColor(QPalette::Text, between(palette.text().color(), palette.base().color()));
     line->setPalette(palette);
+}
+
+void setState(QLineEdit* line, const char* name, int state) {
+    line->setProperty(name, state);
+    colour(line);
 }
 
 /// In place of the line's own tip, which comes back when there is nothing to say.
@@ -104,6 +117,11 @@ private:
     }
 };
 
+void setReadOnly(QLineEdit* field, bool readOnly) {
+    field->setReadOnly(readOnly);
+    field->setFocusPolicy(readOnly ? Qt::ClickFocus : Qt::StrongFocus); // a click still lets the user copy it
+}
+
 } // namespace
 
 void apply(QApplication& application) {
@@ -127,13 +145,17 @@ QSize fieldSize(const QLineEdit* field, int characters) {
 }
 
 void setResult(QLineEdit* field, bool result) {
-    field->setReadOnly(result);
-    field->setFocusPolicy(result ? Qt::ClickFocus : Qt::StrongFocus); // a click still lets the user copy it
+    setReadOnly(field, result);
     setState(field, kindOfLine, result ? Kind::result : Kind::entry);
 }
 
+void setLocked(QLineEdit* field, bool locked) {
+    setReadOnly(field, locked);
+    setState(field, kindOfLine, locked ? Kind::locked : Kind::entry);
+}
+
 void setShown(QLineEdit* field) {
-    setResult(field, true);
+    setReadOnly(field, true);
     setState(field, kindOfLine, Kind::shown);
 }
 
@@ -150,6 +172,10 @@ void setMarked(QLineEdit* field, const QString& why) {
     if (field->property(markedLine).toBool() == !why.isEmpty() && field->accessibleDescription() == why) return;
     setState(field, markedLine, !why.isEmpty());
     say(field, why);
+}
+
+void followTheme(QLineEdit* line) {
+    if (line->property(kindOfLine).toInt() != Kind::entry) colour(line);
 }
 
 int lineHeight(const QWidget* widget) { return widget->fontMetrics().height(); }

@@ -20,6 +20,10 @@ QSize fieldSize(const QLineEdit* field, int characters);
 /// A result is yellow with black text, read-only and out of the tab order; an entry takes the palette's colours.
 void setResult(QLineEdit* field, bool result);
 
+/// An input that shows what is entered elsewhere: a shade of its own, read-only and out of the tab order. Yellow would
+/// pass it off as something worked out here.
+void setLocked(QLineEdit* field, bool locked);
+
 /// A text that is shown and not entered: on the window's own colour, with no look of a result.
 void setShown(QLineEdit* field);
 
@@ -30,6 +34,9 @@ void setStale(QLineEdit* result, bool stale);
 /// A content that something is wrong with stands out by its colour; `why` is said to who asks and to a screen reader.
 /// Empty: nothing is wrong.
 void setMarked(QLineEdit* field, const QString& why);
+
+/// The palette has changed while the program runs: shades that are mixed from it are mixed anew.
+void followTheme(QLineEdit* line);
 
 /// One line's height in the widget's font: the measure for spaces and panels.
 int lineHeight(const QWidget* widget);

@@ -257,7 +257,7 @@ TEST_F(KitTest, enteringAFieldSelectsAllOfItWithoutSwallowingQuickTyping) {
     EXPECT_EQ(selected(), "500.00") << "by its access key";
 }
 
-TEST_F(KitTest, aResultIsYellowReadOnlyAndOutOfTheTabOrderInAnyTheme) {
+TEST_F(KitTest, resultsAndLockedFieldsHaveTheirOwnShadesInAnyTheme) {
     const QPalette before = QApplication::palette();
     QPalette dark;
     dark.setColor(QPalette::Base, QColor(30, 30, 30));
@@ -286,7 +286,20 @@ TEST_F(KitTest, aResultIsYellowReadOnlyAndOutOfTheTabOrderInAnyTheme) {
     key(Qt::Key_Tab);
     EXPECT_EQ(focus(), "numTotal");
     EXPECT_TRUE(has(total, QColor(30, 30, 30)));
-    QApplication::setPalette(before);
+
+    total->setLocked(true); // it shows the total of a list now: no result, and no entry either
+    for (const QPalette& theme : {dark, before}) {
+        QApplication::setPalette(theme);
+        settle();
+        for (const QColor& other : {QColor("#ffff00"), theme.base().color(), theme.window().color()})
+            EXPECT_FALSE(has(total, other)) << other.name().toStdString();
+        EXPECT_EQ(total->palette().color(QPalette::Text), theme.text().color());
+        go("numRate");
+        key(Qt::Key_Tab);
+        EXPECT_EQ(focus(), "dtDay");
+    }
+    total->setLocked(false);
+    EXPECT_TRUE(has(total, before.base().color()));
 }
 
 TEST_F(KitTest, theWheelChangesNoField) {
