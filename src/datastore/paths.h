@@ -8,7 +8,8 @@
 /// Where the databases lie.
 namespace datastore {
 
-/// Full paths, worked out once at start-up. An existing file keeps its own spelling.
+/// Full paths, worked out at start-up. An existing file keeps its own spelling. Only the client database changes while
+/// the program runs: see `useClientDb`.
 struct Paths {
     std::filesystem::path programFolder;
     std::filesystem::path DataDbPath;    ///< the client database; the only one that may lie elsewhere
@@ -16,6 +17,7 @@ struct Paths {
     std::filesystem::path PrintDbPath;   ///< report feed
     std::filesystem::path UnitsDbPath;   ///< unit trusts
     std::filesystem::path DiaryDbPath;   ///< the diary
+    double UpDateDBValue = 0;            ///< version of the client database as it stands since it was opened
 };
 
 /// The paths as a start of the program finds them: reads `DataPath.txt`, and writes it with the default path if it is

@@ -98,12 +98,25 @@ StartUpResult startUp(const fs::path& programFolder, assessment::Assessment& rec
     // One connection a file: reading the definitions of its tables is most of the work of a start on it.
     store::Database clients(result.paths.DataDbPath);
     renewPrintDb(clients, result.paths.PrintDbPath);
-    result.UpDateDBValue = bringUpToDate(clients, result.paths);
+    result.paths.UpDateDBValue = bringUpToDate(clients, result.paths);
     store::Database settings(result.paths.DefaultDbPath);
     completeSettings(settings);
     ResetAssessment(record, settings, clients);
     record.funds = readFunds(settings);
     return result;
+}
+
+void useClientDb(Paths& paths, const fs::path& dataDbPath, assessment::Assessment& record) {
+    Paths next = paths;
+    next.DataDbPath = dataDbPath;
+    store::Database clients(dataDbPath);
+    next.UpDateDBValue = bringUpToDate(clients, next);
+    UpgradeHeadFoot(clients);
+    std::error_code ignored; // work without reports goes on, as after a start
+    if (fs::exists(next.PrintDbPath, ignored)) CopyHeadFootToPrintDb(clients, next.PrintDbPath);
+    paths = std::move(next);
+    readCPI(record, clients);
+    record.ClientOnFile = 0;
 }
 
 } // namespace datastore

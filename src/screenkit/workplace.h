@@ -1,8 +1,10 @@
 #pragma once
 
 #include <QString>
+#include <filesystem>
 
 #include "assessment/assessment.h"
+#include "screenkit/lent.h"
 
 class QWidget;
 
@@ -38,16 +40,21 @@ public:
     virtual bool Save() = 0;
     /// Closes the client's screens, so that each fills itself afresh when it is opened next.
     virtual void CLEARLOAD() = 0;
+    /// Goes over to the clients of another file, or to those of the same one after it was replaced: from here on
+    /// `Workplace::paths` says so to every screen, and screens that hold lines of the file before are closed. Throws
+    /// store::Error; all is as before then (see datastore::useClientDb).
+    virtual void useClientDb(const std::filesystem::path& dataDbPath) = 0;
 };
 
 /// The table that a screen works at: the client's record, the files, and the ways out to the user and to paper. It
 /// outlives every screen.
 struct Workplace {
     assessment::Assessment& record;
-    const datastore::Paths& paths;
+    const datastore::Paths& paths; ///< changed by Shell::useClientDb alone
     Desk& desk;
     reports::Engine& reports;
     Shell& shell;
+    LentFigures lent = {}; ///< figures of one screen that another's calculation works over
 };
 
 } // namespace screenkit

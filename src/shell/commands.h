@@ -5,8 +5,8 @@
 namespace shell {
 
 /// One item of the menu: its name, its caption as it stands, the item that it hangs under ("" for the bar itself) the
-/// screen that it opens and its shortcut key. An item with neither a screen nor an action of the main window is a
-/// drop-down.
+/// screen that it opens and its shortcut key. What it does besides opening a screen stands in menuactions.cpp, under
+/// its name; an item under which others hang is a drop-down.
 struct MenuItem {
     const char* name;
     const char* caption;

@@ -15,6 +15,7 @@
 #include "base/text.h"
 #include "datastore/paths.h"
 #include "datastore/reset.h"
+#include "datastore/startup.h"
 #include "reports/report.h"
 #include "screenkit/accesskeys.h"
 #include "screenkit/desk.h"
@@ -24,9 +25,9 @@
 #include "screenkit/trouble.h"
 #include "shell/commands.h"
 #include "shell/frmBrowser.h"
+#include "shell/menuactions.h"
 #include "shell/menukeys.h"
 #include "shell/placing.h"
-#include "shell/program.h"
 #include "shell/saving.h"
 #include "shell/screens.h"
 #include "shell/statusline.h"
@@ -40,16 +41,13 @@ using screenkit::Buttons;
 using screenkit::Screen;
 
 namespace {
-constexpr const char* lecturesAddress = "https://www.marlowbeck.example/lectures";
 constexpr const char* unsavedChanges = "Current changes have not been saved. Do you want to save them. ?";
-const QStringList calculators{
-    "gnome-calculator", "kcalc",       "mate-calc",         "galculator",      "qalculate-gtk", "qalculate-qt",
-    "xfce4-calculator", "speedcrunch", "deepin-calculator", "lxqt-calculator", "xcalc"};
 } // namespace
 
-MDIForm1::MDIForm1(assessment::Assessment& record, const datastore::Paths& paths, screenkit::Desk& desk,
+MDIForm1::MDIForm1(assessment::Assessment& record, datastore::Paths& paths, screenkit::Desk& desk,
                    reports::Engine& reports)
-    : m_work{record, paths, desk, reports, *this}, m_area(new QMdiArea(this)), m_status(new StatusLine(this, record)) {
+    : m_paths(paths), m_work{record, paths, desk, reports, *this}, m_area(new QMdiArea(this)),
+      m_status(new StatusLine(this, record)) {
     setObjectName("MDIForm1");
     m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     m_area->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
@@ -57,21 +55,6 @@ MDIForm1::MDIForm1(assessment::Assessment& record, const datastore::Paths& paths
     m_area->setActivationOrder(QMdiArea::ActivationHistoryOrder); // a graph that is closed gives back its calculator
     setCentralWidget(m_area);
     setContextMenuPolicy(Qt::NoContextMenu); // the toolkit's would hide the toolbar behind the menu item's back
-    m_commands = {
-        {"mnuNewFile", [this] { mnuNewFile_Click(); }},
-        {"mnuBrowse", [this] { mnuBrowse_Click(); }},
-        {"mnuRetrieve", [this] { mnuBrowse_Click(); }},
-        {"mnuSave", [this] { mnuSave_Click(); }},
-        {"mnuPrintSetup", [this] { m_work.reports.setUpPrinter(); }},
-        {"mnuExit", [this] { close(); }},
-        {"mnuCalculator", [this] { startCalculator(); }},
-        {"mnuViewToolBar", {}}, // its check mark alone shows and hides the toolbar
-        {"mnuCascade", [this] { cascade(m_area); }},
-        {"mnuIcon", [this] { arrangeIcons(m_area); }},
-        {"mnuVideoLectures", [this] { m_work.desk.openOnDesktop(lecturesAddress); }},
-        {"mnuContents", [this] { help(); }},
-        {"mnuAbout", [this] { about(); }},
-    };
     new screenkit::AccessKeys(this);
     new MenuKeys(this);
     buildMenu();
@@ -119,17 +102,15 @@ QAction* MDIForm1::addItem(const MenuItem& item) {
     action->setObjectName(item.name);
     action->setShortcut(QKeySequence(item.shortcut));
     m_actions[item.name] = action;
-    const QString screen = item.screen;
-    if (!m_commands.contains(item.name)) {
-        if (screenEntry(screen) == nullptr) {
-            action->setEnabled(false); // its screen does not exist yet: nothing pretends
-            action->setToolTip(tr("Not in this version yet"));
-            return action;
-        }
-        m_commands[item.name] = [this, screen] { open(screen); };
-    }
-    if (m_commands[item.name])
-        connect(action, &QAction::triggered, this, [this, name = QString(item.name)] { act(m_commands[name]); });
+    const MenuAction* command = menuAction(item.name);
+    if (command == nullptr && screenEntry(item.screen) == nullptr) {
+        action->setEnabled(false); // what it stands for does not exist yet: nothing pretends
+        action->setToolTip(tr("Not in this version yet"));
+    } else if (command == nullptr)
+        connect(action, &QAction::triggered, this,
+                [this, screen = QString(item.screen)] { act([this, &screen] { open(screen); }); });
+    else if (command->run != nullptr)
+        connect(action, &QAction::triggered, this, [this, command] { act([this, command] { command->run(*this); }); });
     return action;
 }
 
@@ -245,6 +226,7 @@ void MDIForm1::activated(QMdiSubWindow* window) {
 bool MDIForm1::exists(const QString& screen) { return screenEntry(screen) != nullptr; }
 
 void MDIForm1::refillScreens() {
+    m_work.lent.forget();
     for (Screen* open : screens())
         open->clientReplaced();
 }
@@ -323,10 +305,18 @@ bool MDIForm1::NEWUNLOAD() {
 
 void MDIForm1::CLEARLOAD() {
     const BusyCursor busy;
+    m_work.lent.forget(); // it was the old client's: a screen that closes must not give it to the new one
     for (const char* name : clientScreens())
         if (auto* open = qobject_cast<Screen*>(screen(name)); open != nullptr) open->drop();
     refillScreens(); // no old client's figures beside a new one
     m_status->clear();
+}
+
+void MDIForm1::useClientDb(const std::filesystem::path& dataDbPath) {
+    const BusyCursor busy;
+    datastore::useClientDb(m_paths, dataDbPath, m_work.record);
+    for (const char* name : screensOfTheFile())
+        if (auto* open = qobject_cast<Screen*>(screen(name)); open != nullptr) open->drop();
 }
 
 bool MDIForm1::mayExit() {
@@ -363,22 +353,12 @@ void MDIForm1::closeEvent(QCloseEvent* event) {
     event->accept();
 }
 
-void MDIForm1::startCalculator() {
-    if (!m_work.desk.startProgram(calculators))
-        m_work.desk.tell(BoxStyle::warning, "The Microsoft Calculator is not installed or in the Windows directory",
-                         "Marlowbeck");
-}
-
 void MDIForm1::help() {
     const Screen* front = activeScreen();
     const ScreenEntry* entry = front != nullptr ? screenEntry(front->objectName()) : nullptr;
     open("frmBrowser");
     auto* guide = qobject_cast<frmBrowser*>(screen("frmBrowser"));
     if (guide != nullptr && entry != nullptr && front != guide) guide->showChapter(entry->chapter);
-}
-
-void MDIForm1::about() {
-    m_work.desk.tell(BoxStyle::information, QString::fromStdString(programCaption()), tr("About Marlowbeck"));
 }
 
 } // namespace shell

@@ -25,8 +25,7 @@ class StatusLine;
 class MDIForm1 : public QMainWindow, public screenkit::Shell {
     Q_OBJECT
 public:
-    MDIForm1(assessment::Assessment& record, const datastore::Paths& paths, screenkit::Desk& desk,
-             reports::Engine& reports);
+    MDIForm1(assessment::Assessment& record, datastore::Paths& paths, screenkit::Desk& desk, reports::Engine& reports);
     ~MDIForm1() override;
 
     // What screens ask of it.
@@ -38,12 +37,22 @@ public:
     void enableToolbar(bool on) override;
     bool Save() override;
     void CLEARLOAD() override;
+    void useClientDb(const std::filesystem::path& dataDbPath) override;
 
+    // What the menu's actions ask of it besides.
+    screenkit::Workplace& workplace() { return m_work; }
     void mnuNewFile_Click();
     void mnuBrowse_Click();
     void mnuSave_Click();
     /// Blanks the record and closes the client's screens; false, after a box, if the settings can't be read.
     bool NEWUNLOAD();
+    enum class Changes { none, saved, dropped, kept };
+    /// Asks what is to become of unsaved changes, under this title, before a command does away with the client in hand.
+    /// Yes runs `save`. Kept: the user would rather stay.
+    Changes askAboutChanges(const QString& title, const std::function<void()>& save);
+    QMdiArea* area() { return m_area; }
+    /// The guide, at the chapter of the screen in front.
+    void help();
 
     /// Closing asks nothing from here on.
     void exitWithoutAsking() { m_exitWithoutAsking = true; }
@@ -64,24 +73,18 @@ private:
     void place(screenkit::Screen* screen);
     void activated(QMdiSubWindow* window);
     screenkit::Screen* activeScreen() const;
-    enum class Changes { none, saved, dropped, kept };
     /// False if the user would rather go on with what a screen holds apart from the record.
     bool allEditsCommitted() const;
-    Changes askAboutChanges(const QString& title, const std::function<void()>& save);
     bool mayExit();
     /// The desktop logs the user out or shuts down: the same questions as at the close.
     void sessionEnds(QSessionManager& session);
-    void startCalculator();
-    /// The guide, at the chapter of the screen in front.
-    void help();
-    void about();
 
+    datastore::Paths& m_paths;
     screenkit::Workplace m_work;
     QMdiArea* m_area;
     StatusLine* m_status;
     QToolBar* m_toolbar = nullptr;
     QHash<QString, QAction*> m_actions;
-    QHash<QString, std::function<void()>> m_commands;
     QPointer<QMdiSubWindow> m_front; ///< the child screen last in front, also while another program is
     int m_toolbarHolders = 0;        ///< open screens that want the toolbar off
     bool m_exitWithoutAsking = false;

@@ -46,6 +46,10 @@ constexpr const char* closedWithTheClient[] = {
     "frmPolInvest",  "frmEstateDutyEst", "frmRATaxAdv",   "frmCGTCalcIncome", "frmLumpSum",
 };
 
+constexpr const char* closedWithTheFile[] = {
+    "frmBrowse", "frmDelete", "frmCOPYToA", "frmFindSARS", "frmFindBirthdays", "frmHeadFoot",
+};
+
 } // namespace
 
 const ScreenEntry* screenEntry(const QString& name) {
@@ -57,5 +61,6 @@ const ScreenEntry* screenEntry(const QString& name) {
 std::span<const ScreenEntry> screenEntries() { return entries; }
 
 std::span<const char* const> clientScreens() { return closedWithTheClient; }
+std::span<const char* const> screensOfTheFile() { return closedWithTheFile; }
 
 } // namespace shell

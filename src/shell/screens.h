@@ -28,4 +28,7 @@ std::span<const ScreenEntry> screenEntries();
 /// among them: they stay open and are filled again.
 std::span<const char* const> clientScreens();
 
+/// The screens that hold keys or lines of the client database, and would write them into another one.
+std::span<const char* const> screensOfTheFile();
+
 } // namespace shell

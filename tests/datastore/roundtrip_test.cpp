@@ -124,7 +124,7 @@ TEST(RoundTrip, AFileOfVersion3IsBroughtUpAndThenHoldsEverything) {
     folder.run("Data.Mdb", "INSERT INTO Data(DCLNO,Name,Num1) VALUES(7,'Old client',5);"
                            "INSERT INTO PersDetails(DCLNO,Name,CLName) VALUES(7,'Old client','Client')");
     Assessment record;
-    ASSERT_EQ(datastore::startUp(folder.path(), record).UpDateDBValue, datastore::currentVersion);
+    ASSERT_EQ(datastore::startUp(folder.path(), record).paths.UpDateDBValue, datastore::currentVersion);
     datastore::load(record, folder.paths(), 7);
     EXPECT_EQ(record.client.Name, "Old client");
     EXPECT_EQ(record.loans.Num1, 5);

@@ -15,7 +15,7 @@ TEST(StartUp, AFirstRunMakesTheClientDatabaseAndReadsTheSettings) {
     Assessment record;
     record.client.Name = "of an earlier life";
     const datastore::StartUpResult result = datastore::startUp(folder.path(), record);
-    EXPECT_EQ(result.UpDateDBValue, datastore::currentVersion);
+    EXPECT_EQ(result.paths.UpDateDBValue, datastore::currentVersion);
     EXPECT_EQ(result.paths.DataDbPath, folder / "Data.Mdb");
     EXPECT_EQ(storetest::bytesOf(folder / "DataPath.txt"), "\"" + (folder / "Data.Mdb").string() + "\"\r\n");
     EXPECT_EQ(cell(folder / "Data.Mdb", "SELECT UpDateDB FROM DataSetup"), current);
@@ -68,8 +68,8 @@ TEST(StartUp, UsesTheFilesUnderTheirOwnSpelling) {
     fs::rename(folder / "Default.Mdb", folder / "DEFAULT.mdb");
     storetest::put(folder / "datapath.TXT", "Sub\\data.mdb\n"); // relative to the program's folder
     Assessment record;
-    const auto result = datastore::startUp(folder.path(), record);
-    EXPECT_EQ(result.paths.DataDbPath, folder / "Sub/DATA.MDB");
+    const auto paths = datastore::startUp(folder.path(), record).paths;
+    EXPECT_EQ(paths.DataDbPath, folder / "Sub/DATA.MDB");
     EXPECT_EQ(storetest::bytesOf(folder / "datapath.TXT"), "Sub\\data.mdb\n"); // never rewritten by a start
     EXPECT_FALSE(fs::exists(folder / "DataPath.txt"));
     fs::rename(folder / "Sub/DATA.MDB", folder / "DATA.MDB");
@@ -276,7 +276,7 @@ TEST(StartUp, WorksOnTheDatabasesThatAreShipped) {
     for (const char* name : {"Default.Mdb", "Print.mdb"})
         storetest::put(folder / name, storetest::bytesOf(fs::path(MARLOWBECK_PROGRAM_DIR) / name));
     Assessment record;
-    EXPECT_EQ(datastore::startUp(folder.path(), record).UpDateDBValue, datastore::currentVersion);
+    EXPECT_EQ(datastore::startUp(folder.path(), record).paths.UpDateDBValue, datastore::currentVersion);
     EXPECT_EQ(record.GRINC, 0.5);
     EXPECT_GT(record.funds.AllocationPer, 0);
     EXPECT_EQ(cell(folder / "Print.mdb", "SELECT footv1 FROM HeadFoot"),
@@ -301,6 +301,33 @@ TEST(Inflation, CarriesACostAndItsBuyingPowerYearByYear) {
     const auto falling = carried(100, 1, -5);
     EXPECT_DOUBLE_EQ(falling.futureValue, 95);
     EXPECT_DOUBLE_EQ(falling.buyingPower, 100 + 5 * 100 / 95.0);
+}
+
+TEST(StartUp, GoesOverToAnotherClientDatabaseWholeOrNotAtAll) {
+    const ProgramFolder folder;
+    Assessment record;
+    datastore::Paths paths = datastore::startUp(folder.path(), record).paths;
+    fs::create_directory(folder / "practice");
+    fs::copy_file(folder / "Data.Mdb", folder / "practice/O'Brien.mdb");
+    const auto inOther = [&](const std::string& sql) { store::Database(folder / "practice/O'Brien.mdb").execute(sql); };
+    inOther("INSERT INTO CPIDefault(CPI) VALUES(6.5)");
+    inOther("UPDATE HeadFoot SET HEADERV0 = 'The other practice'");
+    inOther("UPDATE DataSetup SET UpDateDB = 3");
+    storetest::put(folder / "no database.mdb", "text");
+    for (const auto& [file, error] : {std::pair{"missing.mdb", 3024}, {"no database.mdb", 3343}, {"Print.mdb", 3011}}) {
+        record.ClientOnFile = 1;
+        EXPECT_EQ(errorOf([&] { datastore::useClientDb(paths, folder / file, record); }), error) << file;
+        EXPECT_EQ(paths.DataDbPath, folder / "Data.Mdb") << file;
+        EXPECT_EQ(record.ClientOnFile, 1) << file;
+    }
+    paths.UpDateDBValue = 0;
+    datastore::useClientDb(paths, folder / "practice/O'Brien.mdb", record);
+    EXPECT_EQ(paths.DataDbPath, folder / "practice/O'Brien.mdb");
+    EXPECT_EQ(paths.UpDateDBValue, datastore::currentVersion);
+    EXPECT_EQ(record.CPI, 6.5);
+    EXPECT_EQ(record.ClientOnFile, 0) << "the key is the other file's";
+    EXPECT_EQ(cell(folder / "practice/O'Brien.mdb", "SELECT UpDateDB FROM DataSetup"), current);
+    EXPECT_EQ(cell(folder / "Print.mdb", "SELECT HEADERV0 FROM HeadFoot"), "The other practice");
 }
 
 } // namespace

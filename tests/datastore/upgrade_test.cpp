@@ -12,7 +12,7 @@ class LadderTest : public ::testing::Test {
 protected:
     double start() {
         Assessment record;
-        return datastore::startUp(folder.path(), record).UpDateDBValue;
+        return datastore::startUp(folder.path(), record).paths.UpDateDBValue;
     }
     std::string drawing(double key) const {
         return cell(file, "SELECT InitPercRequire FROM Data WHERE DCLNO=" + std::to_string(key));
@@ -42,7 +42,7 @@ TEST_F(LadderTest, EachVersionClimbsToTheCurrentOneAtOnce) {
                               "VALUES(1,1000,8,'annually')");
         for (int starts = 0; starts < 2; ++starts) {
             Assessment record;
-            EXPECT_EQ(datastore::startUp(fresh.path(), record).UpDateDBValue, after) << version;
+            EXPECT_EQ(datastore::startUp(fresh.path(), record).paths.UpDateDBValue, after) << version;
             EXPECT_EQ(cell(fresh / "Data.Mdb", "SELECT InitPercRequire FROM Data"), expected) << version;
         }
         EXPECT_EQ(std::stod(cell(fresh / "Data.Mdb", "SELECT UpDateDB FROM DataSetup")), after);

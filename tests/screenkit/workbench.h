@@ -20,6 +20,7 @@ public:
     void enableToolbar(bool on) override { toolbar = on; }
     bool Save() override { return false; }
     void CLEARLOAD() override {}
+    void useClientDb(const std::filesystem::path&) override {}
 
     QStringList opened;
     int namesShown = 0;

@@ -229,4 +229,29 @@ TEST(Menu, HelpLecturesAndAbout) {
     EXPECT_TRUE(run.desk.last().text.endsWith(" Version : 1.00.000")) << run.desk.last().text.toStdString();
 }
 
+TEST(Menu, AnotherClientDatabaseIsTheOneOfEveryScreen) {
+    RunningProgram run;
+    run.saveClient("Botha");
+    run.menu("mnuPolInvests");
+    run.menu("mnuPrep");
+    run.menu("mnuBrowse");
+    const auto other = run.folder / "Other.mdb";
+    std::filesystem::copy_file(run.folder / "Data.Mdb", other);
+    run.window().useClientDb(other);
+    RunningProgram::settle();
+    for (const char* holdsTheOldFiles : {"frmBrowse", "frmHeadFoot"})
+        EXPECT_FALSE(run.isOpen(holdsTheOldFiles)) << holdsTheOldFiles;
+    run.menu("mnuPolInvests");
+    run.click("cmdCPI");
+    run.type("numCPI", "6.5");
+    run.click("cmdCPIOK");
+    EXPECT_EQ(shelltest::rowsOf(other, "SELECT CPI FROM CPIDefault"), "6.5");
+    run.menu("mnuSave");
+    EXPECT_EQ(shelltest::rowsOf(other, "SELECT CLName FROM PersDetails ORDER BY DCLNO"), "Botha\nBotha")
+        << "added, not written over the one who has his key there";
+    EXPECT_EQ(run.inClients("SELECT count(*) FROM PersDetails"), "1");
+    EXPECT_THROW(run.window().useClientDb(run.folder / "missing.mdb"), store::Error);
+    EXPECT_EQ(run.program.paths().DataDbPath, other);
+}
+
 } // namespace
