@@ -119,7 +119,7 @@ void ItemisedScreen::refresh(const ItemLine& itemised) {
     if (shown == m_shown.end()) return;
     const bool on = itemised.list(m_work.record).flag != 0;
     for (Field* field : shown->second.fields)
-        field->setResult(on);
+        field->setLocked(on);
     if (shown->second.button != nullptr) showInUse(shown->second.button, on);
 }
 
@@ -206,7 +206,9 @@ bool ItemisedScreen::leavePanel() {
     return true;
 }
 
-bool ItemisedScreen::commitPendingEdits() { return m_open == nullptr || !hasChanges() || leavePanel(); }
+bool ItemisedScreen::commitPendingEdits() {
+    return (m_open == nullptr || !hasChanges() || leavePanel()) && Screen::commitPendingEdits();
+}
 
 bool ItemisedScreen::mayClose() { return leavePanel(); }
 

@@ -60,7 +60,7 @@ frmNARA::frmNARA(Workplace& workplace)
                                         button("cmdPrint", "&Print",
                                                [this] {
                                                    calculate();
-                                                   m_printPanel->open(m_firstChoice);
+                                                   m_printPanel->open();
                                                }),
                                         spring(), m_ok})}));
     defaultButton(calculateIt);
@@ -193,7 +193,6 @@ void frmNARA::buildPrintPanel() {
     auto* notes = check("Check3", "Include &Notes", m_includeNotes);
     auto* items = check("Check4", "Include &Itemised Particulars", m_includeItems);
     auto* policies = check("chkPolInvestSchudule", "P&olicies && Investments Schedule", m_includePolicies);
-    m_firstChoice = amortised;
     premium->setEnabled(false); // no premium can be solved yet
     for (CheckField* choice : {amortised, premium, notes, items, policies})
         untrackedField(choice);

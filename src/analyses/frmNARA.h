@@ -59,8 +59,7 @@ private:
     double m_shown[6] = {}; ///< behind the six results of the last page
     QLabel* m_shortfall = nullptr;
     QPushButton* m_ok = nullptr;
-    QWidget* m_firstChoice = nullptr; ///< of the print panel
-    screenkit::Panel* m_printPanel = nullptr;
+    screenkit::PrintPanel* m_printPanel = nullptr;
 };
 
 } // namespace analyses

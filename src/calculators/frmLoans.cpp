@@ -87,7 +87,7 @@ void frmLoans::buildBody() {
              button("cmdPrint", "&Print",
                     [this] {
                         calculate();
-                        m_printPanel->open(findChild<QWidget*>("Check1"));
+                        m_printPanel->open();
                     }),
              spring(), m_ok}),
     }));

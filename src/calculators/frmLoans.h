@@ -47,7 +47,7 @@ private:
     screenkit::NumberField *m_principal, *m_period, *m_rate, *m_repayment, *m_interest, *m_repayments;
     QLabel *m_modeLabel, *m_rateError;
     QWidget *m_ok = nullptr, *m_amortChoice = nullptr;
-    screenkit::Panel* m_printPanel = nullptr;
+    screenkit::PrintPanel* m_printPanel = nullptr;
 };
 
 } // namespace calculators

@@ -27,11 +27,10 @@ frmPersDet::frmPersDet(Workplace& workplace)
                                       {"Addresses and ban&k", addressPage()},
                                       {"&Dependants", dependantsPage()},
                                       {"Re&view and notes", notesPage()}});
-    body(
-        column({pages, row({disabledButton("cmdOtherAssets", "Other Assets"),
-                            opener("cmdPolInvest", "Polic&y/Investments", "frmPolInvest"),
-                            button("cmdPrint", "Prin&t", [this] { m_printPanel->open(findChild<QWidget*>("Check3")); }),
-                            spring(), okButton("cmOk", "&OK")})}));
+    body(column({pages, row({disabledButton("cmdOtherAssets", "Other Assets"),
+                             opener("cmdPolInvest", "Polic&y/Investments", "frmPolInvest"),
+                             button("cmdPrint", "Prin&t", [this] { m_printPanel->open(); }), spring(),
+                             okButton("cmOk", "&OK")})}));
     buildPrintPanel();
 }
 

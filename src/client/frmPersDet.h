@@ -67,7 +67,7 @@ private:
     std::vector<Birth> m_births;
     Identity m_ids[2]; ///< the client's and the spouse's
     screenkit::TextField* m_residential[3] = {};
-    screenkit::Panel* m_printPanel = nullptr;
+    screenkit::PrintPanel* m_printPanel = nullptr;
 };
 
 } // namespace client

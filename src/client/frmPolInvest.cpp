@@ -8,7 +8,6 @@
 #include "datastore/paths.h"
 #include "datastore/reset.h"
 #include "reports/report.h"
-#include "screenkit/trouble.h"
 
 namespace client {
 
@@ -78,28 +77,24 @@ QLayout* frmPolInvest::buttons() {
     defaultButton(solve);
     return row({m_back, m_forward, button("cmdAdd", "A&dd", [this] { add(); }),
                 cancelButton("cmdDelete", "De&lete", [this] { remove(); }), solve,
-                button("cmdCPI", "CP&I", [this] { openCPI(); }),
+                button("cmdCPI", "CP&I", [this] { m_openCPI(); }),
                 button("cmdPrint", "Prin&t",
                        [this] {
                            calculate();
-                           m_printPanel->open(findChild<QWidget*>("chkPolInvestList"));
+                           m_printPanel->open();
                        }),
                 spring(), okButton()});
 }
 
 void frmPolInvest::buildCPIPanel() {
-    m_cpi = number("numCPI", m_typedCPI, cpiRate);
-    untrackedField(m_cpi); // it belongs to the practice, not to the client
-    m_cpiPanel = panel("fraCPI", tr("Consumer price index"), form({{"CP&I", m_cpi, "% a year"}}),
-                       {button("cmdCPIOK", "&OK", [this] { confirmCPI(); }),
-                        cancelButton("cmdCPICancel", "&Cancel", [this] { m_cpiPanel->close(); })});
+    auto* rate = number("numCPI", m_typedCPI, cpiRate);
+    m_openCPI = settingsPanel<double>(
+        {"fraCPI", "cmdCPIOK", "cmdCPICancel", tr("Consumer price index")}, form({{"CP&I", rate, "% a year"}}), {rate},
+        m_record.CPI, m_typedCPI, [this](double percent) { datastore::writeCPI(m_work.paths.DataDbPath, percent); });
 }
 
 void frmPolInvest::buildPrintPanel() {
-    const auto onlyWithAReport = [this](bool) {
-        for (const char* name : {"cmdVR", "cmdPD"})
-            findChild<QPushButton*>(name)->setEnabled(m_printList == 1 || m_printSchedule == 1);
-    };
+    const auto onlyWithAReport = [this](bool) { m_printPanel->setPrintable(m_printList == 1 || m_printSchedule == 1); };
     auto* list = check("chkPolInvestList", "Policies && Investments &Details", m_printList, onlyWithAReport);
     auto* schedule =
         check("chkPolInvestSchudule", "Policies && Investments &Schedule", m_printSchedule, onlyWithAReport);
@@ -190,20 +185,6 @@ void frmPolInvest::calculate() {
     }
     foldSchedule(m_record, [this] { CalculatePolInv(m_record); });
     showValues();
-}
-
-void frmPolInvest::openCPI() {
-    m_typedCPI = m_record.CPI;
-    m_cpi->fill();
-    m_cpiPanel->open(m_cpi);
-}
-
-void frmPolInvest::confirmCPI() {
-    const bool written =
-        guarded(m_work.desk, tr("store the CPI"), [this] { datastore::writeCPI(m_work.paths.DataDbPath, m_typedCPI); });
-    if (!written) return;
-    m_record.CPI = m_typedCPI;
-    m_cpiPanel->close();
 }
 
 void frmPolInvest::print(Destination destination) {

@@ -53,8 +53,6 @@ private:
     void showValues();
     void lockPremiums(bool paidUp);
     void calculate();
-    void openCPI();
-    void confirmCPI();
     void print(screenkit::Destination destination);
 
     assessment::Assessment& m_record;
@@ -64,10 +62,10 @@ private:
     std::vector<screenkit::NumberField*> m_valueFields;
     std::vector<QWidget*> m_premiums; ///< what a paid-up policy locks
     screenkit::TextField *m_type = nullptr, *m_other = nullptr;
-    screenkit::NumberField* m_cpi = nullptr;
     QTabWidget* m_pages = nullptr;
     QPushButton *m_back = nullptr, *m_forward = nullptr;
-    screenkit::Panel *m_cpiPanel = nullptr, *m_printPanel = nullptr;
+    std::function<void()> m_openCPI;
+    screenkit::PrintPanel* m_printPanel = nullptr;
 };
 
 /// The reports on all policies of the record in hand; no screen need be open. The schedule is folded into the analyses

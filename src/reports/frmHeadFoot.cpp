@@ -37,7 +37,7 @@ void frmHeadFoot::cmdOk_Click() {
         m_work.desk.box(BoxStyle::question, "Changes have been made to the Header/Footer. Do you want to save them. ?",
                         "Header/Footer Changes !", Buttons::yesNoCancel);
     if (answer == Answer::cancel) {
-        findChild<TextField*>("sitxEdit1(0)")->takeFocus();
+        static_cast<TextField*>(firstField())->takeFocus();
         return;
     }
     if (answer == Answer::yes)

@@ -5,6 +5,7 @@
 #include <QRadioButton>
 #include <QWidget>
 #include <functional>
+#include <optional>
 
 #include "screenkit/bound.h"
 #include "screenkit/field.h"
@@ -14,14 +15,18 @@ namespace screenkit {
 /// Options of which one holds, named `name(0)`, `name(1)`, ... from the top (or the left, if it lies flat).
 ///
 /// The record holds the index; an index that names no option leaves all of them off. Picking one writes it, then calls
-/// `picked`; picking the one that holds already is no edit.
+/// `picked`; picking the one that holds already is no edit. Tab stops at the option that holds, or at the first that
+/// can be picked if that one can't; the arrow keys go round those that can be picked.
 class OptionGroup : public QWidget, public Field {
     Q_OBJECT
 public:
-    OptionGroup(const QString& name, const QStringList& captions, Bound<int> place, Qt::Orientation orientation,
-                QWidget* parent = nullptr);
+    /// Without an orientation the options stand apart: each is put beside what it belongs to (`option(1)`), wherever
+    /// that is on the screen, and the group itself is never shown.
+    OptionGroup(const QString& name, const QStringList& captions, Bound<int> place,
+                std::optional<Qt::Orientation> orientation, QWidget* parent = nullptr);
 
-    QWidget* widget() override { return this; }
+    QWidget* widget() override;
+    bool holds(const QWidget* control) override;
     void fill() override;
     void takeFocus() override;
     int chosen() const { return m_group.checkedId(); }
@@ -40,13 +45,17 @@ protected:
 
 private:
     void choose(int index);
+    void walk(int from, int step);
+    /// Where Tab stops.
+    QAbstractButton* stop() const;
     /// The toolkit would send Tab to the first option even where another holds, until one has had the focus.
-    void takeTabAt(const QAbstractButton* stop);
+    void placeStop();
     /// The next option that can be picked, round and round.
     int after(int index, int step) const;
 
     Bound<int> m_place;
     QButtonGroup m_group;
+    bool m_apart;
     bool m_byArrow = false;
 };
 

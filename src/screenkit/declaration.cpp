@@ -4,25 +4,15 @@
 #include <QScrollArea>
 #include <QShortcut>
 #include <QTabWidget>
-#include <QTextBrowser>
-#include <QVBoxLayout>
-#include <memory>
 
 #include "screenkit/look.h"
 #include "screenkit/pages.h"
 #include "screenkit/screen.h"
 
-// What a screen is declared with; its life is in screen.cpp.
+// What a screen is declared with; its panels are in panels.cpp, its life in screen.cpp.
 namespace screenkit {
 
 namespace {
-
-/// A text of a size that the eye keeps hold of; what is more is scrolled to, and a small window makes it smaller.
-class TextPage : public QTextBrowser {
-public:
-    QSize sizeHint() const override { return {fontMetrics().averageCharWidth() * 80, look::lineHeight(this) * 20}; }
-    QSize minimumSizeHint() const override { return sizeHint() / 4; }
-};
 
 void greyOut(QPushButton* push) {
     push->setEnabled(false);
@@ -69,8 +59,8 @@ DateField* Screen::date(const QString& name, Bound<double> place, const DateKind
 }
 
 OptionGroup* Screen::options(const QString& name, const QStringList& captions, Bound<int> place,
-                             std::function<void(int)> picked, Qt::Orientation orientation) {
-    auto* group = keep(new OptionGroup(name, captions, std::move(place), orientation));
+                             std::function<void(int)> picked, std::optional<Qt::Orientation> orientation) {
+    auto* group = keep(new OptionGroup(name, captions, std::move(place), orientation, this));
     if (picked)
         group->picked = [this, picked = std::move(picked)](int index) {
             attempt(tr("take the choice"), [&] { picked(index); });
@@ -209,55 +199,6 @@ void Screen::body(QLayout* content) {
     auto* holder = new QWidget;
     holder->setLayout(content);
     m_area->setWidget(holder);
-}
-
-Panel* Screen::panel(const QString& name, const QString& title, Item content,
-                     std::initializer_list<QPushButton*> buttons) {
-    auto* made = new Panel(name, title, m_area, this);
-    auto* layout = new QVBoxLayout;
-    if (content.widget != nullptr) layout->addWidget(content.widget, 1);
-    if (content.layout != nullptr) layout->addLayout(content.layout, 1);
-    auto* foot = new QHBoxLayout;
-    foot->addStretch(1);
-    for (QPushButton* push : buttons)
-        foot->addWidget(push);
-    layout->addLayout(foot);
-    made->setContent(layout);
-    if (buttons.size() > 0) {
-        made->setDefaultButton(*buttons.begin());
-        made->setCancelButton(*(buttons.end() - 1));
-    }
-    m_panels.push_back(made);
-    return made;
-}
-
-std::function<void()> Screen::infoPanel(const QString& name, const QString& title, const QString& text,
-                                        const QString& okName) {
-    auto* page = new TextPage;
-    page->setObjectName(name + "Text");
-    page->setAccessibleName(title);
-    page->setPlainText(text);
-    page->setTabChangesFocus(true);
-    auto made = std::make_shared<Panel*>(nullptr);
-    *made = panel(name, title, page, {cancelButton(okName, "&OK", [made] { (*made)->close(); })});
-    return [made, page] { (*made)->open(page); };
-}
-
-Panel* Screen::printPanel(std::initializer_list<Item> choices, std::function<void(Destination)> print,
-                          const PrintButtons& names) {
-    auto* processing = new QLabel(" PROCESSING !");
-    processing->setObjectName("lblProcessing");
-    processing->setAlignment(Qt::AlignCenter);
-    processing->hide();
-    auto* content = column(choices);
-    static_cast<QVBoxLayout*>(content)->addWidget(processing);
-    auto made = std::make_shared<Panel*>(nullptr);
-    const auto run = [this, made, print](Destination to) { runPrint(*made, print, to); };
-    auto* view = button(names.view, "&View/Export report", [run] { run(Destination::preview); });
-    auto* direct = button(names.direct, "P&rint directly to printer", [run] { run(Destination::printer); });
-    auto* cancel = cancelButton(names.cancel, names.cancelCaption, [made] { (*made)->close(); });
-    *made = panel("fraPrint", tr("Print"), content, {view, direct, cancel});
-    return *made;
 }
 
 } // namespace screenkit

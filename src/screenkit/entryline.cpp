@@ -81,8 +81,7 @@ void EntryLine::mouseReleaseEvent(QMouseEvent* event) {
 
 void EntryLine::changeEvent(QEvent* event) {
     QLineEdit::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange && m_isLocked)
-        look::setLocked(this, true); // the shade follows the theme
+    if (event->type() == QEvent::PaletteChange) look::followTheme(this);
 }
 
 void EntryLine::wheelEvent(QWheelEvent* event) { event->ignore(); }

@@ -1,9 +1,11 @@
 #include "screenkit/layout.h"
 
+#include <QAbstractButton>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
 #include <QRegularExpression>
+#include <algorithm>
 
 namespace screenkit {
 
@@ -44,6 +46,33 @@ QLayout* withUnit(const FormRow& row) {
     }
     if (!grows) cell->addStretch(1);
     return cell;
+}
+
+/// The controls of a cell, in their order.
+QList<QWidget*> controlsOf(const Item& cell) {
+    if (cell.layout == nullptr) return cell.widget != nullptr ? QList{cell.widget} : QList<QWidget*>();
+    QList<QWidget*> controls;
+    for (int i = 0; i < cell.layout->count(); ++i) {
+        QLayoutItem* part = cell.layout->itemAt(i);
+        if (part->layout() != nullptr)
+            controls += controlsOf(part->layout());
+        else if (part->widget() != nullptr && qobject_cast<QLabel*>(part->widget()) == nullptr)
+            controls << part->widget();
+    }
+    return controls;
+}
+
+bool growsSideways(const QWidget* control) {
+    return (control->sizePolicy().horizontalPolicy() & QSizePolicy::ExpandFlag) != 0;
+}
+
+void nameCell(const QList<QWidget*>& controls, const QString& rowHead, const QString& columnHead) {
+    const QString name = QString("%1, %2").arg(spokenLabel(rowHead), spokenLabel(columnHead));
+    for (QWidget* control : controls) {
+        if (!control->accessibleName().isEmpty()) continue;
+        auto* further = control == controls.front() ? nullptr : qobject_cast<QAbstractButton*>(control);
+        control->setAccessibleName(further != nullptr ? name + ", " + spokenLabel(further->text()) : name);
+    }
 }
 
 /// The labels whose buddy a field is, its caption first.
@@ -95,6 +124,35 @@ QLayout* form(const std::vector<FormRow>& rows) {
         layout->addLayout(withUnit(row), line++, 1);
     }
     if (!grows) layout->setRowStretch(line, 1);
+    return layout;
+}
+
+QLayout* matrix(const QStringList& columnHeads, const std::vector<MatrixRow>& rows) {
+    auto* layout = new QGridLayout;
+    std::vector<QLabel*> heads;
+    for (const QString& head : columnHeads) {
+        heads.push_back(new QLabel(head));
+        layout->addWidget(heads.back(), 0, static_cast<int>(heads.size()), Qt::AlignHCenter | Qt::AlignBottom);
+    }
+    int line = 0;
+    for (const MatrixRow& each : rows) {
+        auto* rowHead = new QLabel(each.head);
+        layout->addWidget(rowHead, ++line, 0);
+        for (std::size_t i = 0; i < each.cells.size() && i < heads.size(); ++i) {
+            const Item& cell = each.cells[i];
+            const QList<QWidget*> controls = controlsOf(cell);
+            if (controls.isEmpty()) continue;
+            nameCell(controls, each.head, columnHeads[static_cast<int>(i)]);
+            for (QLabel* head : {rowHead, heads[i]})
+                if (head->buddy() == nullptr) head->setBuddy(controls.front());
+            auto* place = new QHBoxLayout;
+            add(place, cell);
+            if (std::none_of(controls.begin(), controls.end(), growsSideways)) place->addStretch(1);
+            layout->addLayout(place, line, static_cast<int>(i) + 1);
+        }
+    }
+    layout->setColumnStretch(static_cast<int>(heads.size()) + 1, 1);
+    layout->setRowStretch(line + 1, 1);
     return layout;
 }
 

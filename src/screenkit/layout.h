@@ -36,10 +36,20 @@ struct FormRow {
         : label(std::move(text)), field(control), unit(std::move(unitText)) {}
 };
 
+/// One line of a matrix: its head and a cell for each column. `spring()`, or no cell, leaves a place empty.
+struct MatrixRow {
+    QString head;
+    std::vector<Item> cells;
+};
+
 QLayout* row(std::initializer_list<Item> items);
 QLayout* column(std::initializer_list<Item> items);
 /// Labels in one column, fields in the next. A field without a label of its own (a check box) has an empty label.
 QLayout* form(const std::vector<FormRow>& rows);
+/// Fields under heads of columns and beside heads of rows. What a cell holds is called by both ("Other, For Executor
+/// fees") unless it has a name of its own; of a cell with several controls the further ones add their own caption. A
+/// row's head leads by its access key to the row's first field, a column's to the column's.
+QLayout* matrix(const QStringList& columnHeads, const std::vector<MatrixRow>& rows);
 /// Shows or hides a line of a form: the field, its label and its unit.
 void setRowVisible(QWidget* field, bool visible);
 /// Gives a field another label.

@@ -53,15 +53,14 @@ Screen::~Screen() {
         field->left = field->edited = {}; // the controls outlive this screen by a moment, and lose the focus in it
 }
 
-void Screen::runPrint(Panel* panel, const std::function<void(Destination)>& print, Destination destination) {
-    auto* processing = panel->findChild<QLabel*>("lblProcessing");
+void Screen::runPrint(PrintPanel* panel, const std::function<void(Destination)>& print, Destination destination) {
     {
         const BusyCursor busy;
-        processing->show();
+        panel->processing->show();
         panel->repaint();
         attempt(tr("make the report"), [&] { print(destination); });
     }
-    processing->hide();
+    panel->processing->hide();
     panel->close();
 }
 
@@ -83,7 +82,11 @@ void Screen::showGrid(const QString& title, std::vector<GridColumn> columns, std
     m_gridPanel->open(m_grid);
 }
 
-QWidget* Screen::firstField() { return m_fields.empty() ? nullptr : m_fields.front()->widget(); }
+QWidget* Screen::firstField() {
+    const auto inBody = [this](Field* field) { return m_area->isAncestorOf(field->widget()); }; // not in a panel
+    const auto first = std::find_if(m_fields.begin(), m_fields.end(), inBody);
+    return first != m_fields.end() ? (*first)->widget() : nullptr;
+}
 
 void Screen::focusLater(QWidget* widget) {
     QTimer::singleShot(0, widget, [widget] { widget->setFocus(Qt::OtherFocusReason); });
@@ -219,13 +222,12 @@ bool Screen::checkFields() {
 }
 
 void Screen::bringToView(QWidget* widget) {
-    if (m_area->widget() == nullptr || !m_area->widget()->isAncestorOf(widget)) return; // in a panel
+    for (Panel* made : m_panels)
+        if (made->isAncestorOf(widget)) return made->bringToView(widget);
+    if (m_area->widget() == nullptr || !m_area->widget()->isAncestorOf(widget)) return;
     for (Page page = pageOf(widget); page.book != nullptr; page = pageOf(page.book))
         page.book->setCurrentIndex(page.index);
-    const QRect place(widget->mapTo(m_area->widget(), QPoint()), widget->size());
-    const QPoint middle = place.center();
-    const int gap = look::lineHeight(this) / 4; // the frame of the focus as well
-    m_area->ensureVisible(middle.x(), middle.y(), place.width() / 2 + gap, place.height() / 2 + gap);
+    reveal(m_area, widget);
 }
 
 void Screen::enterPresses(QPushButton* button) {
@@ -260,9 +262,7 @@ void Screen::pressDefault() {
 }
 
 QWidget* Screen::entryBehind(const QWidget* from, const QWidget* within) const {
-    const auto isEntry = [](const QWidget* widget) {
-        return [widget](Field* field) { return field->widget() == widget || field->widget()->isAncestorOf(widget); };
-    };
+    const auto isEntry = [](const QWidget* widget) { return [widget](Field* field) { return field->holds(widget); }; };
     // The chain of all windows' controls comes back to where it began.
     for (QWidget* next = from->nextInFocusChain(); next != within && next != from; next = next->nextInFocusChain())
         if (within->isAncestorOf(next) && (next->focusPolicy() & Qt::TabFocus) == Qt::TabFocus && next->isEnabled() &&
@@ -291,6 +291,21 @@ void Screen::keyPressEvent(QKeyEvent* event) {
         QWidget::keyPressEvent(event);
 }
 
+void Screen::lend(double& figure, const QString& owner) { m_lent.emplace_back(&figure, owner); }
+
+void Screen::giveBackLent() {
+    for (const auto& [figure, owner] : m_lent) {
+        if (!m_work.lent.giveBack(*figure)) continue;
+        // Its own screen may be in front, and would work with a figure that it doesn't show.
+        if (auto* shown = qobject_cast<Screen*>(m_work.shell.screen(owner)); shown != nullptr) shown->refill();
+    }
+}
+
+bool Screen::commitPendingEdits() {
+    giveBackLent();
+    return true;
+}
+
 void Screen::drop() {
     m_dropped = true;
     auto* window = qobject_cast<QMdiSubWindow*>(parentWidget());
@@ -306,6 +321,7 @@ void Screen::closeEvent(QCloseEvent* event) {
     }
     m_dropped = true;
     event->accept();
+    giveBackLent();
     emit closed(this);
 }
 

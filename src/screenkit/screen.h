@@ -27,10 +27,27 @@ class QTabWidget;
 
 namespace screenkit {
 
-/// The buttons of a print panel, where a screen has names of its own for them.
-struct PrintButtons {
+/// A print panel and its buttons, where a screen has names of its own for them.
+struct PrintNames {
     QString view = "cmdVR", direct = "cmdPD", cancel = "cmdPrintCancel";
     QString cancelCaption = "C&ancel";
+    QString panel = "fraPrint";
+};
+
+/// A settings panel and its two buttons.
+struct SettingsNames {
+    QString panel, ok, cancel;
+    QString title = "Settings", okCaption = "&OK", cancelCaption = "&Cancel";
+};
+
+/// An information panel, its button, its text and its title.
+struct InfoNames {
+    QString panel = "fraInfo", ok = "cmdOKInfo", text = "txtInfo", title = "lblInfo";
+};
+
+/// What an information panel may be opened on.
+struct Topic {
+    QString title, text;
 };
 
 /// A child screen: a live view of the record, made of declarations.
@@ -55,8 +72,8 @@ public:
     /// Checks every field; false after showing the first complaint.
     bool checkFields();
     /// Before the record is saved or replaced: what the screen holds apart from it goes in or is dropped, as the user
-    /// says, and what it has only lent itself of it is put back. False if he would rather go on.
-    virtual bool commitPendingEdits() { return true; }
+    /// says, and what it has borrowed of it is given back. False if he would rather go on.
+    virtual bool commitPendingEdits();
     /// Closes without asking or checking (the client it shows is gone).
     void drop();
     QSize sizeHint() const override;
@@ -71,8 +88,10 @@ protected:
     TextField* text(const QString& name, Bound<QString> place, int size, int characters = 0);
     MemoField* memo(const QString& name, Bound<QString> place, int size);
     DateField* date(const QString& name, Bound<double> place, const DateKind& kind = {});
+    /// Without an orientation each option is placed on its own, beside other fields: `group->option(0)`.
     OptionGroup* options(const QString& name, const QStringList& captions, Bound<int> place,
-                         std::function<void(int)> picked = {}, Qt::Orientation orientation = Qt::Vertical);
+                         std::function<void(int)> picked = {},
+                         std::optional<Qt::Orientation> orientation = Qt::Vertical);
     CheckField* check(const QString& name, const QString& caption, Bound<int> place,
                       std::function<void(bool)> ticked = {});
     /// A table that the user fills; give it its rows with `present`. It counts as an edit of the record unless it is
@@ -117,16 +136,37 @@ protected:
     /// Escape gives the one of these fields that was entered last the value back that it held then.
     void escapeGivesBack(std::initializer_list<NumberField*> fields) { m_givingBack = fields; }
 
+    /// The calculations of this screen write over a figure that the user enters on another one, the owner. Run them
+    /// through `m_work.lent`; at a save and at the close the figure is given back, and the owner's screen shows it.
+    void lend(double& figure, const QString& owner);
+
     /// A panel over the screen; `buttons` stand at its foot, the last being the one that Escape presses.
-    Panel* panel(const QString& name, const QString& title, Item content, std::initializer_list<QPushButton*> buttons);
+    Panel* panel(const QString& name, const QString& title, const Item& content,
+                 std::initializer_list<QPushButton*> buttons);
     /// `fraPrint`: choices of the screen's own, view, print and cancel. `print` runs under the busy cursor with
     /// " PROCESSING !" shown; the panel is hidden afterwards, whatever came of it.
-    Panel* printPanel(std::initializer_list<Item> choices, std::function<void(Destination)> print,
-                      const PrintButtons& names = {});
-    /// A panel that explains something at length: a text to scroll through, and the button that puts it away. Opens
-    /// with the focus on the text.
-    std::function<void()> infoPanel(const QString& name, const QString& title, const QString& text,
-                                    const QString& okName);
+    PrintPanel* printPanel(std::initializer_list<Item> choices, std::function<void(Destination)> print,
+                           const PrintNames& names = {});
+    /// A panel that explains something at length: a title, a text to scroll through, and the button that puts it away.
+    /// The function that comes back opens it on a topic, with the focus on the text; a screen with several buttons for
+    /// help has one panel for all of them.
+    std::function<void(const Topic&)> infoPanel(const InfoNames& names = {});
+    /// A panel of the practice's settings, of which no entry is an edit of the client's. Its fields are bound to
+    /// `entered`, a copy of those in force that is made whenever the panel opens. OK stores it with `store`, puts it in
+    /// force and runs `stored`; where storing fails the panel stays, with what was entered. Cancel drops the copy. The
+    /// function that comes back opens the panel.
+    template <class Settings>
+    std::function<void()> settingsPanel(const SettingsNames& names, const Item& content, std::vector<Field*> fields,
+                                        Settings& inForce, Settings& entered,
+                                        std::function<void(const Settings&)> store, std::function<void()> stored = {}) {
+        return settings(names, content, std::move(fields),
+                        {[&inForce, &entered] { entered = inForce; },
+                         [&inForce, &entered, store = std::move(store)] {
+                             store(entered);
+                             inForce = entered;
+                         },
+                         std::move(stored)});
+    }
     /// `fraGrid`: a table of figures, `grdPayments`, with its OK; closing it clears it and puts the focus on
     /// focusAfter.
     void showGrid(const QString& title, std::vector<GridColumn> columns, std::vector<std::vector<double>> rows,
@@ -170,7 +210,15 @@ private:
     /// What the fields hold that a calculation takes; a panel's are copies until they are confirmed.
     std::vector<std::optional<double>> inputs() const;
     void showWhatIsStale();
-    void runPrint(Panel* panel, const std::function<void(Destination)>& print, Destination destination);
+    template <class Kind>
+    Kind* addPanel(const QString& name, const QString& title);
+    struct SettingsSteps {
+        std::function<void()> copy, store, stored;
+    };
+    std::function<void()> settings(const SettingsNames& names, const Item& content, std::vector<Field*> fields,
+                                   const SettingsSteps& steps);
+    void giveBackLent();
+    void runPrint(PrintPanel* panel, const std::function<void(Destination)>& print, Destination destination);
     void bringToView(QWidget* widget);
     void followFocus(QWidget* focused);
     /// A cell in edit closes when the user goes to another screen, and takes the focus with it. What the panel covers
@@ -186,6 +234,7 @@ private:
     std::int16_t& m_changed;
     std::vector<Field*> m_fields;
     std::vector<Panel*> m_panels;
+    std::vector<std::pair<double*, QString>> m_lent; ///< figures borrowed, each with its owner's screen
     Panel* m_gridPanel = nullptr;
     Grid* m_grid = nullptr;
     QWidget* m_afterGrid = nullptr;

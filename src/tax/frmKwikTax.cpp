@@ -15,7 +15,7 @@ const QStringList yearCaptions{"Tax Calc for Feb 2026", "Tax Calc for Feb 2027"}
 const NumberKind age{"##0.####", false, 8};
 const NumberKind rate = percent.shownAs("0.00");
 const NumberKind marginalRate = percent.shownAs("0");
-const PrintButtons printButtons{"cmdViewScreen", "cmdPrintDir", "cmdCancel", "&Cancel"};
+const PrintNames printNames{"cmdViewScreen", "cmdPrintDir", "cmdCancel", "&Cancel"};
 
 QString edit(int index) { return QString("sidbEdit1(%1)").arg(index); }
 
@@ -29,7 +29,7 @@ frmKwikTax::frmKwikTax(Workplace& workplace)
         feed(); // monthly tax may have left another income while the panel was open
         m_work.reports.run("\\kwiktep.rpt", {}, to);
     };
-    m_printPanel = printPanel({}, print, printButtons);
+    m_printPanel = printPanel({}, print, printNames);
 }
 
 NumberField* frmKwikTax::answer(int index, double& figure, const NumberKind& kind) {
@@ -78,7 +78,7 @@ void frmKwikTax::calculate() {
 void frmKwikTax::openPrint() {
     calculate(); // the page must not show an income beside another one's tax
     feed();
-    m_printPanel->open(findChild<QWidget*>("cmdViewScreen"));
+    m_printPanel->open();
 }
 
 void frmKwikTax::feed() { feedQuickTaxReport(m_work.paths.PrintDbPath, m_client, m_result); }

@@ -24,7 +24,7 @@ private:
     assessment::KwikTax& m_client;
     QuickTax m_result;
     std::vector<screenkit::NumberField*> m_answers;
-    screenkit::Panel* m_printPanel = nullptr;
+    screenkit::PrintPanel* m_printPanel = nullptr;
 };
 
 } // namespace tax

@@ -20,9 +20,13 @@ constexpr double inclusionRates[] = {0.8, 0.2};
 
 const NumberKind years = whole.between(0, 150, "Please enter an age from 0 to 150 years.", "Incorrect Age");
 const NumberKind persons = whole.between(0, 99, "Please enter 0 to 99 beneficiaries.", "Incorrect Beneficiaries");
-const PrintButtons printButtons{"cmdVR", "cmdPD", "cmdCancel", "&Cancel"};
+const PrintNames printNames{"cmdVR", "cmdPD", "cmdCancel", "&Cancel"};
+const SettingsNames settingsNames{
+    .panel = "Frame3", .ok = "cmdSetupOK", .cancel = "cmdSetupCancel", .okCaption = "O&K"};
+const InfoNames infoNames{"fraInfo_One", "cmdOK_Info_One"};
 
-const QString information =
+const Topic information{
+    "General Information",
     "The amount entered in the Salary/remuneration field should contain all taxable salary and fringe benefit amounts "
     "except travel allowance or the fringe benefit amount for having the use of a company vehicle.  The employer’s RF "
     "contributions and the employer’s medical aid contributions must be entered in the fields provided for these "
@@ -36,7 +40,7 @@ const QString information =
     "per year.  The field labelled ‘Allowable R/Fund deduction’ will indicate the maximum RF contribution allowed as a "
     "deduction by the employer at salary source. The program will also calculate and display MTC (Medical Tax Credit) "
     "amounts.  Note that, in addition to normal MTC’s for members/beneficiaries, MTC’s for contributions in the case "
-    "of taxpayers 65 and older are allowed at salary source.";
+    "of taxpayers 65 and older are allowed at salary source."};
 
 /// A figure that is rounded where it is shown, and only there.
 Bound<double> rounded(const double& figure) {
@@ -51,7 +55,7 @@ frmMonthly::frmMonthly(Workplace& workplace)
     buildBody();
     buildSettings();
     buildPrintPanel();
-    connect(this, &Screen::closed, this, &frmMonthly::putSalaryBack);
+    lend(m_work.record.tax.Salary, "frmKwikTax");
     work();
 }
 
@@ -106,12 +110,12 @@ QWidget* frmMonthly::buildAnswers() {
 
 void frmMonthly::buildBody() {
     auto* solve = button("cmdCalculate", "&Calculate", [this] {
-        if (calculate()) m_salaryFound.reset(); // from here on the figure is the user's own doing
+        if (calculate()) m_work.lent.keep(m_work.record.tax.Salary);
     });
+    const auto inform = infoPanel(infoNames);
     body(column({row({buildInputs(), column({buildAnswers(), spring()})}), spring(),
-                 row({solve, button("cmdSettings", "&Settings", [this] { openSettings(); }),
-                      button("cmdInfo", "&Info",
-                             infoPanel("fraInfo_One", "General Information", information, "cmdOK_Info_One")),
+                 row({solve, button("cmdSettings", "&Settings", [this] { m_openSettings(); }),
+                      button("cmdInfo", "&Info", [inform] { inform(information); }),
                       button("cmdPrint", "&Print", [this] { openPrint(); }), spring(), okButton()})}));
     defaultButton(solve);
 }
@@ -129,21 +133,22 @@ void frmMonthly::buildSettings() {
     auto* employer = number("numEmpRUIF", m_entered.EmployerUIF, percent);
     auto* levy = number("numSkillPercent", m_entered.SkillLevy, percent);
     auto* limit = number("numUIFLimit", m_entered.UIFLimit, money);
-    m_settings = {employee, employer, levy, limit, inclusion};
-    m_settingsPanel = panel("Frame3", "Settings",
-                            row({form({{"&Employee UIF portion", employee, "%"},
-                                       {"E&mployer UIF portion", employer, "%"},
-                                       {"&Skills levy", levy, "%"},
-                                       {"&UIF monthly limit", limit}}),
-                                 group("fraTAIncRate", "Travel allow/Car FB inclusion rate", inclusion)}),
-                            {button("cmdSetupOK", "O&K", [this] { confirmSettings(); }),
-                             cancelButton("cmdSetupCancel", "&Cancel", [this] { m_settingsPanel->close(); })});
+    m_openSettings = settingsPanel<PAYESetup>(
+        settingsNames,
+        row({form({{"&Employee UIF portion", employee, "%"},
+                   {"E&mployer UIF portion", employer, "%"},
+                   {"&Skills levy", levy, "%"},
+                   {"&UIF monthly limit", limit}}),
+             group("fraTAIncRate", "Travel allow/Car FB inclusion rate", inclusion)}),
+        {employee, employer, levy, limit, inclusion}, m_setup, m_entered,
+        [this](const PAYESetup& entered) { writePAYESetup(m_work.paths.DefaultDbPath, entered); },
+        [this] { settingsConfirmed(); });
 }
 
 void frmMonthly::buildPrintPanel() {
     auto* name = text("Text1", m_employee, 50);
     m_printPanel = printPanel(
-        {form({{"&Employee name : (max.50 chrs.)", name}})}, [this](Destination to) { print(to); }, printButtons);
+        {form({{"&Employee name : (max.50 chrs.)", name}})}, [this](Destination to) { print(to); }, printNames);
 }
 
 bool frmMonthly::complainOfDates() {
@@ -165,31 +170,17 @@ bool frmMonthly::calculate() {
 }
 
 void frmMonthly::work() {
-    double& salary = m_work.record.tax.Salary;
-    // What is not the scale's own stands there since a save has had it back, another client has come, or quick tax has
-    // been given another income.
-    if (salary != m_salaryLeft) m_salaryFound = salary;
-    m_result = monthlyTax(m_month, m_setup, m_previousInclusionRate, m_work.record.tax);
+    assessment::KwikTax& scale = m_work.record.tax;
+    m_work.lent.during(scale.Salary, [&] { m_result = monthlyTax(m_month, m_setup, m_previousInclusionRate, scale); });
     m_calculated = m_month;
-    m_salaryLeft = salary;
     for (NumberField* field : m_answers)
         field->fill();
     calculated();
 }
 
-void frmMonthly::openSettings() {
-    m_entered = m_setup;
-    for (Field* field : m_settings)
-        field->fill();
-    m_settingsPanel->open(m_settings.front()->widget());
-}
-
-void frmMonthly::confirmSettings() {
-    writePAYESetup(m_work.paths.DefaultDbPath, m_entered); // where it fails the panel stays, with what was entered
-    m_setup = m_entered;
+void frmMonthly::settingsConfirmed() {
     m_calculated.reset();
     outdated();
-    m_settingsPanel->close();
     calculate();
 }
 
@@ -197,39 +188,12 @@ void frmMonthly::openPrint() {
     // A page must not show one month's figures beside another's tax. What is worked out already stays: a second run of
     // the same figures could allow another deduction than the one on the screen.
     if (m_calculated != m_month && !calculate()) return;
-    m_printPanel->open(findChild<QWidget*>("Text1"));
+    m_printPanel->open();
 }
 
 void frmMonthly::print(Destination destination) {
     feedMonthlyReport(m_work.paths.PrintDbPath, m_employee, m_month, m_setup, m_result);
     m_work.reports.run("\\Monthly.rpt", title, destination);
-}
-
-void frmMonthly::putSalaryBack() {
-    if (!m_salaryFound) return;
-    // Not where it was entered anew meanwhile, on the screen that it belongs to.
-    double& salary = m_work.record.tax.Salary;
-    const bool lent = salary == m_salaryLeft;
-    if (lent) salary = *m_salaryFound;
-    forgetSalary();
-    // Quick tax may be in front, and would tax an income that it doesn't show.
-    auto* quickTax = qobject_cast<Screen*>(m_work.shell.screen("frmKwikTax"));
-    if (lent && quickTax != nullptr) quickTax->refill();
-}
-
-void frmMonthly::forgetSalary() {
-    m_salaryFound.reset();
-    m_salaryLeft.reset();
-}
-
-bool frmMonthly::commitPendingEdits() {
-    putSalaryBack();
-    return true;
-}
-
-void frmMonthly::clientReplaced() {
-    forgetSalary(); // it was another client's
-    Screen::clientReplaced();
 }
 
 } // namespace tax

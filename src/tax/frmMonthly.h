@@ -15,9 +15,6 @@ public:
     /// Throws store::Error if the settings can't be read: no month can be worked out then.
     explicit frmMonthly(screenkit::Workplace& workplace);
 
-    void clientReplaced() override;
-    bool commitPendingEdits() override;
-
 private:
     screenkit::NumberField* randWithoutCents(const QString& name, double& place);
     screenkit::NumberField* answer(const QString& name, double& figure);
@@ -31,12 +28,9 @@ private:
     bool calculate();
     bool complainOfDates();
     void work();
-    void openSettings();
-    void confirmSettings();
+    void settingsConfirmed();
     void openPrint();
     void print(screenkit::Destination destination);
-    void putSalaryBack();
-    void forgetSalary();
 
     PAYESetup m_setup;
     PAYESetup m_entered; ///< as the settings panel shows them; in force once confirmed
@@ -45,15 +39,12 @@ private:
     MonthlyTax m_result;
     /// The rate of the calculation before: its test of the fund deduction looks at that one, 0 before the first.
     double m_previousInclusionRate = 0;
-    /// The client's own figure, which the scale works over, until the user asks for a calculation himself.
-    std::optional<double> m_salaryFound;
-    std::optional<double> m_salaryLeft; ///< what the scale left in its place; nothing while the figure is the client's
     std::string m_employee;
 
     std::vector<screenkit::NumberField*> m_answers;
-    std::vector<screenkit::Field*> m_settings;
     screenkit::DateField *m_start = nullptr, *m_end = nullptr;
-    screenkit::Panel *m_settingsPanel = nullptr, *m_printPanel = nullptr;
+    std::function<void()> m_openSettings;
+    screenkit::PrintPanel* m_printPanel = nullptr;
 };
 
 } // namespace tax

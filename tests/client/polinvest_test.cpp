@@ -280,7 +280,7 @@ TEST_F(PolInvest, TheCPIIsStoredForThePracticeWhenConfirmed) {
     run.click("cmdCPI");
     run.enter("numCPI", "9");
     run.click("cmdCPIOK");
-    EXPECT_TRUE(run.desk.last().text.contains("could not store the CPI")) << run.desk.last().text.toStdString();
+    EXPECT_TRUE(run.desk.last().text.contains("could not store the settings")) << run.desk.last().text.toStdString();
     EXPECT_TRUE(run.control("fraCPI")->isVisible()); // with what was typed
     EXPECT_EQ(run.record().CPI, 4);
 }

@@ -218,7 +218,7 @@ TEST_F(MonthlyScreen, TheClientsIncomeComesBackUnlessTheUserCalculated) {
 TEST_F(MonthlyScreen, ExplainsItselfAndPrints) {
     open();
     run.click("cmdInfo");
-    const QString text = run.control<QTextBrowser>("fraInfo_OneText")->toPlainText();
+    const QString text = run.control<QTextBrowser>("txtInfo")->toPlainText();
     EXPECT_TRUE(text.contains("\n\nNote that both the employer’s and the employee’s R/Fund contributions qualify"));
     EXPECT_TRUE(text.contains("limited to the lessor of contributions paid or 27.5%"));
     run.key(Qt::Key_Escape);

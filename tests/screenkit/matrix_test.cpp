@@ -1,0 +1,101 @@
+#include "screenkit/kit_screen.h"
+
+namespace screenkit {
+namespace {
+
+/// Two rows of two amounts; beside those of the second row stands the choice of which counts.
+class MatrixScreen : public Screen {
+public:
+    explicit MatrixScreen(Workplace& work) : Screen(work, "frmMatrix", "Matrix", work.record.changed.LoansChanged) {
+        taken = options("optTaken", {"T", "T"}, chosen, {}, {});
+        const auto beside = [this](int column, NumberField* amount) { return row({amount, taken->option(column)}); };
+        body(column({matrix({"&Resignation", "Retirement or death"},
+                            {{"01/03/2025 to 28/02/2026", {cell(0), cell(1)}},
+                             {"Th&is year :", {beside(0, cell(2)), beside(1, cell(3))}},
+                             {"None", {spring(), cell(4)}}}),
+                     okButton()}));
+    }
+    NumberField* cell(int index) { return number(QString("num%1").arg(index), amounts[index], money); }
+
+    double amounts[5] = {};
+    std::int16_t chosen = -1;
+    OptionGroup* taken = nullptr;
+};
+
+struct MatrixTest : KitTest {
+    MatrixTest() {
+        auto* frame = area.addSubWindow(shown);
+        frame->show();
+        area.setActiveSubWindow(frame);
+        shown->activate();
+        settle();
+    }
+    ~MatrixTest() override { shown->drop(); }
+    std::string tabbedTo() {
+        key(Qt::Key_Tab);
+        return focus();
+    }
+    MatrixScreen* shown = new MatrixScreen(bench.workplace);
+};
+
+TEST_F(MatrixTest, eachFieldIsCalledByItsRowAndItsColumn) {
+    const std::pair<const char*, const char*> names[] = {{"num0", "01/03/2025 to 28/02/2026, Resignation"},
+                                                         {"num1", "01/03/2025 to 28/02/2026, Retirement or death"},
+                                                         {"num2", "This year, Resignation"},
+                                                         {"num3", "This year, Retirement or death"},
+                                                         {"optTaken(0)", "This year, Resignation, T"},
+                                                         {"optTaken(1)", "This year, Retirement or death, T"},
+                                                         {"num4", "None, Retirement or death"}};
+    for (const auto& [control, name] : names)
+        EXPECT_EQ(shown->findChild<QWidget*>(control)->accessibleName(), name);
+    const auto place = [this](const char* name) {
+        auto* control = shown->findChild<QWidget*>(name);
+        return QRect(control->mapTo(shown, QPoint()), control->size());
+    };
+    EXPECT_EQ(place("num0").left(), place("num2").left());
+    EXPECT_EQ(place("num4").left(), place("num3").left()) << "the empty cell keeps its column";
+    EXPECT_GT(place("optTaken(0)").left(), place("num2").right());
+    EXPECT_LT(place("optTaken(0)").right(), place("num3").left());
+    key(Qt::Key_I, Qt::AltModifier);
+    EXPECT_EQ(focus(), "num2");
+    key(Qt::Key_R, Qt::AltModifier);
+    EXPECT_EQ(focus(), "num0");
+}
+
+TEST_F(MatrixTest, optionsThatStandApartAreOneStopAndOneChoice) {
+    const auto around = [this] {
+        std::string stops;
+        shown->findChild<QWidget*>("num2")->setFocus(Qt::TabFocusReason);
+        for (int i = 0; i < 3; ++i)
+            stops += tabbedTo() + " ";
+        return stops;
+    };
+    EXPECT_EQ(around(), "optTaken(0) num3 num4 ");
+    shown->taken->option(0)->setEnabled(false);
+    EXPECT_EQ(around(), "num3 optTaken(1) num4 ") << "the first is greyed: Tab stops at the one that can be picked";
+    shown->taken->option(1)->setFocus(Qt::TabFocusReason);
+    for (const Qt::Key arrow : {Qt::Key_Up, Qt::Key_Down}) {
+        key(arrow);
+        EXPECT_EQ(focus() + std::to_string(shown->chosen), "optTaken(1)1");
+    }
+    EXPECT_EQ(changed(), 1);
+    shown->taken->option(0)->setEnabled(true);
+    EXPECT_EQ(around(), "num3 optTaken(1) num4 ") << "the one that holds";
+    key(Qt::Key_Backtab);
+    key(Qt::Key_Left);
+    EXPECT_EQ(focus() + std::to_string(shown->chosen), "optTaken(0)0") << "the arrows cross the fields between them";
+    EXPECT_FALSE(shown->taken->option(1)->isChecked());
+    shown->taken->option(0)->setEnabled(false);
+    EXPECT_EQ(around(), "num3 optTaken(1) num4 ") << "the one that holds can't be reached: the other way must stay";
+    shown->chosen = -1;
+    shown->activate();
+    shown->taken->option(1)->hide();
+    shown->taken->option(0)->setEnabled(true);
+    EXPECT_EQ(around(), "optTaken(0) num3 num4 ");
+    shown->findChild<QWidget*>("num2")->setFocus(Qt::TabFocusReason);
+    key(Qt::Key_Return);
+    EXPECT_EQ(focus(), "optTaken(0)") << "Enter walks over it like over any field";
+}
+
+} // namespace
+} // namespace screenkit
