@@ -4,8 +4,8 @@
 
 namespace assessment {
 
-std::string displayName(const std::string& title, const std::string& initials, const std::string& surname) {
-    return base::trim(title) + " " + base::trim(initials) + " " + base::trim(surname);
+std::string displayName(const PersonalDetails& client) {
+    return base::trim(client.CTitle) + " " + base::trim(client.CInit) + " " + base::trim(client.CLName);
 }
 
 void CheckChanges(Assessment& record) {

@@ -295,7 +295,7 @@ struct Assessment {
 
 /// Trim(title) + " " + Trim(initials) + " " + Trim(surname). The whole is not trimmed: a lone surname keeps two blanks
 /// before it, as the list of clients has always shown it.
-std::string displayName(const std::string& title, const std::string& initials, const std::string& surname);
+std::string displayName(const PersonalDetails& client);
 
 /// Turns `ClientChanged` on if any screen's changed flag is 1; never turns it off.
 void CheckChanges(Assessment& record);

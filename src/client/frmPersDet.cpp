@@ -35,13 +35,7 @@ frmPersDet::frmPersDet(Workplace& workplace)
 }
 
 TextField* frmPersDet::namePart(const QString& name, std::string& part, int size, int characters) {
-    return text(name,
-                {[&part] { return QString::fromStdString(part); },
-                 [this, &part](const QString& typed) {
-                     part = typed.toStdString();
-                     NameFunc();
-                 }},
-                size, characters);
+    return text(name, Bound<QString>(part).then([this] { NameFunc(); }), size, characters);
 }
 
 Item frmPersDet::clientPage() {
@@ -214,7 +208,7 @@ void frmPersDet::buildPrintPanel() {
 }
 
 void frmPersDet::NameFunc() {
-    m_client.Name = assessment::displayName(m_details.CTitle, m_details.CInit, m_details.CLName);
+    m_client.Name = assessment::displayName(m_details);
     m_work.shell.showClientName();
 }
 

@@ -36,17 +36,11 @@ void frmSaveFileAs::clientReplaced() {
 }
 
 TextField* frmSaveFileAs::namePart(const QString& name, std::string& part, int size) {
-    return text(name,
-                {[&part] { return QString::fromStdString(part); },
-                 [this, &part](const QString& typed) {
-                     part = typed.toStdString();
-                     NameFunc();
-                 }},
-                size);
+    return text(name, Bound<QString>(part).then([this] { NameFunc(); }), size);
 }
 
 void frmSaveFileAs::NameFunc() {
-    m_client.Name = assessment::displayName(m_details.CTitle, m_details.CInit, m_details.CLName);
+    m_client.Name = assessment::displayName(m_details);
     filled();
 }
 

@@ -46,6 +46,14 @@ struct Bound {
     Bound(std::string& member) // NOLINT(google-explicit-constructor)
         requires std::same_as<T, QString> : get([&member] { return QString::fromStdString(member); }),
                                             set([&member](const QString& text) { member = text.toStdString(); }) {}
+
+    /// The same place, with what follows from each value that is put there.
+    Bound then(std::function<void()> follow) const {
+        return {get, [put = set, follow = std::move(follow)](T value) {
+                    put(std::move(value));
+                    follow();
+                }};
+    }
 };
 
 } // namespace screenkit

@@ -14,6 +14,7 @@
 #include <QStandardPaths>
 #include <QUrl>
 
+#include "screenkit/savefile.h"
 #include "screenkit/trouble.h"
 #include "screenkit/usersettings.h"
 
@@ -94,20 +95,14 @@ QString saveFolder() {
     return QDir::homePath();
 }
 
-/// "PDF (*.pdf)" to "pdf".
-QString endingOf(const QString& filter) {
-    static const QRegularExpression pattern(R"(\*\.(\w+))");
-    return pattern.match(filter).captured(1);
-}
-
 /// A name goes with the kind that is chosen: a bare one gets its ending, one of another kind has it changed.
 void followKind(QFileDialog& dialog, const QStringList& filters) {
     const auto follow = [&dialog, filters](const QString& chosen) {
-        dialog.setDefaultSuffix(endingOf(chosen));
+        dialog.setDefaultSuffix(endingOf(chosen).mid(1)); // the dialog adds the point
         const QFileInfo file(dialog.selectedFiles().value(0));
         for (const QString& filter : filters)
-            if (file.suffix().compare(endingOf(filter), Qt::CaseInsensitive) == 0)
-                dialog.selectFile(file.completeBaseName() + '.' + endingOf(chosen));
+            if (file.fileName().endsWith(endingOf(filter), Qt::CaseInsensitive))
+                dialog.selectFile(file.completeBaseName() + endingOf(chosen));
     };
     QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, follow);
     follow(dialog.selectedNameFilter());

@@ -13,15 +13,11 @@
 #include "store/files.h"
 
 namespace screenkit {
-namespace {
 
-/// "PDF (*.pdf)" to ".pdf".
 QString endingOf(const QString& filter) {
     static const QRegularExpression pattern(R"(\*(\.\w+))");
     return pattern.match(filter).captured(1);
 }
-
-} // namespace
 
 std::optional<QString> askWhereToSave(Desk& desk, const QString& title, const QString& proposed,
                                       const QStringList& filters) {

@@ -12,6 +12,9 @@ namespace screenkit {
 
 class Desk;
 
+/// The ending that a filter of a file dialog names, with its point: "PDF (*.pdf)" to ".pdf".
+QString endingOf(const QString& filter);
+
 /// Asks under which name to save. A name without an ending of the filters ("PDF (*.pdf)") gets that of the first, and
 /// the user is asked before that replaces a file. Nothing if the user changes his mind.
 std::optional<QString> askWhereToSave(Desk& desk, const QString& title, const QString& proposed,

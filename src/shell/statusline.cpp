@@ -39,7 +39,7 @@ QLabel* StatusLine::addPanel(const char* name, bool atTheEnd) {
 
 void StatusLine::showClientName() {
     const auto& details = m_record.details;
-    m_name->setText(QString::fromStdString(assessment::displayName(details.CTitle, details.CInit, details.CLName)));
+    m_name->setText(QString::fromStdString(assessment::displayName(details)));
 }
 
 void StatusLine::showSaved() { m_saved->setText(tr("Saved %1").arg(QTime::currentTime().toString("HH:mm"))); }
