@@ -73,7 +73,9 @@ public:
             m_record = fullClient(i);
             datastore::Save(m_record, m_paths.DataDbPath);
         }
-        m_bare = std::make_unique<bench::BareClient>(m_paths.DataDbPath, m_record.DCLNO);
+        // A file of its own: a save looks twice at a client in whose file somebody else has written.
+        fs::copy_file(m_paths.DataDbPath, folder / "Bare.Mdb");
+        m_bare = std::make_unique<bench::BareClient>(folder / "Bare.Mdb", m_record.DCLNO);
     }
 
     void save() {

@@ -12,6 +12,7 @@
 #include "assessment/personaldetails.h"
 #include "assessment/policy.h"
 #include "base/day.h"
+#include "store/filestate.h"
 
 /// The client's record: one struct for each screen's group, each field under its database name.
 ///
@@ -216,6 +217,7 @@ struct ClientInFile {
     std::string Name;
     double BirthDate = base::blankDate;
     std::uint64_t contents = 0; ///< checksum of all that the file holds of the client
+    store::FileState file;      ///< while the file is still in it, nothing in it has changed
 };
 
 /// Costs of a draw-down annuity as they stand after a reset; the screen reads its own settings over them.

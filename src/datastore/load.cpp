@@ -23,7 +23,8 @@ public:
     void read(Assessment& record) {
         record.DCLNO = readClientRow(assessment::dataTable(), record);
         readClientRow(assessment::persDetailsTable(), record);
-        record.inFile = {record.client.Name, record.client.BirthDate};
+        record.inFile.Name = record.client.Name;
+        record.inFile.BirthDate = record.client.BirthDate;
         readItemLists(record.itemised);
         constexpr double fewestPolicies = 1;
         const auto policies = readList(assessment::polsInvestsTable(), fewestPolicies);
@@ -34,6 +35,7 @@ public:
         RowReader(m_database, assessment::lumpSumTaxTable(), m_key, &m_sum).next(record.lumpSums);
         if (gains.ItemiseAdditCapGain == 1) gains.trustOther = readList(assessment::cgtTrustOtherTable());
         record.inFile.contents = m_sum.value();
+        record.inFile.file = m_database.state();
     }
 
 private:

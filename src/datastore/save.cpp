@@ -126,6 +126,8 @@ std::string described(const std::string& name, double born) {
 
 /// Nothing is written over a stranger, nor unasked over what another program has put into the file meanwhile.
 void requireUnchanged(store::Database& database, const Assessment& record, TheirChanges theirs) {
+    // As a rule nobody else has written to the file, and the client need not be read again for each save.
+    if (record.inFile.file.inode != 0 && record.inFile.file == database.state()) return;
     for (const FieldTable<Assessment>* table : {&assessment::dataTable(), &assessment::persDetailsTable()})
         if (!assessment::firstRow(database, *table, record.DCLNO)) return; // the writer has its own words for that
     Assessment found;
@@ -155,14 +157,20 @@ private:
     Assessment& m_record;
 };
 
-void markSaved(Assessment& record, const ClientWriter& written) {
+/// The state that our own commit has left, by the count before it; none if another program was faster than the look.
+store::FileState stateAfterCommit(const store::Database& database, const store::FileState& before) {
+    const store::FileState now = database.state();
+    return now.changes == before.changes + 1 ? now : store::FileState();
+}
+
+void markSaved(Assessment& record, const ClientWriter& written, const store::FileState& file) {
     double& born = record.client.BirthDate;
     if (born == base::NoDate || born == base::NoDate - 1) born = base::blankDate;
     record.changed.clearAfterSave();
     record.ClientChanged = 0;
     record.ClientOnFile = 1;
     record.DCLNO = written.key();
-    record.inFile = {record.client.Name, born, written.contents()};
+    record.inFile = {record.client.Name, born, written.contents(), file};
 }
 
 } // namespace
@@ -175,8 +183,9 @@ Saved Save(Assessment& record, store::Database& database, TheirChanges theirs) {
     if (record.ClientOnFile == 1) requireUnchanged(database, record, theirs);
     ClientWriter writer(database, record);
     writer.write();
+    const store::FileState before = database.state();
     transaction.commit();
-    markSaved(record, writer);
+    markSaved(record, writer, stateAfterCommit(database, before));
     return record.SaveThenNew == 1 ? Saved::thenNew : Saved::written;
 }
 

@@ -231,6 +231,22 @@ void Database::execute(std::string_view sql) {
 
 std::int64_t Database::lastRow() const { return m_connection->getLastInsertRowid(); }
 
+FileState Database::state() const {
+    constexpr sqlite3_int64 placeOfCount = 24;
+    unsigned char count[4] = {};
+    sqlite3_file* file = nullptr;
+    // Read by the connection's own handle: closing another one would drop its locks.
+    sqlite3_file_control(m_connection->getHandle(), "main", SQLITE_FCNTL_FILE_POINTER, &file);
+    struct stat info {};
+    if (file == nullptr || file->pMethods == nullptr ||
+        file->pMethods->xRead(file, count, sizeof count, placeOfCount) != SQLITE_OK ||
+        ::stat(m_path.c_str(), &info) != 0)
+        return {};
+    const std::uint32_t changes = std::uint32_t{count[0]} << 24 | std::uint32_t{count[1]} << 16 |
+                                  std::uint32_t{count[2]} << 8 | std::uint32_t{count[3]};
+    return {info.st_dev, info.st_ino, info.st_ctim.tv_sec, info.st_ctim.tv_nsec, info.st_size, changes};
+}
+
 void Database::fail() const { failWith(m_path, m_connection->getExtendedErrorCode(), m_connection->getErrorMsg()); }
 
 Transaction::Transaction(Database& database, Access access) : m_database(database) {

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "store/filestate.h"
 #include "store/value.h"
 
 namespace SQLite {
@@ -80,6 +81,8 @@ public:
     std::vector<Column> columns(std::string_view table);
     void execute(std::string_view sql);
     Statement prepare(std::string_view sql) { return {*this, sql}; }
+    /// The file's state; certain only while a transaction holds it. A default one if the file can't be looked at.
+    FileState state() const;
     /// Rowid of the row inserted last.
     std::int64_t lastRow() const;
 

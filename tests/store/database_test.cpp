@@ -42,6 +42,21 @@ int writing(const fs::path& path) {
     return errorOf([&] { Database(path).execute("UPDATE Loans SET Num1 = 7"); });
 }
 
+TEST_F(DatabaseFile, ItsStateTellsEveryWritingAndReplacement) {
+    const fs::path path = made();
+    const Database reader(path);
+    const store::FileState first = reader.state();
+    EXPECT_NE(first, store::FileState());
+    EXPECT_EQ(Database(path).state(), first);
+    Database(path).execute("UPDATE Loans SET Num1=2");
+    const store::FileState second = reader.state();
+    EXPECT_NE(second, first);
+    EXPECT_EQ(second.changes, first.changes + 1);
+    fs::copy_file(path, folder / "copy");
+    fs::rename(folder / "copy", path);
+    EXPECT_NE(Database(path).state(), second);
+}
+
 } // namespace
 
 TEST_F(DatabaseFile, FaultsAtOpeningHaveTheirNumbersAndLeaveTheFileAlone) {
