@@ -43,21 +43,38 @@ const store::Value& SettingsRow::value(std::string_view field) const {
                        "The table \"" + m_table + "\" has no field \"" + std::string(field) + "\".");
 }
 
+void SettingsRow::refuse(store::Number number, std::string_view field, const std::string& why) const {
+    throw store::Error(number, m_file,
+                       "The field \"" + std::string(field) + "\" of the table \"" + m_table + "\" " + why,
+                       "Close Marlowbeck and copy {name} from your last backup into the folder {folder}. Without a "
+                       "backup move {name} away from there and install Marlowbeck again: the settings are then those "
+                       "that it comes with, and clients are kept.");
+}
+
 double SettingsRow::number(std::string_view field) const {
     const store::Value& found = value(field);
-    const std::string name = "The field \"" + std::string(field) + "\" of the table \"" + m_table + "\" ";
-    if (store::isNull(found)) throw store::Error(store::Number::null, m_file, name + "is empty.");
+    if (store::isNull(found)) refuse(store::Number::null, field, "is empty.");
     if (const auto* number = std::get_if<double>(&found)) return *number;
-    throw store::Error(store::Number::wrongType, m_file, name + "holds text instead of a number.");
+    refuse(store::Number::wrongType, field, "holds text instead of a number.");
+}
+
+void SettingsRow::fill(const assessment::TableDescription& table, void* record) const {
+    for (const assessment::FieldLine& line : table.fields())
+        assessment::setValueAt(line.at(record), number(line.name), line.kind.blank);
+}
+
+void SettingsRow::requireBetween(std::string_view field, double lowest, double highest,
+                                 const std::string& words) const {
+    const double found = number(field);
+    if (!(found >= lowest && found <= highest))
+        refuse(store::Number::wrongType, field, "is " + std::to_string(found) + " and must be " + words + ".");
 }
 
 std::string SettingsRow::text(std::string_view field) const {
     const store::Value& found = value(field);
     if (store::isNull(found)) return {};
     if (const auto* text = std::get_if<std::string>(&found)) return *text;
-    throw store::Error(store::Number::wrongType, m_file,
-                       "The field \"" + std::string(field) + "\" of the table \"" + m_table +
-                           "\" holds a number instead of text.");
+    refuse(store::Number::wrongType, field, "holds a number instead of text.");
 }
 
 SettingsRow readSettings(store::Database& database, std::string_view table) {

@@ -4,8 +4,10 @@
 #include <string>
 #include <string_view>
 
+#include "assessment/fieldtable.h"
 #include "datastore/row.h"
 #include "store/database.h"
+#include "store/error.h"
 
 namespace datastore {
 
@@ -20,7 +22,15 @@ public:
     std::string text(std::string_view field) const; ///< empty if it is Null; Error 3421 if it is a number
     const Row& row() const { return m_row; }
 
+    /// The numbers of a described row into the struct that it describes. Errors as for `number`.
+    void fill(const assessment::TableDescription& table, void* record) const;
+    /// Error 3421 for a number outside its range; words: what it must be, "a percentage from 0 to 100".
+    void requireBetween(std::string_view field, double lowest, double highest, const std::string& words) const;
+
 private:
+    /// Error about one field: the screen that shows it can't open, so the file is the one place to mend it in.
+    [[noreturn]] void refuse(store::Number number, std::string_view field, const std::string& why) const;
+
     std::string m_file;
     std::string m_table;
     Row m_row;
@@ -30,6 +40,15 @@ private:
 /// invented.
 SettingsRow readSettings(store::Database& database, std::string_view table);
 SettingsRow readSettings(const std::filesystem::path& path, std::string_view table);
+
+/// The values of a struct under the names of its table's fields.
+template <class Record>
+Row rowOf(const assessment::FieldTable<Record>& table, Record record) {
+    Row row;
+    for (const assessment::FieldLine& line : table.fields())
+        if (line.at != nullptr) row.emplace_back(line.name, assessment::valueAt(line.at(&record)));
+    return row;
+}
 
 /// Writes the named fields into the first row of a table and leaves its other fields and rows as they are. Errors as
 /// for reading, and 3265 for an unknown field.

@@ -59,13 +59,6 @@ void provideClientDb(const Paths& paths, const Notice& notice) {
     }
 }
 
-assessment::FundDefaults fundsFrom(const SettingsRow& row) {
-    assessment::FundDefaults funds;
-    for (const assessment::FieldLine& line : assessment::mutualFundsTable().fields())
-        assessment::setValueAt(line.at(&funds), row.number(line.name), line.kind.blank);
-    return funds;
-}
-
 /// Fails a start whose settings could not be written later: a read-only file, or a folder that takes no journal.
 ///
 /// The factory's row is to stay as it is, and the database skips a write that changes nothing. So the row is changed
@@ -82,7 +75,8 @@ void touchTallowenDefault(store::Database& settings) {
 }
 
 assessment::FundDefaults readFunds(store::Database& settings) {
-    const assessment::FundDefaults funds = fundsFrom(readSettings(settings, assessment::mutualFundsTable().name()));
+    assessment::FundDefaults funds;
+    readSettings(settings, assessment::mutualFundsTable().name()).fill(assessment::mutualFundsTable(), &funds);
     touchTallowenDefault(settings);
     return funds;
 }

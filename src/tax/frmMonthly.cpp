@@ -19,6 +19,8 @@ constexpr const char* wrongDate = "Incorrect Date";
 constexpr double inclusionRates[] = {0.8, 0.2};
 
 const NumberKind years = whole.between(0, 150, "Please enter an age from 0 to 150 years.", "Incorrect Age");
+const NumberKind share = percent.between(0, 100, "Please enter a percentage from 0 to 100.", "Incorrect Percentage");
+const NumberKind notNegative = money.from(0, "Please enter an amount that is not negative.", "Incorrect Amount");
 const NumberKind persons = whole.between(0, 99, "Please enter 0 to 99 beneficiaries.", "Incorrect Beneficiaries");
 const PrintNames printNames{"cmdVR", "cmdPD", "cmdCancel", "&Cancel"};
 const SettingsNames settingsNames{
@@ -129,10 +131,10 @@ void frmMonthly::buildSettings() {
                               {place, [this](int index) { m_entered.TAIncRate8020 = inclusionRates[index]; }});
     inclusion->option(0)->setObjectName("optTAIncRate80");
     inclusion->option(1)->setObjectName("optTAIncRate20");
-    auto* employee = number("numEmpEUIF", m_entered.EmployeeUIF, percent);
-    auto* employer = number("numEmpRUIF", m_entered.EmployerUIF, percent);
-    auto* levy = number("numSkillPercent", m_entered.SkillLevy, percent);
-    auto* limit = number("numUIFLimit", m_entered.UIFLimit, money);
+    auto* employee = number("numEmpEUIF", m_entered.EmployeeUIF, share);
+    auto* employer = number("numEmpRUIF", m_entered.EmployerUIF, share);
+    auto* levy = number("numSkillPercent", m_entered.SkillLevy, share);
+    auto* limit = number("numUIFLimit", m_entered.UIFLimit, notNegative);
     m_openSettings = settingsPanel<PAYESetup>(
         settingsNames,
         row({form({{"&Employee UIF portion", employee, "%"},

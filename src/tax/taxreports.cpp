@@ -2,6 +2,7 @@
 
 #include "base/day.h"
 #include "datastore/printfeed.h"
+#include "datastore/settings.h"
 
 namespace tax {
 
@@ -27,11 +28,7 @@ void feedQuickTaxReport(const std::filesystem::path& printDbPath, const assessme
 void feedMonthlyReport(const std::filesystem::path& printDbPath, const std::string& employee,
                        const MonthlyInputs& month, const PAYESetup& setup, const MonthlyTax& result) {
     datastore::PrintFeed feed(printDbPath);
-    feed.replace("PAYESetup", {{"EmployeeUIF", setup.EmployeeUIF},
-                               {"EmployerUIF", setup.EmployerUIF},
-                               {"SkillLevy", setup.SkillLevy},
-                               {"UIFLimit", setup.UIFLimit},
-                               {"TAIncRate8020", setup.TAIncRate8020}});
+    feed.replace(payeSetupTable().name(), datastore::rowOf(payeSetupTable(), setup));
     // Captions beside figures, as the report lays them out.
     feed.replace("IRP5Mon", {{"TypeAM", "Monthly Check"},
                              {"Employee", " For : " + employee},

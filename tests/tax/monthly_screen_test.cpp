@@ -98,6 +98,13 @@ TEST_F(MonthlyScreen, SettingsAreKeptAndTheirRateReachesTheFundTestARunLater) {
     EXPECT_EQ(settings(), "2|3|1.5|1000.5|0.20000000000000001");
     run.click("cmdSettings");
     expectShown("numEmpEUIF 2.000");
+    for (const char* field : {"numEmpEUIF", "numEmpRUIF", "numSkillPercent"}) {
+        run.desk.expect(Answer::ok);
+        run.type(field, "100.5");
+        EXPECT_EQ(run.desk.last().text, "Please enter a percentage from 0 to 100.");
+        EXPECT_EQ(RunningProgram::focused(), field);
+        run.enter(field, "100");
+    }
 }
 
 TEST_F(MonthlyScreen, AnotherStoredRateIsUsedAndKept) {
@@ -122,7 +129,12 @@ TEST_F(MonthlyScreen, SettingsThatCannotBeReadOrWrittenAreTold) {
     expectShown("numEmpEUIF 2.000");
     run.click("cmdSetupCancel");
     run.click("cmdOK");
-    for (const char* broken : {"DELETE FROM [PAYESetup]", "INSERT INTO [PAYESetup] VALUES (1, 1, 1, NULL, 0.8)"}) {
+    for (const char* broken :
+         {"DELETE FROM [PAYESetup]", "INSERT INTO [PAYESetup] VALUES (1, 1, 1, NULL, 0.8)",
+          "UPDATE [PAYESetup] SET [UIFLimit] = -1", "UPDATE [PAYESetup] SET [UIFLimit] = 1, [SkillLevy] = 100.5",
+          "UPDATE [PAYESetup] SET [SkillLevy] = 1, [EmployeeUIF] = -0.5",
+          "UPDATE [PAYESetup] SET [EmployeeUIF] = 1, [EmployerUIF] = 'one'",
+          "UPDATE [PAYESetup] SET [EmployerUIF] = 100, [TAIncRate8020] = 80"}) {
         inSettings(broken);
         salary() = 7;
         run.desk.expect(Answer::ok);
