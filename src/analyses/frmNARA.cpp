@@ -1,4 +1,5 @@
 #include "analyses/frmNARA.h"
+#include "assessment/tables.h"
 
 #include <QLabel>
 #include <QTabWidget>
@@ -115,7 +116,8 @@ Item frmNARA::requirementsPage() {
         notCalculatedFrom(reviewed);
     auto* review = group("fraReview", "Review",
                          form({{"Date of last re&view ", lastReview}, {"Date of ne&xt review ", nextReview}}));
-    auto* notes = form({{"Notes", memo("txtNote", m_needs.RANotes, 2000)}});
+    auto* notes = form({{"Notes", memo("txtNote", m_needs.RANotes,
+                                       assessment::sizeOf(assessment::dataTable(), &m_work.record, m_needs.RANotes))}});
     return column({row({Item(person, 1), Item(wanted, 1)}), row({Item(review), Item(notes, 1)}), spring()});
 }
 

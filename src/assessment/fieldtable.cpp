@@ -1,6 +1,7 @@
 #include "assessment/fieldtable.h"
 
 #include <algorithm>
+#include <cassert>
 #include <cmath>
 #include <limits>
 
@@ -82,6 +83,17 @@ const FieldLine* TableDescription::field(std::string_view fieldName) const {
     const auto found = std::find_if(m_fields.begin(), m_fields.end(),
                                     [&](const FieldLine& line) { return base::sameName(line.name, fieldName); });
     return found == m_fields.end() ? nullptr : &*found;
+}
+
+int sizeOf(const TableDescription& table, void* row, const std::string& text) {
+    for (const FieldLine& line : table.fields()) {
+        if (line.at == nullptr) continue;
+        const Place place = line.at(row);
+        const auto* found = std::get_if<std::string*>(&place);
+        if (found != nullptr && *found == &text) return line.kind.declared.size;
+    }
+    assert(!"a text with no line in the table");
+    return 0;
 }
 
 store::Value valueAt(Place place) {

@@ -145,6 +145,9 @@ public:
         : TableDescription(std::move(tableName), {tableFields.begin(), tableFields.end()}, std::move(tableIndexes)) {}
 };
 
+/// How many characters the file takes of a text of this row, which one of the table's lines leads to.
+int sizeOf(const TableDescription& table, void* row, const std::string& text);
+
 /// The value at a place as the store takes it.
 store::Value valueAt(Place place);
 

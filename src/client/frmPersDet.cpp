@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QTabWidget>
 
+#include "assessment/tables.h"
 #include "client/idnumber.h"
 #include "client/persdetreport.h"
 #include "datastore/paths.h"
@@ -34,24 +35,29 @@ frmPersDet::frmPersDet(Workplace& workplace)
     buildPrintPanel();
 }
 
+int frmPersDet::room(const std::string& place) {
+    return assessment::sizeOf(assessment::persDetailsTable(), &m_work.record, place);
+}
+
 TextField* frmPersDet::namePart(const QString& name, std::string& part, int size, int characters) {
     return text(name, Bound<QString>(part).then([this] { NameFunc(); }), size, characters);
 }
 
 Item frmPersDet::clientPage() {
     auto& d = m_details;
-    auto* person = group("fraClient", "Client",
-                         form({{"T&itle", namePart("txtCTitle", d.CTitle, 10, narrow)},
-                               {"First &names", text("txtCFName", d.CFName, 50)},
-                               {"Initials", namePart("txtCInit", d.CInit, 10, narrow)},
-                               {"S&urname", namePart("txtCLName", d.CLName, 50)},
-                               {"Date of &birth", birthDate("dtCDOB", m_client.BirthDate)},
-                               {"ID nu&mber", identityNumber(m_ids[0], "txtIDNum", m_client.IDNumber, 40)},
-                               {"", identityRemark(m_ids[0], "C")},
-                               {"Occupation", text("txtCOccupation", d.COccupation, 50)},
-                               {"Employer", text("txtCEmployer", d.CEmployer, 50)},
-                               {"Education", text("txtEducation", d.CEducation, 50)},
-                               {"Description", text("txtDescription", d.Description, 60)}}));
+    auto* person =
+        group("fraClient", "Client",
+              form({{"T&itle", namePart("txtCTitle", d.CTitle, room(d.CTitle), narrow)},
+                    {"First &names", text("txtCFName", d.CFName, room(d.CFName))},
+                    {"Initials", namePart("txtCInit", d.CInit, room(d.CInit), narrow)},
+                    {"S&urname", namePart("txtCLName", d.CLName, room(d.CLName))},
+                    {"Date of &birth", birthDate("dtCDOB", m_client.BirthDate)},
+                    {"ID nu&mber", identityNumber(m_ids[0], "txtIDNum", m_client.IDNumber, room(m_client.IDNumber))},
+                    {"", identityRemark(m_ids[0], "C")},
+                    {"Occupation", text("txtCOccupation", d.COccupation, room(d.COccupation))},
+                    {"Employer", text("txtCEmployer", d.CEmployer, room(d.CEmployer))},
+                    {"Education", text("txtEducation", d.CEducation, room(d.CEducation))},
+                    {"Description", text("txtDescription", d.Description, room(d.Description))}}));
     // Option 1 is deceased; any other value of an old file leaves both off.
     auto* life = options("grpDeceased", {"Active client", "Deceased"}, d.Deceased);
     life->option(0)->setObjectName("optActiveClientOther");
@@ -64,16 +70,16 @@ Item frmPersDet::clientPage() {
 Item frmPersDet::spousePage() {
     auto& d = m_details;
     auto* person = group("fraSpouse", "Spouse",
-                         form({{"T&itle", text("txtSTitle", d.STitle, 10, narrow)},
-                               {"First &names", text("txtSFName", d.SFName, 50)},
-                               {"Initials", text("txtSInit", d.SInit, 10, narrow)},
-                               {"S&urname", text("txtSLName", d.SLName, 50)},
+                         form({{"T&itle", text("txtSTitle", d.STitle, room(d.STitle), narrow)},
+                               {"First &names", text("txtSFName", d.SFName, room(d.SFName))},
+                               {"Initials", text("txtSInit", d.SInit, room(d.SInit), narrow)},
+                               {"S&urname", text("txtSLName", d.SLName, room(d.SLName))},
                                {"Date of &birth", birthDate("dtSDOB", d.SDOB)},
-                               {"ID nu&mber", identityNumber(m_ids[1], "txtSSinNum", d.SSinNum0, 50)},
+                               {"ID nu&mber", identityNumber(m_ids[1], "txtSSinNum", d.SSinNum0, room(d.SSinNum0))},
                                {"", identityRemark(m_ids[1], "S")},
-                               {"Occupation", text("txtSOccupation", d.SOccupation, 50)},
-                               {"Employer", text("txtSEmployer", d.SEmployer, 50)},
-                               {"Education", text("txtSEducation", d.SEducation, 50)}}));
+                               {"Occupation", text("txtSOccupation", d.SOccupation, room(d.SOccupation))},
+                               {"Employer", text("txtSEmployer", d.SEmployer, room(d.SEmployer))},
+                               {"Education", text("txtSEducation", d.SEducation, room(d.SEducation))}}));
     return page(person,
                 {"S", d.STelWork, d.STelHome, d.SFaxWork, d.SFaxHome, d.SCell, d.SEMail, d.SMaritalStat, d.SSmoker},
                 nullptr);
@@ -82,7 +88,7 @@ Item frmPersDet::spousePage() {
 Item frmPersDet::page(QWidget* person, const Contact& contact, QWidget* status) {
     const QString who = contact.who;
     const auto line = [&](const QString& name, std::string& place) {
-        return text("txt" + who + name, place, 20, phone);
+        return text("txt" + who + name, place, room(place), phone);
     };
     auto* telephones = group("fra" + who + "Tel", "Telephone and e-mail",
                              form({{"Wo&rk", line("TelWork", contact.telWork)},
@@ -90,7 +96,7 @@ Item frmPersDet::page(QWidget* person, const Contact& contact, QWidget* status) 
                                    {"Fa&x, work", line("FaxWork", contact.faxWork)},
                                    {"Fax, home", line("FaxHome", contact.faxHome)},
                                    {"Ce&ll", line("Cell", contact.cell)},
-                                   {"&E-mail", text("txt" + who + "EMail", contact.email, 50)}}));
+                                   {"&E-mail", text("txt" + who + "EMail", contact.email, room(contact.email))}}));
     auto* marital = group("fra" + who + "MaritalStat", "Marital status",
                           options("opt" + who + "MaritalStat", maritalStates, contact.marital));
     auto* smoker =
@@ -160,32 +166,33 @@ void frmPersDet::settled(Field* field) {
 }
 
 Item frmPersDet::addressPage() {
-    auto* postal = form({{"Line &1", text("txtPAdd1", m_details.PAdd1, 50)},
-                         {"Line &2", text("txtPAdd2", m_details.PAdd2, 50)},
-                         {"Line &3", text("txtPAdd3", m_details.PAdd3, 50)},
-                         {"Postal cod&e", text("txtZipCode", m_details.PAddZip, 10, narrow)}});
+    auto* postal = form({{"Line &1", text("txtPAdd1", m_details.PAdd1, room(m_details.PAdd1))},
+                         {"Line &2", text("txtPAdd2", m_details.PAdd2, room(m_details.PAdd2))},
+                         {"Line &3", text("txtPAdd3", m_details.PAdd3, room(m_details.PAdd3))},
+                         {"Postal cod&e", text("txtZipCode", m_details.PAddZip, room(m_details.PAddZip), narrow)}});
     auto* copy =
         button("cmdCopyPtoR", "Copy Postal Address to Residentia&l Address :", [this] { copyPostalToResidential(); });
-    m_residential[0] = text("txtResAdd1", m_details.ResAdd1, 50);
-    m_residential[1] = text("txtResAdd2", m_details.ResAdd2, 50);
-    m_residential[2] = text("txtResAdd3", m_details.ResAdd3, 50);
+    m_residential[0] = text("txtResAdd1", m_details.ResAdd1, room(m_details.ResAdd1));
+    m_residential[1] = text("txtResAdd2", m_details.ResAdd2, room(m_details.ResAdd2));
+    m_residential[2] = text("txtResAdd3", m_details.ResAdd3, room(m_details.ResAdd3));
     auto* residential =
         form({{"Line 1", m_residential[0]}, {"Line 2", m_residential[1]}, {"Line 3", m_residential[2]}});
-    return column({row({group("fraPostal", "Postal address", column({postal, row({copy, spring()})})),
-                        group("fraResidential", "Residential address", residential)}),
-                   group("fraBank", "Bank and estate",
-                         form({{"&Bank", text("txtBank", m_details.CBank, 80)},
-                               {"B&ranch", text("txtBranch", m_details.CBranch, 80)},
-                               {"Account &number", text("txtAccNo", m_details.CAccNo, 80)},
-                               {"E&xecutors", text("txtExecutors", m_details.CExecutors, 80)}})),
-                   spring()});
+    return column(
+        {row({group("fraPostal", "Postal address", column({postal, row({copy, spring()})})),
+              group("fraResidential", "Residential address", residential)}),
+         group("fraBank", "Bank and estate",
+               form({{"&Bank", text("txtBank", m_details.CBank, room(m_details.CBank))},
+                     {"B&ranch", text("txtBranch", m_details.CBranch, room(m_details.CBranch))},
+                     {"Account &number", text("txtAccNo", m_details.CAccNo, room(m_details.CAccNo))},
+                     {"E&xecutors", text("txtExecutors", m_details.CExecutors, room(m_details.CExecutors))}})),
+         spring()});
 }
 
 Item frmPersDet::dependantsPage() {
     std::vector<FormRow> rows;
     for (std::size_t i = 0; i < m_details.DEP.size(); ++i) {
         const auto number = static_cast<int>(i);
-        auto* name = text(QString("txtDepName(%1)").arg(number), m_details.DEP[i], 50);
+        auto* name = text(QString("txtDepName(%1)").arg(number), m_details.DEP[i], room(m_details.DEP[i]));
         auto* birth = birthDate(QString("dtDepDOB%1").arg(number + 1), m_details.DEPDOB[i]);
         rows.emplace_back(QString("Name &%1").arg(number + 1), row({name, labelled("Date of birth", birth)}));
         birth->setAccessibleName(QString("Date of birth %1").arg(number + 1));
@@ -194,11 +201,12 @@ Item frmPersDet::dependantsPage() {
 }
 
 Item frmPersDet::notesPage() {
-    return column(
-        {group("fraReview", "Review",
-               form({{"&Review date", date("dtReviewDate", m_details.ReviewDate)},
-                     {"&Next appointment", date("dtNextApp", m_details.NextApp)}})),
-         Item(group("fraNotes", "Notes", form({{"Co&mments", memo("txtMemo", m_details.Comments, 2000)}})), 1)});
+    return column({group("fraReview", "Review",
+                         form({{"&Review date", date("dtReviewDate", m_details.ReviewDate)},
+                               {"&Next appointment", date("dtNextApp", m_details.NextApp)}})),
+                   Item(group("fraNotes", "Notes",
+                              form({{"Co&mments", memo("txtMemo", m_details.Comments, room(m_details.Comments))}})),
+                        1)});
 }
 
 void frmPersDet::buildPrintPanel() {

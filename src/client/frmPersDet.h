@@ -47,6 +47,8 @@ private:
     screenkit::Item addressPage();
     screenkit::Item dependantsPage();
     screenkit::Item notesPage();
+    /// Characters that the file takes of a text of the client.
+    int room(const std::string& place);
     screenkit::TextField* namePart(const QString& name, std::string& part, int size, int characters = 0);
     /// What client and spouse alike are asked beside who they are; `who` is "C" or "S" in the controls' names.
     struct Contact {

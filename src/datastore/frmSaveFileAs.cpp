@@ -2,6 +2,7 @@
 
 #include <tuple>
 
+#include "assessment/tables.h"
 #include "screenkit/trouble.h"
 
 namespace datastore {
@@ -14,16 +15,20 @@ frmSaveFileAs::frmSaveFileAs(Workplace& workplace)
     workplace.shell.enableToolbar(false);
     connect(this, &Screen::closed, this, [this] { m_work.shell.enableToolbar(true); });
     m_name = shown("txtName", 40);
-    auto* title = namePart("txtCTitle", m_details.CTitle, 10);
-    auto* initials = namePart("txtCInit", m_details.CInit, 10);
-    m_surname = namePart("txtCLName", m_details.CLName, 50);
+    assessment::PersonalDetails& kept = workplace.record.details;
+    const auto room = [&](const std::string& place) {
+        return assessment::sizeOf(assessment::persDetailsTable(), &workplace.record, place);
+    };
+    auto* title = namePart("txtCTitle", m_details.CTitle, room(kept.CTitle));
+    auto* initials = namePart("txtCInit", m_details.CInit, room(kept.CInit));
+    m_surname = namePart("txtCLName", m_details.CLName, room(kept.CLName));
     auto* ok = button("cmdOK", "&OK", [this] { saveAs(); });
     body(column({form({{"Name", m_name},
                        {"&Title", title},
                        {"&Initials", initials},
                        {"&Surname", m_surname},
                        {"Date of &birth", date("dtCDOB", m_client.BirthDate)},
-                       {"&Description", text("txtDescription", m_details.Description, 60)}}),
+                       {"&Description", text("txtDescription", m_details.Description, room(kept.Description))}}),
                  note(tr("The client is saved as a new one; the old one stays in the file as it was last saved.")),
                  spring(), row({spring(), ok, cancelButton("cmdCancel", "&Cancel", [this] { drop(); })})}));
     defaultButton(ok);

@@ -1,5 +1,6 @@
 #include "reports/frmHeadFoot.h"
 
+#include "assessment/tables.h"
 #include "datastore/headfoot.h"
 #include "datastore/paths.h"
 #include "screenkit/trouble.h"
@@ -25,7 +26,8 @@ Item frmHeadFoot::lines(const QString& name, std::array<std::string, 4>& lines, 
     for (std::size_t i = 0; i < lines.size(); ++i) {
         const auto number = static_cast<int>(i);
         rows.emplace_back(tr("Line &%1").arg(number + (header ? 1 : 5)),
-                          text(QString("%1(%2)").arg(name).arg(number), lines[i], 80, 60));
+                          text(QString("%1(%2)").arg(name).arg(number), lines[i],
+                               assessment::sizeOf(assessment::headFootTable(), &m_lines, lines[i]), 60));
     }
     return group(header ? "fraHeader" : "fraFooter", header ? tr("Header") : tr("Footer"),
                  column({note(noteText), form(rows)}));
