@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <algorithm>
 #include <cmath>
 #include <concepts>
 #include <functional>
@@ -9,17 +10,20 @@
 
 namespace screenkit {
 
-/// A number put into a record's member: whole numbers are rounded half to even and held at the ends of their width, so
-/// that a figure too large to keep never wraps round into another one.
+/// A number put into a record's member, held at the ends of its width, so that a figure too large to keep never wraps
+/// round into another one. Whole numbers are rounded half to even. What is no number is 0: an infinite figure in the
+/// record would keep the client from being saved.
 template <class T>
 T narrowed(double number) {
+    if (std::isnan(number)) return 0;
     if constexpr (std::integral<T>) {
         const double whole = std::nearbyint(number);
         if (!(whole > static_cast<double>(std::numeric_limits<T>::min()))) return std::numeric_limits<T>::min();
         if (!(whole < static_cast<double>(std::numeric_limits<T>::max()))) return std::numeric_limits<T>::max();
         return static_cast<T>(whole);
     } else {
-        return static_cast<T>(number);
+        constexpr double widest = std::numeric_limits<T>::max();
+        return static_cast<T>(std::clamp(number, -widest, widest));
     }
 }
 

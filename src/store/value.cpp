@@ -25,12 +25,16 @@ constexpr Spelling spellings[] = {
 
 std::string quoted(std::string_view field) { return "\"" + std::string(field) + "\""; }
 
-[[noreturn]] void wrongType(std::string_view file, std::string_view field, const std::string& why) {
-    throw Error(Number::wrongType, std::string(file), "The field " + quoted(field) + why);
+[[noreturn]] void wrongType(std::string_view file, std::string_view field, const std::string& why,
+                            std::string advice = {}) {
+    throw Error(Number::wrongType, std::string(file), "The field " + quoted(field) + why, std::move(advice));
 }
 
 double storedNumber(double number, Type type, std::string_view file, std::string_view field) {
-    if (!std::isfinite(number)) wrongType(file, field, " was given a result that is no number.");
+    if (!std::isfinite(number))
+        wrongType(file, field, " was given a result that is no number.",
+                  "Nothing was saved. Open the screen that works this figure out, change what it is worked out from, "
+                  "calculate and save again.");
     switch (type) {
     case Type::Boolean: return number != 0 ? 1 : 0;
     case Type::Integer: {

@@ -1,6 +1,7 @@
 #include <QClipboard>
 #include <QWheelEvent>
 #include <cmath>
+#include <limits>
 
 #include "screenkit/kit_screen.h"
 
@@ -300,6 +301,16 @@ TEST_F(KitTest, resultsAndLockedFieldsHaveTheirOwnShadesInAnyTheme) {
     }
     total->setLocked(false);
     EXPECT_TRUE(has(total, before.base().color()));
+}
+
+TEST(Bound, aFigureStaysWithinItsWidthAndIsAlwaysANumber) {
+    constexpr double infinite = std::numeric_limits<double>::infinity();
+    for (const double number : {infinite, 1.7e308, 1e300})
+        EXPECT_EQ(narrowed<float>(-number), -std::numeric_limits<float>::max());
+    EXPECT_EQ(narrowed<double>(infinite), std::numeric_limits<double>::max());
+    EXPECT_EQ(narrowed<double>(std::nan("")) + narrowed<std::int16_t>(std::nan("")), 0);
+    EXPECT_EQ(narrowed<std::int16_t>(40000), 32767);
+    EXPECT_EQ(narrowed<std::int16_t>(2.5), 2);
 }
 
 TEST_F(KitTest, theWheelChangesNoField) {
