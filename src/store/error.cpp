@@ -56,7 +56,8 @@ constexpr Usual usual[] = {
     {Number::fileNotFound, "The database was not found.",
      "Check that the disk or network share with the folder {folder} is connected. If the file is lost, copy {name} "
      "from "
-     "your last backup into that folder, then try again."},
+     "your last backup into that folder, then try again; what belongs to Marlowbeck itself, such as Default.Mdb and "
+     "Print.mdb, also comes back when it is installed again."},
     {Number::diskFull, "The disk is full, or the database may grow no further.", makeRoom},
     {Number::readOnly, "The database is read-only, so nothing can be saved in it.",
      "Allow {name} in the folder {folder} to be written (its properties, \"Permissions\"), then try again."},

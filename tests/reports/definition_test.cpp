@@ -24,6 +24,7 @@ protected:
 TEST_F(Definition, NamesFileAndLineOfEveryFault) {
     define("piece.rpt", "<p>sound</p>\n<p>{{Nowhere}}</p>\n");
     define("loop.rpt", "<p>x</p>\n{{>loop}}\n");
+    define("nothing.rpt", ""); // what a full disk leaves of a copy
     feedLoan();
     const struct {
         const char *body, *file, *line, *names, *number;
@@ -33,6 +34,7 @@ TEST_F(Definition, NamesFileAndLineOfEveryFault) {
         {"\n\n{{#Amorts}}\n<p>x</p>{{/Amorts}}", "Own.rpt", "Line 7:", "\"Amorts\"", "3078"},
         {"{{#Amort}}<p>{{Num1}}</p>{{/Amort}}", "Own.rpt", "Line 5:", "\"Num1\"", "3265"},
         {"{{?Filled}}<p>x</p>{{/Filled}}", "Own.rpt", "Line 5:", "\"Filled\"", "3265"},
+        {"{{>nothing}}", "nothing.rpt", "Line 1:", "empty", "321"},
         // also in a section that is not printed now
         {"{{?FinText3}}x{{/FinText3}}", "Own.rpt", "Line 5:", "\"FinText3\"", "3265"},
         {"<p>a</p>\n{{#Amort}}\n<p>b</p>\n", "Own.rpt", "Line 6:", "{{#Amort}}", "321"},

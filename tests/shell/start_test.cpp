@@ -1,6 +1,7 @@
 #include "shell/placing.h"
 #include "shell/running_program.h"
 
+#include <QProcess>
 #include <QScreen>
 #include <csignal>
 #include <gtest/gtest.h>
@@ -162,6 +163,37 @@ TEST(Start, AClientFileLockedByAnotherProgramIsNamedAndLeftAlone) {
     EXPECT_TRUE(run.desk.last().text.contains("Data.Mdb"));
     EXPECT_TRUE(run.desk.last().text.endsWith("(3356)")) << run.desk.last().text.toStdString();
     other.execute("ROLLBACK");
+}
+
+struct Ended {
+    int code;
+    QString out, errors;
+};
+
+/// Runs the program itself with no display to show a window on.
+Ended runBare(const QStringList& words, const QString& display = {}) {
+    QProcess program;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        environment.remove(name);
+    if (!display.isEmpty()) environment.insert("DISPLAY", display);
+    program.setProcessEnvironment(environment);
+    program.start(MARLOWBECK_PROGRAM_DIR "/marlowbeck", words);
+    EXPECT_TRUE(program.waitForFinished(30000));
+    EXPECT_EQ(program.exitStatus(), QProcess::NormalExit);
+    return {program.exitCode(), program.readAllStandardOutput(), program.readAllStandardError()};
+}
+
+TEST(Start, WithoutADisplaySaysSoInOneLineAndAnswersWhatNeedsNone) {
+    for (const char* display : {"", ":4711"}) {
+        const Ended ended = runBare({}, display);
+        EXPECT_EQ(ended.code, 1) << display;
+        EXPECT_EQ(ended.errors.count('\n'), 1) << ended.errors.toStdString();
+        EXPECT_TRUE(ended.errors.contains("display"));
+    }
+    EXPECT_EQ(runBare({"--version"}).out.trimmed().toStdString(), shell::programCaption());
+    EXPECT_TRUE(runBare({"--help"}).out.startsWith("Usage: marlowbeck"));
+    EXPECT_EQ(runBare({"--help"}).code, 0);
 }
 
 /// Another process of this user that holds the right to run, until it is killed.
