@@ -4,8 +4,10 @@
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Exception.h>
 #include <SQLiteCpp/Statement.h>
+#include <fcntl.h>
 #include <sqlite3.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <system_error>
 
@@ -20,6 +22,7 @@ namespace {
 
 constexpr int busyMilliseconds = 1000;
 constexpr std::uintmax_t headerBytes = 100;
+constexpr const char* folderIsReadOnly = "The folder of the database is read-only.";
 
 struct Cause {
     Number number;
@@ -43,7 +46,7 @@ Cause statementCause(const std::string& words) {
 
 Cause readOnlyCause(int extendedCode) {
     switch (extendedCode) {
-    case SQLITE_READONLY_DIRECTORY: return {Number::cannotOpen, "The folder of the database is read-only."};
+    case SQLITE_READONLY_DIRECTORY: return {Number::cannotOpen, folderIsReadOnly};
     case SQLITE_READONLY_DBMOVED:
         return {Number::cannotOpen, "The database was moved or replaced while the program was using it."};
     case SQLITE_READONLY_ROLLBACK:
@@ -207,6 +210,8 @@ void Database::create(const fs::path& path) {
     std::error_code error;
     const fs::path folder = path.has_parent_path() ? path.parent_path() : fs::path(".");
     if (!fs::is_directory(folder, error)) throw Error(Number::badPath, path.string());
+    if (::faccessat(AT_FDCWD, folder.c_str(), W_OK, AT_EACCESS) != 0)
+        throw Error(Number::cannotOpen, path.string(), folderIsReadOnly);
     const auto connection = connect(path, SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
     // Before anything is in it; journals take their mode from the file.
     ::chmod(path.c_str(), S_IRUSR | S_IWUSR);
