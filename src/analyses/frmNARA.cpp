@@ -203,11 +203,6 @@ void frmNARA::buildPrintPanel() {
 
 // ---- ages
 
-double frmNARA::today() const {
-    const QDate today = m_work.desk.today();
-    return *base::dayNumber(today.year(), today.month(), today.day());
-}
-
 void frmNARA::filled() {
     const auto& client = m_work.record.client;
     m_name->setText(QString::fromStdString(client.Name));

@@ -32,7 +32,6 @@ private:
     /// One of the two ages, from which others follow as it is typed.
     screenkit::Bound<double> age(double& place);
     void agesChanged();
-    double today() const;
     void showAges();
     bool showsResults() const;
     void showTotals();

@@ -109,11 +109,6 @@ Item frmPersDet::page(QWidget* person, const Contact& contact, QWidget* status) 
 
 // ---- dates of birth and identity numbers
 
-double frmPersDet::today() const {
-    const QDate today = m_work.desk.today();
-    return *base::dayNumber(today.year(), today.month(), today.day());
-}
-
 DateField* frmPersDet::birthDate(const QString& name, double& place) {
     m_births.push_back({date(name, place), &place});
     return m_births.back().field;

@@ -41,7 +41,6 @@ private:
     screenkit::TextField* identityNumber(Identity& identity, const QString& name, std::string& place, int size);
     screenkit::Item identityRemark(Identity& identity, const QString& who);
     void showRemark(Identity& identity);
-    double today() const;
     screenkit::Item clientPage();
     screenkit::Item spousePage();
     screenkit::Item addressPage();

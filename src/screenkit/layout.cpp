@@ -4,6 +4,7 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
+#include <QMdiSubWindow>
 #include <QRegularExpression>
 #include <algorithm>
 
@@ -182,6 +183,14 @@ QLabel* note(const QString& text) {
     auto* label = new QLabel(text);
     label->setWordWrap(true);
     return label;
+}
+
+void makeRoom(QWidget* screen, const QSize& wanted) {
+    auto* window = qobject_cast<QMdiSubWindow*>(screen->parentWidget());
+    if (window == nullptr || window->isMaximized()) return;
+    const QSize lacking = (wanted - screen->size()).expandedTo({0, 0});
+    const QSize most = window->parentWidget()->size() - QSize(window->x(), window->y());
+    window->resize((window->size() + lacking).boundedTo(most.expandedTo(window->size())));
 }
 
 QString spokenLabel(const QString& label) {

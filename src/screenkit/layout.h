@@ -60,6 +60,8 @@ QLayout* labelled(const QString& label, QWidget* field);
 QWidget* group(const QString& name, const QString& title, Item content);
 /// A note or heading; wraps.
 QLabel* note(const QString& text);
+/// Lets a screen's child window grow until the screen has a size, as far as the main window has room.
+void makeRoom(QWidget* screen, const QSize& wanted);
 /// A label's text without its access key and colon: what a screen reader says.
 QString spokenLabel(const QString& label);
 

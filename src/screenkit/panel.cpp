@@ -4,12 +4,13 @@
 #include <QGraphicsDropShadowEffect>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QMdiSubWindow>
+#include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "screenkit/layout.h"
 #include "screenkit/look.h"
 
 namespace screenkit {
@@ -85,7 +86,7 @@ void Panel::setContent(const Item& content, std::initializer_list<QPushButton*> 
 
 void Panel::open(QWidget* first) {
     if (!isVisible()) m_focusBefore = QApplication::focusWidget();
-    makeRoom();
+    makeRoom(parentWidget(), sizeHint() + QSize(1, 1) * look::lineHeight(this));
     place();
     show();
     raise();
@@ -99,15 +100,6 @@ void Panel::close() {
     hide();
     if (m_focusBefore != nullptr) m_focusBefore->setFocus(Qt::OtherFocusReason);
     m_focusBefore = nullptr;
-}
-
-void Panel::makeRoom() {
-    QWidget* screen = parentWidget();
-    auto* window = qobject_cast<QMdiSubWindow*>(screen->parentWidget());
-    if (window == nullptr || window->isMaximized()) return;
-    const QSize lacking = (sizeHint() + QSize(1, 1) * look::lineHeight(this) - screen->size()).expandedTo({0, 0});
-    const QSize most = window->parentWidget()->size() - QSize(window->x(), window->y());
-    window->resize((window->size() + lacking).boundedTo(most.expandedTo(window->size())));
 }
 
 void Panel::place() {
@@ -125,7 +117,7 @@ void Panel::bringToView(const QWidget* control) {
 bool Panel::event(QEvent* event) {
     const bool handled = QFrame::event(event);
     if (event->type() == QEvent::LayoutRequest && isVisible()) { // a choice has shown or hidden another
-        makeRoom();
+        makeRoom(parentWidget(), sizeHint() + QSize(1, 1) * look::lineHeight(this));
         place();
     }
     return handled;

@@ -41,8 +41,6 @@ protected:
     bool focusNextPrevChild(bool next) override;
 
 private:
-    /// Lets the child window grow where the panel is larger than its screen.
-    void makeRoom();
     /// Where Tab stops, in its order.
     QList<QWidget*> stops();
 

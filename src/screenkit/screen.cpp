@@ -12,6 +12,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "base/day.h"
 #include "screenkit/look.h"
 #include "screenkit/pages.h"
 #include "screenkit/trouble.h"
@@ -88,6 +89,11 @@ QWidget* Screen::firstField() {
     return first != m_fields.end() ? (*first)->widget() : nullptr;
 }
 
+double Screen::today() const {
+    const QDate today = m_work.desk.today();
+    return *base::dayNumber(today.year(), today.month(), today.day());
+}
+
 void Screen::focusLater(QWidget* widget) {
     QTimer::singleShot(0, widget, [widget] { widget->setFocus(Qt::OtherFocusReason); });
 }
@@ -162,8 +168,10 @@ void Screen::tellFaults() {
     for (Field* field : m_fields)
         if (const auto fault = field->markFault(); fault && inReach(field->widget()))
             told << tr("Please check %1: %2").arg(field->widget()->accessibleName(), fault->text);
+    if (told.join('\n') == m_faults->text()) return;
     m_faults->setText(told.join('\n'));
     m_faults->setVisible(!told.isEmpty());
+    if (!told.isEmpty()) makeRoom(this, sizeHint());
 }
 
 bool Screen::attempt(const QString& what, const std::function<void()>& action) {

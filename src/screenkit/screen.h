@@ -174,6 +174,8 @@ protected:
 
     /// The field that has the focus when the screen is opened; by default the first one.
     virtual QWidget* firstField();
+    /// The desk's day as a day number.
+    double today() const;
     /// Moves the focus once what is under way (a panel that closes) is done.
     static void focusLater(QWidget* widget);
     /// After the fields are filled: run a calculation, set what depends on them. Edits made here do not count.
