@@ -97,6 +97,7 @@ TEST(Itemise, TheIncomeRequiredIsThatOfTheFirstStartFromRetirementOn) {
         {"earlier ones alone", {income(100, 60, 75)}, 0, 15},
         {"no longer than the analysis runs", {income(100, 65, 999)}, 100, 50},
         {"no period backwards", {income(100, 65, 40)}, 100, 0},
+        {"nor out of several", {income(100, 65, 60), income(20, 40, 30)}, 100, 0},
         {"a row without an amount starts, but lasts no time",
          {income(100, 66, 75), income(0, 65, 99), income(0, 0, 0)},
          0,
