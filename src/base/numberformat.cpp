@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <cmath>
 #include <cstdio>
+#include <limits>
 
 #include "base/rounding.h"
 
@@ -18,6 +20,7 @@ struct Mask {
     std::size_t forcedPlaces = 0;   ///< digits always printed after it
     bool point = false;
     bool grouped = false;
+    bool ofFraction = false; ///< a fraction shown as percent
 };
 
 Mask readMask(std::string_view text) {
@@ -27,6 +30,7 @@ Mask readMask(std::string_view text) {
     const auto last = text.find_last_of("#0.");
     mask.before = text.substr(0, first);
     mask.after = text.substr(last + 1);
+    mask.ofFraction = mask.after.substr(0, 1) == "%";
     for (const char c : text.substr(first, last - first + 1)) {
         if (c == '.') mask.point = true;
         if (c == ' ') mask.grouped = true;
@@ -50,14 +54,32 @@ std::string groupedInThrees(const std::string& digits) {
 
 int shownPlaces(const Mask& mask) { return static_cast<int>(std::min<std::size_t>(mask.places, 15)); }
 
+/// A hundred times the fraction as it is written: 0.145 is 14.5, which a multiplication would miss by a hair, and a tie
+/// would be no tie.
+double inPercent(double fraction) {
+    if (!std::isfinite(fraction)) return fraction;
+    std::array<char, 32> digits{};
+    const auto written =
+        std::to_chars(digits.data(), digits.data() + digits.size(), fraction, std::chars_format::scientific);
+    const std::string_view text(digits.data(), static_cast<std::size_t>(written.ptr - digits.data()));
+    const auto e = text.find('e');
+    int exponent = 0;
+    std::from_chars(text.data() + e + (text[e + 1] == '+' ? 2 : 1), text.data() + text.size(), exponent);
+    const std::string shifted = std::string(text.substr(0, e + 1)) + std::to_string(exponent + 2);
+    double percent = std::numeric_limits<double>::infinity(); // stays where a double cannot hold so much
+    std::from_chars(shifted.data(), shifted.data() + shifted.size(), percent);
+    return percent;
+}
+
 } // namespace
 
 int placesOf(std::string_view mask) { return shownPlaces(readMask(mask)); }
 
 std::string formatNumber(double value, std::string_view maskText) {
-    if (!std::isfinite(value)) return {};
     const Mask mask = readMask(maskText);
-    const double rounded = roundHalfEven(value, shownPlaces(mask));
+    const double shown = mask.ofFraction ? inPercent(value) : value;
+    if (!std::isfinite(shown)) return {};
+    const double rounded = roundHalfEven(shown, shownPlaces(mask));
     std::array<char, 400> buffer{}; // the largest double has 309 digits before the point
     std::snprintf(buffer.data(), buffer.size(), "%.*f", static_cast<int>(mask.places), std::fabs(rounded));
     const std::string digits = buffer.data();
@@ -69,10 +91,10 @@ std::string formatNumber(double value, std::string_view maskText) {
     if (whole == "0") whole.clear();
     if (whole.size() < mask.wholeDigits) whole.insert(0, mask.wholeDigits - whole.size(), '0');
     if (mask.grouped) whole = groupedInThrees(whole);
-    std::string number = rounded < 0 ? "-" + whole : whole;
+    std::string number = whole;
     if (mask.point && !(places.empty() && mask.forcedPlaces == 0)) number += "." + places;
     if (number.empty()) return {};
-    return std::string(mask.before) + number + std::string(mask.after);
+    return (rounded < 0 ? "-" : "") + std::string(mask.before) + number + std::string(mask.after);
 }
 
 } // namespace base

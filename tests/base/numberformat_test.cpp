@@ -27,6 +27,16 @@ TEST(NumberFormat, PrintsByMask) {
         {7.25, "0.000", "7.250"},
         {240, "##", "240"},
         {1234.5, "R # ##0.00", "R 1 234.50"},
+        {-250000, "R # ### ##0", "-R 250 000"}, // the sign is the amount's, not the digits'
+        {-0.4, "R # ##0", "R 0"},
+        {0.123, "#0.0%", "12.3%"},
+        {0, "#0.0%", "0.0%"},
+        {-0.055, "#0.0%", "-5.5%"},
+        {0.145, "0%", "14%"}, // a tie as written
+        {0.155, "0%", "16%"},
+        {5e-324, "0.0%", "0.0%"},
+        {1e308, "0%", ""},         // beyond what a double holds: no figure
+        {12.3, "0.0 %", "12.3 %"}, // percent already
     };
     for (const MaskCase& c : cases)
         EXPECT_EQ(base::formatNumber(c.value, c.mask), c.printed) << c.value << ' ' << c.mask;
