@@ -68,6 +68,6 @@ reports and graphs of them, on South African rules and in rand.")
 set(CPACK_DEBIAN_PACKAGE_SECTION misc)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # libqt6svg6 also carries the plugins that draw the SVG icons.
-set(CPACK_DEBIAN_PACKAGE_DEPENDS "libqt6svg6, fonts-open-sans, fonts-dejavu-core")
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "libqt6svg6, fonts-roboto-unhinted")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "xdg-utils")
 include(CPack)

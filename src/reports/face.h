@@ -3,7 +3,6 @@
 #include <QColor>
 #include <QFont>
 #include <QFontMetricsF>
-#include <memory>
 
 namespace reports {
 
@@ -13,24 +12,18 @@ inline constexpr double unitsPerInch = 1200;
 constexpr double points(double value) { return value * unitsPerInch / 72; }
 constexpr double millimetres(double value) { return value * unitsPerInch / 25.4; }
 
-/// The type of the pages: Open Sans, and DejaVu Sans for a text with letters that it lacks (Venda's and others').
+/// The type of the pages, in one size, weight and colour. All are of the program's own family, whose digits are of
+/// equal width and which has every letter of the country's languages.
 class Face {
 public:
     explicit Face(double pointSize, QFont::Weight weight = QFont::Normal, const QColor& ink = QColor(0x1f, 0x23, 0x2b),
                   bool italic = false);
-
-    /// This face, or its like in the other family if the text has letters that this one lacks: a name looks patched
-    /// when single letters come from another family.
-    const Face& forText(const QString& text) const;
 
     QFont font;
     QColor ink;
     double lineHeight; ///< from one baseline to the next
     double ascent;     ///< from the top of the line to its baseline, the line's room shared out above and below
     QFontMetricsF metrics;
-
-private:
-    std::shared_ptr<Face> m_wide;
 };
 
 /// The few faces that all reports share.
@@ -38,12 +31,18 @@ struct Faces {
     Face body{9.5};
     Face bold{9.5, QFont::DemiBold};
     Face italic{9.5, QFont::Normal, QColor(0x1f, 0x23, 0x2b), true};
-    Face title{20, QFont::DemiBold, QColor(0x17, 0x40, 0x6b)};
+    Face small{8};
+    Face smallest{6.8};
+    Face title{16, QFont::DemiBold, QColor(0x17, 0x40, 0x6b)};
+    Face answer{16, QFont::Bold, QColor(0x17, 0x40, 0x6b)}; ///< nothing on a page is stronger
     Face lead{10.5, QFont::Normal, QColor(0x5b, 0x64, 0x72)};
-    Face heading{12.5, QFont::DemiBold, QColor(0x17, 0x40, 0x6b)};
+    Face heading{12, QFont::DemiBold, QColor(0x17, 0x40, 0x6b)};
     Face note{8.5, QFont::Normal, QColor(0x5b, 0x64, 0x72)};
     Face columnHead{9, QFont::DemiBold, QColor(0x17, 0x40, 0x6b)};
-    Face result{9.5, QFont::Bold, QColor(0x17, 0x40, 0x6b)};
+    Face result{11.5, QFont::Bold, QColor(0x17, 0x40, 0x6b)};
+    Face total{9.5, QFont::Bold, QColor(0x17, 0x40, 0x6b)};
+    Face smallTotal{8, QFont::Bold, QColor(0x17, 0x40, 0x6b)};
+    Face smallestTotal{6.8, QFont::Bold, QColor(0x17, 0x40, 0x6b)};
     Face practice{10, QFont::DemiBold};
     Face header{8.5, QFont::Normal, QColor(0x3d, 0x45, 0x52)};
     Face footer{8, QFont::Normal, QColor(0x5b, 0x64, 0x72)};

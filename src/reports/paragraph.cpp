@@ -8,20 +8,34 @@
 namespace reports {
 namespace {
 
+/// In sizes of the type: what the screens' text fields have, so that columns made with tabs are columns on paper.
+constexpr double tabWidth = 6;
+
 const Face& faceOf(const Run& run, const Face& base) {
     const Faces& faces = Faces::all();
-    if (&base != &faces.body) return base.forText(run.text); // headings have one face only
-    return (run.bold ? faces.bold : run.italic ? faces.italic : base).forText(run.text);
+    if (&base != &faces.body) return base; // headings have one face only
+    return run.bold ? faces.bold : run.italic ? faces.italic : base;
 }
 
 /// Most texts are a word or a number that fits: no line breaking is needed to see that.
 bool fitsOneLine(const std::vector<Run>& runs, const Face& face, double width, Paragraph& paragraph) {
-    if (runs.size() != 1 || runs.front().text.contains('\n')) return false;
+    if (runs.size() != 1 || runs.front().text.contains('\n') || runs.front().text.contains('\t')) return false;
     const Face& own = faceOf(runs.front(), face);
     const double advance = own.metrics.horizontalAdvance(runs.front().text);
     if (advance > width) return false;
     paragraph.lines.push_back({{{0, runs.front().text, &own}}, advance});
     return true;
+}
+
+/// What stands between two tabs is a piece of its own, at its place.
+void addPieces(Line& made, const QTextLine& line, const QString& text, int from, int to, const Face& face) {
+    while (from < to) {
+        const auto tab = static_cast<int>(text.indexOf('\t', from));
+        const int end = tab < 0 ? to : std::min(tab, to);
+        const QString part = text.mid(from, end - from).remove(QChar::LineSeparator);
+        if (!part.isEmpty()) made.pieces.push_back({line.cursorToX(from), part, &face});
+        from = end + 1;
+    }
 }
 
 Line lineOf(const QTextLine& line, const QString& text, const std::vector<Run>& runs, const Face& base) {
@@ -33,11 +47,7 @@ Line lineOf(const QTextLine& line, const QString& text, const std::vector<Run>& 
         const int end = start + static_cast<int>(run.text.size());
         const int from = std::max(start, lineStart);
         const int to = std::min(end, lineEnd);
-        if (from < to) {
-            QString part = text.mid(from, to - from);
-            part.remove(QChar::LineSeparator);
-            made.pieces.push_back({line.cursorToX(from), part, &faceOf(run, base)});
-        }
+        if (from < to) addPieces(made, line, text, from, to, faceOf(run, base));
         start = end;
     }
     return made;
@@ -61,6 +71,7 @@ Paragraph broken(const std::vector<Run>& runs, const Face& face, double width) {
     layout.setFormats(formats);
     QTextOption option;
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    option.setTabStopDistance(tabWidth * face.font.pixelSize());
     layout.setTextOption(option);
     layout.beginLayout();
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {

@@ -126,7 +126,7 @@ void setReadOnly(QLineEdit* field, bool readOnly) {
 
 void apply(QApplication& application) {
     QApplication::setStyle(new Style);
-    QFont font("Open Sans", application.font().pointSize() > 0 ? application.font().pointSize() : 10);
+    QFont font(fontFamily, application.font().pointSize() > 0 ? application.font().pointSize() : 10);
     font.setStyleHint(QFont::SansSerif);
     QApplication::setFont(font);
     QApplication::setWindowIcon(icon("marlowbeck"));

@@ -11,6 +11,10 @@ class QWidget;
 /// in a dark theme.
 namespace screenkit::look {
 
+/// The type of screens and paper. Digits of equal width, so that figures stand in columns; a true minus sign as wide as
+/// they are; and every letter of the country's languages in each of its weights, Venda's ṱ ḓ ḽ ṋ ṅ among them.
+inline constexpr const char* fontFamily = "Roboto";
+
 /// Style, font and icon of the whole program; once, before the first window.
 void apply(QApplication& application);
 
