@@ -60,10 +60,12 @@ CREATE TABLE [ItemisePrintName] (
 );
 INSERT INTO [ItemisePrintName] DEFAULT VALUES;
 
--- Lines of itemised lists. All are texts, since heading lines stand among them.
+-- Lines of itemised lists. All are texts, since heading lines stand among them. The units stand in the line of the
+-- column heads; what a list adds up to in its last line, with the words for it.
 CREATE TABLE [ItemisePrint] (
     [NewGrid] VARCHAR(255), [IncomeSource] VARCHAR(255), [Amount] VARCHAR(255), [Escalation] VARCHAR(255),
-    [FromAge] VARCHAR(255), [ToAge] VARCHAR(255)
+    [FromAge] VARCHAR(255), [ToAge] VARCHAR(255), [AmountUnit] VARCHAR(255), [EscalationUnit] VARCHAR(255),
+    [TotalText] VARCHAR(255), [Total] VARCHAR(255)
 );
 
 -- Needs analysis for retirement: rand a month for incomes, rand, years, percent a year. The Prem fields are empty
@@ -133,10 +135,11 @@ CREATE TABLE [InvestmentPro] (
     [ANS2] DOUBLE, [ANS3] DOUBLE, [ANS4] DOUBLE, [LOA] TEXT, [TAXIG] TEXT
 );
 
--- Quick tax of one person for one year: rand, rates in percent.
+-- Quick tax of one person for one year: rand, rates in percent. YR9798 is a sentence, TaxYear the year in it.
 CREATE TABLE [kwiktax] (
     [AGE] DOUBLE, [TAXINCOME] DOUBLE, [TAXTOPAY] DOUBLE, [MARGRATE] DOUBLE, [PORTION] DOUBLE, [TOTTAX] DOUBLE,
-    [REBATE] DOUBLE, [TAXCOM4] DOUBLE, [AVRATE] DOUBLE, [AVRATEAFT] DOUBLE, [YR9798] VARCHAR(255), [TAXCOM4/2] DOUBLE
+    [REBATE] DOUBLE, [TAXCOM4] DOUBLE, [AVRATE] DOUBLE, [AVRATEAFT] DOUBLE, [YR9798] VARCHAR(255), [TAXCOM4/2] DOUBLE,
+    [TaxYear] VARCHAR(255)
 );
 INSERT INTO [kwiktax] DEFAULT VALUES;
 
@@ -163,17 +166,21 @@ CREATE TABLE [BondComp] (
     [IntPaid6] DOUBLE, [Total6] DOUBLE
 );
 
--- The heading of the policies and investments reports: totals in rand.
+-- The heading of the policies and investments reports: totals in rand. FilledPolicies counts the records that hold
+-- anything, LumpSumsDue those with a lump sum at some age, NoPolicies says so where nothing is filled; WorthTotal adds
+-- up the column WorthAtRetirement as it is printed.
 CREATE TABLE [PolsInvests] (
     [Name] VARCHAR(255), [BirthDate] VARCHAR(255), [IDNumber] VARCHAR(255), [LifeCoverTotal] DOUBLE,
     [ContributionTotal] DOUBLE, [DisabilityTotal] DOUBLE, [DreadTotal] DOUBLE, [RetirementTotal] DOUBLE,
     [CashValueTotal] DOUBLE, [IncomeProTotal] DOUBLE, [MONLifeCoverTotal] DOUBLE, [MONDisabilityTotal] DOUBLE,
     [MONDreadTotal] DOUBLE, [MONIncomeProTotal] DOUBLE, [MONIncomeRBTotal] DOUBLE, [CurrentCPI] DOUBLE,
     [DBenSpouse] DOUBLE, [DBenSpousePerc] DOUBLE, [DBenEstate] DOUBLE, [DBenCharity] DOUBLE, [DBenOther] DOUBLE,
-    [PolIncAddNote] VARCHAR(255)
+    [PolIncAddNote] VARCHAR(255), [FilledPolicies] DOUBLE, [NoPolicies] VARCHAR(255),
+    [LumpSumsDue] DOUBLE, [WorthTotal] DOUBLE, [CurrentValueTotal] DOUBLE, [DBenTotal] DOUBLE
 );
 
 -- One row a policy or investment: rand, ages in years, escalations in percent. PremInvAmtAnnualCPI is always 0.
+-- IsFilled is 0 for a record that nobody has entered anything in; WorthAtRetirement, rand, what it comes to then.
 CREATE TABLE [PolsInvestsAmorts] (
     [PolNum] DOUBLE, [PolInvType] VARCHAR(255), [UnderInst] VARCHAR(255), [PolRefNum] VARCHAR(255),
     [PolOwner] VARCHAR(255), [InceptionDate] VARCHAR(255), [WoP] DOUBLE, [PaidUp] DOUBLE, [PremInvAmtMonthly] DOUBLE,
@@ -190,7 +197,8 @@ CREATE TABLE [PolsInvestsAmorts] (
     [EndowEMVAge] DOUBLE, [UseEndowEMVAtRet] DOUBLE, [EndowEMVEscFwd] DOUBLE, [InvBensCurVal] DOUBLE,
     [InvBensCurValLoanAgainst] DOUBLE, [InvBensTakeAtDisa] DOUBLE, [InvBensTakeFinValAtRet] DOUBLE,
     [InvBensMatValLS] DOUBLE, [InvBensMatValLSAtAge] DOUBLE, [InvBensMatValLSEscAt] DOUBLE,
-    [PolIncAddNote] VARCHAR(255), [PolIncNote] TEXT, [PremInvAmtAnnualCPI] DOUBLE
+    [PolIncAddNote] VARCHAR(255), [PolIncNote] TEXT, [PremInvAmtAnnualCPI] DOUBLE,
+    [PremInvAmtMonthlyAnnEsc] DOUBLE, [IsFilled] DOUBLE, [WorthAtRetirement] DOUBLE
 );
 
 -- Tax saved by retirement funding: rand.
@@ -291,6 +299,12 @@ CREATE TABLE [PersDetails] (
 );
 INSERT INTO [PersDetails] DEFAULT VALUES;
 
+-- Whose printout it is. Every feed writes it with its own tables, so that no report bears the name of another client.
+CREATE TABLE [Printout] (
+    [Client] VARCHAR(255)
+);
+INSERT INTO [Printout] DEFAULT VALUES;
+
 -- Heading (Name) and column heads of the list of clients.
 CREATE TABLE [AllDetailsHeader] (
     [Name] VARCHAR(255), [NameA] VARCHAR(255), [BirthDate] VARCHAR(255), [IDNumber] VARCHAR(255),
@@ -309,7 +323,7 @@ CREATE TABLE [UnitHistDet] (
 );
 INSERT INTO [UnitHistDet] DEFAULT VALUES;
 
--- Monthly tax of one employee, each figure beside its caption: rand.
+-- Monthly tax of one employee, each figure beside its caption: rand. EmployeeName is empty where none was typed.
 CREATE TABLE [IRP5Mon] (
     [TypeAM] VARCHAR(255), [Employee] VARCHAR(255), [Age] VARCHAR(255), [AgeNum] DOUBLE, [Sal] VARCHAR(255),
     [SalNum] DOUBLE, [DirFees] VARCHAR(255), [DirFeesNum] DOUBLE, [TravAll] VARCHAR(255), [TravOne] DOUBLE,
@@ -321,7 +335,7 @@ CREATE TABLE [IRP5Mon] (
     [Taxcreditnum] DOUBLE, [TaxCreditCons] VARCHAR(255), [TaxcreditnumCons] DOUBLE, [EmpERMedAidCont] VARCHAR(255),
     [EmpERMedAidContnum] DOUBLE, [EmpEEMedAidCont] VARCHAR(255), [EmpEEMedAidContnum] DOUBLE,
     [AnnCalcBens3] VARCHAR(255), [AnnCalcBens3num] DOUBLE, [MedAidBens] VARCHAR(255), [total] VARCHAR(255),
-    [TotalNum] DOUBLE
+    [TotalNum] DOUBLE, [EmployeeName] VARCHAR(255), [AllowableFund] VARCHAR(255), [AllowableFundNum] DOUBLE
 );
 INSERT INTO [IRP5Mon] DEFAULT VALUES;
 

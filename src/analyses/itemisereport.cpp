@@ -24,7 +24,17 @@ datastore::Row heads(const ItemLine& line) {
     datastore::Row printed;
     for (const ItemColumn& column : line.columns())
         printed.push_back({printField(column), column.head});
+    printed.push_back({"AmountUnit", "rand"});
+    if (line.kind == ItemKind::income) printed.push_back({"EscalationUnit", "%"});
     return printed;
+}
+
+/// Below a list's last row. Incomes of different years are no sum that anyone receives: their total says what it is.
+datastore::Row total(const ItemLine& line, double sum) {
+    const char* words = "Total";
+    if (line.kind == ItemKind::income)
+        words = line.table->analysis == assessment::Analysis::retirement ? "Total of all ages" : "Total of all years";
+    return {{"TotalText", words}, {"Total", base::formatNumber(sum, line.columns()[1].mask)}};
 }
 
 datastore::Row figures(const ItemLine& line, const ItemRow& row) {
@@ -47,15 +57,21 @@ bool anyItemised(assessment::Assessment& record, assessment::Analysis analysis) 
 
 void feedItemised(const std::filesystem::path& printDbPath, assessment::Assessment& record,
                   assessment::Analysis analysis) {
-    datastore::PrintFeed feed(printDbPath);
+    datastore::PrintFeed feed(printDbPath, record.client.Name);
     feed.replace("ItemisePrintName", {{"Name", record.client.Name}});
     feed.clear("ItemisePrint");
     for (const ItemLine& line : itemLines(analysis)) {
         if (!inUse(line, record)) continue;
         feed.add("ItemisePrint", {{"NewGrid", line.title}});
         feed.add("ItemisePrint", heads(line));
-        for (const ItemRow& row : line.list(record).rows)
-            feed.add("ItemisePrint", figures(line, row));
+        const std::vector<ItemRow>& rows = line.list(record).rows;
+        for (const ItemRow& row : rows) {
+            datastore::Row printed = figures(line, row);
+            if (&row == &rows.back())
+                for (const datastore::Field& field : total(line, sumOfItems(rows)))
+                    printed.push_back(field);
+            feed.add("ItemisePrint", printed);
+        }
     }
     feed.commit();
 }

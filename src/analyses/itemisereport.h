@@ -15,6 +15,7 @@ bool anyItemised(assessment::Assessment& record, assessment::Analysis analysis);
 
 /// Writes the client's name and every list in use into Print.mdb, in the order of the screen: a row with the title, one
 /// with the column heads, then the list's rows, figures as text. The age or year of a timed amount goes into `FromAge`.
+/// Beside them the units of the columns, and in a list's last row what its amounts add up to.
 /// The record is only read. Throws store::Error; nothing is written then.
 void feedItemised(const std::filesystem::path& printDbPath, assessment::Assessment& record,
                   assessment::Analysis analysis);

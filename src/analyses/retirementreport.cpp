@@ -59,7 +59,7 @@ void feedRetirement(const std::filesystem::path& printDbPath, const assessment::
     for (const datastore::Row& more : {incomeLines(analysis), capitalLines(record.retirement), noPremium(),
                                        notesLines(options.notes, record.retirement.RANotes)})
         row.insert(row.end(), more.begin(), more.end());
-    datastore::PrintFeed feed(printDbPath);
+    datastore::PrintFeed feed(printDbPath, record.client.Name);
     feed.replace("NARA", row);
     if (options.amortised) feed.replace("Amort", amortisationRows(analysis.years()));
     feed.commit();

@@ -54,6 +54,8 @@ struct Policy {
     float InvBensMatValLSEscAt = 0;
     double RBMonAvaible = 0;
     float RBMonAvaibleEscFor = 0;
+
+    bool operator==(const Policy&) const = default;
 };
 
 } // namespace assessment

@@ -205,7 +205,7 @@ void frmLoans::print(Destination destination) {
     const assessment::Loans loan = shown();
     if (!complete(loan)) return focusLater(m_ok);
     const LoanReportOptions wanted{charged(), m_includeAmort == 1, m_amortOption == 1};
-    feedLoanReport(m_work.paths.PrintDbPath, loan, wanted);
+    feedLoanReport(m_work.paths.PrintDbPath, m_work.record.client.Name, loan, wanted);
     const LoanReport report = loanReport(loan, wanted);
     m_work.reports.run(QString::fromStdString(report.definition), QString::fromStdString(report.title), destination);
 }

@@ -49,10 +49,10 @@ LoanReport loanReport(const assessment::Loans& loan, const LoanReportOptions& op
             options.amortised && options.monthly ? report.monthlyTitle : report.annualTitle};
 }
 
-void feedLoanReport(const std::filesystem::path& printDbPath, const assessment::Loans& loan,
+void feedLoanReport(const std::filesystem::path& printDbPath, const std::string& client, const assessment::Loans& loan,
                     const LoanReportOptions& options) {
     const std::string none;
-    datastore::PrintFeed feed(printDbPath);
+    datastore::PrintFeed feed(printDbPath, client);
     feed.replace("Loans", {{"Heading", loan.Heading},
                            {"Num1", loan.Num1},
                            {"Num2", loan.Num2},

@@ -23,8 +23,8 @@ struct LoanReport {
 /// Chosen by the loan's mode. Without a table the title is the annual one: no plain title was ever set.
 LoanReport loanReport(const assessment::Loans& loan, const LoanReportOptions& options);
 
-/// Writes the loan, and its table if asked for, into Print.mdb. Throws store::Error; nothing is written then.
-void feedLoanReport(const std::filesystem::path& printDbPath, const assessment::Loans& loan,
+/// Writes the client's loan, and its table if asked for, into Print.mdb. Throws store::Error; nothing is written then.
+void feedLoanReport(const std::filesystem::path& printDbPath, const std::string& client, const assessment::Loans& loan,
                     const LoanReportOptions& options);
 
 } // namespace calculators

@@ -32,7 +32,7 @@ void feedPersonalDetails(const std::filesystem::path& printDbPath, assessment::A
     row.push_back({"SMaritalStat", words.spouseMarital});
     row.push_back({"CSmoker", words.clientSmoker});
     row.push_back({"SSmoker", words.spouseSmoker});
-    datastore::PrintFeed feed(printDbPath);
+    datastore::PrintFeed feed(printDbPath, record.client.Name);
     feed.replace("PersDetails", feed.printedOf("PersDetails", std::move(row)));
     feed.commit();
 }

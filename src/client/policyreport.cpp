@@ -1,10 +1,12 @@
 #include "client/policyreport.h"
 
+#include <algorithm>
 #include <numeric>
 #include <vector>
 
 #include "assessment/tables.h"
 #include "base/day.h"
+#include "base/rounding.h"
 #include "client/policyschedule.h"
 #include "datastore/printfeed.h"
 
@@ -29,6 +31,21 @@ double total(const std::vector<ValuesAtRetirement>& values) {
     });
 }
 
+/// As its cell is printed: cents that no reader sees must not make a column add up to another total.
+double toTheCent(const ValuesAtRetirement& value) { return base::roundHalfEven(total({value}), 2); }
+
+double printedTotal(const std::vector<ValuesAtRetirement>& values) {
+    return std::accumulate(values.begin(), values.end(), 0.0,
+                           [](double sum, const ValuesAtRetirement& value) { return sum + toTheCent(value); });
+}
+
+bool isFilled(const Policy& policy) { return policy != Policy{}; }
+
+bool fallsDue(const Policy& policy) {
+    return policy.DeathBenUseCashAtRet == 1 || policy.RBEMV != 0 || policy.RBPenLump != 0 || policy.RBProvFLump != 0 ||
+           policy.EndowEMV != 0 || policy.InvBensMatValLS != 0;
+}
+
 /// What each kind of beneficiary receives. A benefit that is ceded away is nothing, never a debt of theirs.
 std::array<double, beneficiaries.size()> benefits(const Policies& policies) {
     std::array<double, beneficiaries.size()> received{};
@@ -49,6 +66,7 @@ datastore::Row headerRow(const assessment::Assessment& record, const std::vector
     const Policies& policies = record.policies;
     const auto [estate, spouse, charity, other] = benefits(policies);
     const double all = estate + spouse + charity + other;
+    const auto filled = std::count_if(policies.begin(), policies.end(), isFilled);
     const auto shown = static_cast<std::size_t>(record.CurPolicy - 1);
     return {{"Name", record.client.Name},
             {"BirthDate", base::reportDate(record.client.BirthDate)},
@@ -71,6 +89,12 @@ datastore::Row headerRow(const assessment::Assessment& record, const std::vector
             {"DBenEstate", estate},
             {"DBenCharity", charity},
             {"DBenOther", other},
+            {"DBenTotal", all},
+            {"FilledPolicies", static_cast<double>(filled)},
+            {"NoPolicies", filled > 0 ? "" : "No policies or investments are on record."},
+            {"LumpSumsDue", static_cast<double>(std::count_if(policies.begin(), policies.end(), fallsDue))},
+            {"CurrentValueTotal", total(policies, &Policy::InvBensCurVal)},
+            {"WorthTotal", printedTotal(values)},
             // The header has room for one: that of the record on screen.
             {"PolIncAddNote", shown < policies.size() ? noted(policies[shown].PolIncAddNote, options) : std::string()}};
 }
@@ -89,16 +113,19 @@ store::Value printed(const Policy& policy, const std::string& field, store::Valu
     return stored;
 }
 
-datastore::Row policyRow(Policy& policy, int number, const PolicyReportOptions& options) {
+datastore::Row policyRow(Policy& policy, int number, const ValuesAtRetirement& values,
+                         const PolicyReportOptions& options) {
     datastore::Row row;
     const auto& fields = assessment::polsInvestsTable().fields();
-    row.reserve(fields.size() + 2);
+    row.reserve(fields.size() + 4);
     row.emplace_back("PolNum", number);
     for (const assessment::FieldLine& line : fields) {
         if (line.at == nullptr) continue;
         row.emplace_back(line.name, printed(policy, line.name, assessment::valueAt(line.at(&policy)), options));
     }
     row.emplace_back("PremInvAmtAnnualCPI", 0); // no record ever had it
+    row.emplace_back("IsFilled", isFilled(policy) ? 1 : 0);
+    row.emplace_back("WorthAtRetirement", toTheCent(values));
     return row;
 }
 
@@ -107,12 +134,14 @@ datastore::Row policyRow(Policy& policy, int number, const PolicyReportOptions& 
 void feedPolicies(const std::filesystem::path& printDbPath, assessment::Assessment& record,
                   const PolicyReportOptions& options) {
     const std::vector<ValuesAtRetirement> values = CalculatePolInv(record);
-    datastore::PrintFeed feed(printDbPath);
+    datastore::PrintFeed feed(printDbPath, record.client.Name);
     feed.replace("PolsInvests", headerRow(record, values, options));
     feed.clear("PolsInvestsAmorts");
     int number = 0;
-    for (Policy& policy : record.policies)
-        feed.add("PolsInvestsAmorts", feed.printedOf("PolsInvestsAmorts", policyRow(policy, ++number, options)));
+    for (Policy& policy : record.policies) {
+        const ValuesAtRetirement& worth = values[static_cast<std::size_t>(number)];
+        feed.add("PolsInvestsAmorts", feed.printedOf("PolsInvestsAmorts", policyRow(policy, ++number, worth, options)));
+    }
     feed.commit();
 }
 

@@ -22,13 +22,16 @@ struct PolicyReportOptions {
 ///
 /// Totals over all records, rand:
 /// - `LifeCoverTotal` DeathBen, `DisabilityTotal` DisabilLumpSum, `DreadTotal` TraumlLumpSum, `CashValueTotal`
-///   DeathBenCashVal, each as entered, whoever receives it and at whatever age it falls due;
+///   DeathBenCashVal, `CurrentValueTotal` InvBensCurVal, each as entered, whoever receives it and at whatever age it
+///   falls due;
 /// - `RetirementTotal` the six values at retirement, not cut to whole rand as in the retirement analysis;
+/// - `WorthTotal` the same as printed, the sum of each record's `WorthAtRetirement` to the cent;
 /// - a month: `ContributionTotal` PremInvAmtMonthly, `MONLifeCoverTotal` DeathBenMonthly, `MONDisabilityTotal`
 ///   DisabilMonthly, `MONDreadTotal` TraumMonthly, `MONIncomeRBTotal` RBMonAvaible, `MONIncomeProTotal` IncProMonthly,
 ///   and `IncomeProTotal` the same, since income protection pays no lump sum;
 /// - `DBenEstate`, `DBenSpouse`, `DBenCharity`, `DBenOther`: the death benefits less what is ceded or lent against, by
-///   who receives them; `DBenSpousePerc` the spouse's share of the four in percent, 0 if they come to nothing.
+///   who receives them; `DBenTotal` the four together, `DBenSpousePerc` the spouse's share of the four in percent, 0 if
+///   they come to nothing.
 void feedPolicies(const std::filesystem::path& printDbPath, assessment::Assessment& record,
                   const PolicyReportOptions& options);
 

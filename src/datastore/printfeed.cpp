@@ -6,8 +6,10 @@
 
 namespace datastore {
 
-PrintFeed::PrintFeed(const std::filesystem::path& printDatabase)
-    : m_database(printDatabase), m_transaction(m_database) {}
+PrintFeed::PrintFeed(const std::filesystem::path& printDatabase, std::string_view client)
+    : m_database(printDatabase), m_transaction(m_database) {
+    replace("Printout", {{"Client", std::string(client)}});
+}
 
 void PrintFeed::replace(std::string_view table, std::initializer_list<Field> row) { replace(table, Row(row)); }
 

@@ -14,7 +14,7 @@ namespace datastore {
 
 /// Hands a screen's figures to its report: rows for the tables of Print.mdb, all of them or none.
 ///
-///     PrintFeed feed(printPath);
+///     PrintFeed feed(printPath, record.client.Name);
 ///     feed.replace("Loans", {{"Heading", loans.Heading}, {"Num1", loans.Num1}});
 ///     feed.replace("Amort", rows);
 ///     feed.commit();
@@ -23,7 +23,8 @@ namespace datastore {
 /// an unknown table, 3265 for an unknown field, 3163 or 3421 for a value that does not fit; nothing is changed then.
 class PrintFeed {
 public:
-    explicit PrintFeed(const std::filesystem::path& printDatabase);
+    /// client: whose printout it is, which stands on each page; empty if nobody's.
+    PrintFeed(const std::filesystem::path& printDatabase, std::string_view client);
 
     /// One row in place of all that the table held.
     void replace(std::string_view table, std::initializer_list<Field> row);

@@ -21,6 +21,11 @@ QString practiceOf(const QStringList& headerLines) {
     return {};
 }
 
+bool Content::isHeadedByClient() const {
+    return !blocks.empty() && blocks.front().kind == Block::Kind::title &&
+           textOf(blocks.front().runs).trimmed() == client;
+}
+
 QString Cell::text() const { return textOf(runs); }
 
 } // namespace reports

@@ -32,6 +32,7 @@ struct Cell {
 struct Row {
     std::vector<Cell> cells;
     bool result = false; ///< the figure that the report was made for
+    bool total = false;  ///< adds up rows above it
 };
 
 struct Table {
@@ -42,7 +43,8 @@ struct Table {
 
 /// A part of the page's flow. Columns stand side by side, each a flow of its own.
 struct Block {
-    enum class Kind { title, lead, heading, paragraph, note, rule, table, columns };
+    /// `answer` is a sentence that the report was made for.
+    enum class Kind { title, lead, answer, heading, paragraph, note, rule, table, columns };
 
     Kind kind = Kind::paragraph;
     std::vector<Run> runs;
@@ -54,10 +56,14 @@ struct Block {
 /// A report filled with its figures: what the pages and all exports are made from. It holds no link to any file.
 struct Content {
     QString title;           ///< the definition's own
-    QString client;          ///< whom the report is about; empty where it is about nobody
+    QString client;          ///< whose report it is; empty if nobody's
+    QString date;            ///< of the printing, dd/mm/yyyy; the engine's to say
     QStringList headerLines; ///< four; an empty one takes no room
     QStringList footerLines; ///< four
     std::vector<Block> blocks;
+
+    /// True if the heading of the first page is the client's name: nothing else need say it there.
+    bool isHeadedByClient() const;
 };
 
 QString textOf(const std::vector<Run>& runs);

@@ -5,19 +5,21 @@ namespace {
 
 /// Fonts and colours of the printed page. Blanks of the stored texts are kept as they are.
 constexpr const char* style = R"(
-body { font-family: 'Open Sans', 'DejaVu Sans', sans-serif; font-size: 10pt; color: #1f232b; max-width: 52em; }
+body { font-family: 'Roboto', sans-serif; font-size: 10pt; color: #1f232b; max-width: 52em; }
 h1 { font-size: 20pt; font-weight: 600; color: #17406b; margin: 12px 0 4px 0; }
 h2 { font-size: 13pt; font-weight: 600; color: #17406b; margin: 20px 0 6px 0; }
 p, td, th { white-space: pre-wrap; }
 p { margin: 6px 0; }
 p.lead { color: #5b6472; margin-bottom: 12px; }
+p.answer { font-size: 16pt; font-weight: bold; color: #17406b; background-color: #f3f6fa; padding: 6px; }
 p.note, p.footer { color: #5b6472; font-size: 8.5pt; }
 p.header, p.footer { margin: 0; }
 table { width: 100%; border-collapse: collapse; }
 td, th { padding: 4px 7px; vertical-align: top; }
 th { background-color: #e9eef5; color: #17406b; font-weight: 600; border-bottom: 1px solid #17406b; }
 td { border-bottom: 1px solid #d3d9e2; }
-tr.result td { background-color: #f3f6fa; color: #17406b; font-weight: bold; }
+tr.result td { font-size: 11.5pt; }
+tr.result td, tr.total td { background-color: #f3f6fa; color: #17406b; font-weight: bold; }
 table.columns td.column { border: none; padding: 0 14px 0 0; white-space: normal; }
 )";
 
@@ -57,6 +59,7 @@ private:
         case Block::Kind::title: return addText("h1", "", block.runs);
         case Block::Kind::heading: return addText("h2", "", block.runs);
         case Block::Kind::lead: return addText("p", " class=\"lead\"", block.runs);
+        case Block::Kind::answer: return addText("p", " class=\"answer\"", block.runs);
         case Block::Kind::note: return addText("p", " class=\"note\"", block.runs);
         case Block::Kind::paragraph: return addText("p", "", block.runs);
         case Block::Kind::rule: m_html += "<hr>\n"; return;
@@ -93,7 +96,7 @@ private:
     }
 
     void addRow(const Row& row, const Table& table, const QByteArray& element) {
-        m_html += row.result ? "<tr class=\"result\">" : "<tr>";
+        m_html += row.result ? "<tr class=\"result\">" : row.total ? "<tr class=\"total\">" : "<tr>";
         for (std::size_t column = 0; column < row.cells.size(); ++column) {
             const Cell& cell = row.cells[column];
             m_html += "<" + element + alignment(cell.align);
@@ -101,9 +104,9 @@ private:
             if (column < table.widths.size())
                 m_html += " width=\"" + QByteArray::number(qRound(table.widths[column] * 100)) + "%\"";
             m_html += ">";
-            if (row.result) m_html += "<b>";
+            if (row.result || row.total) m_html += "<b>";
             addRuns(cell.runs);
-            if (row.result) m_html += "</b>";
+            if (row.result || row.total) m_html += "</b>";
             m_html += "</" + element + ">";
         }
         m_html += "</tr>\n";

@@ -48,7 +48,10 @@ QString shown(const store::Value& value, const QString& mask) {
     const auto* number = std::get_if<double>(&value);
     if (!number) return {};
     const std::string allPlaces = "0.##########";
-    return QString::fromStdString(base::formatNumber(*number, mask.isEmpty() ? allPlaces : mask.toStdString()));
+    QString figure =
+        QString::fromStdString(base::formatNumber(*number, mask.isEmpty() ? allPlaces : mask.toStdString()));
+    if (figure.startsWith('-')) figure.replace(0, 1, QChar(0x2212)); // in print a minus is no hyphen
+    return figure;
 }
 
 bool isFilled(const store::Value& value) {
@@ -105,7 +108,8 @@ public:
         check(m_definition.body, hasTable ? &known(m_definition.table, file, m_definition.tableLine) : nullptr);
         const Scope scope = firstRow(m_definition.table);
         return {.title = m_definition.title,
-                .client = clientName(scope),
+                .client = printable(m_snapshot.client()).simplified(),
+                .date = {},
                 .headerLines = printable(m_snapshot.headerLines()),
                 .footerLines = printable(m_snapshot.footerLines()),
                 .blocks = flow(m_definition.body, scope)};
@@ -119,12 +123,6 @@ private:
             throw store::Error(store::Number::noCurrentRecord, m_printDatabase.toStdString(),
                                "Its table \"" + name.toStdString() + "\" has no row.");
         return {table, &table->rows.front()};
-    }
-
-    /// Every table about a client has his name under this field.
-    QString clientName(const Scope& scope) const {
-        const bool named = scope.table && scope.table->column("Name") >= 0;
-        return named ? shown(value("Name", scope), {}).simplified() : QString();
     }
 
     /// Every field is looked up before a word is printed, so that a misspelt one shows even where its section is empty.
@@ -212,6 +210,7 @@ private:
         if (styled == "h2") return Block::Kind::heading;
         if (styled == "p") return Block::Kind::paragraph;
         if (styled == "p.lead") return Block::Kind::lead;
+        if (styled == "p.answer") return Block::Kind::answer;
         if (styled == "p.note") return Block::Kind::note;
         if (styled == "hr") return Block::Kind::rule;
         failAt(node.file, node.line, QString("<%1> has no place here.").arg(styled));
@@ -279,13 +278,18 @@ private:
     void addRow(std::vector<Row>& rows, const Node& node, const Scope& scope, const std::vector<Align>& aligns) const {
         if (node.name != "tr") failAt(node.file, node.line, "A table holds nothing but rows.");
         Row& row = rows.emplace_back();
-        row.result = node.attribute("class") == "result";
+        const QString role = node.attribute("class");
+        row.result = role == "result";
+        row.total = role == "total";
+        if (!role.isEmpty() && !row.result && !row.total)
+            failAt(node.file, node.line, QString("\"%1\" is no class of a row: result or total.").arg(role));
+        std::size_t column = 0;
         visit(node.children, scope, [&](const Node& child, const Scope& at) {
             if (child.kind == Node::Kind::text && child.name.trimmed().isEmpty()) return;
             if (child.name != "td" && child.name != "th")
                 failAt(child.file, child.line, "A row holds nothing but cells.");
-            const std::size_t column = row.cells.size();
             row.cells.push_back(cell(child, at, column < aligns.size() ? aligns[column] : Align::left));
+            column += static_cast<std::size_t>(row.cells.back().columns);
         });
     }
 

@@ -2,9 +2,11 @@
 
 #include <QPainter>
 #include <algorithm>
+#include <utility>
 
 #include "reports/content.h"
 #include "reports/face.h"
+#include "reports/pageframe.h"
 #include "reports/pagelook.h"
 #include "reports/paragraph.h"
 
@@ -12,11 +14,6 @@ namespace reports {
 namespace {
 
 using namespace look;
-
-/// A header or footer line; what is wider than the page is left out.
-Line oneLine(const QString& text, const Face& face, double width) {
-    return broken({Run{text}}, face, width).lines.front();
-}
 
 /// Where the next thing goes.
 struct Cursor {
@@ -26,75 +23,19 @@ struct Cursor {
     bool operator<(const Cursor& other) const { return page != other.page ? page < other.page : y < other.y; }
 };
 
-struct Measure {
-    double x = 0;
-    double width = 0;
-};
-
 class PageMaker {
 public:
-    explicit PageMaker(const Content& content) : m_content(content), m_size(Layout::pageSize()) {
-        for (const QString& line : content.headerLines)
-            if (!line.isEmpty()) m_headerLines << line;
-        m_footerLines = content.footerLines;
-        while (!m_footerLines.isEmpty() && m_footerLines.last().isEmpty())
-            m_footerLines.removeLast();
-        m_top = marginTop + headerHeight();
-        m_bottom = m_size.height() - marginBottom - footerHeight();
-    }
+    explicit PageMaker(const Content& content) : m_content(content), m_frame(content) {}
 
     Layout made() {
-        const Measure whole{marginLeft, m_size.width() - marginLeft - marginRight};
         m_layout.pages.emplace_back();
-        place(m_content.blocks, whole, {0, m_top});
+        place(m_content.blocks, PageFrame::flow(), {0, m_frame.top(0)});
         for (std::size_t page = 0; page < m_layout.pages.size(); ++page)
-            addFrame(m_layout.pages[page], page, whole);
+            m_frame.add(m_layout.pages[page], page, m_layout.pages.size());
         return std::move(m_layout);
     }
 
 private:
-    // ---- the frame of each page
-
-    double headerHeight() const {
-        if (m_headerLines.isEmpty()) return 0;
-        const double others = static_cast<double>(m_headerLines.size() - 1) * Faces::all().header.lineHeight;
-        return Faces::all().practice.lineHeight + others + points(5) + belowHeader;
-    }
-    double footerHeight() const {
-        const auto lines = static_cast<double>(std::max<qsizetype>(m_footerLines.size(), 1));
-        return lines * Faces::all().footer.lineHeight + footerGap + aboveFooter;
-    }
-
-    void addFrame(Page& page, std::size_t index, const Measure& whole) {
-        const Faces& faces = Faces::all();
-        double y = marginTop;
-        for (const QString& line : m_headerLines) {
-            const Face& face = y == marginTop ? faces.practice : faces.header;
-            addLine(page, oneLine(line, face, whole.width), face, whole.x, y);
-            y += face.lineHeight;
-        }
-        if (!m_headerLines.isEmpty())
-            page.fills.push_back({{whole.x, y + headerGap, whole.width, frameLine}, ink::strong});
-
-        y = m_bottom + aboveFooter;
-        page.fills.push_back({{whole.x, y, whole.width, hairline}, faces.footer.ink});
-        y += footerGap;
-        const QString number = QString("Page %1 of %2").arg(index + 1).arg(m_layout.pages.size());
-        const double numberWidth = faces.footer.metrics.horizontalAdvance(number);
-        page.texts.push_back({{whole.x + whole.width - numberWidth, y + faces.footer.ascent}, number, &faces.footer});
-        for (const QString& line : m_footerLines) {
-            if (!line.isEmpty())
-                addLine(page, oneLine(line, faces.footer, whole.width - numberWidth - points(12)), faces.footer,
-                        whole.x, y);
-            y += faces.footer.lineHeight;
-        }
-    }
-
-    static void addLine(Page& page, const Line& line, const Face& face, double x, double y) {
-        for (const Piece& piece : line.pieces)
-            page.texts.push_back({{x + piece.x, y + face.ascent}, piece.text, piece.face});
-    }
-
     // ---- the flow
 
     Page& page(const Cursor& at) {
@@ -102,10 +43,11 @@ private:
             m_layout.pages.emplace_back();
         return m_layout.pages[at.page];
     }
-    Cursor nextPage(const Cursor& at) const { return {at.page + 1, m_top}; }
-    bool atTop(const Cursor& at) const { return at.y <= m_top; }
-    double room(const Cursor& at) const { return m_bottom - at.y; }
-    double fullRoom() const { return m_bottom - m_top; }
+    Cursor nextPage(const Cursor& at) const { return {at.page + 1, m_frame.top(at.page + 1)}; }
+    bool atTop(const Cursor& at) const { return at.y <= m_frame.top(at.page); }
+    double room(const Cursor& at) const { return m_frame.bottom() - at.y; }
+    /// Of any page but the first.
+    double fullRoom() const { return m_frame.bottom() - m_frame.top(1); }
 
     Cursor place(const std::vector<Block>& blocks, const Measure& measure, Cursor at) {
         for (std::size_t index = 0; index < blocks.size(); ++index) {
@@ -155,24 +97,44 @@ private:
                 least += rowHeight(shapedRow(block.table.rows[row], block.table, measure, false));
             return least;
         }
-        const Paragraph paragraph = broken(block.runs, faceOf(block), measure.width);
-        const bool whole = block.kind == Block::Kind::title || block.kind == Block::Kind::heading;
+        const Paragraph paragraph = broken(block.runs, faceOf(block), textMeasure(block, measure).width);
+        const bool whole = block.kind == Block::Kind::title || block.kind == Block::Kind::heading || isAnswer(block);
         const std::size_t lines = whole ? paragraph.lines.size() : std::min<std::size_t>(2, paragraph.lines.size());
-        return static_cast<double>(lines) * paragraph.face->lineHeight;
+        return static_cast<double>(lines) * paragraph.face->lineHeight + (isAnswer(block) ? 2 * answerPadding : 0);
     }
 
     Cursor placeParagraph(const Block& block, const Measure& measure, Cursor at) {
-        const Paragraph paragraph = broken(block.runs, faceOf(block), measure.width);
+        if (isAnswer(block)) return placeAnswer(block, measure, at);
+        at = placeLines(broken(block.runs, faceOf(block), measure.width), measure.x, at);
+        return {at.page, at.y + spaceAfter(block)};
+    }
+
+    Cursor placeLines(const Paragraph& paragraph, double x, Cursor at) {
         for (const Line& line : paragraph.lines) {
             if (paragraph.face->lineHeight > room(at) && !atTop(at)) at = nextPage(at);
-            addLine(page(at), line, *paragraph.face, measure.x, at.y);
+            addLine(page(at), line, *paragraph.face, x, at.y);
             at.y += paragraph.face->lineHeight;
         }
-        at.y += spaceAfter(block);
         return at;
     }
 
-    // ---- columns side by side: each runs on over the pages by itself
+    static bool isAnswer(const Block& block) { return block.kind == Block::Kind::answer; }
+    static Measure textMeasure(const Block& block, const Measure& measure) {
+        return isAnswer(block) ? Measure{measure.x + cellPadding, measure.width - 2 * cellPadding} : measure;
+    }
+
+    /// On a band, whose place was made sure of before.
+    Cursor placeAnswer(const Block& block, const Measure& measure, const Cursor& at) {
+        const Measure inner = textMeasure(block, measure);
+        const Paragraph paragraph = broken(block.runs, faceOf(block), inner.width);
+        const double height = paragraph.height() + 2 * answerPadding;
+        page(at).fills.push_back({{measure.x, at.y, measure.width, height}, ink::resultBand});
+        page(at).fills.push_back({{measure.x, at.y, frameLine, height}, ink::strong});
+        const Cursor end = placeLines(paragraph, inner.x, {at.page, at.y + answerPadding});
+        return {end.page, end.y + answerPadding + spaceAfter(block)};
+    }
+
+    // ---- columns side by side
 
     static Measure columnOf(const Block& block, const Measure& measure, std::size_t column) {
         const double width = measure.width - gutter * static_cast<double>(block.columns.size() - 1);
@@ -183,10 +145,30 @@ private:
     }
 
     Cursor placeColumns(const Block& block, const Measure& measure, const Cursor& at) {
+        const double height = heightOf(block, measure);
+        if (height <= room(at)) return sideBySide(block, measure, at);
+        if (height <= fullRoom() && room(at) < fullRoom() / 2) return sideBySide(block, measure, nextPage(at));
+        // Side by side they would leave half a page empty, below or beside: one under the other they leave none.
+        Cursor next = at;
+        for (const std::vector<Block>& column : block.columns)
+            next = place(column, measure, withSpace(next, &column == &block.columns.front() ? 0 : spaceBefore(block)));
+        return next;
+    }
+
+    Cursor sideBySide(const Block& block, const Measure& measure, const Cursor& at) {
         Cursor lowest = at;
         for (std::size_t column = 0; column < block.columns.size(); ++column)
             lowest = std::max(lowest, place(block.columns[column], columnOf(block, measure, column), at));
         return lowest;
+    }
+
+    /// Of columns side by side: tried out on pages of their own. More than any page's where they need a second one.
+    double heightOf(const Block& block, const Measure& measure) {
+        const Layout kept = std::exchange(m_layout, {});
+        const Cursor start{1, m_frame.top(1)};
+        const Cursor end = sideBySide(block, measure, start);
+        m_layout = kept;
+        return end.page == start.page ? end.y - start.y : Layout::pageSize().height();
     }
 
     // ---- tables
@@ -195,16 +177,17 @@ private:
         Paragraph text;
         Align align = Align::left;
         Measure measure;
+        double drop = 0; ///< what brings a smaller face down to the row's baseline
     };
     struct ShapedRow {
         std::vector<ShapedCell> cells;
         bool head = false;
-        bool result = false;
+        bool banded = false;
     };
 
     static ShapedRow shapedRow(const Row& row, const Table& table, const Measure& measure, bool head) {
         const Face& face = faceOf(row, head);
-        ShapedRow shaped{.cells = {}, .head = head, .result = row.result};
+        ShapedRow shaped{.cells = {}, .head = head, .banded = head || row.result || row.total};
         shaped.cells.reserve(row.cells.size());
         double x = measure.x;
         std::size_t column = 0;
@@ -213,10 +196,20 @@ private:
             for (int spanned = 0; spanned < cell.columns && column < table.widths.size(); ++spanned)
                 width += table.widths[column++] * measure.width;
             const Measure inner{x + cellPadding, width - 2 * cellPadding};
-            shaped.cells.push_back({broken(cell.runs, face, inner.width), cell.align, inner});
+            Paragraph text = shapedCell(cell, face, inner.width);
+            const double drop = face.ascent - text.face->ascent;
+            shaped.cells.push_back({std::move(text), cell.align, inner, drop});
             x += width;
         }
         return shaped;
+    }
+
+    /// A figure is never broken: one that is too wide for its column is set smaller.
+    static Paragraph shapedCell(const Cell& cell, const Face& face, double width) {
+        Paragraph text = broken(cell.runs, face, width);
+        for (const Face* next = smaller(face); next && cell.number && text.lines.size() > 1; next = smaller(*next))
+            text = broken(cell.runs, *next, width);
+        return text;
     }
 
     static double rowHeight(const ShapedRow& row) {
@@ -234,15 +227,22 @@ private:
             headsHeight += rowHeight(heads.back());
         }
         at = placeHeads(heads, measure, at);
-        for (const Row& row : table.rows) {
-            const ShapedRow shaped = shapedRow(row, table, measure, false);
+        for (std::size_t index = 0; index < table.rows.size(); ++index) {
+            const ShapedRow shaped = shapedRow(table.rows[index], table, measure, false);
             const double height = rowHeight(shaped);
-            const bool fitsOnFresh = height <= fullRoom() - headsHeight;
-            if (height > room(at) && (fitsOnFresh || room(at) < 3 * Faces::all().body.lineHeight))
+            const double needed = height + heightOfTotalBelow(table, index, measure);
+            const bool fitsOnFresh = needed <= fullRoom() - headsHeight;
+            if (needed > room(at) && (fitsOnFresh || room(at) < 3 * Faces::all().body.lineHeight))
                 at = placeHeads(heads, measure, nextPage(at));
             at = height <= room(at) ? placeRow(shaped, height, measure, at) : placeLongRow(shaped, heads, measure, at);
         }
         return at;
+    }
+
+    /// A total at the top of a page closes nothing: it takes the row before it along.
+    static double heightOfTotalBelow(const Table& table, std::size_t row, const Measure& measure) {
+        if (row + 1 >= table.rows.size() || !table.rows[row + 1].total) return 0;
+        return rowHeight(shapedRow(table.rows[row + 1], table, measure, false));
     }
 
     Cursor placeHeads(const std::vector<ShapedRow>& heads, const Measure& measure, Cursor at) {
@@ -253,7 +253,7 @@ private:
 
     Cursor placeRow(const ShapedRow& row, double height, const Measure& measure, const Cursor& at) {
         Page& on = page(at);
-        if (row.head || row.result)
+        if (row.banded)
             on.fills.push_back({{measure.x, at.y, measure.width, height}, row.head ? ink::headBand : ink::resultBand});
         on.fills.push_back({{measure.x, at.y + height - hairline, measure.width, row.head ? headLine : hairline},
                             row.head ? ink::strong : ink::hairline});
@@ -267,7 +267,7 @@ private:
         const Line& text = cell.text.lines[line];
         const double spare = cell.measure.width - text.width;
         const double shift = cell.align == Align::right ? spare : cell.align == Align::centre ? spare / 2 : 0;
-        const double y = top + rowPadding + static_cast<double>(slot) * cell.text.face->lineHeight;
+        const double y = top + rowPadding + cell.drop + static_cast<double>(slot) * cell.text.face->lineHeight;
         addLine(on, text, *cell.text.face, cell.measure.x + shift, y);
     }
 
@@ -292,11 +292,7 @@ private:
     }
 
     const Content& m_content;
-    QSizeF m_size;
-    QStringList m_headerLines;
-    QStringList m_footerLines;
-    double m_top = 0;
-    double m_bottom = 0;
+    PageFrame m_frame;
     Layout m_layout;
 };
 

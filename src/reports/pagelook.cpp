@@ -9,6 +9,7 @@ const Face& faceOf(const Block& block) {
     switch (block.kind) {
     case Block::Kind::title: return faces.title;
     case Block::Kind::lead: return faces.lead;
+    case Block::Kind::answer: return faces.answer;
     case Block::Kind::heading: return faces.heading;
     case Block::Kind::note: return faces.note;
     default: return faces.body;
@@ -17,7 +18,17 @@ const Face& faceOf(const Block& block) {
 
 const Face& faceOf(const Row& row, bool head) {
     const Faces& faces = Faces::all();
-    return head ? faces.columnHead : row.result ? faces.result : faces.body;
+    if (head) return faces.columnHead;
+    return row.result ? faces.result : row.total ? faces.total : faces.body;
+}
+
+const Face* smaller(const Face& face) {
+    const Faces& faces = Faces::all();
+    if (&face == &faces.body) return &faces.small;
+    if (&face == &faces.small) return &faces.smallest;
+    if (&face == &faces.result) return &faces.total;
+    if (&face == &faces.total) return &faces.smallTotal;
+    return &face == &faces.smallTotal ? &faces.smallestTotal : nullptr;
 }
 
 double spaceBefore(const Block& block) {
@@ -26,13 +37,19 @@ double spaceBefore(const Block& block) {
     case Block::Kind::lead: return points(1);
     case Block::Kind::table: return points(4);
     case Block::Kind::columns: return points(10);
-    default: return points(6);
+    default: return points(3);
     }
 }
 
 double spaceAfter(const Block& block) {
     if (block.kind == Block::Kind::table) return look::afterTable;
-    return block.kind == Block::Kind::lead ? points(9) : 0;
+    switch (block.kind) {
+    case Block::Kind::lead: return points(9);
+    case Block::Kind::answer: return points(8);
+    case Block::Kind::paragraph:
+    case Block::Kind::note: return points(4);
+    default: return 0;
+    }
 }
 
 } // namespace reports

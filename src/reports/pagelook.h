@@ -15,16 +15,18 @@ inline constexpr double marginLeft = millimetres(20);
 inline constexpr double marginRight = millimetres(20);
 inline constexpr double marginTop = millimetres(14);
 inline constexpr double marginBottom = millimetres(12);
-inline constexpr double cellPadding = points(5);  ///< left and right of a cell's text
-inline constexpr double rowPadding = points(2.0); ///< above and below it
-inline constexpr double gutter = millimetres(9);  ///< between columns of the page
-inline constexpr double hairline = points(0.5);   ///< under a row and above the footer
-inline constexpr double headLine = points(0.9);   ///< under column heads
-inline constexpr double frameLine = points(1.2);  ///< under the header
-inline constexpr double headerGap = points(4);    ///< between the header's text and its rule
-inline constexpr double belowHeader = points(14); ///< between the rule's room and the flow
-inline constexpr double aboveFooter = points(10); ///< between the flow and the footer's rule
-inline constexpr double footerGap = points(5);    ///< between that rule and the footer's text
+inline constexpr double cellPadding = points(5);   ///< left and right of a cell's text
+inline constexpr double rowPadding = points(2.0);  ///< above and below it
+inline constexpr double gutter = millimetres(9);   ///< between columns of the page
+inline constexpr double hairline = points(0.5);    ///< under a row and above the footer
+inline constexpr double headLine = points(0.9);    ///< under column heads
+inline constexpr double frameLine = points(1.2);   ///< under the header
+inline constexpr double headerGap = points(4);     ///< between the header's text and its rule
+inline constexpr double headGap = points(6);       ///< between the rule's room and the line on client and day
+inline constexpr double belowHead = points(12);    ///< between that line and the flow
+inline constexpr double answerPadding = points(5); ///< above and below an answer, within its band
+inline constexpr double aboveFooter = points(10);  ///< between the flow and the footer's rule
+inline constexpr double footerGap = points(5);     ///< between that rule and the footer's text
 inline constexpr double afterTable = points(4);
 inline constexpr std::size_t rowsTogether = 4; ///< at least so many under a table's heads, if it has them
 } // namespace look
@@ -32,6 +34,8 @@ inline constexpr std::size_t rowsTogether = 4; ///< at least so many under a tab
 /// The face of a block's text, and of a row's cells.
 const Face& faceOf(const Block& block);
 const Face& faceOf(const Row& row, bool head);
+/// The face for a figure that is too wide in this one; null if there is none smaller.
+const Face* smaller(const Face& face);
 
 /// Room above a block unless it opens its page or column, and below it.
 double spaceBefore(const Block& block);

@@ -49,6 +49,7 @@ std::shared_ptr<const Report> Engine::prepare(const QString& definition, const Q
     auto report = std::make_shared<Report>();
     report->content =
         fill(read, Snapshot(printDatabase, tablesOf(read)), QString::fromStdString(printDatabase.string()));
+    report->content.date = m_desk.today().toString("dd/MM/yyyy");
     report->windowTitle = title.isEmpty() ? read.title : title;
     report->layout = layOut(report->content);
     return report;

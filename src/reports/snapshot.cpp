@@ -21,15 +21,18 @@ TableRows readTable(store::Database& database, const QString& name) {
     return read;
 }
 
+/// A text of the table's first row, blanks at its ends dropped; empty if there is none.
+QString line(const TableRows& table, const QString& field) {
+    const int column = table.column(field);
+    if (column < 0 || table.rows.empty()) return {};
+    const auto* text = std::get_if<std::string>(&table.rows.front()[static_cast<std::size_t>(column)]);
+    return text ? QString::fromStdString(*text).trimmed() : QString();
+}
+
 QStringList lines(const TableRows& headFoot, const QString& prefix) {
     QStringList result;
-    for (int line = 0; line < 4; ++line) {
-        const int column = headFoot.column(prefix + QString::number(line));
-        const bool stored = column >= 0 && !headFoot.rows.empty();
-        const store::Value value = stored ? headFoot.rows.front()[static_cast<std::size_t>(column)] : store::Value{};
-        const auto* text = std::get_if<std::string>(&value);
-        result << (text ? QString::fromStdString(*text).trimmed() : QString());
-    }
+    for (int number = 0; number < 4; ++number)
+        result << line(headFoot, prefix + QString::number(number));
     return result;
 }
 
@@ -49,6 +52,7 @@ Snapshot::Snapshot(const std::filesystem::path& printDatabase, const QStringList
     const TableRows headFoot = readTable(database, "HeadFoot");
     m_headerLines = lines(headFoot, "HEADERV");
     m_footerLines = lines(headFoot, "footv");
+    m_client = line(readTable(database, "Printout"), "Client");
 }
 
 const TableRows* Snapshot::table(const QString& name) const {

@@ -32,11 +32,14 @@ public:
     /// The practice's four lines above and below each page, blanks at their ends dropped.
     const QStringList& headerLines() const { return m_headerLines; }
     const QStringList& footerLines() const { return m_footerLines; }
+    /// Whose report it is, blanks at the ends dropped; empty if nobody's.
+    const QString& client() const { return m_client; }
 
 private:
     std::vector<TableRows> m_tables;
     QStringList m_headerLines;
     QStringList m_footerLines;
+    QString m_client;
 };
 
 } // namespace reports

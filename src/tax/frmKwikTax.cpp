@@ -81,6 +81,6 @@ void frmKwikTax::openPrint() {
     m_printPanel->open();
 }
 
-void frmKwikTax::feed() { feedQuickTaxReport(m_work.paths.PrintDbPath, m_client, m_result); }
+void frmKwikTax::feed() { feedQuickTaxReport(m_work.paths.PrintDbPath, m_work.record.client.Name, m_client, m_result); }
 
 } // namespace tax

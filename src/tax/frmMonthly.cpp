@@ -194,7 +194,7 @@ void frmMonthly::openPrint() {
 }
 
 void frmMonthly::print(Destination destination) {
-    feedMonthlyReport(m_work.paths.PrintDbPath, m_employee, m_month, m_setup, m_result);
+    feedMonthlyReport(m_work.paths.PrintDbPath, m_work.record.client.Name, m_employee, m_month, m_setup, m_result);
     m_work.reports.run("\\Monthly.rpt", title, destination);
 }
 

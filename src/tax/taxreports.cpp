@@ -6,12 +6,12 @@
 
 namespace tax {
 
-void feedQuickTaxReport(const std::filesystem::path& printDbPath, const assessment::KwikTax& client,
-                        const QuickTax& result) {
-    const TaxYear& year = (choosesFebruary2026(client) ? quickTaxFebruary2026 : quickTaxFebruary2027).scale;
-    datastore::PrintFeed feed(printDbPath);
-    feed.replace("kwiktax", {{"AGE", client.Age},
-                             {"TAXINCOME", client.Salary},
+void feedQuickTaxReport(const std::filesystem::path& printDbPath, const std::string& client,
+                        const assessment::KwikTax& income, const QuickTax& result) {
+    const TaxYear& year = (choosesFebruary2026(income) ? quickTaxFebruary2026 : quickTaxFebruary2027).scale;
+    datastore::PrintFeed feed(printDbPath, client);
+    feed.replace("kwiktax", {{"AGE", income.Age},
+                             {"TAXINCOME", income.Salary},
                              {"TAXTOPAY", result.TaxOnLowerLimit},
                              {"MARGRATE", result.MarginalRate},
                              {"PORTION", result.PortionAtRate},
@@ -21,17 +21,19 @@ void feedQuickTaxReport(const std::filesystem::path& printDbPath, const assessme
                              {"AVRATE", result.AverageBefore},
                              {"AVRATEAFT", result.AverageAfter},
                              {"TAXCOM4/2", result.TaxCommitment / 12},
-                             {"YR9798", std::string("Tax calculation used if for the tax year ending ") + year.ends}});
+                             {"YR9798", std::string("Tax calculation used if for the tax year ending ") + year.ends},
+                             {"TaxYear", year.ends}});
     feed.commit();
 }
 
-void feedMonthlyReport(const std::filesystem::path& printDbPath, const std::string& employee,
+void feedMonthlyReport(const std::filesystem::path& printDbPath, const std::string& client, const std::string& employee,
                        const MonthlyInputs& month, const PAYESetup& setup, const MonthlyTax& result) {
-    datastore::PrintFeed feed(printDbPath);
+    datastore::PrintFeed feed(printDbPath, client);
     feed.replace(payeSetupTable().name(), datastore::rowOf(payeSetupTable(), setup));
     // Captions beside figures, as the report lays them out.
     feed.replace("IRP5Mon", {{"TypeAM", "Monthly Check"},
                              {"Employee", " For : " + employee},
+                             {"EmployeeName", employee},
                              {"Age", "Age : "},
                              {"AgeNum", month.age},
                              {"Sal", "Remuneration/salary"},
@@ -49,6 +51,8 @@ void feedMonthlyReport(const std::filesystem::path& printDbPath, const std::stri
                              {"PenContNum", month.employerFund},
                              {"RACont", "Employee's R/Fund contributions"},
                              {"RAContNum", month.employeeFund},
+                             {"AllowableFund", "Allowable R/Fund deduction"},
+                             {"AllowableFundNum", result.allowableFund},
                              {"SDATE", "Start date"},
                              {"SDateNum", base::reportDate(month.startDate)},
                              {"EDATE", "End date"},

@@ -8,13 +8,13 @@
 
 namespace tax {
 
-/// Writes a quick tax into Print.mdb for `kwiktep.rpt`. Throws store::Error; nothing is written then.
-void feedQuickTaxReport(const std::filesystem::path& printDbPath, const assessment::KwikTax& client,
-                        const QuickTax& result);
+/// Writes a client's quick tax into Print.mdb for `kwiktep.rpt`. Throws store::Error; nothing is written then.
+void feedQuickTaxReport(const std::filesystem::path& printDbPath, const std::string& client,
+                        const assessment::KwikTax& income, const QuickTax& result);
 
-/// Writes a month, and the settings it was worked out by, into Print.mdb for `Monthly.rpt`. Throws store::Error;
-/// nothing is written then.
-void feedMonthlyReport(const std::filesystem::path& printDbPath, const std::string& employee,
+/// Writes an employee's month, and the settings it was worked out by, into Print.mdb for `Monthly.rpt`. Throws
+/// store::Error; nothing is written then.
+void feedMonthlyReport(const std::filesystem::path& printDbPath, const std::string& client, const std::string& employee,
                        const MonthlyInputs& month, const PAYESetup& setup, const MonthlyTax& result);
 
 } // namespace tax

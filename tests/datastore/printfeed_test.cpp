@@ -14,7 +14,8 @@ protected:
         store::Database::create(path);
         store::Database(path).execute(
             "CREATE TABLE Loans (Heading VARCHAR(5), Num1 DOUBLE, [1 yr] DOUBLE, Whole SMALLINT);"
-            "CREATE TABLE Amort (Year DOUBLE, Capital DOUBLE); INSERT INTO Loans (Num1) VALUES (1), (2)");
+            "CREATE TABLE Amort (Year DOUBLE, Capital DOUBLE); CREATE TABLE Printout (Client VARCHAR(255)); INSERT "
+            "INTO Loans (Num1) VALUES (1), (2)");
     }
     /// Everything in a table, fields parted by commas, rows by bars.
     std::string rows(const std::string& table) {
@@ -40,14 +41,14 @@ protected:
 
 TEST_F(Feed, ReplacesWhatTheTableHeld) {
     for (const double amount : {1.5, 2.5}) {
-        PrintFeed feed(path);
+        PrintFeed feed(path, "A. Client");
         feed.replace("LOANS", {{"heading", "O'B"}, {"num1", amount}, {"1 YR", 7}, {"Whole", 6.5}});
         feed.replace("Amort", std::vector<Row>{{{"Year", 1}, {"Capital", amount}}, {{"Capital", 9.0}, {"Year", 2}}});
         feed.commit();
     }
     EXPECT_EQ(rows("Loans"), "O'B,2.5,7,6|");
     EXPECT_EQ(rows("Amort"), "1,2.5|2,9|");
-    PrintFeed feed(path);
+    PrintFeed feed(path, "A. Client");
     feed.replace("Loans", {{"Num1", 3.5}});
     feed.replace("Amort", std::vector<Row>{});
     feed.commit();
@@ -68,7 +69,7 @@ TEST_F(Feed, FailsWithTableAndFieldInTheMessageAndChangesNothing) {
     };
     for (const auto& c : cases) {
         try {
-            PrintFeed feed(path);
+            PrintFeed feed(path, "A. Client");
             feed.replace("Amort", {{"Year", 1}});
             feed.replace(c.table, {c.field});
             feed.commit();
@@ -80,14 +81,14 @@ TEST_F(Feed, FailsWithTableAndFieldInTheMessageAndChangesNothing) {
     }
     EXPECT_EQ(rows("Loans"), ",1,,|,2,,|");
     EXPECT_EQ(rows("Amort"), "");
-    EXPECT_EQ(errorOf([&] { PrintFeed feed(folder / "none.mdb"); }), 3024);
+    EXPECT_EQ(errorOf([&] { PrintFeed feed(folder / "none.mdb", {}); }), 3024);
 }
 
 TEST_F(Feed, TakesTheLongestAmortisation) {
     std::vector<Row> months;
     for (int i = 1; i <= 600; ++i)
         months.push_back({{"Year", i}, {"Capital", i * 0.1}});
-    PrintFeed feed(path);
+    PrintFeed feed(path, "A. Client");
     feed.replace("Amort", months);
     feed.commit();
     store::Database database(path);

@@ -29,9 +29,9 @@ const Shipped files[] = {
     {unitsFile, 2, {"UTH"}},
     {diaryFile, 2, {}},
     {printFile,
-     38,
+     39,
      {"ItemisePrintName", "kwiktax", "RATaxAdvantage", "traveldeduction", "PAYESetup", "EstateDutyEst", "HeadFoot",
-      "PersDetails", "AllDetailsHeader", "UnitHistDet", "IRP5Mon", "CGTTrustOtherDetails"}},
+      "PersDetails", "Printout", "AllDetailsHeader", "UnitHistDet", "IRP5Mon", "CGTTrustOtherDetails"}},
 };
 
 // The copy that packages take, which nobody has worked with.

@@ -96,7 +96,7 @@ TEST_F(Definition, FindsFilesWithoutRegardToCaseOrSeparator) {
 }
 
 TEST_F(Definition, HeaderTableWithoutItsRowIsAnError) {
-    PrintFeed empty(print);
+    PrintFeed empty(print, {});
     empty.clear("Loans");
     empty.commit();
     EXPECT_EQ(storetest::errorOf([&] { engine.prepare("Lonrepa.rpt"); }), 3021);

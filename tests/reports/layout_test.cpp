@@ -1,7 +1,10 @@
 #include "reports/layout.h"
 
 #include "base/numberformat.h"
+#include <QRawFont>
+
 #include "reports/face.h"
+#include "reports/layout_support.h"
 #include "reports/report_support.h"
 
 using namespace reporttest;
@@ -94,6 +97,128 @@ TEST_F(Pages, LongTextsWrapAndRunOnInsideThePage) {
     for (const QString& page : pagesOfPdf(reports::toPdf(*report)).mid(1, 2))
         EXPECT_TRUE(page.contains("Memo"));
     EXPECT_TRUE(text.contains("after"));
+}
+
+// A practice's name in capitals is as much its name as one in small letters.
+TEST_F(Pages, WideHeaderAndFooterLinesStandWhole) {
+    const QString wide(80, QChar(u'Œ'));
+    feedLines({wide, wide, wide, wide}, {wide, wide, wide, wide});
+    feedLoan();
+    feedAmortisation(60);
+    const auto report = engine.prepare("LonrepaA.rpt");
+    expectSound(report->layout);
+    for (int page = 0; page < report->layout.count(); ++page)
+        EXPECT_EQ(report->layout.textOf(page).count(wide.front()), 8 * 80) << page;
+}
+
+TEST_F(Pages, EachSaysWhoseItIsAndOfWhichDay) {
+    client = "Ms T. Ṱhoho-Nḓou";
+    desk.day = QDate(2027, 3, 9);
+    feedLoan();
+    feedAmortisation(100);
+    const auto loan = engine.prepare("LonrepaA.rpt");
+    ASSERT_GE(loan->layout.count(), 2);
+    for (int page = 0; page < loan->layout.count(); ++page) {
+        const QString text = loan->layout.textOf(page);
+        EXPECT_EQ(text.count(client.c_str()), 1) << page;
+        EXPECT_EQ(text.count("09/03/2027"), 1) << page;
+        EXPECT_EQ(text.contains("Nḓou – Monthly repayment of a loan with amortisation"), page > 0) << page;
+    }
+    feed("PersDetails", {{"Name", client}});
+    const auto details = engine.prepare("PersDetl.rpt");
+    EXPECT_EQ(details->layout.textOf(0).count(client.c_str()), 1); // its heading says it
+    client.clear();
+    feedLoan();
+    EXPECT_TRUE(engine.prepare("LonrepaA.rpt")->layout.textOf(1).contains("\nMonthly repayment of a loan with"));
+}
+
+TEST_F(Pages, CellsStandAtTheirColumnsEdges) {
+    feedLoan();
+    define("own.rpt", page("<table><col width=\"20%\"/><col width=\"30%\" align=\"center\"/>"
+                           "<col width=\"50%\" align=\"right\"/>"
+                           "<thead><tr><th>One</th><th>Two</th><th>Three</th></tr></thead>"
+                           "<tr><td>left</td><td>middle</td><td>{{Num1:0.00}}</td></tr>"
+                           "<tr><td colspan=\"2\">both of two columns</td><td>last</td></tr>"
+                           "<tr><td>first</td><td colspan=\"2\" align=\"right\">over to the edge</td></tr>"
+                           "<tr class=\"total\"><td>sum</td><td></td><td>{{Num1:0.0}}</td></tr></table>"));
+    const auto report = engine.prepare("own.rpt");
+    expectSound(report->layout);
+    constexpr double left = reports::millimetres(20), width = reports::millimetres(170), padding = reports::points(5);
+    const struct {
+        const char* text;
+        double share, at; ///< of the text's own width, and where that stands
+    } cells[] = {
+        {"One", 0, left + padding},           {"left", 0, left + padding},
+        {"both", 0, left + padding},          {"sum", 0, left + padding},
+        {"Two", 0.5, left + width * 0.35},    {"middle", 0.5, left + width * 0.35},
+        {"Three", 1, left + width - padding}, {"250000.00", 1, left + width - padding},
+        {"last", 1, left + width - padding},  {"250000.0", 1, left + width - padding},
+        {"over", 1, left + width - padding},
+    };
+    for (const auto& cell : cells) {
+        const QRectF area = found(report->layout, cell.text).area;
+        EXPECT_NEAR(area.x() + cell.share * area.width(), cell.at, 3) << cell.text;
+    }
+}
+
+TEST_F(Pages, AFigureTooWideForItsColumnIsSetSmallerOnItsLine) {
+    feed("Loans", {{"Num1", 1234567890.12}, {"Num2", 1}});
+    define("own.rpt", page("<table><col width=\"86%\"/><col width=\"14%\" align=\"right\"/>"
+                           "<tr><td>label</td><td>{{Num1:# ##0.00}}</td></tr></table>"));
+    const auto report = engine.prepare("own.rpt");
+    const Found figure = found(report->layout, "1 234 567 890.12");
+    EXPECT_LT(figure.face->font.pixelSize(), found(report->layout, "label").face->font.pixelSize());
+    EXPECT_NEAR(figure.area.bottom(), found(report->layout, "label").area.bottom(), 1);
+}
+
+// Half a page must not stay empty, neither below the last text nor beside a column that runs on alone.
+TEST_F(Pages, WhatStandsSideBySideNeverSplits) {
+    feedLoan();
+    for (int before = 0; before < 60; before += 3)
+        for (const int high : {8, 30, 70}) {
+            std::string left, body;
+            for (int line = 0; line < before; ++line)
+                body += "<p>line</p>";
+            for (int line = 0; line < high; ++line)
+                left += "<p>left " + std::to_string(line) + "</p>";
+            define("own.rpt", page(body + "<div><div>" + left + "</div><div><p>right</p></div></div><p>after</p>"));
+            const auto report = engine.prepare("own.rpt");
+            expectSound(report->layout);
+            const Found first = found(report->layout, "left 0"), right = found(report->layout, "right");
+            const Found last = found(report->layout, "left " + QString::number(high - 1));
+            const bool beside = right.area.x() > first.area.x() + reports::millimetres(50);
+            EXPECT_EQ(beside, first.page == right.page && first.area.y() == right.area.y()) << before << ' ' << high;
+            EXPECT_TRUE(!beside || first.page == last.page) << before << ' ' << high;
+            if (before > 0) { // at least half of the page before is used
+                const Found end = found(report->layout, "line", before - 1);
+                EXPECT_TRUE(end.page == first.page || end.area.y() > reports::millimetres(297) * 0.45)
+                    << before << ' ' << high;
+            }
+        }
+}
+
+TEST_F(Pages, TabsMakeColumns) {
+    feedLoan();
+    feed("PersDetails", {{"Name", "N"}, {"Comments", "a\tone\t1\nlonger\ttwo\t2\n\tthree\t3"}});
+    define("own.rpt", page("<p>{{PersDetails.Comments}}</p>"));
+    const auto layout = engine.prepare("own.rpt")->layout;
+    for (const auto& [first, second] : {std::pair("one", "two"), std::pair("two", "three"), std::pair("1", "2")})
+        EXPECT_NEAR(found(layout, first).area.x(), found(layout, second).area.x(), 1) << second;
+    EXPECT_NEAR(found(layout, "1").area.x() - found(layout, "one").area.x(),
+                found(layout, "one").area.x() - found(layout, "a").area.x(), 1);
+}
+
+// Figures stand in columns only where all digits are alike wide, and a name looks patched where letters are lacking.
+TEST_F(Pages, AreInOneTypeWithEveryLetterOfTheCountry) {
+    const reports::Faces& faces = reports::Faces::all();
+    for (const reports::Face* face : {&faces.body, &faces.bold, &faces.italic, &faces.title, &faces.result}) {
+        const QRawFont type = QRawFont::fromFont(face->font);
+        EXPECT_EQ(type.familyName(), "Roboto");
+        for (const QChar letter : QString("ṰṱḒḓḼḽṊṋṄṅŠšÊêËëÏïÔôÛûŉ−–’"))
+            EXPECT_TRUE(type.supportsCharacter(letter)) << QString(letter).toStdString();
+        for (char digit = '1'; digit <= '9'; ++digit)
+            EXPECT_EQ(face->metrics.horizontalAdvance(QChar(digit)), face->metrics.horizontalAdvance('0')) << digit;
+    }
 }
 
 // A heading alone at the foot of a page promises a table that is not there.

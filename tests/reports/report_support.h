@@ -81,7 +81,7 @@ protected:
     }
 
     void feed(const std::string& table, const Row& row) {
-        PrintFeed rows(print);
+        PrintFeed rows(print, client);
         rows.replace(table, row);
         rows.commit();
     }
@@ -102,7 +102,7 @@ protected:
         std::vector<Row> rows;
         for (int month = 1; month <= count; ++month)
             rows.push_back({{"Year", month}, {"Capital", 1000.005 + month}, {"Interest", 2447.92}, {"Required", 0.5}});
-        PrintFeed all(print);
+        PrintFeed all(print, client);
         all.replace("Amort", rows);
         all.commit();
     }
@@ -110,6 +110,7 @@ protected:
     QStringList pages(const QString& definition) { return pagesOfPdf(engine.pdf(definition)); }
     QString text(const QString& definition) { return textOfPdf(engine.pdf(definition)); }
 
+    std::string client; ///< whose reports these are
     storetest::Folder folder;
     fs::path print = folder / "Print.mdb";
     ReportDesk desk;

@@ -153,7 +153,7 @@ private:
                     R"(fo:border-bottom="%4 solid %5")")
                 .arg(odtLength(cellPadding), odtLength(rowPadding), odtLength(rowPadding - rule), odtLength(rule),
                      (head ? ink::strong : ink::hairline).name());
-        if (head || row.result)
+        if (head || row.result || row.total)
             look += QString(R"( fo:background-color="%1")").arg((head ? ink::headBand : ink::resultBand).name());
         return look;
     }

@@ -178,7 +178,7 @@ private:
                 worksheet_freeze_panes(m_sheet, m_row, 0); // nothing else stands on this sheet
         }
         for (const Row& row : table.rows)
-            addRow(row, row.result ? Look::result : Look::row);
+            addRow(row, row.result || row.total ? Look::result : Look::row);
     }
 
     /// A row with texts too long for one goes on in rows below.

@@ -113,7 +113,8 @@ QByteArray pageLayout(bool hasHeader) {
                  odtLength(marginTop), odtLength(marginBottom - thinLine));
     const QString around = R"(<style:%1-style><style:header-footer-properties fo:min-height="0pt" fo:margin-%2="%3" )"
                            R"(style:dynamic-spacing="false"/></style:%1-style>)";
-    if (hasHeader) layout += around.arg("header", "bottom", odtLength(points(5) + belowHeader - headerGap - frameLine));
+    if (hasHeader)
+        layout += around.arg("header", "bottom", odtLength(points(5) + headGap + belowHead - headerGap - frameLine));
     layout += around.arg("footer", "top", odtLength(aboveFooter));
     return layout.toUtf8() + "</style:page-layout>\n";
 }
