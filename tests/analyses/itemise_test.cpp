@@ -313,10 +313,13 @@ TEST_F(ItemisedReport, listsPrintWithTheirHeadsOnEveryPage) {
     EXPECT_EQ(reporttest::simplifiedLine(all, "Rent"), "Rent & more 1 234 568 7.5 65 90");
     EXPECT_EQ(reporttest::simplifiedLine(all, "Wedding"), "Wedding 250 000 70");
     EXPECT_EQ(all.count("Plot 60"), 1);
-    EXPECT_TRUE(all.simplified().contains("Description Amount Escl. From Age To Age"));
-    EXPECT_TRUE(all.simplified().contains("Other Expenses Description Amount At Age Wedding"));
+    EXPECT_TRUE(all.simplified().contains("Plot 60 60 000 Total 1 830 000"));
+    EXPECT_EQ(reporttest::simplifiedLine(all, "Total of all ages"), "Total of all ages 1 234 568");
+    EXPECT_EQ(all.count("Total"), 3); // one under each list
+    EXPECT_TRUE(all.simplified().contains("Description Amount, rand Escl. % From Age To Age"));
+    EXPECT_TRUE(all.simplified().contains("Other Expenses Description Amount, rand At Age Wedding"));
     for (const QString& page : sheets)
-        EXPECT_TRUE(page.simplified().contains("Real Estate Description Amount Plot")) << page.toStdString();
+        EXPECT_TRUE(page.simplified().contains("Real Estate Description Amount, rand Plot")) << page.toStdString();
     for (const char* absent : {"Not in use", "Of another"})
         EXPECT_FALSE(all.contains(absent));
     EXPECT_TRUE(all.contains("Ṱhoho-Nḓou"));

@@ -60,7 +60,7 @@ TEST(PolicyReport, HeaderHoldsTheTotalsAndEachRecordItsRow) {
          "14|15|16|17|18"},
         // Less what is ceded or lent, never below nothing; a person of no number receives none of it.
         {"[DBenEstate],[DBenSpouse],[DBenCharity],[DBenOther]", "600|3000|400|100"},
-        {"round([DBenSpousePerc] * 1000)", "73171"},
+        {"round([DBenSpousePerc] * 1000),[DBenTotal],[WorthTotal],[FilledPolicies],[NoPolicies]", "73171|4100|20.5|7|"},
         {"count(*),[PolIncAddNote]", "1|"},
     };
     for (const auto& each : totals)
@@ -74,6 +74,39 @@ TEST(PolicyReport, HeaderHoldsTheTotalsAndEachRecordItsRow) {
     client::feedPolicies(run.folder / "Print.mdb", run.record(), {true}); // nothing is left of the first
     EXPECT_EQ(run.inPrint("SELECT [DBenSpousePerc],[PolIncAddNote] FROM PolsInvests"), "0|Note: confidential");
     EXPECT_EQ(run.inPrint("SELECT [PolIncNote],[PolIncAddNote] FROM PolsInvestsAmorts"), "|Note: confidential");
+}
+
+// Whoever adds up the printed column must come to the printed total, whatever the cents behind it.
+TEST(PolicyReport, TheSchedulesColumnAddsUpToItsTotal) {
+    RunningProgram run;
+    run.record().retirement.AgeRetiment = 65;
+    Policy fund;
+    fund.RBEMV = 1000;
+    fund.RBEMVAge = 63;
+    fund.RBEMVEscFor = 0.1245F; // 1001.245: a fraction of a cent more than its cell shows
+    fund.PolOwner = "Ṅwali";
+    fund.PremInvAmtMonthlyAnnEsc = 7;
+    run.record().policies = {fund, Policy{}, fund, fund};
+    client::feedPolicies(run.folder / "Print.mdb", run.record(), {});
+    EXPECT_EQ(run.inPrint("SELECT round(sum([WorthAtRetirement]) - [WorthTotal], 6),printf('%.2f',[WorthTotal]),"
+                          "[FilledPolicies] FROM PolsInvestsAmorts,PolsInvests"),
+              "0|3003.72|3");
+    for (const char* definition : {"PolInvestSchedule.rpt", "PolInvestDetails.rpt"}) {
+        const QString text = reporttest::textOfPdf(run.program.reports().pdf(definition)).simplified();
+        EXPECT_EQ(text.count("1 001.24"), 3) << text.toStdString();
+        EXPECT_TRUE(text.contains("3 003.72")) << definition;
+        EXPECT_EQ(text.count(" 7 %"), 3) << definition; // how the premium rises
+        EXPECT_GE(text.count("Ṅwali"), 3) << definition;
+    }
+    run.record().policies = {Policy{}};
+    client::feedPolicies(run.folder / "Print.mdb", run.record(), {});
+    for (const char* definition : {"PolInvestSchedule.rpt", "PolInvestDetails.rpt"}) {
+        QString text = reporttest::textOfPdf(run.program.reports().pdf(definition)).simplified();
+        EXPECT_TRUE(text.contains("No policies or investments are on record.")) << definition;
+        text.remove("Page 1 of 1");
+        for (const char* absent : {"0.00", "Total", "Policy ", " 1 "})
+            EXPECT_FALSE(text.contains(absent)) << definition << absent;
+    }
 }
 
 TEST(PolicyReport, ThePanelRunsWhatIsTicked) {
@@ -119,7 +152,7 @@ TEST(PolicyReport, AScheduleOfThirtyPoliciesRepeatsItsHeadsAndCutsNoText) {
     const QStringList pages = reporttest::pagesOfPdf(reports::toPdf(run.program.reports().previews().at(0)->report()));
     ASSERT_GT(pages.size(), 3);
     for (const QString& page : {pages[1], pages[2]})
-        EXPECT_TRUE(page.simplified().contains("No Policy Underwriter Number Inception")) << page.toStdString();
+        EXPECT_TRUE(page.simplified().contains("No Policy Owner Underwriter Number Inception")) << page.toStdString();
     const QString text = pages.join(' ').simplified();
     EXPECT_EQ(text.count("last"), 23); // every note to its end
     EXPECT_TRUE(text.contains("all together 492.00")) << text.toStdString();

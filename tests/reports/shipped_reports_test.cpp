@@ -1,3 +1,4 @@
+#include "reports/layout_support.h"
 #include "reports/report_support.h"
 
 using namespace reporttest;
@@ -26,7 +27,7 @@ TEST_F(ShippedReports, LoanDefinitionsPrintTheFiguresWithTheSolvedOneLast) {
             EXPECT_TRUE(text.contains(loan.heading)) << text.toStdString();
             for (const char* line :
                  {"Principal amount R 250 000.00", "Period 240 months", "Interest rate 11.750 % a year",
-                  "Monthly repayment R 2 709.27", "Total Interest R 400 224.24", "Total Repayments R 650 224.24"})
+                  "Monthly repayment R 2 709.27", "Total Interest 400 224.24", "Total Repayments 650 224.24"})
                 EXPECT_TRUE(text.simplified().contains(line)) << file.toStdString() << ": " << line;
             const auto table =
                 std::find_if(report->content.blocks.begin(), report->content.blocks.end(),
@@ -38,6 +39,30 @@ TEST_F(ShippedReports, LoanDefinitionsPrintTheFiguresWithTheSolvedOneLast) {
             EXPECT_EQ(text.contains("Capital payment"), amortisation);
             EXPECT_EQ(text.simplified().contains("30 1 030.01 2 447.92 0.50"), amortisation) << text.toStdString();
         }
+}
+
+TEST_F(ShippedReports, TheAnswerIsTheStrongestTextAndADebtASignedAmount) {
+    feed("NARA", {{"Name", "Ms T. Ṱhoho-Nḓou"},
+                  {"ShoRTFall", "Capital Shortfall : 250 000"},
+                  {"BottLine1", "Funds available will provide income for less than 1 year."},
+                  {"Inflation", 6.125},
+                  {"BankInvestRate", 9.875},
+                  {"ANSLAss3", -250000},
+                  {"TotAss", -250000.0},
+                  {"PDV", 12345.0}});
+    const auto report = engine.prepare("Retirem.rpt");
+    expectSound(report->layout);
+    const reports::Face* answer = found(report->layout, "Funds available").face;
+    EXPECT_EQ(found(report->layout, "Capital Shortfall").face, answer);
+    for (const reports::PlacedText& other : report->layout.pages.front().texts) {
+        EXPECT_LE(other.face->font.pixelSize(), answer->font.pixelSize()) << other.text.toStdString();
+        EXPECT_LE(other.face->font.weight(), answer->font.weight()) << other.text.toStdString();
+    }
+    const QString text = textOfPdf(reports::toPdf(*report)).simplified();
+    for (const char* line : {"Inflation rate 6.125 % a year", "return 9.875 % a year", "Business sale −250 000",
+                             "Total capital −250 000", "Rand a month", "(present-day value) 12 345"})
+        EXPECT_TRUE(text.contains(line)) << line << "\n" << text.toStdString();
+    EXPECT_FALSE(text.contains("R −") || text.contains("Notes"));
 }
 
 TEST_F(ShippedReports, LoanWithoutChargesShowsNoneAndYearsHeadTheAnnualTable) {

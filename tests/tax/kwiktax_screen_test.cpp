@@ -131,9 +131,9 @@ TEST_F(QuickTaxScreen, PrintsTheFiguresOfTheScreen) {
     EXPECT_FALSE(run.control("fraPrint")->isVisible());
     ASSERT_EQ(run.program.reports().previews().size(), 1u);
     const QString page = reporttest::textOfPdf(run.program.reports().pdf("kwiktep.rpt")).simplified();
-    for (const char* line :
-         {"ending February 2026", "Taxable income R 500 000.00", "(31 %) R 40 145.00", "Tax commitment R 100 272.00",
-          "Tax commitment a month R 8 356.00", "after rebates 20.05 %"})
+    for (const char* line : {"Quick tax: year ending February 2026", "for the tax year ending February 2026",
+                             "Tax Rand Tax on", "Taxable income R 500 000.00", "(31 %) 40 145.00",
+                             "Tax commitment 100 272.00", "a month 8 356.00", "after rebates 20.05 %"})
         EXPECT_TRUE(page.contains(line)) << line << "\n" << page.toStdString();
 
     run.click("cmdPrint");

@@ -249,11 +249,19 @@ TEST_F(MonthlyScreen, ExplainsItselfAndPrints) {
     ASSERT_EQ(run.program.reports().previews().size(), 1u);
     EXPECT_EQ(run.program.reports().previews().front()->windowTitle(),
               "Monthly - To export printout click on the suitcase button or goto Help");
-    const QString page = reporttest::textOfPdf(run.program.reports().pdf("Monthly.rpt")).simplified();
+    QString page = reporttest::textOfPdf(run.program.reports().pdf("Monthly.rpt")).simplified();
     for (const char* line : {"Monthly Check For : Ṱhoho-Nḓou <& Seun>", "Start date 01/03/2026, End date 31/03/2026",
-                             "Remuneration/salary R 20 000.00", "Total tax deduction R 1 331.37",
-                             "U.I.F. contribution employee (1 %) R 177.12", "(E.& O.E.)"})
+                             "Remuneration/salary 20 000.00", "Total tax deduction 1 331.37",
+                             "U.I.F. contribution employee (1 %) 177.12", "(E.& O.E.)"})
         EXPECT_TRUE(page.contains(line)) << line << "\n" << page.toStdString();
+
+    run.type("numEmpERFundCont", "20000"); // more than may be deducted
+    run.click("cmdPrint");
+    run.type("Text1", " ");
+    run.click("cmdVR");
+    page = reporttest::textOfPdf(run.program.reports().pdf("Monthly.rpt")).simplified();
+    EXPECT_TRUE(page.contains("Allowable R/Fund deduction 6 545.00")) << page.toStdString();
+    EXPECT_FALSE(page.contains("For :"));
 }
 
 } // namespace

@@ -1,0 +1,125 @@
+// What every shipped definition must keep to, read as it stands, with no rows.
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QMap>
+#include <QSet>
+#include <functional>
+
+#include "reports/definition.h"
+#include "screenkit/numberfield.h"
+
+namespace {
+
+using reports::Node;
+
+qsizetype places(const QString& mask) {
+    const qsizetype point = mask.indexOf('.');
+    return point < 0 ? 0 : mask.mid(point + 1).count('0') + mask.mid(point + 1).count('#');
+}
+
+void walk(const std::vector<Node>& nodes, const std::function<void(const Node&)>& use) {
+    for (const Node& node : nodes) {
+        use(node);
+        walk(node.children, use);
+    }
+}
+
+std::vector<const Node*> below(const Node& node, const QSet<QString>& names) {
+    std::vector<const Node*> found;
+    walk(node.children, [&](const Node& child) {
+        if (child.kind == Node::Kind::element && names.contains(child.name)) found.push_back(&child);
+    });
+    return found;
+}
+
+/// True for a cell that holds a figure and nothing else.
+bool isFigure(const Node& cell) {
+    int figures = 0, others = 0;
+    walk(cell.children, [&](const Node& part) {
+        if (part.kind == Node::Kind::field) ++(part.mask.isEmpty() ? others : figures);
+        if (part.kind == Node::Kind::text && !part.name.trimmed().isEmpty()) ++others;
+    });
+    return figures == 1 && others == 0;
+}
+
+/// Hands each shipped definition to `use`; an empty folder is a fault.
+void eachDefinition(const std::function<void(const std::vector<Node>&)>& use) {
+    const QDir folder(QString(MARLOWBECK_SOURCE_DIR) + "/data/reports");
+    const QStringList files = folder.entryList({"*.rpt"});
+    EXPECT_FALSE(files.isEmpty());
+    for (const QString& file : files) {
+        SCOPED_TRACE(file.toStdString());
+        use(reports::readDefinition(folder.filePath(file).toStdString()).body);
+    }
+}
+
+/// The least places after the point: what the screen's field of this figure takes.
+qsizetype leastPlaces(const Node& field) {
+    // Figures that the screens show shorter: what is worked out, and what the retirement analysis takes in whole rand.
+    static const QMap<QString, qsizetype> shorter{
+        {"MARGRATE", 0}, {"AVRATE", 2}, {"AVRATEAFT", 2}, {"DBenSpousePerc", 2}};
+    if (shorter.contains(field.name)) return shorter[field.name];
+    if (field.file.contains("Retirem") && field.name != "PremAns" && !field.mask.contains('%')) return 0;
+    if (field.mask.contains('%')) return places(screenkit::percent.mask);
+    return field.mask.contains("# #") ? places(screenkit::money.mask) : 0;
+}
+
+TEST(ShippedDefinitions, CutNoFigure) {
+    static const QSet<QString> counts{"Num2",
+                                      "AgeNum",
+                                      "AnnCalcBens3num",
+                                      "PolNum",
+                                      "Year",
+                                      "CurrentAge",
+                                      "AgeRetiment",
+                                      "YearsToRet",
+                                      "CoverYears",
+                                      "PremPeriod",
+                                      "DeathBenYears",
+                                      "IncProYears",
+                                      "RBEMVAge",
+                                      "RBPenLumpAge",
+                                      "RBProvFLumpAge",
+                                      "EndowEMVAge",
+                                      "MARGRATE",
+                                      "InvBensMatValLSAtAge",
+                                      "DeathBenCashValAge"};
+    const auto check = [&](const Node& field) {
+        if (field.kind != Node::Kind::field || field.mask.isEmpty()) return;
+        EXPECT_GE(places(field.mask), leastPlaces(field)) << field.name.toStdString();
+        const bool isAmount = field.mask.contains("# #");
+        EXPECT_TRUE(isAmount || places(field.mask) > 0 || counts.contains(field.name)) << field.name.toStdString();
+    };
+    eachDefinition([&](const std::vector<Node>& body) { walk(body, check); });
+}
+
+// A row that is one column short puts each figure under another head.
+void checkTable(const Node& table) {
+    const auto columns = below(table, {"col"});
+    double width = 0;
+    for (const Node* column : columns)
+        width += column->attribute("width").chopped(1).toDouble();
+    EXPECT_NEAR(width, 100, 0.01) << table.line;
+    for (const Node* row : below(table, {"tr"})) {
+        std::size_t at = 0;
+        for (const Node* cell : below(*row, {"td", "th"})) {
+            const Node& head = *columns.at(static_cast<std::size_t>(std::min(at, columns.size() - 1)));
+            const Node& says = cell->attribute("align").isEmpty() ? head : *cell;
+            EXPECT_TRUE(!isFigure(*cell) || says.attribute("align") == "right") << row->line;
+            at += static_cast<std::size_t>(std::max(1, cell->attribute("colspan").toInt()));
+        }
+        EXPECT_EQ(at, columns.size()) << row->line;
+    }
+}
+
+TEST(ShippedDefinitions, FillEachTableAndSetFiguresToTheRight) {
+    eachDefinition([](const std::vector<Node>& body) {
+        Node whole;
+        whole.children = body;
+        for (const Node* table : below(whole, {"table"}))
+            checkTable(*table);
+    });
+}
+
+} // namespace
