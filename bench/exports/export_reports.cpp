@@ -83,7 +83,7 @@ void feedAll(const fs::path& print, const QStringList& tables, const Fill& fill)
                 rows.push_back(rowFor(database, table, row, fill));
         }
     }
-    datastore::PrintFeed feed(print);
+    datastore::PrintFeed feed(print, "Ms T. Ṱhoho-Nḓou");
     for (const auto& [table, rows] : made)
         feed.replace(table, rows);
     Row lines;
