@@ -9,7 +9,7 @@ fail() {
     exit 1
 }
 
-# Names of the packages of these kinds (build, run, test), as packaging/packages.txt lists them.
+# Names of the packages of these kinds (build, run, test, check), as packaging/packages.txt lists them.
 packages_of() {
     local wanted=" $* " kind name _
     while read -r kind name _; do

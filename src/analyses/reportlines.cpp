@@ -20,6 +20,7 @@ datastore::Row noPremium() {
 
 std::vector<datastore::Row> amortisationRows(const std::vector<ShownYear>& years) {
     std::vector<datastore::Row> rows;
+    rows.reserve(years.size());
     for (const ShownYear& year : years)
         rows.push_back({{"Year", year.number},
                         {"Capital", year.capital},
