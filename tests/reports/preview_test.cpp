@@ -1,4 +1,5 @@
 #include <QScrollBar>
+#include <QSpinBox>
 #include <QToolBar>
 #include <QToolButton>
 

@@ -1,5 +1,6 @@
 #include <QLabel>
 #include <QListWidget>
+#include <QTextBlock>
 #include <QTextBrowser>
 
 #include "shell/running_program.h"

@@ -1,0 +1,19 @@
+// How a failing test shows Qt's values: as what they are, not as their bytes. Every test has it from the precompiled
+// header.
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+#include <ostream>
+
+inline void PrintTo(const QString& text, std::ostream* out) { *out << '"' << text.toStdString() << '"'; }
+
+inline void PrintTo(const QByteArray& text, std::ostream* out) { *out << '"' << text.toStdString() << '"'; }
+
+inline void PrintTo(const QStringList& list, std::ostream* out) {
+    *out << "{";
+    for (qsizetype i = 0; i < list.size(); ++i)
+        PrintTo(list[i], &(*out << (i == 0 ? "" : ", ")));
+    *out << "}";
+}
