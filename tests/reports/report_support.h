@@ -4,7 +4,7 @@
 
 #include <QPrinter>
 #include <QProcess>
-#include <QtTest>
+#include <QTest>
 
 #include "datastore/printfeed.h"
 #include "reports/export.h"
