@@ -9,6 +9,21 @@ QString textOf(const std::vector<Run>& runs) {
     return text;
 }
 
+QString printable(QString text) {
+    text.replace("\r\n", "\n").replace('\r', '\n');
+    text.removeIf([](QChar letter) {
+        const bool control = letter < ' ' && letter != '\n' && letter != '\t';
+        return control || letter == QChar(0xfffe) || letter == QChar(0xffff);
+    });
+    return text;
+}
+
+QStringList printable(QStringList lines) {
+    for (QString& line : lines)
+        line = printable(line).replace('\n', ' ');
+    return lines;
+}
+
 QString documentTitle(const QString& title, const QString& client) {
     return client.isEmpty() ? title : title + " - " + client;
 }
@@ -21,9 +36,10 @@ QString practiceOf(const QStringList& headerLines) {
     return {};
 }
 
-bool Content::isHeadedByClient() const {
-    return !blocks.empty() && blocks.front().kind == Block::Kind::title &&
-           textOf(blocks.front().runs).trimmed() == client;
+QString Content::headOf(bool firstPage) const {
+    if (!firstPage) return client.isEmpty() ? title : client + " – " + title;
+    const bool isHeading = !blocks.empty() && blocks.front().kind == Block::Kind::title;
+    return isHeading && textOf(blocks.front().runs).simplified() == client ? QString() : client;
 }
 
 QString Cell::text() const { return textOf(runs); }

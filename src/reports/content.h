@@ -62,11 +62,17 @@ struct Content {
     QStringList footerLines; ///< four
     std::vector<Block> blocks;
 
-    /// True if the heading of the first page is the client's name: nothing else need say it there.
-    bool isHeadedByClient() const;
+    /// What a page's head says beside the day: of the first page the client, unless its heading is that name; of the
+    /// others client and title.
+    QString headOf(bool firstPage) const;
 };
 
 QString textOf(const std::vector<Run>& runs);
+
+/// Text as a page can hold it: line ends alike, none of the characters that no export format takes.
+QString printable(QString text);
+/// Each on its one line.
+QStringList printable(QStringList lines);
 
 /// What files of the report are called in their own properties: its title, and the client's name.
 QString documentTitle(const QString& title, const QString& client);

@@ -39,6 +39,9 @@ struct Node {
 /// - `{{>amortisation}}`: the file amortisation.rpt beside this one; of a whole page its body.
 /// - `<tr heads="2">` in the body of a table: another table begins here, with this row and the next as its heads, which
 ///   are repeated on each page.
+/// - `<p class="lead">` says what the report is, `<p class="answer">` what it was made for, in its strongest type,
+///   `<p class="note">` what stands in small; `<tr class="result">` holds the figure that it was made for, `<tr
+///   class="total">` what adds up rows above it.
 /// - `<!-- -->`: a comment.
 struct Definition {
     std::filesystem::path file;

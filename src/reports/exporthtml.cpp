@@ -35,6 +35,7 @@ public:
                  "</style>\n</head>\n<body>\n";
         addLines(content.headerLines, "header");
         if (content.headerLines.join("").size() > 0) m_html += "<hr>\n";
+        addLines({content.headOf(true), content.date}, "header");
         addBlocks(content.blocks);
         if (content.footerLines.join("").size() > 0) m_html += "<hr>\n";
         addLines(content.footerLines, "footer");

@@ -27,22 +27,6 @@ Name parted(const QString& name) {
     return {name.left(point), name.mid(point + 1)};
 }
 
-/// Text as a page can hold it: line ends alike, none of the characters that no export format takes.
-QString printable(QString text) {
-    text.replace("\r\n", "\n").replace('\r', '\n');
-    text.removeIf([](QChar letter) {
-        const bool control = letter < ' ' && letter != '\n' && letter != '\t';
-        return control || letter == QChar(0xfffe) || letter == QChar(0xffff);
-    });
-    return text;
-}
-
-QStringList printable(QStringList lines) {
-    for (QString& line : lines)
-        line = printable(line).replace('\n', ' ');
-    return lines;
-}
-
 QString shown(const store::Value& value, const QString& mask) {
     if (const auto* text = std::get_if<std::string>(&value)) return printable(QString::fromStdString(*text));
     const auto* number = std::get_if<double>(&value);
@@ -179,7 +163,9 @@ private:
         visit(nodes, scope, [&](const Node& node, const Scope& at) {
             if (node.kind == Node::Kind::text && node.name.trimmed().isEmpty()) return;
             if (node.kind != Node::Kind::element || node.name != "table") {
-                blocks.push_back(block(node, at));
+                Block made = block(node, at);
+                const bool nothing = made.kind == Block::Kind::columns && made.columns.empty();
+                if (!nothing) blocks.push_back(std::move(made));
                 return;
             }
             for (Table& made : tables(node, at)) {
@@ -221,8 +207,10 @@ private:
         visit(node.children, scope, [&](const Node& child, const Scope& at) {
             if (child.kind == Node::Kind::text && child.name.trimmed().isEmpty()) return;
             if (child.name != "div") failAt(child.file, child.line, "A row of columns holds nothing but <div>.");
+            std::vector<Block> column = flow(child.children, at);
+            if (column.empty()) return; // the others take its room
             made.widths.push_back(share(child));
-            made.columns.push_back(flow(child.children, at));
+            made.columns.push_back(std::move(column));
         });
         made.widths = evened(made.widths, made.columns.size());
     }

@@ -164,10 +164,10 @@ private:
 
     /// Of columns side by side: tried out on pages of their own. More than any page's where they need a second one.
     double heightOf(const Block& block, const Measure& measure) {
-        const Layout kept = std::exchange(m_layout, {});
+        Layout kept = std::exchange(m_layout, {});
         const Cursor start{1, m_frame.top(1)};
         const Cursor end = sideBySide(block, measure, start);
-        m_layout = kept;
+        m_layout = std::move(kept);
         return end.page == start.page ? end.y - start.y : Layout::pageSize().height();
     }
 

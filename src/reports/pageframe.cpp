@@ -49,10 +49,8 @@ PageFrame::PageFrame(const Content& content) : m_date(content.date) {
     m_bottom = Layout::pageSize().height() - marginBottom - footerHeight - footerGap - aboveFooter;
 
     const double besideDate = width - widthOf(m_date, faces.header) - points(12);
-    const QString named = content.isHeadedByClient() ? QString() : content.client;
-    const QString running = content.client.isEmpty() ? content.title : content.client + " – " + content.title;
-    m_client = broken({Run{named}}, faces.practice, besideDate);
-    m_running = broken({Run{running}}, faces.header, besideDate);
+    m_client = broken({Run{content.headOf(true)}}, faces.practice, besideDate);
+    m_running = broken({Run{content.headOf(false)}}, faces.header, besideDate);
 }
 
 Measure PageFrame::flow() { return {marginLeft, Layout::pageSize().width() - marginLeft - marginRight}; }

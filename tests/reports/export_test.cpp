@@ -190,9 +190,8 @@ TEST_F(Export, PdfKeepsTheLettersAndItsTitle) {
 TEST_F(Export, PdfHasItsLanguageItsAuthorAndAnOutlineOfItsHeadings) {
     feed("HeadFoot", {{"HEADERV0", ""}, {"HEADERV1", "Marlow & Ṱhoho"}});
     feedAmortisation(60);
-    define("Own.rpt",
-           page("<h1>Title</h1><h2>First</h2><p>x</p><h2>Years</h2><table>{{#Amort}}<tr><td>{{Year:##}}"
-                "</td></tr>{{/Amort}}</table><h2>Last</h2><p>y</p>"));
+    define("Own.rpt", page("<h1>Title</h1><h2>First</h2><p>x</p><h2>Years</h2><table>{{#Amort}}<tr><td>{{Year:##}}"
+                           "</td></tr>{{/Amort}}</table><h2>Last</h2><p>y</p>"));
     const fs::path file = folder / "own.pdf";
     storetest::put(file, bytes(Format::pdf).toStdString());
     const QString name = QString::fromStdString(file.string());

@@ -56,11 +56,12 @@ void eachDefinition(const std::function<void(const std::vector<Node>&)>& use) {
 
 /// The least places after the point: what the screen's field of this figure takes.
 qsizetype leastPlaces(const Node& field) {
-    // Figures that the screens show shorter: what is worked out, and what the retirement analysis takes in whole rand.
+    // What is worked out and not entered, as the screens show it.
     static const QMap<QString, qsizetype> shorter{
         {"MARGRATE", 0}, {"AVRATE", 2}, {"AVRATEAFT", 2}, {"DBenSpousePerc", 2}};
     if (shorter.contains(field.name)) return shorter[field.name];
-    if (field.file.contains("Retirem") && field.name != "PremAns" && !field.mask.contains('%')) return 0;
+    static const QSet<QString> wholeRand{"IncomeFV", "IncomeRA", "IncomeShort", "ALTEMV"};
+    if (wholeRand.contains(field.name) || field.file.endsWith("RetiremA.rpt")) return 0;
     if (field.mask.contains('%')) return places(screenkit::percent.mask);
     return field.mask.contains("# #") ? places(screenkit::money.mask) : 0;
 }

@@ -234,7 +234,7 @@ void addSheets(lxw_workbook* book, const Content& content) {
     bool first = true;
     for (const SheetPlan& plan : sheetsOf(content)) {
         Sheet sheet(workbook_add_worksheet(book, plan.name.toUtf8().constData()), formats, plan);
-        if (first) sheet.addLines(content.headerLines);
+        if (first) sheet.addLines(content.headerLines + QStringList{content.headOf(true), content.date});
         sheet.addBlocks();
         if (first) sheet.addLines(content.footerLines);
         sheet.finish();

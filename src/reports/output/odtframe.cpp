@@ -35,16 +35,64 @@ void writeLine(QXmlStreamWriter& xml, const QString& style, const QString& text)
     xml.writeEndElement();
 }
 
-void writeHeader(QXmlStreamWriter& xml, OdtStyles& styles, const QStringList& lines) {
+/// Two cells, a text at the left and one at the right: what is long at the left wraps beside the other.
+template <class Left, class Right>
+void writeCells(QXmlStreamWriter& xml, OdtStyles& styles, const QString& cell, double width, double right, Left left,
+                Right atRight) {
+    const auto startCell = [&] {
+        xml.writeStartElement("table:table-cell");
+        xml.writeAttribute("table:style-name", styles.cell(cell));
+    };
+    xml.writeStartElement("table:table");
+    xml.writeAttribute("table:style-name", styles.table(width, 0));
+    for (const double column : {width - right, right}) {
+        xml.writeEmptyElement("table:table-column");
+        xml.writeAttribute("table:style-name", styles.column(column));
+    }
+    xml.writeStartElement("table:table-row");
+    startCell();
+    left();
+    xml.writeEndElement();
+    startCell();
+    atRight();
+    xml.writeEndElement();
+    xml.writeEndElement();
+    xml.writeEndElement();
+}
+
+double flowWidth() { return Layout::pageSize().width() - marginLeft - marginRight; }
+
+/// Of whom the page speaks, and the day.
+void writeHead(QXmlStreamWriter& xml, OdtStyles& styles, const Content& content, bool firstPage, double above) {
+    const Faces& faces = Faces::all();
+    const QString rule = firstPage ? QString(R"(fo:border="none")")
+                                   : QString(R"(fo:border="none" fo:border-bottom="%1 solid %2")")
+                                         .arg(odtLength(hairline), ink::hairline.name());
+    const QString cell = QString(R"(%1 fo:padding="0pt" fo:padding-top="%2" fo:padding-bottom="%3")")
+                             .arg(rule, odtLength(above), odtLength(headerGap));
+    const double day = faces.header.metrics.horizontalAdvance(content.date) + points(12);
+    writeCells(
+        xml, styles, cell, flowWidth(), day,
+        [&] {
+            writeLine(xml, styles.paragraph({.face = firstPage ? faces.practice : faces.header}),
+                      content.headOf(firstPage));
+        },
+        [&] { writeLine(xml, styles.paragraph({.face = faces.header, .align = Align::right}), content.date); });
+    writeLine(xml, "Thin", {});
+}
+
+void writeHeader(QXmlStreamWriter& xml, OdtStyles& styles, const Content& content, bool firstPage) {
+    const QStringList lines = headerLinesOf(content);
     const Faces& faces = Faces::all();
     const QString rule = QString(R"(fo:padding-bottom="%1" fo:border-bottom="%2 solid %3")")
                              .arg(odtLength(headerGap), odtLength(frameLine), ink::strong.name());
-    xml.writeStartElement("style:header");
+    xml.writeStartElement(firstPage ? "style:header-first" : "style:header");
     for (qsizetype line = 0; line < lines.size(); ++line) {
         const Face& face = line == 0 ? faces.practice : faces.header;
         const bool last = line + 1 == lines.size();
         writeLine(xml, styles.paragraph({.face = face, .further = last ? rule : QString()}), lines[line]);
     }
+    writeHead(xml, styles, content, firstPage, lines.isEmpty() ? 0 : points(5) + headGap - headerGap - frameLine);
     xml.writeEndElement();
 }
 
@@ -62,30 +110,17 @@ void writePageNumber(QXmlStreamWriter& xml, const QString& style) {
 void writeFooter(QXmlStreamWriter& xml, OdtStyles& styles, const QStringList& lines, double width) {
     const Face& face = Faces::all().footer;
     const double number = face.metrics.horizontalAdvance("Page 8888 of 8888") + points(12);
-    const QString cell = styles.cell(QString(R"(fo:border="none" fo:padding="0pt" fo:padding-top="%1" )"
-                                             R"(fo:border-top="%2 solid %3")")
-                                         .arg(odtLength(footerGap - hairline), odtLength(hairline), face.ink.name()));
-    const auto startCell = [&] {
-        xml.writeStartElement("table:table-cell");
-        xml.writeAttribute("table:style-name", cell);
-    };
+    const QString cell = QString(R"(fo:border="none" fo:padding="0pt" fo:padding-top="%1" )"
+                                 R"(fo:border-top="%2 solid %3")")
+                             .arg(odtLength(footerGap - hairline), odtLength(hairline), face.ink.name());
     xml.writeStartElement("style:footer");
-    xml.writeStartElement("table:table");
-    xml.writeAttribute("table:style-name", styles.table(width, 0));
-    for (const double column : {width - number, number}) {
-        xml.writeEmptyElement("table:table-column");
-        xml.writeAttribute("table:style-name", styles.column(column));
-    }
-    xml.writeStartElement("table:table-row");
-    startCell();
-    for (const QString& line : lines.isEmpty() ? QStringList{QString()} : lines)
-        writeLine(xml, styles.paragraph({.face = face}), line);
-    xml.writeEndElement();
-    startCell();
-    writePageNumber(xml, styles.paragraph({.face = face, .align = Align::right}));
-    xml.writeEndElement();
-    xml.writeEndElement();
-    xml.writeEndElement();
+    writeCells(
+        xml, styles, cell, width, number,
+        [&] {
+            for (const QString& line : lines.isEmpty() ? QStringList{QString()} : lines)
+                writeLine(xml, styles.paragraph({.face = face}), line);
+        },
+        [&] { writePageNumber(xml, styles.paragraph({.face = face, .align = Align::right})); });
     writeLine(xml, "Thin", {});
     xml.writeEndElement();
 }
@@ -103,7 +138,7 @@ QByteArray commonStyles() {
         .toUtf8();
 }
 
-QByteArray pageLayout(bool hasHeader) {
+QByteArray pageLayout() {
     const QSizeF page = Layout::pageSize();
     QString layout =
         QString(R"(<style:page-layout style:name="Page"><style:page-layout-properties fo:page-width="%1" )"
@@ -113,8 +148,7 @@ QByteArray pageLayout(bool hasHeader) {
                  odtLength(marginTop), odtLength(marginBottom - thinLine));
     const QString around = R"(<style:%1-style><style:header-footer-properties fo:min-height="0pt" fo:margin-%2="%3" )"
                            R"(style:dynamic-spacing="false"/></style:%1-style>)";
-    if (hasHeader)
-        layout += around.arg("header", "bottom", odtLength(points(5) + headGap + belowHead - headerGap - frameLine));
+    layout += around.arg("header", "bottom", odtLength(belowHead - headerGap - thinLine));
     layout += around.arg("footer", "top", odtLength(aboveFooter));
     return layout.toUtf8() + "</style:page-layout>\n";
 }
@@ -137,15 +171,15 @@ QByteArray odtFonts() {
 }
 
 QByteArray odtFrame(const Content& content) {
-    const QStringList header = headerLinesOf(content);
     OdtStyles styles;
     QByteArray frame;
     QXmlStreamWriter xml(&frame);
-    if (!header.isEmpty()) writeHeader(xml, styles, header);
-    writeFooter(xml, styles, footerLinesOf(content), Layout::pageSize().width() - marginLeft - marginRight);
+    for (const bool firstPage : {false, true})
+        writeHeader(xml, styles, content, firstPage);
+    writeFooter(xml, styles, footerLinesOf(content), flowWidth());
     xml.writeEndDocument();
     return odtRoot("document-styles") + odtFonts() + commonStyles() + "<office:automatic-styles>\n" +
-           styles.xml().toUtf8() + pageLayout(!header.isEmpty()) +
+           styles.xml().toUtf8() + pageLayout() +
            "</office:automatic-styles>\n<office:master-styles>\n"
            "<style:master-page style:name=\"Standard\" style:page-layout-name=\"Page\">" +
            frame + "</style:master-page>\n</office:master-styles>\n</office:document-styles>\n";
