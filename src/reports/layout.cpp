@@ -196,20 +196,12 @@ private:
             for (int spanned = 0; spanned < cell.columns && column < table.widths.size(); ++spanned)
                 width += table.widths[column++] * measure.width;
             const Measure inner{x + cellPadding, width - 2 * cellPadding};
-            Paragraph text = shapedCell(cell, face, inner.width);
+            Paragraph text = broken(cell.runs, faceOf(cell, face, inner.width), inner.width);
             const double drop = face.ascent - text.face->ascent;
             shaped.cells.push_back({std::move(text), cell.align, inner, drop});
             x += width;
         }
         return shaped;
-    }
-
-    /// A figure is never broken: one that is too wide for its column is set smaller.
-    static Paragraph shapedCell(const Cell& cell, const Face& face, double width) {
-        Paragraph text = broken(cell.runs, face, width);
-        for (const Face* next = smaller(face); next && cell.number && text.lines.size() > 1; next = smaller(*next))
-            text = broken(cell.runs, *next, width);
-        return text;
     }
 
     static double rowHeight(const ShapedRow& row) {

@@ -4,6 +4,19 @@
 
 namespace reports {
 
+namespace {
+
+const Face* smaller(const Face& face) {
+    const Faces& faces = Faces::all();
+    if (&face == &faces.body) return &faces.small;
+    if (&face == &faces.small) return &faces.smallest;
+    if (&face == &faces.result) return &faces.total;
+    if (&face == &faces.total) return &faces.smallTotal;
+    return &face == &faces.smallTotal ? &faces.smallestTotal : nullptr;
+}
+
+} // namespace
+
 const Face& faceOf(const Block& block) {
     const Faces& faces = Faces::all();
     switch (block.kind) {
@@ -22,13 +35,13 @@ const Face& faceOf(const Row& row, bool head) {
     return row.result ? faces.result : row.total ? faces.total : faces.body;
 }
 
-const Face* smaller(const Face& face) {
-    const Faces& faces = Faces::all();
-    if (&face == &faces.body) return &faces.small;
-    if (&face == &faces.small) return &faces.smallest;
-    if (&face == &faces.result) return &faces.total;
-    if (&face == &faces.total) return &faces.smallTotal;
-    return &face == &faces.smallTotal ? &faces.smallestTotal : nullptr;
+const Face& faceOf(const Cell& cell, const Face& row, double width) {
+    const Face* face = &row;
+    if (!cell.number) return row;
+    const QString figure = cell.text();
+    while (face->metrics.horizontalAdvance(figure) > width && smaller(*face))
+        face = smaller(*face);
+    return *face;
 }
 
 double spaceBefore(const Block& block) {

@@ -7,6 +7,7 @@
 namespace reports {
 
 struct Block;
+struct Cell;
 struct Row;
 
 /// The measures of a printed page, in its units. The pages and the exports that keep their look share them.
@@ -28,14 +29,17 @@ inline constexpr double answerPadding = points(5); ///< above and below an answe
 inline constexpr double aboveFooter = points(10);  ///< between the flow and the footer's rule
 inline constexpr double footerGap = points(5);     ///< between that rule and the footer's text
 inline constexpr double afterTable = points(4);
+/// Six times the size of the text, as in the screens' text fields: columns made with tabs are columns on paper.
+inline constexpr double tabStop = points(57);
 inline constexpr std::size_t rowsTogether = 4; ///< at least so many under a table's heads, if it has them
 } // namespace look
 
 /// The face of a block's text, and of a row's cells.
 const Face& faceOf(const Block& block);
 const Face& faceOf(const Row& row, bool head);
-/// The face for a figure that is too wide in this one; null if there is none smaller.
-const Face* smaller(const Face& face);
+/// The face of one cell, in a row of that face: a figure is never broken, one that is too wide for its column is set
+/// smaller, as far as there are smaller faces.
+const Face& faceOf(const Cell& cell, const Face& row, double width);
 
 /// Room above a block unless it opens its page or column, and below it.
 double spaceBefore(const Block& block);

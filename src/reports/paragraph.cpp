@@ -4,12 +4,10 @@
 #include <algorithm>
 
 #include "reports/content.h"
+#include "reports/pagelook.h"
 
 namespace reports {
 namespace {
-
-/// In sizes of the type: what the screens' text fields have, so that columns made with tabs are columns on paper.
-constexpr double tabWidth = 6;
 
 const Face& faceOf(const Run& run, const Face& base) {
     const Faces& faces = Faces::all();
@@ -71,7 +69,7 @@ Paragraph broken(const std::vector<Run>& runs, const Face& face, double width) {
     layout.setFormats(formats);
     QTextOption option;
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    option.setTabStopDistance(tabWidth * face.font.pixelSize());
+    option.setTabStopDistance(look::tabStop);
     layout.setTextOption(option);
     layout.beginLayout();
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {

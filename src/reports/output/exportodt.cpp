@@ -88,28 +88,30 @@ private:
         startTable(columns, before);
         if (!table.heads.empty()) m_xml.writeStartElement("table:table-header-rows");
         for (const Row& row : table.heads)
-            addRow(row, table.widths.size(), true);
+            addRow(row, columns, true);
         if (!table.heads.empty()) m_xml.writeEndElement();
         for (std::size_t row = 0; row < table.rows.size(); ++row)
-            addRow(table.rows[row], table.widths.size(), false, row + 1 < std::min(rowsTogether, table.rows.size()));
-        if (table.heads.empty() && table.rows.empty()) addRow({}, table.widths.size(), false);
+            addRow(table.rows[row], columns, false, row + 1 < std::min(rowsTogether, table.rows.size()));
+        if (table.heads.empty() && table.rows.empty()) addRow({}, columns, false);
         m_xml.writeEndElement();
     }
 
     /// keepsNext: the next row stands on the same page.
-    void addRow(const Row& row, std::size_t columns, bool head, bool keepsNext = false) {
+    void addRow(const Row& row, const std::vector<double>& columns, bool head, bool keepsNext = false) {
         m_xml.writeStartElement("table:table-row");
         m_xml.writeAttribute("table:style-name", m_styles.row(fitsAPage(row)));
         std::size_t column = 0;
         for (const Cell& cell : row.cells) {
-            if (column == columns) break;
+            if (column == columns.size()) break;
             const auto wanted = static_cast<std::size_t>(std::max(cell.columns, 1));
-            const std::size_t spanned = std::min(wanted, columns - column);
-            addCell(row, cell, spanned, head, keepsNext);
-            column += spanned;
+            const std::size_t spanned = std::min(wanted, columns.size() - column);
+            double width = -2 * cellPadding;
+            for (std::size_t each = 0; each < spanned; ++each)
+                width += columns[column++];
+            addCell(row, cell, spanned, width, head, keepsNext);
         }
-        for (; column < columns; ++column)
-            addCell(row, {}, 1, head, keepsNext);
+        for (; column < columns.size(); ++column)
+            addCell(row, {}, 1, 0, head, keepsNext);
         m_xml.writeEndElement();
     }
 
@@ -121,8 +123,8 @@ private:
         });
     }
 
-    void addCell(const Row& row, const Cell& cell, std::size_t spanned, bool head, bool keepsNext) {
-        const Face& face = faceOf(row, head);
+    void addCell(const Row& row, const Cell& cell, std::size_t spanned, double width, bool head, bool keepsNext) {
+        const Face& face = faceOf(cell, faceOf(row, head), width);
         startCell(cellLook(row, head), spanned);
         m_xml.writeStartElement("text:p");
         m_xml.writeAttribute("text:style-name",

@@ -107,15 +107,15 @@ void writePageNumber(QXmlStreamWriter& xml, const QString& style) {
 }
 
 /// Lines at the left and the number at the right, as two cells: a long line wraps beside the number.
-void writeFooter(QXmlStreamWriter& xml, OdtStyles& styles, const QStringList& lines, double width) {
+void writeFooter(QXmlStreamWriter& xml, OdtStyles& styles, const QStringList& lines, bool firstPage) {
     const Face& face = Faces::all().footer;
     const double number = face.metrics.horizontalAdvance("Page 8888 of 8888") + points(12);
     const QString cell = QString(R"(fo:border="none" fo:padding="0pt" fo:padding-top="%1" )"
                                  R"(fo:border-top="%2 solid %3")")
                              .arg(odtLength(footerGap - hairline), odtLength(hairline), face.ink.name());
-    xml.writeStartElement("style:footer");
+    xml.writeStartElement(firstPage ? "style:footer-first" : "style:footer");
     writeCells(
-        xml, styles, cell, width, number,
+        xml, styles, cell, flowWidth(), number,
         [&] {
             for (const QString& line : lines.isEmpty() ? QStringList{QString()} : lines)
                 writeLine(xml, styles.paragraph({.face = face}), line);
@@ -128,13 +128,13 @@ void writeFooter(QXmlStreamWriter& xml, OdtStyles& styles, const QStringList& li
 /// Common to all texts: no room but what a style asks for, and the language that a spelling check goes by.
 QByteArray commonStyles() {
     return QString(R"(<office:styles>
-<style:default-style style:family="paragraph"><style:paragraph-properties fo:margin="0pt" fo:orphans="2" fo:widows="0" style:tab-stop-distance="36pt"/><style:text-properties style:font-name="Text" fo:font-size="9.5pt" fo:language="en" fo:country="ZA"/></style:default-style>
+<style:default-style style:family="paragraph"><style:paragraph-properties fo:margin="0pt" fo:orphans="2" fo:widows="0" style:tab-stop-distance="%2"/><style:text-properties style:font-name="Text" fo:font-size="9.5pt" fo:language="en" fo:country="ZA"/></style:default-style>
 <style:default-style style:family="table"/>
 <style:style style:name="Standard" style:family="paragraph"/>
 <style:style style:name="Thin" style:family="paragraph"><style:paragraph-properties fo:line-height="%1"/><style:text-properties fo:font-size="1pt"/></style:style>
 </office:styles>
 )")
-        .arg(odtLength(thinLine))
+        .arg(odtLength(thinLine), odtLength(tabStop))
         .toUtf8();
 }
 
@@ -176,7 +176,8 @@ QByteArray odtFrame(const Content& content) {
     QXmlStreamWriter xml(&frame);
     for (const bool firstPage : {false, true})
         writeHeader(xml, styles, content, firstPage);
-    writeFooter(xml, styles, footerLinesOf(content), flowWidth());
+    for (const bool firstPage : {false, true})
+        writeFooter(xml, styles, footerLinesOf(content), firstPage);
     xml.writeEndDocument();
     return odtRoot("document-styles") + odtFonts() + commonStyles() + "<office:automatic-styles>\n" +
            styles.xml().toUtf8() + pageLayout() +
