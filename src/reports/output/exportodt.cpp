@@ -49,10 +49,20 @@ private:
         const Face& face = faceOf(block);
         m_xml.writeStartElement(heading ? "text:h" : "text:p");
         m_xml.writeAttribute("text:style-name",
-                             m_styles.paragraph({.face = face, .before = before, .keepsNext = heading}));
+                             m_styles.paragraph({.face = face,
+                                                 .before = before,
+                                                 .keepsNext = heading,
+                                                 .further = block.kind == Block::Kind::answer ? band() : QString()}));
         if (heading) m_xml.writeAttribute("text:outline-level", title ? "1" : "2");
         writeOdtRuns(m_xml, m_styles, block.runs, face);
         m_xml.writeEndElement();
+    }
+
+    /// Behind an answer. Padding counts only within a border, so it has one of its own colour all round.
+    static QString band() {
+        return QString(R"(fo:background-color="%1" fo:border="0.05pt solid %1" fo:border-left="%2 solid %3" )"
+                       R"(fo:padding="%4")")
+            .arg(ink::resultBand.name(), odtLength(frameLine), ink::strong.name(), odtLength(answerPadding));
     }
 
     /// A text must follow a table at the end of a cell or of the page's flow: one that nobody sees.
