@@ -53,6 +53,7 @@ frmNARA::frmNARA(Workplace& workplace)
     auto* calculateIt = button("cmdCalculate", "&Calculate", [this] {
         updateYearsToRet(m_needs);
         calculate();
+        announceAnswer();
     });
     m_ok = okButton();
     body(column({Item(m_pages, 1), row({calculateIt, button("cmdAmort", "&Amortisation", [this] { amortisation(); }),
@@ -67,7 +68,9 @@ frmNARA::frmNARA(Workplace& workplace)
     defaultButton(calculateIt);
     buildPrintPanel();
     connect(m_pages, &QTabWidget::currentChanged, this, [this] {
-        if (showsResults()) recalculate();
+        if (!showsResults()) return;
+        recalculate();
+        announceAnswer();
     });
 }
 
@@ -171,8 +174,8 @@ Item frmNARA::netWorthPage() {
     m_netWorth = result("numNETCAP", m_shown[5], wholeRand);
     m_shortfall = heading("lblShortfall");
     m_shortfall->setText("Shortfall");
-    m_lasts = shown("txtAns1", 60);
-    m_needed = shown("txtAns2", 60);
+    m_lasts = answerLine("txtAns1", 60);
+    m_needed = answerLine("txtAns2", 60);
     m_lasts->setAccessibleName("How long the capital lasts");
     m_needed->setAccessibleName("What more it takes");
     for (QLineEdit* line : std::initializer_list<QLineEdit*>{m_required, m_available, m_difference, m_capital,
@@ -288,6 +291,14 @@ void frmNARA::showResults() {
     m_shortfall->setVisible(m_analysis.NetCapital < 0);
     m_lasts->setText(QString::fromStdString(m_analysis.txtAns1));
     m_needed->setText(QString::fromStdString(m_analysis.txtAns2));
+}
+
+void frmNARA::announceAnswer() {
+    const QString sentences = (m_lasts->text() + " " + m_needed->text()).trimmed();
+    if (sentences.isEmpty())
+        announce({m_netWorth});
+    else
+        announce(sentences);
 }
 
 void frmNARA::amortisation() {

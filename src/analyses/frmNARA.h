@@ -36,6 +36,7 @@ private:
     bool showsResults() const;
     void showTotals();
     void showResults();
+    void announceAnswer();
     void calculate();
     void amortisation();
     void graph();

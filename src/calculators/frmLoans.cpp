@@ -68,7 +68,11 @@ void frmLoans::buildBody() {
         showsCalculated(line);
     m_modeLabel = heading("Label12(1)");
     m_rateError = over(m_rate, "Text1", "   Error");
-    auto* solveIt = button("cmdCalculate", "&Calculate", [this] { calculate(); });
+    auto* solveIt = button("cmdCalculate", "&Calculate", [this] {
+        calculate();
+        NumberField* const unknowns[] = {m_repayment, m_principal, m_period, m_rate};
+        announce({unknowns[modeIndex(m_loans)]});
+    });
     m_ok = okButton();
     body(column({
         m_modeLabel,

@@ -73,7 +73,15 @@ frmPolInvest::frmPolInvest(Workplace& workplace)
 QLayout* frmPolInvest::buttons() {
     m_back = button("cmdBack", "< Bac&k", [this] { step(-1); });
     m_forward = button("cmdForward", "Fo&rward >", [this] { step(1); });
-    auto* solve = button("cmdCalculatePolInv", "&Calculate", [this] { calculate(); });
+    auto* solve = button("cmdCalculatePolInv", "&Calculate", [this] {
+        calculate();
+        std::vector<NumberField*> counted = m_valueFields;
+        std::erase_if(counted, [](const NumberField* field) { return field->value() == 0; });
+        if (counted.empty())
+            announce(tr("Nothing at retirement"));
+        else
+            announce(counted);
+    });
     defaultButton(solve);
     return row({m_back, m_forward, button("cmdAdd", "A&dd", [this] { add(); }),
                 cancelButton("cmdDelete", "De&lete", [this] { remove(); }), solve,

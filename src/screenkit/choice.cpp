@@ -5,11 +5,19 @@
 #include <QScopedValueRollback>
 #include <algorithm>
 
+#include "screenkit/layout.h"
+
 namespace screenkit {
 
 namespace {
 
 bool canBePicked(const QAbstractButton* option) { return option->isEnabled() && !option->isHidden(); }
+
+/// Blanks and a colon at a caption's end would be read out.
+void nameInWords(QAbstractButton* choice) {
+    const QString plain = QString(choice->text()).remove('&');
+    if (spokenLabel(plain) != plain) choice->setAccessibleName(spokenLabel(choice->text()));
+}
 
 int stepOf(int key) {
     if (key == Qt::Key_Down || key == Qt::Key_Right) return 1;
@@ -31,6 +39,7 @@ OptionGroup::OptionGroup(const QString& name, const QStringList& captions, Bound
         option->setObjectName(QString("%1(%2)").arg(name).arg(i));
         m_group.addButton(option, i);
         option->installEventFilter(this);
+        nameInWords(option);
     }
     connect(&m_group, &QButtonGroup::idClicked, this, &OptionGroup::choose);
     if (m_apart) {
@@ -115,6 +124,7 @@ void OptionGroup::takeFocus() {
 CheckField::CheckField(const QString& name, const QString& caption, Bound<int> place, QWidget* parent)
     : QCheckBox(caption, parent), m_place(std::move(place)) {
     setObjectName(name);
+    nameInWords(this);
     connect(this, &QCheckBox::clicked, this, [this](bool on) {
         m_place.set(on ? 1 : 0);
         if (edited) edited();

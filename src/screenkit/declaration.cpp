@@ -133,6 +133,14 @@ QLineEdit* Screen::shown(const QString& name, int characters) {
     return line;
 }
 
+QLineEdit* Screen::answerLine(const QString& name, int characters) {
+    auto* line = new QLineEdit;
+    line->setObjectName(name);
+    look::setAnswer(line);
+    line->setMinimumWidth(look::fieldSize(line, characters).width());
+    return line;
+}
+
 SpinButtons* Screen::spin(const QString& name, NumberField* field, const SpinRule& rule,
                           std::function<void()> stepped) {
     const auto step = [this, field, rule, stepped = std::move(stepped)](int direction) {

@@ -172,6 +172,7 @@ void setRowLabel(QWidget* field, const QString& label) {
 QWidget* group(const QString& name, const QString& title, Item content) {
     auto* box = new QGroupBox(title);
     box->setObjectName(name);
+    box->setAccessibleName(spokenLabel(title));
     auto* layout = new QVBoxLayout(box);
     add(layout, content);
     if (content.widget != nullptr && content.widget->accessibleName().isEmpty())
@@ -196,7 +197,7 @@ void makeRoom(QWidget* screen, const QSize& wanted) {
 QString spokenLabel(const QString& label) {
     QString spoken = label;
     spoken.replace("&&", QString(QChar(1))).remove('&').replace(QChar(1), "&");
-    return spoken.remove(QRegularExpression("[\\s:]+$")).trimmed();
+    return spoken.simplified().remove(QRegularExpression("[\\s:(]+$"));
 }
 
 } // namespace screenkit

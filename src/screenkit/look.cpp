@@ -10,6 +10,7 @@
 #include <QStyleFactory>
 #include <QStyleOptionFrame>
 
+#include "screenkit/contrast.h"
 #include "screenkit/icon.h"
 
 namespace screenkit::look {
@@ -30,6 +31,19 @@ QColor between(const QColor& ink, const QColor& paper) {
     const auto mix = [](int near, int far) { return (near * 3 + far * 2) / 5; };
     return {mix(ink.red(), paper.red()), mix(ink.green(), paper.green()), mix(ink.blue(), paper.blue())};
 }
+
+/// The style sees the palette of the desktop; one that is set on the program itself comes past it.
+class PaletteWatch : public QObject {
+public:
+    using QObject::QObject;
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (watched == qApp && event->type() == QEvent::ApplicationPaletteChange) {
+            QPalette palette = QApplication::palette();
+            if (makeGreyedReadable(palette)) QApplication::setPalette(palette);
+        }
+        return false;
+    }
+};
 
 /// The window's colour with a breath of the highlight's: neither an open field nor a result, in light and dark alike.
 QColor lockedShade(const QPalette& palette) {
@@ -77,6 +91,11 @@ public:
         // The main window opens its menu at Alt itself; the toolkit would do it only where no field keeps the key.
         if (hint == SH_MenuBar_AltKeyNavigation) return qobject_cast<const QMenu*>(widget) != nullptr ? 1 : 0;
         return QProxyStyle::styleHint(hint, option, widget, answer);
+    }
+    using QProxyStyle::polish;
+    void polish(QPalette& palette) override {
+        QProxyStyle::polish(palette);
+        makeGreyedReadable(palette);
     }
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
                            const QWidget* widget) const override {
@@ -130,6 +149,7 @@ void apply(QApplication& application) {
     font.setStyleHint(QFont::SansSerif);
     QApplication::setFont(font);
     QApplication::setWindowIcon(icon("marlowbeck"));
+    application.installEventFilter(new PaletteWatch(&application));
 }
 
 QSize fieldSize(const QLineEdit* field, int characters) {
@@ -152,6 +172,14 @@ void setResult(QLineEdit* field, bool result) {
 void setLocked(QLineEdit* field, bool locked) {
     setReadOnly(field, locked);
     setState(field, kindOfLine, locked ? Kind::locked : Kind::entry);
+}
+
+void setAnswer(QLineEdit* line) {
+    setReadOnly(line, true);
+    QFont strong = line->font();
+    strong.setBold(true);
+    strong.setPointSizeF(strong.pointSizeF() * 1.2);
+    line->setFont(strong);
 }
 
 void setShown(QLineEdit* field) {

@@ -28,6 +28,9 @@ void setResult(QLineEdit* field, bool result);
 /// pass it off as something worked out here.
 void setLocked(QLineEdit* field, bool locked);
 
+/// The sentence that answers what a screen was asked: read-only, in bold and larger, in the ink of an entry.
+void setAnswer(QLineEdit* line);
+
 /// A text that is shown and not entered: on the window's own colour, with no look of a result.
 void setShown(QLineEdit* field);
 

@@ -83,6 +83,15 @@ void Screen::showGrid(const QString& title, std::vector<GridColumn> columns, std
     m_gridPanel->open(m_grid);
 }
 
+void Screen::announce(const std::vector<NumberField*>& results) {
+    QStringList said;
+    for (const NumberField* result : results)
+        said << result->accessibleName() + " " + result->text();
+    announce(said.join(", "));
+}
+
+void Screen::announce(const QString& said) { m_work.shell.announce(said); }
+
 QWidget* Screen::firstField() {
     const auto inBody = [this](Field* field) { return m_area->isAncestorOf(field->widget()); }; // not in a panel
     const auto first = std::find_if(m_fields.begin(), m_fields.end(), inBody);

@@ -109,6 +109,8 @@ protected:
     QPushButton* disabledButton(const QString& name, const QString& caption);
     /// A line that shows a text and takes none.
     QLineEdit* shown(const QString& name, int characters);
+    /// A line for the sentence that answers what the screen was asked: the strongest text on it.
+    QLineEdit* answerLine(const QString& name, int characters);
     /// Spin buttons that step a field by the rule, then `stepped` (recalculate). The field's Up and Down keys do the
     /// same, and leave the focus there.
     SpinButtons* spin(const QString& name, NumberField* field, const SpinRule& rule,
@@ -171,6 +173,11 @@ protected:
     /// focusAfter.
     void showGrid(const QString& title, std::vector<GridColumn> columns, std::vector<std::vector<double>> rows,
                   QWidget* focusAfter);
+
+    /// Has a screen reader say what the user has asked the screen to work out: each result with its name. Once for
+    /// each press of Calculate, never when a screen only fills itself.
+    void announce(const std::vector<NumberField*>& results);
+    void announce(const QString& said);
 
     /// The field that has the focus when the screen is opened; by default the first one.
     virtual QWidget* firstField();

@@ -33,6 +33,8 @@ public:
     virtual void refillScreens() = 0;
     /// Shows the client's display name in the status bar.
     virtual void showClientName() = 0;
+    /// Has a screen reader say this, once.
+    virtual void announce(const QString& said) = 0;
     /// All toolbar buttons on or off; menus stay.
     virtual void enableToolbar(bool on) = 0;
     /// Writes the client to the file; afterwards, if a new client was asked for, blanks it. Shows what went wrong and

@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QScrollBar>
+#include <QSignalBlocker>
 #include <QTextBlock>
 #include <QTextBrowser>
 
@@ -102,6 +103,12 @@ void frmBrowser::showHit(int step) {
     m_page->setTextCursor(m_hits[m_hit]);
     m_page->ensureCursorVisible();
     m_found->setText(tr("%1 of %2").arg(m_hit + 1).arg(count));
+    QTextBlock heading = m_hits[m_hit].block();
+    while (heading.isValid() && heading.blockFormat().headingLevel() != 2)
+        heading = heading.previous();
+    const QSignalBlocker stay(m_contents); // a line that is chosen would lead to the top of its chapter
+    const auto lines = m_contents->findItems(heading.text(), Qt::MatchExactly);
+    if (!lines.isEmpty()) m_contents->setCurrentItem(lines.front());
 }
 
 bool frmBrowser::eventFilter(QObject* watched, QEvent* event) {

@@ -233,6 +233,8 @@ void MDIForm1::refillScreens() {
 
 void MDIForm1::showClientName() { m_status->showClientName(); }
 
+void MDIForm1::announce(const QString& said) { m_status->announce(said); }
+
 void MDIForm1::enableToolbar(bool on) {
     m_toolbarHolders += on ? -1 : 1; // two screens that want it off may be open at once
     m_toolbar->setEnabled(m_toolbarHolders == 0);

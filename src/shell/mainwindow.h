@@ -34,6 +34,7 @@ public:
     bool exists(const QString& screen) override;
     void refillScreens() override;
     void showClientName() override;
+    void announce(const QString& said) override;
     void enableToolbar(bool on) override;
     bool Save() override;
     void CLEARLOAD() override;

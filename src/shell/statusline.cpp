@@ -52,6 +52,7 @@ void StatusLine::clear() {
 
 void StatusLine::announce(const QString& said) {
     m_said->setAccessibleName(said); // a screen reader says a name that changes
+    emit announced(said);
 }
 
 void StatusLine::showCaption() {

@@ -24,6 +24,9 @@ public:
     /// Has a screen reader say this, once. It can be found again in the status bar.
     void announce(const QString& said);
 
+signals:
+    void announced(const QString& said);
+
 private:
     QLabel* addPanel(const char* name, bool atTheEnd);
     void showCaption();

@@ -41,23 +41,30 @@ NumberField* frmKwikTax::answer(int index, double& figure, const NumberKind& kin
 void frmKwikTax::buildBody() {
     auto* income = number(edit(0), m_client.Salary, money);
     auto* ageField = number(edit(1), m_client.Age, age);
+    auto* commitment = answer(7, m_result.TaxCommitment, money);
+    const auto workOut = [this, commitment] {
+        calculate();
+        announce({commitment});
+    };
     auto* years = options(
         "grpTaxYear", yearCaptions,
         {[this] { return choosesFebruary2026(m_client) ? 0 : 1; }, [this](int year) { m_client.YR9798 = year; }},
-        [this](int) { calculate(); });
+        [workOut](int) { workOut(); });
     years->option(0)->setObjectName("Option1");
     years->option(1)->setObjectName("Option2");
-    auto* work = button("cmdCalculate", "&Calculate", [this] { calculate(); });
-    auto* marginal =
-        row({answer(3, m_result.MarginalRate, marginalRate), labelled("%)", answer(4, m_result.PortionAtRate, money))});
+    auto* work = button("cmdCalculate", "&Calculate", workOut);
+    auto* atRate = answer(3, m_result.MarginalRate, marginalRate);
+    auto* portion = answer(4, m_result.PortionAtRate, money);
+    atRate->setAccessibleName(tr("Marginal rate"));
+    portion->setAccessibleName(tr("Portion at the marginal rate"));
     body(column({
         row({form({{"Ta&xable Income", income},
                    {"A&ge", ageField},
                    {"Tax on taxable income", answer(2, m_result.TaxOnLowerLimit, money)},
-                   {"+ Portion @ M/Rate (", marginal},
+                   {"+ Portion @ M/Rate (", row({atRate, labelled("%)", portion)})},
                    {"Total tax", answer(5, m_result.TotalTax, money)},
                    {"Less rebates", answer(6, m_result.TotalRebates, money)},
-                   {"Tax commitment", answer(7, m_result.TaxCommitment, money)},
+                   {"Tax commitment", commitment},
                    {"Average rate before rebates    ", answer(8, m_result.AverageBefore, rate), "%"},
                    {"Average rate after rebates       ", answer(9, m_result.AverageAfter, rate), "%"}}),
              column({group("Frame1", "Tax year", years), spring()})}),

@@ -78,6 +78,8 @@ QWidget* frmMonthly::buildInputs() {
     auto* age = number("silgEdit9", m_month.age, years);
     auto* travel = number("silgEdit13", m_month.travel, money);
     auto* taxable = keptAnswer(result("numMTAAns", rounded(m_result.taxableTravel), wholeRand));
+    travel->setAccessibleName(tr("Travel"));
+    taxable->setAccessibleName(tr("Taxable part of travel"));
     const DateKind dayOfTheMonth = DateKind{}.required(wrongDate);
     m_start = date("dtMStartDate", m_month.startDate, dayOfTheMonth);
     m_end = date("dtMEndDate", m_month.endDate, dayOfTheMonth);
@@ -99,11 +101,13 @@ QWidget* frmMonthly::buildInputs() {
 
 QWidget* frmMonthly::buildAnswers() {
     auto* fund = keptAnswer(result("numAllowableRFundDed", rounded(m_result.allowableFund), wholeRand));
+    auto* levy = answer("numMAns3", m_result.skillsLevy);
+    levy->setAccessibleName(tr("Skills development levy"));
     return group("fraAnswers", "Month",
                  form({{"Allowable R/Fund deduction", fund},
                        {"UIF contribution Employee", answer("numMAns1", m_result.employeeUIF)},
                        {"UIF contribution Employer", answer("numMAns2", m_result.employerUIF)},
-                       {"S.D.L.", answer("numMAns3", m_result.skillsLevy)},
+                       {"S.D.L.", levy},
                        {"Tax liability", answer("numMAns", m_result.taxLiability)},
                        {"Tax credits for beneficiaries", answer("numTaxCredit", m_result.beneficiaryCredit)},
                        {"Tax credits for contributions", answer("numMTCForContri", m_result.contributionCredit)},
@@ -112,7 +116,9 @@ QWidget* frmMonthly::buildAnswers() {
 
 void frmMonthly::buildBody() {
     auto* solve = button("cmdCalculate", "&Calculate", [this] {
-        if (calculate()) m_work.lent.keep(m_work.record.tax.Salary);
+        if (!calculate()) return;
+        m_work.lent.keep(m_work.record.tax.Salary);
+        announce({m_answers.back()});
     });
     const auto inform = infoPanel(infoNames);
     body(column({row({buildInputs(), column({buildAnswers(), spring()})}), spring(),
@@ -131,6 +137,8 @@ void frmMonthly::buildSettings() {
                               {place, [this](int index) { m_entered.TAIncRate8020 = inclusionRates[index]; }});
     inclusion->option(0)->setObjectName("optTAIncRate80");
     inclusion->option(1)->setObjectName("optTAIncRate20");
+    for (const int rate : {0, 1})
+        inclusion->option(rate)->setAccessibleName(tr("Inclusion rate %1").arg(inclusion->option(rate)->text()));
     auto* employee = number("numEmpEUIF", m_entered.EmployeeUIF, share);
     auto* employer = number("numEmpRUIF", m_entered.EmployerUIF, share);
     auto* levy = number("numSkillPercent", m_entered.SkillLevy, share);

@@ -17,12 +17,14 @@ public:
     bool exists(const QString&) override { return false; }
     void refillScreens() override {}
     void showClientName() override { ++namesShown; }
+    void announce(const QString& said) override { announced << said; }
     void enableToolbar(bool on) override { toolbar = on; }
     bool Save() override { return false; }
     void CLEARLOAD() override {}
     void useClientDb(const std::filesystem::path&) override {}
 
     QStringList opened;
+    QStringList announced;
     int namesShown = 0;
     bool toolbar = true;
 };

@@ -48,6 +48,7 @@ TEST_F(Help, ContentsAndSearchLeadThroughTheGuide) {
 
     run.enter("txtSearch", "asterisk");
     EXPECT_EQ(page()->textCursor().selectedText(), "asterisk");
+    EXPECT_EQ(contents->currentItem()->text(), "Saving");
     EXPECT_TRUE(page()->viewport()->rect().contains(page()->cursorRect()));
     EXPECT_TRUE(found().startsWith("1 of ")) << found().toStdString();
     run.enter("txtSearch", "program folder");

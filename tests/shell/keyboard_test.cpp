@@ -1,11 +1,14 @@
 #include <gtest/gtest.h>
 
+#include <QAccessible>
+#include <QGroupBox>
 #include <QLabel>
 #include <QListView>
 #include <QMdiArea>
 #include <QMenu>
 #include <QMenuBar>
 #include <QRadioButton>
+#include <QRegularExpression>
 #include <QTabBar>
 #include <map>
 #include <set>
@@ -131,6 +134,30 @@ TEST_P(Keyboard, EveryEntryHasALabelAndAName) {
             if (qobject_cast<QListView*>(stop) == nullptr) {
                 EXPECT_TRUE(buddies.contains(stop)) << nameOf(stop) << " " << page;
             }
+        }
+    });
+}
+
+/// What a screen reader says of a control.
+QString spoken(QWidget* widget) { return QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name); }
+
+bool isWholeWords(const QString& name) {
+    static const QRegularExpression word("[[:alnum:]]{2}");
+    return name.contains(word) && name == name.simplified() && !name.contains("&&") && !name.endsWith(':') &&
+           name.count('(') == name.count(')');
+}
+
+TEST_P(Keyboard, AScreenReaderSaysEachControlInWholeWords) {
+    openPanel();
+    onEachPage([&](const std::string& page) {
+        for (auto* widget : scope()->findChildren<QWidget*>()) {
+            const auto* button = qobject_cast<QAbstractButton*>(widget);
+            const bool said = button != nullptr || isEntry(widget) || qobject_cast<QLineEdit*>(widget) != nullptr ||
+                              qobject_cast<QGroupBox*>(widget) != nullptr;
+            if (!widget->isVisible() || !said || nameOf(widget).empty() || nameOf(widget).starts_with("qt_")) continue;
+            const QString name = spoken(widget);
+            EXPECT_TRUE(isWholeWords(name)) << nameOf(widget) << " \"" << name.toStdString() << "\" " << page;
+            EXPECT_TRUE(button == nullptr || !button->text().contains("&&") || name.contains(" & ")) << nameOf(widget);
         }
     });
 }
