@@ -93,4 +93,9 @@ std::string folded(std::string_view utf8) {
     return text;
 }
 
+SortKey::SortKey(std::string_view utf8) : m_text(folded(utf8)) {
+    for (std::size_t i = 0; i < sizeof m_start; ++i)
+        m_start = m_start << 8U | (i < m_text.size() ? static_cast<unsigned char>(m_text[i]) : 0U);
+}
+
 } // namespace base

@@ -84,6 +84,20 @@ EditGrid* Screen::editGrid(const QString& name) {
     return grid;
 }
 
+Grid* Screen::table(const QString& name, const QString& spokenName, Grid::Picking picking, std::function<void()> picked,
+                    std::function<void()> opened) {
+    auto* grid = new Grid(name);
+    grid->setAccessibleName(spokenName);
+    grid->setPicking(picking);
+    const auto guardedAction = [this](const QString& what, std::function<void()> action) -> std::function<void()> {
+        if (!action) return {};
+        return [this, what, action = std::move(action)] { attempt(what, action); };
+    };
+    grid->pickChanged = guardedAction(tr("show the line"), std::move(picked));
+    grid->opened = guardedAction(tr("open the line"), std::move(opened));
+    return grid;
+}
+
 QPushButton* Screen::button(const QString& name, const QString& caption, std::function<void()> action) {
     auto* push = new QPushButton(caption);
     push->setObjectName(name);

@@ -151,10 +151,12 @@ int EditCells::columnCount(const QModelIndex& parent) const {
 }
 
 Qt::ItemFlags EditCells::flags(const QModelIndex& cell) const {
+    if (!has(cell)) return Qt::NoItemFlags;
     return QAbstractTableModel::flags(cell) | Qt::ItemIsEditable;
 }
 
 QVariant EditCells::data(const QModelIndex& cell, int role) const {
+    if (!has(cell)) return {};
     if (role == Qt::TextAlignmentRole) return alignment(column(cell));
     if (role == Qt::DisplayRole) return shownText(at(cell), column(cell));
     if (role == Qt::AccessibleTextRole) return QString(spokenName(cell) + ": " + shownText(at(cell), column(cell)));
@@ -162,7 +164,7 @@ QVariant EditCells::data(const QModelIndex& cell, int role) const {
 }
 
 QVariant EditCells::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation != Qt::Horizontal) return {};
+    if (orientation != Qt::Horizontal || section < 0 || section >= columnCount()) return {};
     if (role == Qt::TextAlignmentRole) return alignment(m_columns[place(section)]);
     if (role == Qt::DisplayRole) return m_columns[place(section)].head;
     return {};

@@ -69,6 +69,9 @@ public:
 
 private:
     static std::size_t place(int number) { return static_cast<std::size_t>(number); }
+    bool has(const QModelIndex& cell) const {
+        return cell.isValid() && cell.row() < rowCount() && cell.column() < columnCount();
+    }
     EditRow blankRow() const;
     bool isBlank(const EditRow& row) const;
     void append(std::size_t count = 1);

@@ -97,6 +97,10 @@ protected:
     /// A table that the user fills; give it its rows with `present`. It counts as an edit of the record unless it is
     /// made an `untrackedField`.
     EditGrid* editGrid(const QString& name);
+    /// A table to look at and pick from, in the body of the screen; give it its rows with `show`. picked: another line
+    /// was picked. opened: a double click or Enter on one; without it Enter is the default button's.
+    Grid* table(const QString& name, const QString& spokenName, Grid::Picking picking,
+                std::function<void()> picked = {}, std::function<void()> opened = {});
     /// A button that acts only when every field stands its check.
     QPushButton* button(const QString& name, const QString& caption, std::function<void()> action);
     /// A button that leaves or drops: no check stops it, and going to it raises no complaint.
