@@ -26,6 +26,8 @@ struct Client {
     std::string Name; ///< display name: title, initials, surname
     double BirthDate = base::blankDate;
     std::string IDNumber;
+
+    bool operator==(const Client&) const = default;
 };
 
 /// Interest on a balance between two days.
@@ -34,6 +36,8 @@ struct DailyBalance {
     std::int32_t StartDateDB = static_cast<std::int32_t>(base::blankDate);
     std::int32_t EndDateDB = static_cast<std::int32_t>(base::blankDate);
     float IntRate = 0;
+
+    bool operator==(const DailyBalance&) const = default;
 };
 
 /// Up to five debts and the loan that takes their place.
@@ -42,6 +46,8 @@ struct DebtConsolidation {
     double Loan1Int = 0, Loan2Int = 0, Loan3Int = 0, Loan4Int = 0, Loan5Int = 0;
     double ConInt = 0;
     std::int16_t ConPeriod = 0; ///< months
+
+    bool operator==(const DebtConsolidation&) const = default;
 };
 
 /// A quotation's inputs.
@@ -53,6 +59,8 @@ struct KwikQuotes {
     std::int16_t term = 0;     ///< years, months for a bank investment
     double GrowthRate = 0;
     double PaymentEscalation = 0;
+
+    bool operator==(const KwikQuotes&) const = default;
 };
 
 /// A level-payment loan with one unknown. Saved with the client.
@@ -78,6 +86,8 @@ struct NADeath {
     double DTHLastReview = base::blankDate;
     double DTHNextReview = base::blankDate;
     std::string DeathNotes;
+
+    bool operator==(const NADeath&) const = default;
 };
 
 /// Needs analysis for education.
@@ -89,6 +99,8 @@ struct NAEducation {
     double BankRate = 0;
     double EducLastReview = base::blankDate;
     double EducNextReview = base::blankDate;
+
+    bool operator==(const NAEducation&) const = default;
 };
 
 /// Needs analysis for retirement.
@@ -119,6 +131,8 @@ struct NADisability {
     double Disalib1 = 0, Disalib2 = 0, Disalib3 = 0, Disalib4 = 0, Disalib5 = 0;
     double DISALastReview = base::blankDate;
     double DISANextReview = base::blankDate;
+
+    bool operator==(const NADisability&) const = default;
 };
 
 /// Nominal against effective interest.
@@ -127,12 +141,16 @@ struct NominalEffective {
     double PeriodNomEff = 0;
     double NomRate = 0;
     double IntComp = 12; ///< compounding periods a year
+
+    bool operator==(const NominalEffective&) const = default;
 };
 
 struct Inflation {
     double PresCostInflation = 0;
     std::int16_t PeriodInflation = 0; ///< years
     double IntRateInflation = 0;
+
+    bool operator==(const Inflation&) const = default;
 };
 
 struct KwikTax {
@@ -140,6 +158,8 @@ struct KwikTax {
     double Age = 0;
     double YR9798 = 1;       ///< the tax year's option: 0 is February 2026, anything else February 2027
     double LastScaleTax = 0; ///< what the scale used last gave, rand a year; never stored
+
+    bool operator==(const KwikTax&) const = default;
 };
 
 struct InvestComparison {
@@ -149,11 +169,15 @@ struct InvestComparison {
     double MonTFAnn = 0, MonTAnn = 0;
     double FDAmount = 0, FXInt = 0;
     std::string FXDet;
+
+    bool operator==(const InvestComparison&) const = default;
 };
 
 /// What of a draw-down annuity is saved with the client.
 struct DrawDown {
     double LSAmt = 0, GRLA = 0, Midp = 0, Esc = 0;
+
+    bool operator==(const DrawDown&) const = default;
 };
 
 struct OffShore {
@@ -161,6 +185,8 @@ struct OffShore {
     std::int16_t OSPeriod = 0; ///< years
     double OFInvRate = 0, LInvRate = 0;
     std::int16_t OFTaxRate = 0, LTaxRate = 0, LCurrChange = 0;
+
+    bool operator==(const OffShore&) const = default;
 };
 
 /// Real rate of return, the old screen.
@@ -168,6 +194,8 @@ struct RRROld {
     double SingPremLump = 0, MonPrem = 0;
     float Period = 0;
     double AnnEsc = 0, MatVal = 0, TotPremPaid = 0, RRR = 0;
+
+    bool operator==(const RRROld&) const = default;
 };
 
 /// Real rate of return, the new screen: four phases of payments and of income, each with its escalation and a remark.
@@ -179,6 +207,8 @@ struct RRRNew {
     double IncEsc1 = 0, IncEsc2 = 0, IncEsc3 = 0, IncEsc4 = 0;
     std::string RegMpayDet1, RegMpayDet2, RegMpayDet3, RegMpayDet4;
     std::string RegMincDet1, RegMincDet2, RegMincDet3, RegMincDet4;
+
+    bool operator==(const RRRNew&) const = default;
 };
 
 /// Bond buster (BM) and bond analysis (BCM).
@@ -189,20 +219,28 @@ struct Bond {
     double VOLUN = 0;
     double BCMBP2 = 0;
     float BCMBP4 = 0;
+
+    bool operator==(const Bond&) const = default;
 };
 
 struct LifeOfCapital {
     double CAPI = 0, MINC = 0, GRTE = 0, TXRTE = 0, EXCLife = 0;
+
+    bool operator==(const LifeOfCapital&) const = default;
 };
 
 struct IncomeShares {
     double InvestAmount = 0, ISGrowthRate = 0, InitPercRequire = 0, AnnIncEsca = 0, EffTaxRate = 0;
     std::string AnnMonIncShare = "annually";
+
+    bool operator==(const IncomeShares&) const = default;
 };
 
 struct EstateDuty {
     double PropEstate = 0, PolInvEstate = 0, OtherEstate = 0, LessAccEstate = 0;
     double PropExecutor = 0, PolInvExecutor = 0, OtherExecutor = 0, LessAccExecutor = 0;
+
+    bool operator==(const EstateDuty&) const = default;
 };
 
 struct RATaxAdvantage {
@@ -210,6 +248,8 @@ struct RATaxAdvantage {
     std::int16_t RATaxPayerAge = 0;
     std::string RASurname;
     double TaxCGT = 0;
+
+    bool operator==(const RATaxAdvantage&) const = default;
 };
 
 /// The client's rows as this program last read or wrote them, by which a save knows that they are still the same.
@@ -218,6 +258,8 @@ struct ClientInFile {
     double BirthDate = base::blankDate;
     std::uint64_t contents = 0; ///< checksum of all that the file holds of the client
     store::FileState file;      ///< while the file is still in it, nothing in it has changed
+
+    bool operator==(const ClientInFile&) const = default;
 };
 
 /// Costs of a draw-down annuity as they stand after a reset; the screen reads its own settings over them.
@@ -229,12 +271,16 @@ struct DrawDownCosts {
     double TrailComm = 1;
     double MaxIncAllowed = 17.5; ///< percent of the portfolio a year
     double MinIncAllowed = 0;
+
+    bool operator==(const DrawDownCosts&) const = default;
 };
 
 /// A car and its travel claim. Kept for the session, never stored.
 struct CarAll {
     std::int16_t actualExpensesKept = 1; ///< option value
     std::int16_t employeeOption = 1;     ///< option value
+
+    bool operator==(const CarAll&) const = default;
 };
 
 /// Percentages and rand amounts that quotations start from, read from the one row of `MutualFunds` at start-up.
@@ -245,6 +291,8 @@ struct FundDefaults {
            RAADivBo = 0;
     double LumpSumPort = 0, AllocationPer = 0, AnnuityPer = 0;
     double UTCOM = 0, UTDiv = 0, UTAMFee = 0, UTAComPortVal = 0;
+
+    bool operator==(const FundDefaults&) const = default;
 };
 
 /// The one working record of the current client. One exists in the process; it is handed down by reference.
@@ -293,6 +341,8 @@ struct Assessment {
     std::string FinChargeState = "UP"; ///< "DOWN" while the loan screen shows its financial charges
 
     std::int16_t MaxNum() const { return static_cast<std::int16_t>(policies.size()); }
+
+    bool operator==(const Assessment&) const = default;
 };
 
 /// Trim(title) + " " + Trim(initials) + " " + Trim(surname). The whole is not trimmed: a lone surname keeps two blanks

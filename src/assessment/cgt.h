@@ -30,6 +30,8 @@ struct CGTAssetRecord {
     double CapGainUser = 0, PerShare = 0;
     std::int16_t ExclCOPSplit = 0; ///< 1 no split, 2 split
     double ProfitDisp = 0;
+
+    bool operator==(const CGTAssetRecord&) const = default;
 };
 
 /// One gain or loss from a trust or another source.
@@ -40,6 +42,8 @@ struct CGTTrustRow {
     double baseCost = 0;  ///< `Base Cost`
     double Proceeds = 0;
     std::string ExclCOPSplit; ///< the split of the screen's last column
+
+    bool operator==(const CGTTrustRow&) const = default;
 };
 
 struct CapitalGains {
@@ -49,6 +53,8 @@ struct CapitalGains {
     double ExclCOPAdditCapGainLocal = 0, ExclCOPAdditCapGainForeign = 0;
     double CarryOverCapGainPrev = 0;
     std::vector<CGTTrustRow> trustOther;
+
+    bool operator==(const CapitalGains&) const = default;
 };
 
 } // namespace assessment

@@ -36,6 +36,8 @@ struct Changed {
     bool any() const;
     /// All flags to 0 but `DDLivAnnChanged`.
     void clearAfterSave();
+
+    bool operator==(const Changed&) const = default;
 };
 
 } // namespace assessment

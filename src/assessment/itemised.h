@@ -14,6 +14,8 @@ struct ItemRow {
     double FromAge = 0;    ///< income lists: age or year
     double ToAge = 0;      ///< income lists: age or year
     double At = 0;         ///< timed lists: age or year (`OccurAge`, `MatAtAge`)
+
+    bool operator==(const ItemRow&) const = default;
 };
 
 /// What an itemised list keeps behind text and amount.
@@ -23,6 +25,8 @@ enum class ItemLayout { income, plain, occurrenceAge, maturityAge };
 struct ItemList {
     std::int16_t flag = 0;
     std::vector<ItemRow> rows;
+
+    bool operator==(const ItemList&) const = default;
 };
 
 /// Every itemised line of the three big analyses, each under the name of its flag without "Itemise".
@@ -37,6 +41,8 @@ struct Itemised {
     std::int16_t RNAPoliciesItemise = 0, DTHLifeAssItemise = 0, DISALifeAssItemise = 0;
     /// The policies pay a pension: a flag that is worked out afresh with them and never stored.
     std::int16_t NARAPolicyIncomeItemise = 0;
+
+    bool operator==(const Itemised&) const = default;
 };
 
 } // namespace assessment

@@ -13,6 +13,8 @@ struct LumpSums {
     std::array<double, years> RetrenchmentLumps{};
     std::array<double, years> RetireDeathAfter{};
     double FstLumpTaken = 0; ///< 1 resignation, 2 retrenchment, 3 retirement or death; else none
+
+    bool operator==(const LumpSums&) const = default;
 };
 
 } // namespace assessment

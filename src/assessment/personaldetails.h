@@ -34,6 +34,8 @@ struct PersonalDetails {
                                     base::blankDate, base::blankDate, base::blankDate, base::blankDate};
     std::int16_t Deceased = 0; ///< option 0 or 1
     std::string Description;
+
+    bool operator==(const PersonalDetails&) const = default;
 };
 
 } // namespace assessment
