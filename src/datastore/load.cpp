@@ -43,8 +43,7 @@ private:
         RowReader reader(m_database, table, m_key, &m_sum);
         if (!reader.next(record))
             throw store::Error(store::Number::noCurrentRecord, m_database.path().string(),
-                               "The client is no longer in the table " + table.name() + ".",
-                               "Open Browse again and choose another client.");
+                               "The client is no longer in the table " + table.name() + ".", "Choose another client.");
         return reader.key();
     }
 
@@ -81,18 +80,18 @@ void readClient(Assessment& record, store::Database& database, double key) { Cli
 
 void load(Assessment& record, const Paths& paths, double key) {
     Assessment blank = blankRecord(paths.DefaultDbPath);
+    store::Database database(paths.DataDbPath);
+    const store::Transaction oneView(database, store::Access::read);
+    readCPI(blank, database);
+    Assessment loaded = blank;
     try {
-        store::Database database(paths.DataDbPath);
-        const store::Transaction oneView(database, store::Access::read);
-        readCPI(blank, database);
-        Assessment loaded = blank;
         readClient(loaded, database, key);
-        loaded.ClientOnFile = 1;
-        record = std::move(loaded);
-    } catch (...) {
-        record = std::move(blank);
+    } catch (const store::Error& error) {
+        if (error.is(store::Number::noCurrentRecord)) record = std::move(blank);
         throw;
     }
+    loaded.ClientOnFile = 1;
+    record = std::move(loaded);
 }
 
 } // namespace datastore

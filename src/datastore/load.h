@@ -8,8 +8,8 @@ namespace datastore {
 
 /// Fills the record with the client of this key, blanked first; the client is then on file and unchanged.
 ///
-/// Error 3021 if the client has vanished; then, or on any other error while reading, the record is blank and not on
-/// file. Fields that an older file lacks or left Null read as their blanks.
+/// Error 3021 if the client has vanished; the record is then blank and not on file. On any other error, a file that is
+/// locked, missing or damaged, it is left as it was. Fields that an older file lacks or left Null read as their blanks.
 void load(assessment::Assessment& record, const Paths& paths, double key);
 
 /// What a file holds of the client of this key, put into a blank record; `inFile` tells it apart from any other state

@@ -40,6 +40,9 @@ public:
     /// Writes the client to the file; afterwards, if a new client was asked for, blanks it. Shows what went wrong and
     /// gives false.
     virtual bool Save() = 0;
+    /// Loads the client of this key in the place of the present one and shows him; asks about unsaved changes first.
+    /// False if it did not come to that: the user stopped it, or has been told why not.
+    virtual bool openClient(double key) = 0;
     /// Closes the client's screens, so that each fills itself afresh when it is opened next.
     virtual void CLEARLOAD() = 0;
     /// Goes over to the clients of another file, or to those of the same one after it was replaced: from here on

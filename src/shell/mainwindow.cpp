@@ -93,6 +93,7 @@ void MDIForm1::buildMenu() {
         else
             menuBar()->addAction(action);
     }
+    connect(menus["mnuFile"], &QMenu::aboutToShow, this, [this, file = menus["mnuFile"]] { listRecentClients(file); });
     m_actions["mnuViewToolBar"]->setCheckable(true);
     m_actions["mnuViewToolBar"]->setChecked(true);
 }
@@ -272,12 +273,6 @@ void MDIForm1::mnuNewFile_Click() {
     open("frmPersDet");
 }
 
-void MDIForm1::mnuBrowse_Click() {
-    bool failed = false;
-    const Changes changes = askAboutChanges("BROWSE ?", [&] { failed = !Save(); });
-    if (changes != Changes::kept && !failed) open("frmBrowse");
-}
-
 void MDIForm1::mnuSave_Click() {
     const BusyCursor busy;
     if (!base::trim(m_work.record.client.Name).empty()) {
@@ -292,6 +287,7 @@ void MDIForm1::mnuSave_Click() {
 bool MDIForm1::Save() {
     if (!allEditsCommitted()) return false;
     const auto saved = saveClient(m_work);
+    if (saved) rememberClient();
     if (saved == datastore::Saved::thenNew) NEWUNLOAD();
     if (saved) m_status->showSaved();
     return saved.has_value();

@@ -5,6 +5,7 @@
 #include <QMainWindow>
 #include <QPointer>
 #include <functional>
+#include <memory>
 
 #include "screenkit/workplace.h"
 
@@ -37,6 +38,7 @@ public:
     void announce(const QString& said) override;
     void enableToolbar(bool on) override;
     bool Save() override;
+    bool openClient(double key) override;
     void CLEARLOAD() override;
     void useClientDb(const std::filesystem::path& dataDbPath) override;
 
@@ -76,6 +78,13 @@ private:
     screenkit::Screen* activeScreen() const;
     /// False if the user would rather go on with what a screen holds apart from the record.
     bool allEditsCommitted() const;
+    /// The question before a browse; false if the user stays with the present client, or could not be saved.
+    bool settleChanges();
+    /// The same before a load, but for what was settled already.
+    bool mayBeReplaced();
+    void rememberClient() const;
+    void listRecentClients(QMenu* file);
+    void openRecent(const struct RecentClient& client);
     bool mayExit();
     /// The desktop logs the user out or shuts down: the same questions as at the close.
     void sessionEnds(QSessionManager& session);
@@ -86,6 +95,8 @@ private:
     StatusLine* m_status;
     QToolBar* m_toolbar = nullptr;
     QHash<QString, QAction*> m_actions;
+    QList<QAction*> m_recent;                          ///< the File menu's lines of clients opened last
+    std::unique_ptr<assessment::Assessment> m_decided; ///< the record as Browse was opened, its changes settled
     QPointer<QMdiSubWindow> m_front; ///< the child screen last in front, also while another program is
     int m_toolbarHolders = 0;        ///< open screens that want the toolbar off
     bool m_exitWithoutAsking = false;

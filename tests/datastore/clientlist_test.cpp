@@ -46,6 +46,58 @@ TEST_F(ClientListTest, ReadsAFileWithoutDescriptionsAndAnEmptyOne) {
     EXPECT_EQ(errorOf([&] { datastore::readClientList(file); }), 3265);
 }
 
+TEST_F(ClientListTest, FindsEveryWordInAnyOrderInWhatIsKnownOfAClient) {
+    folder.run("Data.Mdb",
+               "INSERT INTO PersDetails(DCLNO,CLName,CFName,CInit,Name,IDNumber,CTelWork,CTelHome,CCell,CFaxWork,"
+               "CFaxHome,CEMail,Description) VALUES "
+               "(1,'Botha','Jan','J.P.','Mr J.P. Botha','5502285009087','012 345-6789','(021) 555 0000','0825550101',"
+               "'011-999-1111','0119992222','jan@botha.example','farm'),"
+               "(2,'Botha','Sanet','S','Mrs S Botha','600101 0001 08 3','','','','','','','farm of Jan'),"
+               "(3,'Êksteen','','K L','Mej K L Êksteen',NULL,NULL,NULL,'+27 82 555 0101',NULL,NULL,NULL,NULL)");
+    const auto clients = datastore::readClientList(file);
+    EXPECT_EQ(clients[0].firstNames + "|" + clients[2].firstNames, "Jan|K L");
+    const datastore::ClientSearch search(clients);
+    const struct {
+        const char *words, *found;
+    } cases[] = {
+        {"", "123"},
+        {" \t ", "123"},
+        {"botha jan", "12"},
+        {"JAN BOTHA @", "1"},
+        {"farm of", "2"},
+        {"sanet farm", "2"},
+        {"jan eksteen", ""},
+        {"êkst", "3"},
+        {"5502285", "1"},
+        {"6001010001083", "2"},
+        {"0123456789", "1"},
+        {"012 345 6789", "1"},
+        {"012-345-6789", "1"},
+        {"0215550000", "1"},
+        {"082-555-0101", "1"},
+        {"2782555", "3"},
+        {"+27", "3"},
+        {"jp", "1"},
+        {"J.P. botha", "1"},
+        {"k.l.", "3"},
+        {"9991111", "1"},
+        {"0119992222", "1"},
+        {"jan@botha.example", "1"},
+        {"mrs", "2"},
+        {"%", ""},
+        {"nobody", ""},
+        {"082 jan farm botha 5502", "1"},
+    };
+    for (const auto& [words, expected] : cases) {
+        std::string found;
+        for (const std::size_t place : search.find(words))
+            found += std::to_string(static_cast<int>(clients[place].DCLNO));
+        EXPECT_EQ(found, expected) << words;
+    }
+    EXPECT_EQ(datastore::readClientLine(file, 3)->Name, "Mej K L Êksteen");
+    EXPECT_FALSE(datastore::readClientLine(file, 4));
+}
+
 TEST(Fold, DropsCaseAndAccentsOfLatinLettersOnly) {
     const std::pair<const char*, const char*> cases[] = {
         {"ÊKSTEEN", "eksteen"},

@@ -88,9 +88,7 @@ TEST_F(SaveFaultTest, AFileThatAnotherProgramHolds) {
         EXPECT_EQ(errorOf([&] { Save(record, file); }), 3356);
         Assessment reader = record;
         EXPECT_EQ(errorOf([&] { datastore::load(reader, folder.paths(), 1); }), 3356);
-        EXPECT_EQ(reader.ClientOnFile, 0); // the blanking came first
-        EXPECT_EQ(reader.client.Name, "");
-        EXPECT_EQ(reader.GRINC, 0.5);
+        EXPECT_TRUE(reader == record); // the client who was loaded still is
     }
     EXPECT_EQ(record.ClientChanged, 1);
     EXPECT_EQ(Save(record, file), datastore::Saved::written);

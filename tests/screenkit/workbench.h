@@ -20,6 +20,7 @@ public:
     void announce(const QString& said) override { announced << said; }
     void enableToolbar(bool on) override { toolbar = on; }
     bool Save() override { return false; }
+    bool openClient(double) override { return false; }
     void CLEARLOAD() override {}
     void useClientDb(const std::filesystem::path&) override {}
 

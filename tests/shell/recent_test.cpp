@@ -1,0 +1,85 @@
+#include <gtest/gtest.h>
+
+#include <QMenu>
+
+#include "shell/recentclients.h"
+#include "shell/running_program.h"
+
+namespace {
+
+using screenkit::Answer;
+using shelltest::RunningProgram;
+
+class Recent : public testing::Test {
+protected:
+    /// The File menu's lines for clients, as it opens.
+    QStringList lines() {
+        auto* file = run.window().findChild<QMenu*>("mnuFile");
+        emit file->aboutToShow();
+        QStringList all;
+        for (const QAction* item : file->actions())
+            if (item->objectName().startsWith("mnuRecent")) all << item->text();
+        return all;
+    }
+    void add(const QString& surname) {
+        run.saveClient(surname);
+        run.menu("mnuNewFile");
+    }
+    void choose(const char* line) {
+        lines();
+        run.menu(line);
+    }
+    RunningProgram run;
+};
+
+TEST_F(Recent, TheFileMenuListsTheFiveOpenedLastAboveExit) {
+    EXPECT_EQ(lines(), QStringList());
+    for (const char* name : {"Adams", "Botha & Son", "Cele", "Dube", "Evans", "Fourie"})
+        add(name);
+    EXPECT_EQ(lines(), QStringList({"&1   Fourie", "&2   Evans", "&3   Dube", "&4   Cele", "&5   Botha && Son"})
+                           .replaceInStrings("   ", " "));
+    choose("mnuRecent5");
+    EXPECT_EQ(run.front()->objectName(), "frmPersDet");
+    EXPECT_EQ(run.record().details.CLName, "Botha & Son");
+    run.type("txtCLName", "Botha");
+    run.menu("mnuSave");
+    EXPECT_EQ(lines().first(), "&1 Botha") << "a client renamed here is still the same";
+    const auto items = run.window().findChild<QMenu*>("mnuFile")->actions();
+    EXPECT_EQ(items.last()->objectName(), "mnuExit");
+    EXPECT_TRUE(items[items.size() - 2]->isSeparator());
+
+    run.type("txtDescription", "new");
+    run.desk.expect(Answer::cancel);
+    choose("mnuRecent2");
+    EXPECT_EQ(run.desk.last().title, "BROWSE ?");
+    EXPECT_EQ(run.record().details.Description, "new");
+    run.menu("mnuSave");
+    run.menu("mnuBrowse");
+    run.enter("txtSearch", "Adams");
+    run.key(Qt::Key_Return);
+    EXPECT_EQ(lines().first(), "&1 Adams");
+    EXPECT_EQ(shell::RecentClients("/elsewhere/Data.Mdb").list().size(), 0) << "another file's clients are not these";
+}
+
+TEST_F(Recent, AKeyThatHasGoneToAnotherIsDroppedWithAWord) {
+    for (const char* name : {"Adams", "Botha", "Cele"})
+        add(name);
+    run.inClients("UPDATE [PersDetails] SET [Name]='Mr Stranger', [BirthDate]=22000 WHERE [DCLNO]=1");
+    run.inClients("UPDATE [PersDetails] SET [BirthDate]=22000 WHERE [DCLNO]=2");
+    run.inClients("DELETE FROM [PersDetails] WHERE [DCLNO]=3");
+    const struct {
+        const char *line, *says;
+    } cases[] = {{"mnuRecent3", "Client 1 of the file is now Mr Stranger, born 25/03/1960."},
+                 {"mnuRecent2", "Client 2 of the file is now   Botha, born 25/03/1960."},
+                 {"mnuRecent1", "Client 3 is no longer in the file."}};
+    int left = 3;
+    for (const auto& [line, says] : cases) {
+        run.desk.expect(Answer::ok);
+        choose(line);
+        EXPECT_TRUE(run.desk.last().text.contains(says)) << run.desk.last().text.toStdString();
+        EXPECT_EQ(run.record().ClientOnFile, 0);
+        EXPECT_EQ(lines().size(), --left);
+    }
+}
+
+} // namespace
