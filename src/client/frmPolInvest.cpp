@@ -1,5 +1,6 @@
 #include "client/frmPolInvest.h"
 
+#include <QGroupBox>
 #include <QTabWidget>
 #include <algorithm>
 #include <limits>
@@ -64,7 +65,9 @@ frmPolInvest::frmPolInvest(Workplace& workplace)
     m_pages = tabs("tabPolInvest", {{"Polic&y", policyPage()},
                                     {"D&eath", deathPage()},
                                     {"Disa&bility and trauma", disabilityPage()},
-                                    {"Retirement and in&vestments", retirementPage()}});
+                                    {"Retirement and in&vestments", retirementPage()},
+                                    {"All policies", listPage()}});
+    connect(m_pages, &QTabWidget::currentChanged, this, [this] { fillList(); });
     body(column({m_pages, valuesGroup(), buttons()}));
     buildCPIPanel();
     buildPrintPanel();
@@ -124,6 +127,7 @@ void frmPolInvest::filled() {
     showPlace();
     m_other->setEnabled(policy().DeathBenPerson == 3);
     showValues();
+    if (!m_inList) fillList();
 }
 
 void frmPolInvest::showPlace() {
@@ -140,6 +144,17 @@ void frmPolInvest::showValues() {
     m_values = valuesAtRetirement(policy(), m_record.retirement.AgeRetiment);
     for (NumberField* field : m_valueFields)
         field->fill();
+    showName();
+    showRemarks();
+}
+
+void frmPolInvest::showName() {
+    constexpr int readable = 90; // characters: a longer name would widen the window
+    const std::string entered = policyName(policy());
+    const QString name = entered.empty() ? tr("not named yet") : QString::fromStdString(entered);
+    const QString title = tr("%1 of %2:  %3").arg(m_record.CurPolicy).arg(count()).arg(name);
+    const QString shown = fontMetrics().elidedText(title, Qt::ElideRight, fontMetrics().averageCharWidth() * readable);
+    m_atRetirement->setTitle(tr("%1  -  at retirement").arg(QString(shown).replace('&', "&&")));
 }
 
 void frmPolInvest::lockPremiums(bool paidUp) {

@@ -1,14 +1,18 @@
 #pragma once
 
 #include "assessment/assessment.h"
+#include "client/policyremarks.h"
 #include "client/policyreport.h"
 #include "client/policyschedule.h"
+#include "screenkit/remark.h"
 #include "screenkit/screen.h"
+
+class QGroupBox;
 
 namespace client {
 
-/// The client's schedule of policies and investments, one record at a time, with what each is worth at retirement and
-/// the two reports on them all.
+/// The client's schedule of policies and investments, one record at a time, with what each is worth at retirement, a
+/// list of them all with its totals, and the two reports.
 class frmPolInvest : public screenkit::Screen {
     Q_OBJECT
 public:
@@ -23,6 +27,7 @@ private:
     screenkit::Item deathPage();
     screenkit::Item disabilityPage();
     screenkit::Item retirementPage();
+    screenkit::Item listPage();
     screenkit::Item valuesGroup();
     QLayout* buttons();
     void buildCPIPanel();
@@ -39,6 +44,9 @@ private:
     /// A value at an age and its escalation from there, on one line, and the box that takes it for a purpose.
     QLayout* valueAtAge(const QString& benefit, const QString& value, const QString& age, const QString& escalation,
                         const QString& escalationCaption, QWidget* taken = nullptr);
+    /// A figure with room beside it for what `policyRemarks` says of it, or that room alone.
+    QLayout* remarked(screenkit::NumberField* field);
+    screenkit::Remark* remarkOn(screenkit::NumberField* field);
     screenkit::NumberField* valueField(const QString& name, double& value);
     screenkit::Bound<double> place(const QString& column);
 
@@ -51,6 +59,10 @@ private:
     void remove();
     void showPlace();
     void showValues();
+    void showName();
+    void showRemarks();
+    void fillList();
+    void goToPicked();
     void lockPremiums(bool paidUp);
     void calculate();
     void print(screenkit::Destination destination);
@@ -59,10 +71,18 @@ private:
     ValuesAtRetirement m_values;
     double m_typedCPI = 0;
     int m_printList = 1, m_printSchedule = 0, m_includeNotes = 0;
+    struct Remarked {
+        screenkit::NumberField* field;
+        screenkit::Remark* label;
+    };
+    std::vector<Remarked> m_remarks;
     std::vector<screenkit::NumberField*> m_valueFields;
     std::vector<QWidget*> m_premiums; ///< what a paid-up policy locks
     screenkit::TextField *m_type = nullptr, *m_other = nullptr;
     QTabWidget* m_pages = nullptr;
+    screenkit::Grid* m_list = nullptr;
+    bool m_inList = false;               ///< a line of the list was picked, and its record is being shown
+    QGroupBox* m_atRetirement = nullptr; ///< below every page; its title names the record
     QPushButton *m_back = nullptr, *m_forward = nullptr;
     std::function<void()> m_openCPI;
     screenkit::PrintPanel* m_printPanel = nullptr;

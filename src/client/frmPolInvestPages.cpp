@@ -1,3 +1,4 @@
+#include <QGroupBox>
 #include <QTabWidget>
 #include <limits>
 
@@ -56,6 +57,13 @@ NumberField* frmPolInvest::amount(const QString& column, const QString& spoken) 
     return figure(column, notNegative, spoken);
 }
 
+QLayout* frmPolInvest::remarked(NumberField* field) { return row({field, Item(remarkOn(field), 1)}); }
+
+Remark* frmPolInvest::remarkOn(NumberField* field) {
+    m_remarks.push_back({field, new Remark("lblRemark" + field->objectName().mid(3))});
+    return m_remarks.back().label;
+}
+
 NumberField* frmPolInvest::age(const QString& column, const QString& spoken) { return figure(column, ages, spoken); }
 
 NumberField* frmPolInvest::years(const QString& column, const QString& spoken) { return figure(column, terms, spoken); }
@@ -110,8 +118,8 @@ Item frmPolInvest::policyPage() {
 }
 
 Item frmPolInvest::deathPage() {
-    auto* benefit = form({{"Death benefit", amount("DeathBen")},
-                          {"&Surrender value", amount("DeathBenSurrVal")},
+    auto* benefit = form({{"Death benefit", remarked(amount("DeathBen"))},
+                          {"&Surrender value", remarked(amount("DeathBenSurrVal"))},
                           {"Loan a&gainst", amount("DeathBenLoanAgainst")},
                           {"A&mount ceded", amount("DeathBenAmtCeded")},
                           {"Ceded to", line("DeathBenCededTo")},
@@ -122,7 +130,7 @@ Item frmPolInvest::deathPage() {
         "optDeathBen", persons, {[at] { return static_cast<int>(at.get()); }, at.set},
         [this](int chosen) { m_other->setEnabled(chosen == 3); }, Qt::Horizontal);
     m_other = line("DeathBenOther");
-    auto* income = form({{"Mo&nthly", amount("DeathBenMonthly", "Monthly on death")},
+    auto* income = form({{"Mo&nthly", remarked(amount("DeathBenMonthly", "Monthly on death"))},
                          {"Escalation", rate("DeathBenMonEsc", "Escalation on death"), "%"},
                          {"for", years("DeathBenYears", "Years of income on death"), "years"}});
     auto* cash = form({{"Cash val&ue", valueAtAge("Cash value", "DeathBenCashVal", "DeathBenCashValAge",
@@ -140,10 +148,10 @@ Item frmPolInvest::disabilityPage() {
     auto* disability = form({{"Disability lump sum", amount("DisabilLumpSum")},
                              {"&Monthly", amount("DisabilMonthly", "Disability, monthly")},
                              {"e&sc at ", rate("DisabilMonEscAt", "Disability, escalation"), "%"}});
-    auto* trauma = form({{"Trauma/Dread disease L&ump sum", amount("TraumlLumpSum")},
-                         {"Mo&nthly", amount("TraumMonthly", "Trauma, monthly")},
+    auto* trauma = form({{"Trauma/Dread disease L&ump sum", remarked(amount("TraumlLumpSum"))},
+                         {"Mo&nthly", remarked(amount("TraumMonthly", "Trauma, monthly"))},
                          {"esc at ", rate("TraumMonEscAt", "Trauma, escalation"), "%"}});
-    auto* income = form({{"Monthly", amount("IncProMonthly", "Income protection, monthly")},
+    auto* income = form({{"Monthly", remarked(amount("IncProMonthly", "Income protection, monthly"))},
                          {"esc at ", rate("IncProMonEscAt", "Income protection, escalation"), "%"},
                          {"for", years("IncProYears", "Income protection, years"), "years"}});
     return column({row({Item(group("fraDisabil", "Disability", disability), 1),
@@ -162,18 +170,21 @@ Item frmPolInvest::retirementPage() {
           row({amount("RBMonAvaible", "Monthly pension"),
                labelled("esc at ", rate("RBMonAvaibleEscFor", "Monthly pension, escalation")), note("%"), spring()})}});
     // What a value is taken for stands beside it: below it the page would be higher than the main window as it opens.
-    auto* useEndowment = tick("UseEndowEMVAtRet", "Use maturity value at retirement");
-    auto* takeCurrent = tick("InvBensTakeAtDisa", "Take current value on disability");
-    auto* takeMaturity = tick("InvBensTakeFinValAtRet", "Take maturity value at retirement");
+    auto* useEndowment = tick("UseEndowEMVAtRet", "Use at retirement");
+    auto* takeCurrent = tick("InvBensTakeAtDisa", "Take on disability");
+    auto* takeMaturity = tick("InvBensTakeFinValAtRet", "Take at retirement");
     for (CheckField* box : {useEndowment, takeCurrent, takeMaturity}) // their squares stand below one another
         box->setMinimumWidth(takeMaturity->sizeHint().width());
     auto* endowment =
         form({{"E&stimated maturity value", valueAtAge("Estimated maturity value", "EndowEMV", "EndowEMVAge",
                                                        "EndowEMVEscFwd", forward, useEndowment)}});
+    auto* current = amount("InvBensCurVal");
+    auto* loan = amount("InvBensCurValLoanAgainst");
+    auto* onCurrent = remarkOn(current);
+    m_remarks.push_back({loan, onCurrent}); // the line has room for one
     auto* investment =
         form({{"Current value of investment",
-               row({amount("InvBensCurVal"), labelled("Loan a&gainst", amount("InvBensCurValLoanAgainst")), spring(),
-                    takeCurrent})},
+               row({current, labelled("Loan a&gainst", loan), Item(onCurrent, 1), takeCurrent})},
               {"Maturity value L/Sum", valueAtAge("Maturity value", "InvBensMatValLS", "InvBensMatValLSAtAge",
                                                   "InvBensMatValLSEscAt", "Escalating at   ", takeMaturity)}});
     return column({group("fraRetirement", "Retirement annuity, pension and provident fund", fund),
@@ -186,7 +197,8 @@ QLayout* frmPolInvest::valueAtAge(const QString& benefit, const QString& value, 
     auto* sum = amount(value, benefit);
     auto* when = age(atAge, benefit + ", age");
     auto* percentage = rate(escalation, benefit + ", escalation");
-    auto* line = row({sum, labelled("at age ", when), labelled(escalationCaption, percentage), note("%"), spring()});
+    auto* line = row(
+        {sum, labelled("at age ", when), labelled(escalationCaption, percentage), note("%"), Item(remarkOn(sum), 1)});
     if (taken != nullptr) line->addWidget(taken);
     return line;
 }
@@ -205,7 +217,8 @@ Item frmPolInvest::valuesGroup() {
                         spring(),
                         form({{"Endowment", valueField("numEndowEMVAtRet", m_values.endowment)},
                               {"Investment", valueField("numInvBensAtRet", m_values.investment)}})});
-    return group("fraAtRetirement", "At retirement", values);
+    m_atRetirement = qobject_cast<QGroupBox*>(group("fraAtRetirement", "At retirement", values));
+    return m_atRetirement;
 }
 
 } // namespace client

@@ -25,10 +25,8 @@ double total(const Policies& policies, double Policy::*figure) {
 }
 
 double total(const std::vector<ValuesAtRetirement>& values) {
-    return std::accumulate(values.begin(), values.end(), 0.0, [](double sum, const ValuesAtRetirement& value) {
-        return sum + value.cashValue + value.raMaturity + value.pensionLump + value.providentLump + value.endowment +
-               value.investment;
-    });
+    return std::accumulate(values.begin(), values.end(), 0.0,
+                           [](double sum, const ValuesAtRetirement& value) { return sum + value.capital(); });
 }
 
 /// As its cell is printed: cents that no reader sees must not make a column add up to another total.

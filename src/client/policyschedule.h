@@ -15,6 +15,9 @@ struct ValuesAtRetirement {
     double monthlyIncome = 0; ///< the pensions of all records up to this one, a month; 0 for a record without
     double endowment = 0;
     double investment = 0;
+
+    /// What it adds to the capital at retirement: all but the income.
+    double capital() const { return cashValue + raMaturity + pensionLump + providentLump + endowment + investment; }
 };
 
 /// What one record comes to at an age of retirement; its `monthlyIncome` is its own pension alone.

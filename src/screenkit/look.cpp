@@ -72,12 +72,15 @@ void setState(QLineEdit* line, const char* name, int state) {
     colour(line);
 }
 
-/// In place of the line's own tip, which comes back when there is nothing to say.
+/// In place of the line's own tip, which comes back when there is nothing to say. What a screen says of it stays then.
 void say(QLineEdit* line, const QString& words) {
     constexpr const char* ownTip = "ownTip";
     if (!line->property(ownTip).isValid()) line->setProperty(ownTip, line->toolTip());
     line->setToolTip(words.isEmpty() ? line->property(ownTip).toString() : words);
-    line->setAccessibleDescription(words);
+    constexpr const char* saidLast = "saidLast";
+    const bool isOurs = line->accessibleDescription() == line->property(saidLast).toString();
+    if (!words.isEmpty() || isOurs) line->setAccessibleDescription(words);
+    line->setProperty(saidLast, words);
 }
 
 /// Fusion without pictures on the buttons of boxes, since the toolkit's own are of another style than ours, and with a

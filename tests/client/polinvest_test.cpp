@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <QGroupBox>
+#include <QLabel>
 #include <QRadioButton>
 #include <algorithm>
 
@@ -250,6 +252,78 @@ TEST_F(PolInvest, CalculateFoldsTheScheduleAndSettlesALoanAgainstACession) {
     changed() = 0;
     run.click("cmdCalculatePolInv"); // nothing new for the file
     EXPECT_EQ(changed(), 0);
+}
+
+TEST_F(PolInvest, TheListShowsAllWithTotalsAndGoesToTheOnePicked) {
+    run.record().retirement.AgeRetiment = 60;
+    open(3);
+    policy(1).UnderInst = "Old Life";
+    policy(1).PremInvAmtMonthly = 100.25;
+    policy(2).PolOwner = "Anna";
+    policy(2).DeathBen = 5000;
+    policy(3).RBEMV = 700;
+    policy(3).RBEMVAge = 60;
+    policy(1).RBEMV = 30;
+    policy(1).RBEMVAge = 59;
+    policy(3).DisabilLumpSum = 1, policy(3).TraumlLumpSum = 2, policy(1).InvBensCurVal = 3;
+    run.click("cmdForward");
+    auto* list = run.control<screenkit::Grid>("grdPolicies");
+    const auto rows = [&] {
+        std::string all;
+        for (int row = 0; row < list->model()->rowCount(); ++row) {
+            for (int column = 0; column < list->model()->columnCount(); ++column)
+                all += list->model()->index(row, column).data().toString().toStdString() + "|";
+            all += "\n";
+        }
+        return all;
+    };
+    RunningProgram::turnTo(list);
+    const std::string shown = "1|1, Old Life||100.25|0.00|0.00|0.00|3.00|30.00|\n2|2|Anna|0.00|5 000.00|0.00|0.00|0.00|"
+                              "0.00|\n3|3||0.00|0.00|1.00|2.00|0.00|700.00|\n|Total||100.25|5 000.00|1.00|2.00|3.00|"
+                              "730.00|\n";
+    EXPECT_EQ(rows(), shown);
+    EXPECT_EQ(list->picked(), std::vector<std::size_t>{1});
+    const auto name = [&] { return run.control<QGroupBox>("fraAtRetirement")->title().toStdString(); };
+    EXPECT_EQ(name(), "2 of 3:  2  -  at retirement");
+    list->sortByHead(8);
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(list->model()->index(1, 1)).center());
+    EXPECT_EQ(name(), "1 of 3:  1, Old Life  -  at retirement");
+    EXPECT_EQ(run.front()->windowTitle(), "Policies & Investments. : Num. 1 of 3");
+    list->setFocus();
+    run.key(Qt::Key_Return);
+    EXPECT_EQ(RunningProgram::focused(), "txtPolInvType");
+    EXPECT_EQ(run.shown("txtPolInvType"), "1");
+    EXPECT_EQ(changed(), 0) << "to look is not to change";
+    RunningProgram::turnTo(list);
+    run.desk.expect(Answer::yes);
+    run.click("cmdDelete");
+    EXPECT_EQ(list->model()->rowCount(), 3);
+    EXPECT_EQ(name(), "1 of 2:  2  -  at retirement");
+    run.click("cmdAdd");
+    EXPECT_EQ(name(), "3 of 3:  not named yet  -  at retirement");
+}
+
+TEST_F(PolInvest, AValueThatCountsNothingSaysSoBesideItAsItIsTyped) {
+    open(2);
+    run.record().retirement.AgeRetiment = 60;
+    const auto remark = [&](const char* column) {
+        return run.control<QLabel>(QString("lblRemark") + column)->text().toStdString();
+    };
+    run.type("numRBEMV", "1000");
+    EXPECT_EQ(remark("RBEMV"), "Counts nothing: no age");
+    EXPECT_EQ(run.control("numRBEMV")->accessibleDescription(), "Counts nothing: no age");
+    run.type("numRBEMVAge", "60");
+    EXPECT_EQ(remark("RBEMV"), "");
+    run.type("numInvBensCurVal", "5");
+    run.type("numInvBensCurValLoanAgainst", "2");
+    EXPECT_EQ(remark("InvBensCurVal"), "No tick: counts on death only\nLoan counts nothing: no tick");
+    run.click("chkInvBensTakeAtDisa");
+    EXPECT_EQ(remark("InvBensCurVal"), "");
+    run.type("numDeathBen", "5");
+    choose("optDeathBen(2)");
+    EXPECT_EQ(remark("DeathBen"), "Counts nothing: not for estate or spouse");
+    run.click("cmdForward");
+    EXPECT_EQ(remark("DeathBen"), "");
 }
 
 TEST_F(PolInvest, TheCPIIsStoredForThePracticeWhenConfirmed) {

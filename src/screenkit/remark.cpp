@@ -1,0 +1,16 @@
+#include "screenkit/remark.h"
+
+namespace screenkit {
+
+Remark::Remark(const QString& name) {
+    constexpr double small = 0.85;
+    setObjectName(name);
+    setTextFormat(Qt::PlainText);
+    setWordWrap(true);
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored); // a line of fields is no higher for it
+    QFont font = this->font();
+    font.setPointSizeF(font.pointSizeF() * small);
+    setFont(font);
+}
+
+} // namespace screenkit
