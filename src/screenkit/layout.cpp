@@ -27,8 +27,16 @@ QWidget* firstWidget(const Item& item) {
     return first != nullptr ? first->widget() : nullptr;
 }
 
+/// The blanks that some captions are filled up with, and brackets that open or close in another label, are not said.
+void setCaption(QLabel* label, const QString& text) {
+    if (label->text() == text) return; // a name set again would be said again
+    label->setText(text);
+    label->setAccessibleName(spokenLabel(text));
+}
+
 QLabel* buddyLabel(const QString& text, QWidget* field) {
-    auto* label = new QLabel(text);
+    auto* label = new QLabel;
+    setCaption(label, text);
     if (field == nullptr) return label;
     label->setBuddy(field);
     if (field->accessibleName().isEmpty()) field->setAccessibleName(spokenLabel(text));
@@ -165,8 +173,8 @@ void setRowVisible(QWidget* field, bool visible) {
 
 void setRowLabel(QWidget* field, const QString& label) {
     const QList<QLabel*> labels = labelsOf(field);
-    if (!labels.isEmpty()) labels.front()->setText(label); // a unit comes after it
-    field->setAccessibleName(spokenLabel(label));
+    if (!labels.isEmpty()) setCaption(labels.front(), label); // a unit comes after it
+    if (field->accessibleName() != spokenLabel(label)) field->setAccessibleName(spokenLabel(label));
 }
 
 QWidget* group(const QString& name, const QString& title, Item content) {
@@ -197,7 +205,9 @@ void makeRoom(QWidget* screen, const QSize& wanted) {
 QString spokenLabel(const QString& label) {
     QString spoken = label;
     spoken.replace("&&", QString(QChar(1))).remove('&').replace(QChar(1), "&");
-    return spoken.simplified().remove(QRegularExpression("[\\s:(]+$"));
+    spoken = spoken.simplified().remove(QRegularExpression("[\\s:(]+$"));
+    if (spoken.endsWith(')') && !spoken.contains('(')) spoken.chop(1);
+    return spoken;
 }
 
 } // namespace screenkit

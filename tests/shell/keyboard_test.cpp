@@ -149,6 +149,11 @@ bool isWholeWords(const QString& name) {
 TEST_P(Keyboard, AScreenReaderSaysEachControlInWholeWords) {
     openPanel();
     onEachPage([&](const std::string& page) {
+        for (auto* label : scope()->findChildren<QLabel*>()) {
+            const bool said = label->isVisible() && label->buddy() != nullptr;
+            const QString name = said ? spoken(label) : QString();
+            EXPECT_TRUE(name == name.simplified() && !name.contains("%)")) << name.toStdString();
+        }
         for (auto* widget : scope()->findChildren<QWidget*>()) {
             const auto* button = qobject_cast<QAbstractButton*>(widget);
             const bool said = button != nullptr || isEntry(widget) || qobject_cast<QLineEdit*>(widget) != nullptr ||
