@@ -172,7 +172,8 @@ TEST_F(SaveFaultTest, AProgramKilledInTheMiddle) {
     std::mt19937 random(20260301);
     std::uniform_int_distribution<long> moment(0, 3 * timeOfOneSave(record, file));
     double highest = 0;
-    for (int round = 0; round < 30; ++round) {
+    // On a busy machine the first rounds may all be killed before their save: more follow until one has got through.
+    for (int round = 0; round < 30 || (highest <= 43 && round < 200); ++round) {
         saveAndKill(record, file, moment(random));
         Assessment found;
         // The next start asks nothing and finds one save, whole.
