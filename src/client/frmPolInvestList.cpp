@@ -29,7 +29,7 @@ constexpr Amount amounts[] = {
 constexpr std::size_t textColumns = 3;
 
 std::vector<GridColumn> columns() {
-    constexpr int figures = 13, number = 5, owner = 10;
+    constexpr int figures = 12, number = 3, owner = 8;
     std::vector<GridColumn> all{{"Num.", "0", GridColumn::Kind::figures, number},
                                 GridColumn::text("Policy/Investment"),
                                 GridColumn::text("Owner", owner)};
@@ -58,6 +58,7 @@ Item frmPolInvest::listPage() {
         });
     m_list->setSortable(true);
     m_list->setVisibleLines(8);
+    m_list->show(columns(), GridRows()); // the window opens as wide as they are
     return column({m_list});
 }
 

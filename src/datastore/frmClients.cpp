@@ -32,8 +32,7 @@ const std::vector<Column>& columns() {
         {GridColumn::text("First names", 14), [](const ClientLine& c) { return words(c.firstNames); }},
         {GridColumn::text("ID number", 15), [](const ClientLine& c) { return words(c.IDNumber); }},
         {GridColumn::date("Date of birth"), [](const ClientLine& c) { return dateIf(c.BirthDate > 0, c.BirthDate); }},
-        {GridColumn::date("Review date"),
-         [](const ClientLine& c) { return dateIf(base::isShownOnScreen(c.ReviewDate), c.ReviewDate); }},
+        {GridColumn::date("Review date"), [](const ClientLine& c) { return dateIf(c.ReviewDate > 0, c.ReviewDate); }},
         {GridColumn::text("Description"), [](const ClientLine& c) { return words(c.Description); }},
     };
     return all;

@@ -200,12 +200,12 @@ void Grid::pickFirst() {
 // ---- keys
 
 QSize Grid::sizeHint() const {
-    constexpr int readable = 20; // characters of a column that shares the room
+    constexpr int readable = 26; // characters of a column that shares the room
     const int lines = look::lineHeight(this) * 3 / 2 * (m_visibleLines + 1); // and a head
     int characters = 0;
     for (const GridColumn& column : m_list->columns())
         characters += column.characters == 0 ? readable : column.characters + 2;
-    return {fontMetrics().averageCharWidth() * std::clamp(characters, 80, 110), lines};
+    return {fontMetrics().averageCharWidth() * std::clamp(characters, 80, 130), lines};
 }
 
 QModelIndex Grid::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {

@@ -7,10 +7,12 @@ Remark::Remark(const QString& name) {
     setObjectName(name);
     setTextFormat(Qt::PlainText);
     setWordWrap(true);
-    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored); // a line of fields is no higher for it
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored); // a line of fields is no higher for it
     QFont font = this->font();
     font.setPointSizeF(font.pointSizeF() * small);
     setFont(font);
 }
+
+QSize Remark::sizeHint() const { return {fontMetrics().averageCharWidth() * 16, 0}; }
 
 } // namespace screenkit

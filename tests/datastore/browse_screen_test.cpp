@@ -170,6 +170,14 @@ TEST_F(Browse, HeadsSortTheColumnsAndTheChosenClientStaysChosen) {
     QTest::mouseClick(heads->viewport(), Qt::LeftButton, {}, born);
     EXPECT_EQ(names(), "O'Brien|Êksteen|<b>&\"x\"|eksteen|Ṱhoho-Nḓou");
     EXPECT_EQ(run.shown("txtName"), "Prof  Ṱhoho-Nḓou");
+    run.inClients(
+        "UPDATE [PersDetails] SET [ReviewDate]=CASE [DCLNO] WHEN 1 THEN 46200 WHEN 2 THEN NULL ELSE -36522 END");
+    run.key(Qt::Key_F5);
+    QStringList reviews;
+    for (int row = 0; row < 5; ++row)
+        reviews << list()->model()->index(row, 4).data().toString();
+    EXPECT_EQ(reviews.join("|"), "||||27/06/2026") << "no date is shown as none";
+    EXPECT_EQ(run.shown("txtName"), "Prof  Ṱhoho-Nḓou") << "the list was read again";
     run.control("txtSearch")->setFocus();
     run.key(Qt::Key_1, Qt::ControlModifier);
     EXPECT_EQ(names(), "<b>&\"x\"|Êksteen|eksteen|O'Brien|Ṱhoho-Nḓou");
