@@ -107,6 +107,7 @@ private:
         case Block::Kind::title: return Look::title;
         case Block::Kind::heading: return Look::heading;
         case Block::Kind::note: return Look::small;
+        case Block::Kind::answer: return Look::answer;
         default: return Look::text;
         }
     }
@@ -145,7 +146,7 @@ private:
     void addText(const QString& text, Look look) {
         for (const QString& part : cellTexts(text)) {
             writeAcross(part, 0, m_widths.size(), m_formats.get(look));
-            const double size = look == Look::title ? 1.4 : 1.0;
+            const double size = look == Look::title || look == Look::answer ? 1.4 : 1.0;
             setHeight(static_cast<int>(std::ceil(linesIn(part, widthOf(0, m_widths.size()) / size) * size)));
             ++m_row;
         }
