@@ -1,6 +1,6 @@
 #include "analyses/frmKinds.h"
 
-#include "analyses/retirement.h"
+#include "analyses/yearrun.h"
 
 namespace analyses {
 

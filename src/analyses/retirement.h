@@ -9,9 +9,6 @@
 
 namespace analyses {
 
-inline constexpr double highestInflation = 30;  ///< percent a year
-inline constexpr double highestBankInvest = 50; ///< percent a year
-
 /// Which way the capital was looked for that just carries the years asked for.
 enum class CapitalSought { less, more };
 

@@ -9,6 +9,9 @@ namespace analyses {
 inline constexpr int lastYear = 51;
 inline constexpr int mostYears = 50;
 
+/// Rates that a needs analysis reckons with at most, percent a year; those above are corrected without a word.
+inline constexpr double highestInflation = 30, highestBankInvest = 50;
+
 /// Figures by year, 1 to 51; element 0 is unused.
 using Yearly = std::array<double, lastYear + 1>;
 
