@@ -1,6 +1,5 @@
 #include "datastore/startup.h"
 
-#include "calculators/inflation.h"
 #include "datastore/datastore_support.h"
 #include "datastore/reset.h"
 
@@ -281,26 +280,6 @@ TEST(StartUp, WorksOnTheDatabasesThatAreShipped) {
     EXPECT_GT(record.funds.AllocationPer, 0);
     EXPECT_EQ(cell(folder / "Print.mdb", "SELECT footv1 FROM HeadFoot"),
               "information supplied by the undersigned client.");
-}
-
-calculators::InflationResult carried(double cost, int years, double rate) {
-    assessment::Inflation inflation;
-    inflation.PresCostInflation = cost;
-    inflation.PeriodInflation = static_cast<std::int16_t>(years);
-    inflation.IntRateInflation = rate;
-    return calculators::LTLINFL(inflation);
-}
-
-TEST(Inflation, CarriesACostAndItsBuyingPowerYearByYear) {
-    const auto check = carried(10000, 10, 10); // the figures by which a start checks the arithmetic
-    EXPECT_EQ(std::nearbyint(check.futureValue), 25937);
-    EXPECT_EQ(std::nearbyint(check.buyingPower), 3855);
-    EXPECT_NEAR(check.futureValue * check.buyingPower, 1e8, 1e-4); // what a cost grows by, money shrinks by
-    for (const int years : {0, 1, 40})
-        EXPECT_EQ(carried(100, years, 0).futureValue, 100);
-    const auto falling = carried(100, 1, -5);
-    EXPECT_DOUBLE_EQ(falling.futureValue, 95);
-    EXPECT_DOUBLE_EQ(falling.buyingPower, 100 + 5 * 100 / 95.0);
 }
 
 TEST(StartUp, GoesOverToAnotherClientDatabaseWholeOrNotAtAll) {
