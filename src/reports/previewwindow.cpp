@@ -31,8 +31,9 @@ protected:
 
 } // namespace
 
-PreviewWindow::PreviewWindow(std::shared_ptr<const Report> report, screenkit::Desk& desk, PrinterSession& printing)
-    : m_report(std::move(report)), m_desk(desk), m_printing(printing),
+PreviewWindow::PreviewWindow(std::shared_ptr<const Report> report, screenkit::Desk& desk, PrinterSession& printing,
+                             std::function<void()> help)
+    : m_report(std::move(report)), m_desk(desk), m_printing(printing), m_help(std::move(help)),
       m_view(new PageView({m_report, &m_report->layout}, this)), m_bar(addToolBar(tr("Report"))),
       m_savedLine(screenkit::newSavedLine(desk)) {
     setObjectName("reportPreview");
@@ -100,6 +101,7 @@ void PreviewWindow::addActions() {
     m_bar->addActions({m_pageWidth, m_wholePage});
     addAction("realSize", {}, tr("Real size"), {Qt::CTRL | Qt::Key_1}, [this] { m_view->setScale(1); });
     addAction("closePreview", {}, tr("Close"), {Qt::Key_Escape, QKeySequence::Close}, [this] { close(); });
+    if (m_help) addAction("help", {}, tr("Help"), {QKeySequence::HelpContents}, m_help);
 }
 
 /// The suitcase: pressed, it exports under a name that the user picks; its arrow offers the kinds one by one.

@@ -24,7 +24,8 @@ class PreviewWindow : public QMainWindow {
     Q_OBJECT
 
 public:
-    PreviewWindow(std::shared_ptr<const Report> report, screenkit::Desk& desk, PrinterSession& printing);
+    PreviewWindow(std::shared_ptr<const Report> report, screenkit::Desk& desk, PrinterSession& printing,
+                  std::function<void()> help);
 
     const Report& report() const { return *m_report; }
     PageView& view() { return *m_view; }
@@ -49,6 +50,7 @@ private:
     std::shared_ptr<const Report> m_report;
     screenkit::Desk& m_desk;
     PrinterSession& m_printing;
+    std::function<void()> m_help;
     PageView* m_view;
     QToolBar* m_bar;
     QLabel* m_savedLine;

@@ -69,7 +69,7 @@ QString Engine::practice() const {
 
 void Engine::show(std::shared_ptr<const Report> report) {
     m_previews.erase(std::remove(m_previews.begin(), m_previews.end(), nullptr), m_previews.end());
-    auto* window = new PreviewWindow(std::move(report), m_desk, *m_printing);
+    auto* window = new PreviewWindow(std::move(report), m_desk, *m_printing, m_help);
     m_previews.emplace_back(window);
     window->show();
 }

@@ -53,6 +53,9 @@ public:
     std::vector<PreviewWindow*> previews() const;
     void closePreviews();
 
+    /// What F1 does in a preview; by itself it does nothing there.
+    void setHelp(std::function<void()> help) { m_help = std::move(help); }
+
     /// The menu's Printer Setup: the system's print dialog, whose choice lasts for the session. With no printer
     /// installed a warning box says so.
     void setUpPrinter();
@@ -68,6 +71,7 @@ private:
     std::filesystem::path m_programFolder;
     std::unique_ptr<PrinterSession> m_printing;
     std::vector<QPointer<PreviewWindow>> m_previews;
+    std::function<void()> m_help;
 };
 
 } // namespace reports

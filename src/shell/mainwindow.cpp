@@ -60,10 +60,15 @@ MDIForm1::MDIForm1(assessment::Assessment& record, datastore::Paths& paths, scre
     buildMenu();
     buildToolbar();
     connect(m_area, &QMdiArea::subWindowActivated, this, &MDIForm1::activated);
+    reports.setHelp([this] {
+        openGuide("Reports and export");
+        activateWindow(); // the preview lies before the main window
+    });
     connect(qApp, &QGuiApplication::commitDataRequest, this, &MDIForm1::sessionEnds, Qt::DirectConnection);
 }
 
 MDIForm1::~MDIForm1() {
+    m_work.reports.setHelp({});
     // A screen may speak to its shell as it goes; left to the toolkit it would go when there is no shell any more.
     m_area->disconnect(this);
     delete m_area;
@@ -354,9 +359,13 @@ void MDIForm1::closeEvent(QCloseEvent* event) {
 void MDIForm1::help() {
     const Screen* front = activeScreen();
     const ScreenEntry* entry = front != nullptr ? screenEntry(front->objectName()) : nullptr;
+    const bool isGuide = entry != nullptr && front == screen("frmBrowser");
+    openGuide(entry != nullptr && !isGuide ? entry->chapter : "");
+}
+
+void MDIForm1::openGuide(const QString& chapter) {
     open("frmBrowser");
-    auto* guide = qobject_cast<frmBrowser*>(screen("frmBrowser"));
-    if (guide != nullptr && entry != nullptr && front != guide) guide->showChapter(entry->chapter);
+    if (auto* guide = qobject_cast<frmBrowser*>(screen("frmBrowser"))) guide->showChapter(chapter);
 }
 
 } // namespace shell

@@ -56,6 +56,8 @@ public:
     QMdiArea* area() { return m_area; }
     /// The guide, at the chapter of the screen in front.
     void help();
+    /// The guide at a chapter, by its heading; at an empty one where it stood.
+    void openGuide(const QString& chapter);
 
     /// Closing asks nothing from here on.
     void exitWithoutAsking() { m_exitWithoutAsking = true; }

@@ -95,6 +95,8 @@ TEST_F(LoanReport, FeedsTheLoanItsChargesAndItsTable) {
     run.click("cmdVR");
     EXPECT_EQ(run.inPrint("SELECT count(*) FROM [Amort]"), "25");
     EXPECT_FALSE(run.inPrint(row).empty());
+    QTest::keyClick(run.program.reports().previews().back(), Qt::Key_F1);
+    EXPECT_EQ(run.front()->objectName(), "frmBrowser");
 }
 
 TEST_F(LoanReport, TickingTheTableChoosesTheAnnualOne) {
