@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "analyses/amounts.h"
+#include "analyses/itemflows.h"
 #include "base/finite.h"
 
 namespace analyses {
@@ -57,8 +58,45 @@ double& in(Assessment& record) {
     return record.*Group.*Amount;
 }
 
+/// The income and the period that a list asks for. One that sums to 0 or less changes nothing: what the user types
+/// stands.
+void deriveRequired(const assessment::ItemList& list, double first, double& monthly, double& years) {
+    const auto asked = incomeAsked(list.rows, first);
+    if (!asked) return;
+    base::keepFinite(monthly, asked->monthly);
+    years = asked->years;
+}
+
+/// What the sources of a list pay in year 1; a list that sums to 0 or less changes nothing.
+void deriveAvailable(const assessment::ItemList& list, double& monthly) {
+    if (!(sumOfItems(list.rows) > 0)) return;
+    double sum = 0;
+    for (const ItemRow& row : list.rows)
+        if (isInForce(row, 1)) sum += row.Amount;
+    base::keepFinite(monthly, sum);
+}
+
 void deriveRetirementIncome(Assessment& record) {
-    deriveIncomeRequired(record.retirement, record.itemised.RNAMonIncReq.rows);
+    assessment::NARetirement& needs = record.retirement;
+    deriveRequired(record.itemised.RNAMonIncReq, needs.AgeRetiment, needs.IncomePD, needs.CoverYears);
+}
+
+// Death and disability may come today: their lists count years, the first of them 1.
+void deriveDeathIncome(Assessment& record) {
+    deriveRequired(record.itemised.DTHMonIncReq, 1, record.death.Income, record.death.PeriodDeath);
+}
+
+void deriveDeathSources(Assessment& record) {
+    deriveAvailable(record.itemised.DTHFutMonInc, record.death.DeathMIAvail);
+}
+
+void deriveDisabilityIncome(Assessment& record) {
+    assessment::NADisability& needs = record.disability;
+    deriveRequired(record.itemised.DISAMonIncReq, 1, needs.MDisaDTS5, needs.MDisaDTS15);
+}
+
+void deriveDisabilitySources(Assessment& record) {
+    deriveAvailable(record.itemised.DISAFutMonInc, record.disability.DisaMIAvail);
 }
 
 std::vector<ItemLine> retirementLines() {
@@ -79,14 +117,13 @@ std::vector<ItemLine> retirementLines() {
     };
 }
 
-// The investment lists of death and disability have no line: nothing reads them. Neither do lists of incomes derive
-// anything yet: the two screens that would show it, and so the rule, are still to come.
+// The investment lists of death and disability have no line: nothing reads them.
 std::vector<ItemLine> deathLines() {
     using D = assessment::NADeath;
     constexpr auto group = &Assessment::death;
     return {
-        line(0, "Monthly Income Required", "DTHMonIncReqItemise"),
-        line(1, "Source of monthly income available(future value)", "DTHFutMonIncItemise"),
+        line(0, "Monthly Income Required", "DTHMonIncReqItemise", nullptr, deriveDeathIncome),
+        line(1, "Source of monthly income available(future value)", "DTHFutMonIncItemise", nullptr, deriveDeathSources),
         line(2, "Real Estate", "DTHRealEstItemise", in<group, &D::ANSAss1>),
         line(3, "Stocks & cash", "DTHStocksItemise", in<group, &D::ANSAss2>),
         line(4, "Cars etc.", "DTHCarsItemise", in<group, &D::ANSAss4>),
@@ -103,8 +140,8 @@ std::vector<ItemLine> disabilityLines() {
     using D = assessment::NADisability;
     constexpr auto group = &Assessment::disability;
     return {
-        line(0, "Monthly Income Required", "DISAMonIncReqItemise"),
-        line(1, "Source of monthly income available", "DISAFutMonIncItemise"),
+        line(0, "Monthly Income Required", "DISAMonIncReqItemise", nullptr, deriveDisabilityIncome),
+        line(1, "Source of monthly income available", "DISAFutMonIncItemise", nullptr, deriveDisabilitySources),
         line(2, "Real Estate", "DISARealEstItemise", in<group, &D::DisaASS1>),
         line(3, "Stocks & cash", "DISAStocksItemise", in<group, &D::DisaASS2>),
         line(4, "Cars etc.", "DISACarsItemise", in<group, &D::DisaASS4>),
@@ -174,11 +211,9 @@ std::optional<IncomeAsked> incomeAsked(const std::vector<ItemRow>& rows, double 
     return IncomeAsked{startsAtFirst ? atFirst : later, lasts ? std::clamp(ends - begins, 0.0, longestPeriod) : 0};
 }
 
-void deriveIncomeRequired(assessment::NARetirement& retirement, const std::vector<ItemRow>& rows) {
-    const auto asked = incomeAsked(rows, retirement.AgeRetiment);
-    if (!asked) return;
-    base::keepFinite(retirement.IncomePD, asked->monthly);
-    retirement.CoverYears = asked->years;
+void deriveItemised(Assessment& record, Analysis analysis) {
+    for (const ItemLine& line : itemLines(analysis))
+        if (line.derive != nullptr && line.list(record).flag != 0) line.derive(record);
 }
 
 } // namespace analyses

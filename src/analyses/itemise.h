@@ -62,8 +62,8 @@ struct IncomeAsked {
 /// nothing. Rows that all end before they begin last no time. Nothing if the list sums to 0 or less.
 std::optional<IncomeAsked> incomeAsked(const std::vector<assessment::ItemRow>& rows, double first);
 
-/// `IncomePD` and `CoverYears` out of the list, from `AgeRetiment` on. A list that sums to 0 or less changes nothing.
-/// To be done again when the age changes.
-void deriveIncomeRequired(assessment::NARetirement& retirement, const std::vector<assessment::ItemRow>& rows);
+/// What the income lines of an analysis show, out of those of their lists that are in use. To be done again where it
+/// depends on more than the lists: retirement's on the age.
+void deriveItemised(assessment::Assessment& record, assessment::Analysis analysis);
 
 } // namespace analyses

@@ -5,7 +5,6 @@
 
 #include "analyses/itemise.h"
 #include "analyses/retirementflows.h"
-#include "analyses/sentences.h"
 #include "base/finite.h"
 #include "base/rounding.h"
 #include "client/policyschedule.h"
@@ -17,19 +16,13 @@ namespace {
 
 /// By 100 000 both ways. Upwards a finer stage follows; downwards it would begin on the first capital that does not do
 /// and end there, so that an excess is found to 100 000 and no closer. Ten fine steps lead back to the coarse one.
-constexpr CapitalSteps steps{.coarse = 100000, .fine = 10000, .mostFinePasses = 20};
-constexpr const char* noFigure = "   Error";
+constexpr NeedsRules rules{{.coarse = 100000, .fine = 10000, .mostFinePasses = 20}, retirementSentences};
 
 double incomeAtRetirement(const assessment::NARetirement& needs) {
     double income = needs.IncomePD;
     for (int year = wholeYears(needs.YearsToRet); year > 0; --year)
         income = income * needs.InflationRA / 100 + income;
     return base::roundHalfEven(income);
-}
-
-void capRates(assessment::NARetirement& needs) {
-    needs.InflationRA = std::min(needs.InflationRA, highestInflation);
-    needs.BankInvestRate = std::min(needs.BankInvestRate, highestBankInvest);
 }
 
 /// What is asked and what there is, before anything is run.
@@ -42,7 +35,7 @@ RetirementAnalysis statement(const assessment::Assessment& record) {
     analysis.TotalLiabilities = totalExpenses(needs);
     analysis.NetCapital = analysis.TotalAssets - analysis.TotalLiabilities;
     analysis.yearsAsked = std::min<double>(needs.CoverYears, mostYears);
-    analysis.ageOfRetirement = needs.AgeRetiment;
+    analysis.firstNumber = needs.AgeRetiment;
     return analysis;
 }
 
@@ -51,46 +44,19 @@ YearRun NARAProjectCapital(const assessment::NARetirement& needs, const Retireme
     return projectCapital(analysis.flows, capital, needs.BankInvestRate);
 }
 
-void search(const assessment::NARetirement& needs, RetirementAnalysis& analysis) {
-    const auto covers = [&](double capital) {
-        return NARAProjectCapital(needs, analysis, capital).YearsCovered >= analysis.yearsAsked;
-    };
-    const bool lasts = analysis.run.YearsCovered >= analysis.yearsAsked;
-    analysis.sought = lasts ? CapitalSought::less : CapitalSought::more;
-    analysis.found = (lasts ? searchDown : searchUp)(analysis.NetCapital, steps, covers);
-    analysis.CapitalSolved = analysis.found.solved.value_or(0);
-}
-
-void say(RetirementAnalysis& analysis) {
-    analysis.txtAns1 = lastingSentence(retirementSentences,
-                                       {analysis.IncomeReqFV, analysis.NetCapital, analysis.flows.AvailableByYear[1],
-                                        analysis.run.YearsCovered, analysis.yearsAsked});
-    if (analysis.sought == CapitalSought::less)
-        analysis.txtAns2 = excessSentence(retirementSentences, analysis.NetCapital - analysis.CapitalSolved);
-    else if (analysis.yearsAsked > 0 && analysis.found.solved)
-        analysis.txtAns2 = shortfallSentence(*analysis.found.solved - analysis.NetCapital);
-}
-
-bool isFinite(const RetirementAnalysis& analysis) {
-    return std::isfinite(analysis.NetCapital) && std::isfinite(analysis.monthlyDifference()) &&
-           std::isfinite(analysis.flows.AvailableByYear[1]);
-}
-
 } // namespace
 
 RetirementAnalysis NARACalc(assessment::Assessment& record) {
     const bool isFolded = client::isFinite(client::CalculatePolInv(record));
     assessment::NARetirement& needs = record.retirement;
-    capRates(needs);
+    capRates(needs.InflationRA, needs.BankInvestRate);
     RetirementAnalysis analysis = statement(record);
     analysis.flows = retirementFlows(record, analysis.IncomeReqFV, analysis.PolicyMonthlyIncome);
     analysis.monthlyAvailable = analysis.flows.IncomeRA[1] + analysis.PolicyMonthlyIncome;
-    analysis.run = NARAProjectCapital(needs, analysis, analysis.NetCapital);
-    search(needs, analysis);
-    say(analysis);
-    const YearRun last = NARAProjectCapital(needs, analysis, analysis.found.lastTried);
+    const auto run = [&](double capital) { return NARAProjectCapital(needs, analysis, capital); };
+    runAndSearch(analysis, rules, run, isFolded);
+    const YearRun last = run(analysis.found.lastTried);
     base::keepFinite(needs.IncomeRA, analysis.flows.IncomeRA[static_cast<std::size_t>(last.YearsCovered) + 1]);
-    if (!isFolded || !isFinite(analysis)) analysis.txtAns1 = analysis.txtAns2 = noFigure;
     return analysis;
 }
 
@@ -112,8 +78,7 @@ void retireNotBeforeToday(assessment::NARetirement& needs) {
 
 void followAges(assessment::Assessment& record) {
     updateYearsToRet(record.retirement);
-    const assessment::ItemList& list = record.itemised.RNAMonIncReq;
-    if (list.flag != 0) deriveIncomeRequired(record.retirement, list.rows);
+    deriveItemised(record, assessment::Analysis::retirement);
 }
 
 void updateYearsToRet(assessment::NARetirement& needs) {

@@ -1,38 +1,12 @@
 #pragma once
 
-#include <string>
-#include <vector>
-
-#include "analyses/capitalsearch.h"
-#include "analyses/yearrun.h"
+#include "analyses/needs.h"
 #include "assessment/assessment.h"
 
 namespace analyses {
 
-/// Which way the capital was looked for that just carries the years asked for.
-enum class CapitalSought { less, more };
-
-/// What the retirement analysis comes to: rand, years.
-struct RetirementAnalysis {
-    double IncomeReqFV = 0;         ///< needed a month at retirement, whole rand
-    double PolicyMonthlyIncome = 0; ///< pensions of the schedule, whole rand a month
-    double monthlyAvailable = 0;    ///< itemised income and pensions in the first year, a month
-    double TotalAssets = 0, TotalLiabilities = 0;
-    double NetCapital = 0;
-    YearlyFlows flows;
-    YearRun run;           ///< of `NetCapital`
-    double yearsAsked = 0; ///< `CoverYears`, at most 50
-    double ageOfRetirement = 0;
-    CapitalSought sought = CapitalSought::less; ///< less if the run carries the years asked for
-    CapitalFound found;
-    double CapitalSolved = 0; ///< carries the years asked for; 0 where no search found any
-    std::string txtAns1, txtAns2;
-
-    /// Above 0 an excess, below 0 a shortfall, a month in the first year.
-    double monthlyDifference() const { return monthlyAvailable - IncomeReqFV; }
-    /// The amortisation's lines, numbered by age.
-    std::vector<ShownYear> years() const { return shownYears(flows, run, yearsAsked, ageOfRetirement); }
-};
+/// The years are ages: the first is `AgeRetiment`. `IncomeReqFV` and `PolicyMonthlyIncome` are whole rand.
+using RetirementAnalysis = NeedsAnalysis;
 
 /// How long the capital at retirement carries the income wanted, and how much more or less of it the years asked for
 /// need.

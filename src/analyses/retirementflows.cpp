@@ -1,7 +1,6 @@
 #include "analyses/retirementflows.h"
 
-#include <vector>
-
+#include "analyses/itemflows.h"
 #include "client/years.h"
 
 namespace analyses {
@@ -13,39 +12,6 @@ using assessment::Policy;
 
 double ageIn(const assessment::Assessment& record, std::size_t year) {
     return record.retirement.AgeRetiment + static_cast<double>(year - 1);
-}
-
-/// The year after retirement at which the client is of an age; 0 if none is.
-std::size_t yearAt(const assessment::Assessment& record, double age) {
-    const double years = age - record.retirement.AgeRetiment;
-    if (!(years >= 1 && years <= mostYears)) return 0;
-    const std::size_t year = static_cast<std::size_t>(years) + 1;
-    return ageIn(record, year) == age ? year : 0;
-}
-
-bool isInForce(const ItemRow& row, double age) { return row.FromAge <= age && age <= row.ToAge; }
-
-/// Monthly income from the itemised sources, by year.
-///
-/// In the first year every source in force counts at its amount. From the second on a source counts from the age at
-/// which it starts, so that one which started before retirement is paid in year 1 and never again.
-void addItemisedIncome(const assessment::Assessment& record, Yearly& incomes) {
-    const assessment::ItemList& list = record.itemised.RNAFutMonInc;
-    if (list.flag == 0) return;
-    std::vector<double> values(list.rows.size()); // each source's income at the age that the walk has come to
-    for (std::size_t year = 1; year <= lastYear; ++year) {
-        const double age = ageIn(record, year);
-        for (std::size_t i = 0; i < list.rows.size(); ++i) {
-            const ItemRow& row = list.rows[i];
-            double& value = values[i];
-            if (age > row.ToAge) value = 0;
-            if (isInForce(row, age)) value += age == row.FromAge ? row.Amount : value * row.Escalation / 100;
-            if (year > 1)
-                incomes[year] += value;
-            else if (isInForce(row, age))
-                incomes[year] += row.Amount;
-        }
-    }
 }
 
 /// The policies' pensions in each year, rand a month: they grow by steps of the pension as it began, one more of them
@@ -99,7 +65,7 @@ void setItemisedNeed(const assessment::Assessment& record, std::size_t year, Yea
 /// its tick, a cash value whatever the cover: unlike those that are paid by retirement.
 void addLumpSums(const assessment::Assessment& record, Yearly& paidOut) {
     const auto add = [&](double value, double age) {
-        if (const std::size_t year = yearAt(record, age); year > 0) paidOut[year] += value;
+        if (const std::size_t year = laterYearAt(age, record.retirement.AgeRetiment); year > 0) paidOut[year] += value;
     };
     for (const Policy& policy : record.policies)
         if (policy.DeathBenUseCashAtRet == 1) add(policy.DeathBenCashVal, policy.DeathBenCashValAge);
@@ -113,24 +79,16 @@ void addLumpSums(const assessment::Assessment& record, Yearly& paidOut) {
         add(policy.EndowEMV, policy.EndowEMVAge);
 }
 
-/// Expenses of the itemised list that fall due in each year, rand.
-Yearly itemisedExpenses(const assessment::Assessment& record) {
-    Yearly expenses{};
-    const assessment::ItemList& list = record.itemised.RNAOtherExp;
-    if (list.flag == 0) return expenses;
-    for (const ItemRow& row : list.rows)
-        if (const std::size_t year = yearAt(record, row.At); year > 0) expenses[year] += row.Amount;
-    return expenses;
-}
-
 } // namespace
 
 YearlyFlows retirementFlows(const assessment::Assessment& record, double incomeRequired, double pensions) {
     YearlyFlows flows;
-    addItemisedIncome(record, flows.IncomeRA);
+    const double first = record.retirement.AgeRetiment;
+    flows.IncomeRA = itemisedIncome(record.itemised.RNAFutMonInc, first);
     addLumpSums(record, flows.paidOut);
     const Yearly policies = policyIncomes(record, pensions);
-    const Yearly expenses = itemisedExpenses(record);
+    Yearly expenses{}; // of the itemised list, each in its year
+    addDue(expenses, record.itemised.RNAOtherExp, first);
     Yearly& monthly = flows.MonthlyRequiredByYear;
     for (std::size_t year = 1; year <= lastYear; ++year) {
         if (year == 1)

@@ -19,6 +19,7 @@ YearRun projectCapital(const YearlyFlows& flows, double capital, double percent)
         now = last + last * percent / 100 + (flows.AvailableByYear[year - 1] - flows.RequiredByYear[year - 1]);
         now += flows.paidOut[year];
         run.InterestByYear[year] = now * percent / 100;
+        now += flows.sold[year];
         if (flows.RequiredByYear[year] > now + run.InterestByYear[year] + flows.AvailableByYear[year]) break;
     }
     run.YearsCovered = static_cast<int>(year) - 1;

@@ -22,6 +22,7 @@ struct YearlyFlows {
     Yearly AvailableByYear{};       ///< rand a year
     Yearly IncomeRA{};              ///< what of the income available is itemised, rand a month
     Yearly paidOut{};               ///< policies that pay out in the year: they earn its interest
+    Yearly sold{};                  ///< what is sold in the year: it earns interest from the next one on
 };
 
 /// How a capital fares under such flows.

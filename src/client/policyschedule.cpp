@@ -103,20 +103,35 @@ ValuesAtRetirement valuesAtRetirement(const Policy& policy, double ageOfRetireme
     return atAge(policy, ageOfRetirement, pensions);
 }
 
+double capitalOnDeath(const std::vector<Policy>& policies) {
+    double capital = 0;
+    for (const Policy& policy : policies) {
+        // Only what the estate or the spouse receives is the client's capital.
+        const double benefit = policy.DeathBen - (policy.DeathBenAmtCeded + policy.DeathBenLoanAgainst);
+        if ((policy.DeathBenPerson == 0 || policy.DeathBenPerson == 1) && benefit > 0) capital += benefit;
+        capital += policy.InvBensCurVal;
+    }
+    return capital;
+}
+
+double capitalOnDisability(const std::vector<Policy>& policies) {
+    double capital = 0;
+    for (const Policy& policy : policies) {
+        capital += policy.DisabilLumpSum;
+        if (policy.InvBensTakeAtDisa == 1) capital += policy.InvBensCurVal - policy.InvBensCurValLoanAgainst;
+    }
+    return capital;
+}
+
 std::vector<ValuesAtRetirement> CalculatePolInv(assessment::Assessment& record) {
     const double retirement = record.retirement.AgeRetiment;
-    double death = 0, deathMonthly = 0, disability = 0, disabilityMonthly = 0, capital = 0, pensions = 0;
+    const double death = capitalOnDeath(record.policies), disability = capitalOnDisability(record.policies);
+    double deathMonthly = 0, disabilityMonthly = 0, capital = 0, pensions = 0;
     bool atRetirement = false;
     std::vector<ValuesAtRetirement> values;
     values.reserve(record.policies.size());
     for (const Policy& policy : record.policies) {
-        // Only what the estate or the spouse receives is the client's capital.
-        const double benefit = policy.DeathBen - (policy.DeathBenAmtCeded + policy.DeathBenLoanAgainst);
-        if ((policy.DeathBenPerson == 0 || policy.DeathBenPerson == 1) && benefit > 0) death += benefit;
-        death += policy.InvBensCurVal;
         deathMonthly += shownMonthlyOnDeath(record); // of the policy shown, each time: it decides a flag and no more
-        disability += policy.DisabilLumpSum;
-        if (policy.InvBensTakeAtDisa == 1) disability += policy.InvBensCurVal - policy.InvBensCurValLoanAgainst;
         disabilityMonthly += policy.DisabilMonthly + policy.IncProMonthly;
 
         const ValuesAtRetirement value = atAge(policy, retirement, pensions);

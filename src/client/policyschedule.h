@@ -23,6 +23,10 @@ struct ValuesAtRetirement {
 /// What one record comes to at an age of retirement; its `monthlyIncome` is its own pension alone.
 ValuesAtRetirement valuesAtRetirement(const assessment::Policy& policy, double ageOfRetirement);
 
+/// What the policies add to the capital on death and on disability, rand; not finite for figures that no sum holds.
+double capitalOnDeath(const std::vector<assessment::Policy>& policies);
+double capitalOnDisability(const std::vector<assessment::Policy>& policies);
+
 /// Folds the schedule of policies into the capital lines of the needs analyses.
 ///
 /// Reads the policies and `AgeRetiment`. Writes `ANSLAss4` (capital at retirement), `ANSAss5` (on death) and `DisaASS5`

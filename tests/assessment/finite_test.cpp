@@ -3,6 +3,8 @@
 #include <cmath>
 #include <random>
 
+#include "analyses/death.h"
+#include "analyses/disability.h"
 #include "analyses/itemise.h"
 #include "analyses/retirement.h"
 #include "assessment/tables.h"
@@ -67,9 +69,13 @@ TEST(Finite, NoCalculationLeavesTheRecordAFigureThatNoFileTakes) {
         tax::monthlyTax(month, {}, inclusion, client.tax);
         expectFinite(assessment::dataTable(), &client, "the taxes");
         EXPECT_TRUE(std::isfinite(client.tax.LastScaleTax));
-        for (const auto& line : analyses::itemLines(assessment::Analysis::retirement))
-            takeItems(client, line, rows);
+        using assessment::Analysis;
+        for (const Analysis analysis : {Analysis::retirement, Analysis::death, Analysis::disability})
+            for (const auto& line : analyses::itemLines(analysis))
+                takeItems(client, line, rows);
         analyses::runRetirement(client, 46349);
+        analyses::runDeath(client);
+        analyses::runDisability(client);
         expectFinite(assessment::dataTable(), &client, "a needs analysis");
         EXPECT_TRUE(std::isfinite(client.PolicyMonthlyIncome));
     }

@@ -1,0 +1,96 @@
+#include "analyses/cover.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numeric>
+
+#include "analyses/itemflows.h"
+
+namespace analyses {
+
+namespace {
+
+using assessment::ItemList;
+using assessment::ItemRow;
+
+constexpr CapitalSteps steps{.coarse = 10000}; // both ways, with no finer stage: meant, retirement's are ten times that
+
+/// An amount of today after so many years of inflation.
+double inflated(double amount, double percent, std::size_t years) {
+    for (; years > 0; --years)
+        amount = amount * percent / 100 + amount;
+    return amount;
+}
+
+/// The monthly need of a later year from the list of needs.
+///
+/// The last row in force in list order decides. Only the first row of the list ever brings an amount of its own, in the
+/// year that it starts: today's money, inflated to that year. In every other case last year's need grows, by the row's
+/// escalation once it has started and by inflation before. That later rows never bring theirs is meant: retirement's
+/// do, and clients' figures rest on the difference.
+double itemisedNeed(const CoverNeeds& needs, std::size_t year, double last) {
+    const std::vector<ItemRow>& rows = needs.required->rows;
+    const auto now = static_cast<double>(year);
+    const auto found =
+        std::find_if(rows.rbegin(), rows.rend(), [&](const ItemRow& row) { return isInForce(row, now); });
+    const ItemRow* row = found == rows.rend() ? nullptr : &*found;
+    const bool starts = row != nullptr && row->FromAge == now;
+    if (starts && row == &rows.front()) return inflated(row->Amount, needs.inflation, year - 1);
+    return last + last * (row == nullptr || starts ? needs.inflation : row->Escalation) / 100;
+}
+
+/// What comes in and goes out by year. Of a list of capital or debts the whole sum counts on the first day, and each
+/// amount once more in its year: so the two analyses have always reckoned.
+YearlyFlows coverFlows(const CoverNeeds& needs) {
+    YearlyFlows flows;
+    flows.IncomeRA = itemisedIncome(*needs.sources, 1);
+    if (needs.sources->flag == 0) flows.IncomeRA.fill(needs.available);
+    flows.IncomeRA[1] = needs.available;
+    for (const ItemList* list : needs.sales)
+        addDue(flows.sold, *list, 1); // after the year's interest is fixed, unlike a policy that pays at retirement
+    Yearly debts{};
+    for (const ItemList* list : needs.debts)
+        addDue(debts, *list, 1);
+    Yearly& monthly = flows.MonthlyRequiredByYear;
+    for (std::size_t year = 1; year <= lastYear; ++year) {
+        const double policies = year == 1 ? needs.policies.firstYear : needs.policies.later[year];
+        if (year == 1)
+            monthly[year] = needs.income;
+        else if (needs.required->flag != 0)
+            monthly[year] = itemisedNeed(needs, year, monthly[year - 1]);
+        else
+            monthly[year] = monthly[year - 1] + monthly[year - 1] * needs.inflation / 100;
+        flows.RequiredByYear[year] = monthly[year] * 12 + debts[year];
+        flows.AvailableByYear[year] = flows.IncomeRA[year] * 12 + policies * 12;
+    }
+    return flows;
+}
+
+double sum(const std::array<double, 5>& lines) { return std::accumulate(lines.begin(), lines.end(), 0.0); }
+
+} // namespace
+
+void addPolicyIncome(Yearly& incomes, double monthly, double percent, double years) {
+    double income = 0;
+    for (std::size_t year = 1; year <= lastYear && static_cast<double>(year) <= years; ++year) {
+        income = year == 1 ? monthly : percent * income / 100 + income;
+        incomes[year] += income;
+    }
+}
+
+NeedsAnalysis analyseCover(const CoverNeeds& needs, const SentenceRules& sentences, bool isFinite) {
+    NeedsAnalysis analysis;
+    analysis.IncomeReqFV = needs.income;
+    analysis.PolicyMonthlyIncome = needs.policies.firstYear;
+    analysis.monthlyAvailable = needs.available + needs.policies.firstYear;
+    analysis.TotalAssets = sum(needs.assets);
+    analysis.TotalLiabilities = sum(needs.liabilities);
+    analysis.NetCapital = analysis.TotalAssets - analysis.TotalLiabilities;
+    analysis.yearsAsked = std::min<double>(needs.years, mostYears);
+    analysis.flows = coverFlows(needs);
+    const auto run = [&](double capital) { return projectCapital(analysis.flows, capital, needs.rate); };
+    runAndSearch(analysis, {steps, sentences}, run, isFinite);
+    return analysis;
+}
+
+} // namespace analyses
