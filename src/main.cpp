@@ -18,7 +18,7 @@ namespace {
 constexpr const char* help = "Usage: marlowbeck [--help | --version]\n"
                              "Workstation for financial advisers. It needs a desktop to show its window on; its files "
                              "lie in its program folder,\n"
-                             "which the guide (F1) tells of.\n";
+                             "as the guide (F1) explains.\n";
 
 /// Questions that need no window are answered without one.
 bool answered(int argc, char** argv) {
@@ -30,7 +30,7 @@ bool answered(int argc, char** argv) {
     return false;
 }
 
-/// The toolkit ends the program by an abort where it finds no display, after a page of advice on its plug-ins.
+/// Without a display the toolkit would print a page of advice on its plug-ins and abort; this prints one line instead.
 void endWithoutDisplay(QtMsgType type, const QMessageLogContext&, const QString& text) {
     if (type != QtFatalMsg) return;
     if (text.contains("platform plugin"))
@@ -48,7 +48,7 @@ int main(int argc, char** argv) {
     const QtMessageHandler usual = qInstallMessageHandler(endWithoutDisplay);
     QApplication application(argc, argv);
     qInstallMessageHandler(usual);
-    std::setlocale(LC_NUMERIC, "C"); // the toolkit has taken the system's; figures here have one form
+    std::setlocale(LC_NUMERIC, "C"); // the toolkit has set the system's locale; figures here always use the same form
     QApplication::setApplicationName("marlowbeck");
     QApplication::setDesktopFileName("marlowbeck");
     screenkit::look::apply(application);

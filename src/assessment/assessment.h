@@ -17,11 +17,11 @@
 /// The client's record: one struct for each screen's group, each field under its database name.
 ///
 /// Amounts are rand, rates percent a year, dates day numbers, unless a line says otherwise. A default-constructed
-/// record is a blank one. The memory widths are part of the record: a figure kept in single precision or in 16 bits is
-/// rounded when it is entered, not when it is saved.
+/// record is a blank one. The types are part of the record: a figure of single precision or 16 bits is rounded when it
+/// is entered, not when it is saved.
 namespace assessment {
 
-/// Who the client is, on every screen and in both client tables.
+/// Who the client is: shown on every screen and stored in both client tables.
 struct Client {
     std::string Name; ///< display name: title, initials, surname
     double BirthDate = base::blankDate;
@@ -40,7 +40,7 @@ struct DailyBalance {
     bool operator==(const DailyBalance&) const = default;
 };
 
-/// Up to five debts and the loan that takes their place.
+/// Up to five debts and the loan that replaces them.
 struct DebtConsolidation {
     double Loan1Amt = 0, Loan2Amt = 0, Loan3Amt = 0, Loan4Amt = 0, Loan5Amt = 0;
     double Loan1Int = 0, Loan2Int = 0, Loan3Int = 0, Loan4Int = 0, Loan5Int = 0;
@@ -65,7 +65,7 @@ struct KwikQuotes {
 
 /// A level-payment loan with one unknown. Saved with the client.
 struct Loans {
-    std::string Heading = "Monthly repayment"; ///< which of the four is the unknown
+    std::string Heading = "Monthly repayment"; ///< names the unknown among the four
     double Num1 = 0;                           ///< principal, rand
     double Num2 = 0;                           ///< period, whole months
     double Num3 = 0;                           ///< interest, percent a year, nominal, compounded monthly
@@ -74,7 +74,7 @@ struct Loans {
     bool operator==(const Loans&) const = default;
 };
 
-/// Needs analysis for death. Itemised lines carry their flag in `Itemised`.
+/// Needs analysis for death. `Itemised` holds the flags of itemised lines.
 struct NADeath {
     double Income = 0; ///< rand a month
     double Inflation = 0;
@@ -157,7 +157,7 @@ struct KwikTax {
     double Salary = 0; ///< income a year; the input of every tax scale
     double Age = 0;
     double YR9798 = 1;       ///< the tax year's option: 0 is February 2026, anything else February 2027
-    double LastScaleTax = 0; ///< what the scale used last gave, rand a year; never stored
+    double LastScaleTax = 0; ///< last result of any tax scale, rand a year; never stored
 
     bool operator==(const KwikTax&) const = default;
 };
@@ -173,7 +173,7 @@ struct InvestComparison {
     bool operator==(const InvestComparison&) const = default;
 };
 
-/// What of a draw-down annuity is saved with the client.
+/// The part of a draw-down annuity that is saved with the client.
 struct DrawDown {
     double LSAmt = 0, GRLA = 0, Midp = 0, Esc = 0;
 
@@ -252,17 +252,17 @@ struct RATaxAdvantage {
     bool operator==(const RATaxAdvantage&) const = default;
 };
 
-/// The client's rows as this program last read or wrote them, by which a save knows that they are still the same.
+/// The client's rows as this program last read or wrote them. A save compares them to detect another program's change.
 struct ClientInFile {
     std::string Name;
     double BirthDate = base::blankDate;
     std::uint64_t contents = 0; ///< checksum of all that the file holds of the client
-    store::FileState file;      ///< while the file is still in it, nothing in it has changed
+    store::FileState file;      ///< if the file is still in this state, nothing in it has changed
 
     bool operator==(const ClientInFile&) const = default;
 };
 
-/// Costs of a draw-down annuity as they stand after a reset; the screen reads its own settings over them.
+/// Costs of a draw-down annuity after a reset; the screen replaces them by its own settings.
 struct DrawDownCosts {
     double BrokerCom = 0;
     double SetupCosts = 500; ///< rand
@@ -323,18 +323,18 @@ struct Assessment {
     RATaxAdvantage raTaxAdvantage;
     CarAll car;
     Itemised itemised;
-    std::vector<Policy> policies = std::vector<Policy>(1); ///< `MaxNum` of them, never fewer than one on screen
+    std::vector<Policy> policies = std::vector<Policy>(1); ///< `MaxNum` of them; a screen shows at least one
     std::int16_t CurPolicy = 1;                            ///< the policy shown, from 1
-    double PolicyMonthlyIncome = 0; ///< pensions of all policies, rand a month; worked out with them, never stored
+    double PolicyMonthlyIncome = 0; ///< pensions of all policies, rand a month; computed with them, never stored
     CapitalGains capitalGains;
     LumpSums lumpSums;
     FundDefaults funds;
 
     double DCLNO = 0; ///< client key, 0 while the client has none
     std::int16_t ClientOnFile = 0;
-    ClientInFile inFile; ///< while `ClientOnFile` is 1
+    ClientInFile inFile; ///< valid while `ClientOnFile` is 1
     std::int16_t ClientChanged = 0;
-    std::int16_t SaveThenNew = 0; ///< 1 while a save is to end in a blank client
+    std::int16_t SaveThenNew = 0; ///< 1 if the current save is to be followed by a blank client
     Changed changed;
     double GRINC = 0;
     double CPI = 0;
@@ -345,11 +345,11 @@ struct Assessment {
     bool operator==(const Assessment&) const = default;
 };
 
-/// Trim(title) + " " + Trim(initials) + " " + Trim(surname). The whole is not trimmed: a lone surname keeps two blanks
-/// before it, as the list of clients has always shown it.
+/// Trim(title) + " " + Trim(initials) + " " + Trim(surname). The result is not trimmed: a surname alone keeps two
+/// blanks before it, as the list of clients has always shown it.
 std::string displayName(const PersonalDetails& client);
 
-/// Turns `ClientChanged` on if any screen's changed flag is 1; never turns it off.
+/// Sets `ClientChanged` to 1 if any screen's changed flag is 1; never resets it.
 void CheckChanges(Assessment& record);
 
 } // namespace assessment

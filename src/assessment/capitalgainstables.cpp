@@ -3,7 +3,7 @@
 namespace assessment {
 
 namespace {
-// What a client from before these fields existed is taken to have: neither may be 0.
+// Defaults for a client saved before these fields existed: neither may be 0.
 constexpr double smallBusinessExemption = 1800000; // rand
 constexpr double noSplit = 1;
 } // namespace

@@ -4,7 +4,7 @@
 
 namespace assessment {
 
-/// A flag for each screen, 1 once the user has changed anything on it since the client was loaded or saved.
+/// A flag for each screen: 1 once the user has changed anything on it since the client was loaded or saved.
 struct Changed {
     std::int16_t KwikQuotesChanged = 0;
     std::int16_t DayBalChanged = 0;
@@ -17,7 +17,7 @@ struct Changed {
     std::int16_t LoansChanged = 0;
     std::int16_t KwikTaxChanged = 0;
     std::int16_t InvestCompChanged = 0;
-    std::int16_t DDLivAnnChanged = 0; ///< survives a save, so that a client whose annuity was edited asks again
+    std::int16_t DDLivAnnChanged = 0; ///< not cleared by a save: an edited annuity counts as unsaved ever after
     std::int16_t OffShoreChanged = 0;
     std::int16_t RRRChanged = 0;
     std::int16_t BondBusterChanged = 0;
@@ -34,7 +34,7 @@ struct Changed {
 
     /// True if any flag is 1.
     bool any() const;
-    /// All flags to 0 but `DDLivAnnChanged`.
+    /// Clears all flags except `DDLivAnnChanged`.
     void clearAfterSave();
 
     bool operator==(const Changed&) const = default;

@@ -10,10 +10,10 @@ void Checksum::addBytes(const void* bytes, std::size_t count) {
 }
 
 void Checksum::add(const store::Value& value) {
-    const std::size_t kind = value.index(); // an empty text and Null must not count alike
+    const std::size_t kind = value.index(); // an empty text and Null must give different sums
     addBytes(&kind, sizeof kind);
     if (const auto* number = std::get_if<double>(&value)) {
-        const double stored = *number + 0.0; // the file keeps no sign of a zero
+        const double stored = *number + 0.0; // the file does not store the sign of a zero
         addBytes(&stored, sizeof stored);
     } else if (const auto* text = std::get_if<std::string>(&value)) {
         const std::size_t length = text->size();

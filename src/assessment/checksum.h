@@ -6,8 +6,8 @@
 
 namespace assessment {
 
-/// A sum over stored values in their order: equal values give equal sums, and a value that differs in one bit gives
-/// another. It tells a change by another program, not a forgery (FNV-1a, 64 bits).
+/// A checksum over stored values in their order: equal values give equal sums, and a change of a single bit gives
+/// another. It detects a change by another program, not a forgery (FNV-1a, 64 bits).
 class Checksum {
 public:
     void add(const store::Value& value);

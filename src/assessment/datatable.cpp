@@ -223,7 +223,7 @@ Fields laterFields() {
     };
 }
 
-/// The flags of one analysis' itemised lines.
+/// The flags of one analysis's itemised lines.
 Fields flagFields(Analysis analysis) {
     Fields fields;
     for (const ItemTable& line : itemTables()) {

@@ -13,7 +13,7 @@ namespace assessment {
 
 namespace {
 
-/// Puts a number in a place of its width; false if it has no room there.
+/// Stores a number in the place's own type; false if it does not fit.
 bool put(double& place, double number) {
     if (!std::isfinite(number)) return false;
     place = number;

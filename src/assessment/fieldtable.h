@@ -9,30 +9,30 @@
 #include "base/day.h"
 #include "store/value.h"
 
-/// A table described once: each field's name, stored type, default and place in the record. Creating the table, adding
-/// what an old file lacks, saving, loading, copying and checking text lengths all walk this one list.
+/// Describes each table once: every field's name, stored type, default and place in the record. This one list serves to
+/// create the table, add missing fields to an old file, save, load, copy, and check text lengths.
 namespace assessment {
 
-/// What a new row holds in a field that nothing is written to.
+/// What a new row holds in a field that was not written.
 enum class Initial { null, zero, empty };
 
-/// What is particular about a field when a row is written or read.
+/// Special treatment of a field when a row is written or read.
 enum class Rule {
     plain,
     key,        ///< the client's key
-    rowCount,   ///< how many rows the list has; the same in each row
-    rowNumber,  ///< written as the row's place in its list, from 1
-    emptyDate,  ///< a date that an empty field leaves at `NoDate`; the file has `blankDate` for that
-    birthDate,  ///< the same, and an empty date a day earlier still counts as empty
-    assetDate,  ///< the same, and read back as `NoDate`, for which the gain's arithmetic tests
-    writtenOnly ///< stored, but blank again after a load
+    rowCount,   ///< number of rows in the list; the same in each row
+    rowNumber,  ///< written as the row's number in its list, from 1
+    emptyDate,  ///< a date: an empty one is `NoDate` in the record and `blankDate` in the file
+    birthDate,  ///< as emptyDate, and a date one day earlier also counts as empty
+    assetDate,  ///< as emptyDate, and read back as `NoDate`, which the capital gain's arithmetic tests for
+    writtenOnly ///< stored, but a load leaves it blank
 };
 
-/// A field's declaration: how it is stored, what new rows hold, and what a load makes of a missing or unusable value.
+/// A field's declaration: how it is stored, what new rows hold, and what a missing or unusable value loads as.
 struct Kind {
     store::Declared declared;
     Initial initial = Initial::null;
-    double blank = 0; ///< of number and date fields; a text is read as empty
+    double blank = 0; ///< for numbers and dates; a text loads as empty
 };
 
 inline constexpr Kind Boolean{{store::Type::Boolean}};
@@ -46,10 +46,10 @@ constexpr Kind zero(Kind kind) { return {kind.declared, Initial::zero, kind.blan
 constexpr Kind empty(Kind kind) { return {kind.declared, Initial::empty, kind.blank}; }
 constexpr Kind blankAs(double blank, Kind kind) { return {kind.declared, kind.initial, blank}; }
 
-/// Where a value lies in a record, and so in which width it is kept.
+/// Where a value lies in a record, and so in which type it is kept.
 using Place = std::variant<double*, float*, std::int16_t*, std::int32_t*, std::string*>;
 
-/// The way from a record to the place of one of its values.
+/// How to get from a record to the place of one of its values.
 template <class Row>
 struct Binding {
     Place (*at)(void* row) = nullptr;
@@ -79,14 +79,14 @@ auto& follow(auto& object) {
 }
 } // namespace detail
 
-/// The value at the end of a path of member pointers and array indices: in<&Assessment::details, &PersonalDetails::DEP,
+/// The value reached by a path of member pointers and array indices: in<&Assessment::details, &PersonalDetails::DEP,
 /// 0>.
 template <auto First, auto... Rest>
 inline constexpr Binding<typename detail::ClassOf<First>::type> in{[](void* row) {
     return Place{&detail::follow<First, Rest...>(*static_cast<typename detail::ClassOf<First>::type*>(row))};
 }};
 
-/// One field without the record's type. A field with no place is stored and never written or read.
+/// One field, independent of the record's type. A field without a place is stored but never written or read.
 struct FieldLine {
     std::string name;
     Kind kind;
@@ -112,8 +112,8 @@ struct IndexLine {
     std::string fields;
 };
 
-/// A table without the record's type: what creating, completing and copying it need. Every table's first column is the
-/// unused Boolean `In Use`, which is not in the list.
+/// A table, independent of the record's type: enough to create, complete and copy it. The first column of every table
+/// is the unused Boolean `In Use`, which is not in the list.
 class TableDescription {
 public:
     TableDescription(std::string tableName, std::vector<FieldLine> tableFields, std::vector<IndexLine> tableIndexes);
@@ -121,10 +121,10 @@ public:
     const std::string& name() const { return m_name; }
     const std::vector<FieldLine>& fields() const { return m_fields; }
     const std::vector<IndexLine>& indexes() const { return m_indexes; }
-    /// The field of that name, matched without case; null if there is none.
+    /// The field with that name, matched without case; null if there is none.
     const FieldLine* field(std::string_view fieldName) const;
 
-    /// Statements over the written fields, in the table's order; an update ends with the rowid.
+    /// Statements for all written fields, in the table's order; the last parameter of an update is the rowid.
     const std::string& insertSql() const { return m_insertSql; }
     const std::string& updateSql() const { return m_updateSql; }
 
@@ -145,14 +145,14 @@ public:
         : TableDescription(std::move(tableName), {tableFields.begin(), tableFields.end()}, std::move(tableIndexes)) {}
 };
 
-/// How many characters the file takes of a text of this row, which one of the table's lines leads to.
+/// How many characters the file stores of a text in this row. One of the table's lines must lead to the text.
 int sizeOf(const TableDescription& table, void* row, const std::string& text);
 
-/// The value at a place as the store takes it.
+/// The value at a place, in the form that the store takes.
 store::Value valueAt(Place place);
 
-/// Puts a stored value in its place, in the width kept there. What is missing (Null), of another type, not finite or
-/// beyond the width reads as the blank; a whole-number width rounds half to even.
+/// Stores a value from the file in its place, converted to the place's type. A value that is Null, of the wrong type,
+/// not finite or too large becomes `blank`; whole-number types round half to even.
 void setValueAt(Place place, store::Value&& value, double blank);
 
 } // namespace assessment

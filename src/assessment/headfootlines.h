@@ -5,7 +5,7 @@
 
 namespace assessment {
 
-/// The practice's lines on every report, at most 80 characters each.
+/// The practice's own lines on every report, at most 80 characters each.
 struct HeadFootLines {
     std::array<std::string, 4> HeaderV;
     std::array<std::string, 4> FootV;

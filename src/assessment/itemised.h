@@ -6,7 +6,7 @@
 
 namespace assessment {
 
-/// One row of an itemised line. Which of the figures behind the amount a list keeps depends on its layout.
+/// One row of an itemised line. The list's layout decides which figures besides the amount it uses.
 struct ItemRow {
     std::string IncomeSource;
     double Amount = 0;
@@ -18,10 +18,10 @@ struct ItemRow {
     bool operator==(const ItemRow&) const = default;
 };
 
-/// What an itemised list keeps behind text and amount.
+/// What an itemised list stores besides text and amount.
 enum class ItemLayout { income, plain, occurrenceAge, maturityAge };
 
-/// A money line that may be itemised: 1 means that the rows count in place of the plain amount.
+/// A money line that may be itemised: if the flag is 1, its rows count instead of the plain amount.
 struct ItemList {
     std::int16_t flag = 0;
     std::vector<ItemRow> rows;
@@ -29,7 +29,7 @@ struct ItemList {
     bool operator==(const ItemList&) const = default;
 };
 
-/// Every itemised line of the three big analyses, each under the name of its flag without "Itemise".
+/// All itemised lines of the three needs analyses, named after their flags without "Itemise".
 struct Itemised {
     ItemList RNAFutMonInc, RNARealEst, RNAStocks, RNABussSale, RNAOtherCap, RNAMortgage, RNARetProp, RNANewCar,
         RNATravel, RNAOtherExp, RNAMonIncReq;
@@ -37,9 +37,9 @@ struct Itemised {
         DTHOtherLoans, DTHCreditCard, DTHEstateDuty, DTHOtherExp;
     ItemList DISAMonIncReq, DISAFutMonInc, DISARealEst, DISAStocks, DISAInvestments, DISACars, DISAOtherCap,
         DISAMortgage, DISAOtherLoans, DISACreditCard, DISAEstateDuty, DISAOtherExp;
-    /// Fed by the policies: a flag, no rows and no table.
+    /// Totals of the policies: a flag, but no rows and no table.
     std::int16_t RNAPoliciesItemise = 0, DTHLifeAssItemise = 0, DISALifeAssItemise = 0;
-    /// The policies pay a pension: a flag that is worked out afresh with them and never stored.
+    /// The pension from the policies: a flag that is recomputed with them and never stored.
     std::int16_t NARAPolicyIncomeItemise = 0;
 
     bool operator==(const Itemised&) const = default;

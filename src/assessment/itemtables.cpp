@@ -29,7 +29,7 @@ std::vector<Field<ItemRow>> rowFields(ItemLayout layout) {
     return fields;
 }
 
-/// Keeps a table for as long as the program runs.
+/// Creates a table that lives until the program ends.
 const FieldTable<ItemRow>* keep(const char* name, ItemLayout layout) {
     static std::list<FieldTable<ItemRow>> tables;
     return &tables.emplace_back(name, rowFields(layout), std::vector<IndexLine>{{"DCLNOIndex", "DCLNO"}});

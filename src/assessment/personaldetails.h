@@ -8,8 +8,8 @@
 
 namespace assessment {
 
-/// The client's front page: client, spouse, addresses, bank, dependants. `Name`, `BirthDate` and `IDNumber` are in
-/// `Client`, since both client tables hold them.
+/// Personal details: client, spouse, addresses, bank, dependants. `Name`, `BirthDate` and `IDNumber` are in `Client`,
+/// since both client tables store them.
 struct PersonalDetails {
     std::string CTitle, CFName, CInit, CLName;
     std::string PAdd1, PAdd2, PAdd3, PAddZip;

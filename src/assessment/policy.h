@@ -7,14 +7,14 @@
 
 namespace assessment {
 
-/// One policy or investment of the client's schedule. Escalations are percent a year, kept in single precision except
-/// that the store keeps the premium's as a whole number.
+/// One policy or investment of the client's schedule. Escalations are percent a year in single precision, but the file
+/// stores the premium's as a whole number.
 struct Policy {
     std::string PolInvType, UnderInst, PolRefNum, PolOwner;
-    double InceptionDate = base::NoDate; ///< keeps `NoDate` in the file too
+    double InceptionDate = base::NoDate; ///< the file keeps `NoDate` too
     std::int16_t WoP = 0, PaidUp = 0;
     double PremInvAmtMonthly = 0;
-    float PremInvAmtMonthlyAnnEsc = 0; ///< whole percent once it has been through the file
+    float PremInvAmtMonthlyAnnEsc = 0; ///< a whole percent after a load
     double PremInvAmtMonthlyCPI = 0, PremInvAmtAnnual = 0, PremInvAmtSingle = 0;
     std::string PolIncNote, PolIncAddNote;
     double DeathBen = 0, DeathBenSurrVal = 0, DeathBenLoanAgainst = 0, DeathBenMonthly = 0;

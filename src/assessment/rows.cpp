@@ -40,13 +40,13 @@ double numberOrZero(const store::Value& value) {
 }
 
 std::string selectSql(const TableDescription& table, bool ofOneClient) {
-    // The client's index keeps equal keys in the order of adding, so this order costs nothing.
+    // The index on the client lists equal keys in the order of adding, so this ORDER BY costs nothing.
     return "SELECT * FROM " + store::bracketed(table.name()) + (ofOneClient ? " WHERE [DCLNO]=?" : "") +
            " ORDER BY rowid";
 }
 
-/// Where each column of the file goes. Columns mostly stand in the table's own order, so each search starts behind the
-/// last one found.
+/// The position of each field among the file's columns. The columns are mostly in the table's own order, so each search
+/// starts after the column found last.
 std::vector<int> columnsOf(const TableDescription& table, const store::Statement& select) {
     const auto& fields = table.fields();
     std::vector<int> columns(fields.size(), -1);

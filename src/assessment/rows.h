@@ -8,17 +8,17 @@
 #include "assessment/fieldtable.h"
 #include "store/database.h"
 
-/// Records to rows and back, by their field table; one prepared statement serves all rows of a table.
+/// Writes records to rows and reads them back, as their field table describes; one prepared statement serves all rows.
 ///
-/// For tables whose rows are a struct of ours. Rows that are put together field by field where they are needed, such as
-/// those of a report, go by `datastore/row.h`.
+/// For tables whose row is one of our structs. For rows put together field by field, such as those of a report, use
+/// `datastore/row.h`.
 namespace assessment {
 
-/// What of a row is not in the record itself.
+/// The columns of a row that are not in the record itself.
 struct RowPlace {
-    double key = 0; ///< the client's
-    int count = 1;  ///< rows of the list
-    int number = 1; ///< this row's place in it, from 1
+    double key = 0; ///< of the client
+    int count = 1;  ///< number of rows in the list
+    int number = 1; ///< this row's number in the list, from 1
 };
 
 class RowWriterCore {
@@ -36,9 +36,9 @@ private:
     std::optional<store::Statement> m_insert;
 };
 
-/// Writes rows of one table. Error 3163 for a text past its field's size, 3421 for a number that the field can't hold,
-/// 3265 for a field that the file lacks. What is written is added to `sum`, in such a way that a reader of the same
-/// rows comes to the same sum.
+/// Writes rows of one table. Error 3163 for a text longer than its field, 3421 for a number that the field can't hold,
+/// 3265 for a field missing in the file. `sum` is updated with what is written; reading the same rows gives the same
+/// sum.
 template <class Row>
 class RowWriter : RowWriterCore {
 public:
@@ -56,7 +56,7 @@ protected:
     bool next(void* row);
 
 public:
-    /// The list's row count as the row read last tells it; 0 where it does not.
+    /// The number of rows in the list, as the last row read says; 0 if it does not say.
     double rowCount() const { return m_rowCount; }
     /// The client's key in the row read last.
     double key() const { return m_key; }
@@ -64,7 +64,7 @@ public:
 private:
     struct Source {
         const FieldLine* field;
-        int column; ///< -1: the file lacks it
+        int column; ///< -1: missing in the file
     };
     store::Statement m_select;
     Checksum* m_sum;
@@ -73,19 +73,19 @@ private:
     double m_key = 0;
 };
 
-/// Reads the rows of one client, or of the whole table, in the order in which they were added. A field
-/// that an older file lacks reads as its blank. What is read is added to `sum`.
+/// Reads the rows of one client, or of the whole table, in the order in which they were added. A field missing in an
+/// older file reads as its blank value. `sum` is updated with what is read.
 template <class Row>
 class RowReader : public RowReaderCore {
 public:
     RowReader(store::Database& database, const FieldTable<Row>& table, std::optional<double> key = {},
               Checksum* sum = nullptr)
         : RowReaderCore(database, table, key, sum) {}
-    /// The next row's fields into `row`; false, and `row` untouched, when there is none.
+    /// Reads the next row into `row`. False, and `row` unchanged, if there is none.
     bool next(Row& row) { return RowReaderCore::next(&row); }
 };
 
-/// Rowid of the first row in the order of adding, of all or of one client.
+/// Rowid of the row added first, in the whole table or for one client.
 std::optional<std::int64_t> firstRow(store::Database& database, const TableDescription& table,
                                      std::optional<double> key = {});
 

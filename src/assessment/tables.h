@@ -11,7 +11,7 @@ namespace assessment {
 
 /// One row a client: the figures of all calculators and analyses.
 const FieldTable<Assessment>& dataTable();
-/// One row a client: the front page.
+/// One row a client: the personal details.
 const FieldTable<Assessment>& persDetailsTable();
 const FieldTable<Policy>& polsInvestsTable();
 const FieldTable<CGTAssetRecord>& cgtDetailsTable();
@@ -20,25 +20,25 @@ const FieldTable<CGTTrustRow>& cgtTrustOtherTable();
 const FieldTable<LumpSums>& lumpSumTaxTable();
 const FieldTable<HeadFootLines>& headFootTable();
 const FieldTable<Assessment>& cpiDefaultTable();
-/// The file's version in its one row.
+/// The file's version, in a single row.
 const TableDescription& dataSetupTable();
-/// Scratch for the review and birthday searches, built afresh by each.
+/// A working table of the review and birthday searches; each search recreates it.
 const TableDescription& dbSearchTable();
-/// What quotations start from, in the settings' database: `MutualFunds`, and `TallowenDefault` with the same fields.
+/// Starting figures of quotations, in the settings' database: `MutualFunds`, and `TallowenDefault` with equal fields.
 const FieldTable<FundDefaults>& mutualFundsTable();
 
 /// Which analysis an itemised line belongs to.
 enum class Analysis { retirement, death, disability };
 
-/// An itemised line of an analysis: its flag in `Data`, its rows in the record and their table. Flags, tables, save and
-/// load all follow from the list of these; a screen finds its lines here too.
+/// An itemised line of an analysis: its flag in `Data`, its rows in the record and their table. The list of these
+/// drives the flags, the tables, save and load; a screen finds its lines here too.
 struct ItemTable {
     Analysis analysis;
     std::string flagField; ///< name of the flag in `Data`
     Binding<Assessment> flag;
-    ItemList& (*list)(Itemised&) = nullptr; ///< null for a line that the policies feed: a flag, no rows and no table
+    ItemList& (*list)(Itemised&) = nullptr; ///< null for a line that the policies fill: no rows, no table
     ItemLayout layout = ItemLayout::plain;
-    /// Its rows and flag come back from the file. The two investment lists are emptied by each save and stay so.
+    /// False for the two investment lists: each save empties them, so neither rows nor flag are ever loaded.
     bool isKept = true;
     const FieldTable<ItemRow>* table = nullptr;
 };

@@ -11,17 +11,17 @@ namespace {
 
 constexpr const char* understood =
     "\nPlease type a figure such as 1 250 000.50, 1,250,000.50 or 1250000,50, or a sum such as =1000*12.";
-// More is a slip of the clipboard. No sum of so few digits leaves the range of a double, and no brackets go too deep.
+// Longer text was pasted by mistake. Within this length no sum overflows a double and no brackets overflow the stack.
 constexpr std::size_t longestText = 200;
 
 struct Spelling {
     std::string_view written;
-    char meant; ///< 0: passed over
+    char meant; ///< 0: ignored
 };
 constexpr Spelling spellings[] = {{" ", 0}, {"\u00A0", 0}, {"\u2007", 0}, {"\u2009", 0},   {"\u202F", 0},
                                   {"'", 0}, {"\u2018", 0}, {"\u2019", 0}, {"\u2212", '-'}, {"\u2013", '-'}};
 
-/// One character for each thing that counts; what is not known stays, and is stumbled over later.
+/// Reduces the typed text to the characters that matter. Unknown characters stay, so that parsing refuses them later.
 std::string plain(std::string_view typed) {
     std::string text;
     while (!typed.empty()) {
@@ -60,7 +60,7 @@ bool areThousands(std::string_view digits, char separator) {
     return true;
 }
 
-/// Place of the decimal sign, or the size of the text if it has none. digits: digits, commas and points alone.
+/// Position of the decimal sign, or the size of the text if there is none. digits: digits, commas and points alone.
 std::size_t decimalSign(std::string_view digits, int places) {
     constexpr int placesOfARate = 3;
     const auto last = digits.find_last_of(".,");
@@ -74,7 +74,7 @@ std::size_t decimalSign(std::string_view digits, int places) {
     return isGrouping ? digits.size() : last;
 }
 
-/// Digits with their separators, "" being none; nothing if these make no sense.
+/// The value of digits with their separators; an empty text is 0. Nothing if the digits are badly grouped.
 std::optional<double> magnitude(std::string_view digits, int places) {
     const auto sign = decimalSign(digits, places);
     const std::string_view whole = digits.substr(0, sign);
@@ -94,7 +94,7 @@ std::optional<double> magnitude(std::string_view digits, int places) {
 
 bool isPartOfNumber(char c) { return isDigit(c) || c == '.' || c == ','; }
 
-/// What was typed, short enough for a box.
+/// What was typed, cut short enough for a message box.
 std::string quoted(std::string_view typed) {
     constexpr std::size_t room = 40;
     const std::string start = firstCharacters(typed, room);
@@ -131,7 +131,7 @@ AmountReading readFigure(std::string_view text, std::string_view typed, int plac
     return reading;
 }
 
-/// Works out what stands behind the =.
+/// Works out the sum that follows the `=`.
 class Sum {
 public:
     Sum(std::string_view text, std::string_view typed, int places) : m_rest(text), m_typed(typed), m_places(places) {}

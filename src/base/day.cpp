@@ -26,7 +26,7 @@ std::optional<int> wholeNumber(std::string_view digits) {
     return number;
 }
 
-/// The groups of digits that one separator parts, blanks around it or not; nothing if anything else stands there.
+/// The groups of digits between separators of one kind, with or without blanks around them; nothing for any other text.
 std::optional<std::vector<std::string_view>> digitGroups(std::string_view text) {
     constexpr std::string_view digits = "0123456789";
     std::vector<std::string_view> groups;
@@ -45,7 +45,7 @@ std::optional<std::vector<std::string_view>> digitGroups(std::string_view text) 
 }
 
 std::optional<double> dateOf(std::string_view year, std::string_view month, std::string_view day) {
-    constexpr int firstYearOfThe1900s = 30; // of two digits
+    constexpr int firstYearOfThe1900s = 30; // two-digit years from here on are 19xx
     auto number = wholeNumber(year);
     if (!number || month.size() > 2 || day.size() > 2) return std::nullopt;
     if (year.size() == 2)

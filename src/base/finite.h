@@ -4,8 +4,8 @@
 
 namespace base {
 
-/// Puts a result in its place in the record; one that is not finite leaves the place as it was, since no file takes it
-/// and every later save of the client would fail on it.
+/// Stores a result in the record. A result that is not finite leaves the old value: no file can hold it, so every later
+/// save of the client would fail.
 inline void keepFinite(double& place, double result) {
     if (std::isfinite(result)) place = result;
 }

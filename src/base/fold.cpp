@@ -7,7 +7,7 @@ namespace base {
 
 namespace {
 
-/// The plain letter of each character of a block: `.` stays as it is, `?` becomes a pair of letters.
+/// The plain letter for each character of a Unicode block: `.` leaves it unchanged, `?` becomes a pair of letters.
 struct Block {
     std::uint32_t first;
     std::string_view letters;
@@ -52,7 +52,7 @@ std::string_view pairOf(std::uint32_t character) {
     return found == std::end(pairs) ? std::string_view() : found->letters;
 }
 
-/// What a character folds to; `itself` where it has no plain letter.
+/// What a character folds to, or `itself` if it has no plain letter.
 std::string_view plain(std::uint32_t character, std::string_view itself) {
     if (character >= firstCombining && character <= lastCombining) return {};
     for (const auto& [first, letters] : blocks) {
@@ -66,7 +66,7 @@ std::string_view plain(std::uint32_t character, std::string_view itself) {
 
 std::size_t lengthOf(unsigned char lead) { return lead < 0xC0 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4; }
 
-/// The character of a sequence of two or three bytes; 0 for any other, which no block holds.
+/// The character that two or three bytes encode; 0 for any other length, which no block contains.
 std::uint32_t decoded(std::string_view bytes) {
     const auto bits = [&](std::size_t i) { return static_cast<std::uint32_t>(static_cast<unsigned char>(bytes[i])); };
     if (bytes.size() == 2) return (bits(0) & 0x1FU) << 6U | (bits(1) & 0x3FU);

@@ -6,14 +6,14 @@
 
 namespace base {
 
-/// Text as lists of names are sorted and searched: letters in lower case and without their accents.
+/// Text in the form used to sort and search lists of names: lower case and without accents.
 ///
 /// Folds the Latin letters of Western, Central European and South African languages (Êksteen as eksteen, Ṱhoho-Nḓou as
 /// thoho-ndou, ß as ss) and drops combining marks. Other scripts stay as they are and sort after the Latin letters.
 /// Comparing two folded texts byte by byte orders them.
 std::string folded(std::string_view utf8);
 
-/// A text as it is sorted in a list: compares as its folded form does, most times by its first eight bytes alone.
+/// A text as it is sorted in a list. Compares like its folded form, mostly by the first eight bytes alone.
 class SortKey {
 public:
     SortKey() = default;

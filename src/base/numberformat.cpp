@@ -54,8 +54,8 @@ std::string groupedInThrees(const std::string& digits) {
 
 int shownPlaces(const Mask& mask) { return static_cast<int>(std::min<std::size_t>(mask.places, 15)); }
 
-/// A hundred times the fraction as it is written: 0.145 is 14.5, which a multiplication would miss by a hair, and a tie
-/// would be no tie.
+/// A hundred times the fraction, exact in its decimal digits: 0.145 is 14.5. A multiplication could miss that by a
+/// hair, and the tie would then round the wrong way.
 double inPercent(double fraction) {
     if (!std::isfinite(fraction)) return fraction;
     std::array<char, 32> digits{};
@@ -66,7 +66,7 @@ double inPercent(double fraction) {
     int exponent = 0;
     std::from_chars(text.data() + e + (text[e + 1] == '+' ? 2 : 1), text.data() + text.size(), exponent);
     const std::string shifted = std::string(text.substr(0, e + 1)) + std::to_string(exponent + 2);
-    double percent = std::numeric_limits<double>::infinity(); // stays where a double cannot hold so much
+    double percent = std::numeric_limits<double>::infinity(); // the result if a double cannot hold it
     std::from_chars(shifted.data(), shifted.data() + shifted.size(), percent);
     return percent;
 }

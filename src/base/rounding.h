@@ -2,13 +2,13 @@
 
 namespace base {
 
-/// x to the nearest whole number, ties to even: 0.5 gives 0, 1.5 gives 2, -2.5 gives -2. NaN and infinities stay.
+/// x rounded to a whole number, ties to even: 0.5 gives 0, 1.5 gives 2, -2.5 gives -2. NaN and infinities are returned.
 double roundHalfEven(double x);
 
-/// x to `decimals` places (0 to 15), ties to even, by scaling with a power of ten.
+/// x rounded to `decimals` places (0 to 15), ties to even, by scaling with a power of ten.
 ///
-/// The tie is judged on the scaled double, as on paper: 2.675 to 2 places scales to 267.5 and gives 2.68.
-/// An x whose scaled value has no fraction or would overflow comes back unchanged.
+/// A tie is decided on the scaled double, as on paper: 2.675 to 2 places scales to 267.5 and gives 2.68.
+/// An x whose scaled value has no fraction or would overflow is returned unchanged.
 double roundHalfEven(double x, int decimals);
 
 } // namespace base

@@ -13,7 +13,7 @@ namespace {
 
 std::size_t at(int index) { return static_cast<std::size_t>(index); }
 
-/// The months of a table: an old file may hold a period that is no count of months at all.
+/// The number of months in a table. An old file may hold a period that is no number of months at all.
 int tableMonths(double wholeMonths) {
     if (!(wholeMonths >= 1)) return 0;
     return static_cast<int>(std::min<double>(wholeMonths, Amortisation::mostMonths));

@@ -8,18 +8,18 @@ namespace {
 
 constexpr double cent = 0.01;
 
-/// Sums that lie evenly: sum + step, sum + 2 step, ... up to `count` of them.
+/// A run of evenly spaced sums: sum + step, sum + 2 step, ... up to `count` of them.
 struct EvenStretch {
     double step = 0;
     double count = 0;
 };
 
-/// How far the sums of added cents go on in even steps from `sum`.
+/// How many of the next sums, each a cent more, are evenly spaced.
 ///
 /// Between two powers of two doubles are evenly spaced, so each added cent is rounded to the same number of spacings
-/// and the sums can be counted instead of added. The cent's last bit is set, so from 1 up its part of a spacing is
-/// never an exact half, which would be rounded by turns. The last few sums before the power of two are left to plain
-/// additions; so are all sums below 1, of which there are few.
+/// and the sums can be computed without adding. Since the last bit of the cent is set, from 1 up a cent is never
+/// exactly half a spacing, which would round up and down in turn. The last few sums before a power of two are left to
+/// plain addition, and so are the few below 1.
 EvenStretch evenStretch(double sum) {
     const double size = std::fabs(sum);
     if (size < 1) return {};
@@ -29,7 +29,7 @@ EvenStretch evenStretch(double sum) {
     return step > 0 ? EvenStretch{step, std::floor(room / step) - 2} : EvenStretch{};
 }
 
-/// The first sum of a stretch that `reached` accepts, knowing that it accepts the last.
+/// The first sum of a run that `reached` accepts. It must accept the last one.
 double firstWithin(double sum, const EvenStretch& stretch, const std::function<bool(double)>& reached) {
     double refused = 0, accepted = stretch.count;
     while (accepted - refused > 1) {

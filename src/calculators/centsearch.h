@@ -5,11 +5,11 @@
 
 namespace calculators {
 
-/// The first of the sums amount + 0.01, amount + 0.01 + 0.01, ... that `reached` accepts, bit for bit as the additions
-/// one by one give it, noise included. Nothing if an addition no longer changes the sum.
+/// The first of the sums amount + 0.01, amount + 0.01 + 0.01, ... that `reached` accepts, with exactly the bits (and
+/// rounding errors) that adding cent by cent gives. Nothing if adding a cent no longer changes the sum.
 ///
-/// `reached` must never accept a sum and refuse a larger one that it is asked about. It is asked some hundred times,
-/// however many millions of cents lie between.
+/// `reached` must not accept a sum and refuse a larger one. It is called some hundred times, however many millions of
+/// cents the search covers.
 std::optional<double> firstCentThat(double amount, const std::function<bool(double)>& reached);
 
 } // namespace calculators

@@ -21,7 +21,7 @@ const QStringList modeCaptions{"Monthly repayment", "Principal amount", "Repayme
 const NumberKind months = whole.upTo(600, "The maximum period  allowed is 600 months", "Incorrect Period!");
 const NumberKind rate =
     percent.upTo(highestEnteredRate, "The maximum interest rate allowed is 50%", "Incorrect Interest Rate!");
-constexpr double monthsOfAnAnnualTable = 13; // twelve months make no second row to compare with
+constexpr double monthsOfAnAnnualTable = 13; // twelve months fill one year only: nothing to compare
 constexpr const char* figures = "# ### ### ###.00";
 constexpr double noAnswer = std::numeric_limits<double>::quiet_NaN(); // shows as an error
 
@@ -116,14 +116,15 @@ QWidget* frmLoans::firstField() { return modeIndex(m_loans) == 1 ? m_period : m_
 
 void frmLoans::filled() {
     showMode();
-    assessment::Loans copy = m_loans; // to look is not to change: a period's search takes a cent off the repayment
+    // Opening a screen must not change the record, but the search for the period lowers the repayment by a cent.
+    assessment::Loans copy = m_loans;
     solve(copy);
 }
 
 void frmLoans::pickMode(int) {
     showMode();
     auto* first = dynamic_cast<Field*>(firstField());
-    if (!m_modes->pickedByArrow()) first->takeFocus(); // the arrows walk on to the next mode
+    if (!m_modes->pickedByArrow()) first->takeFocus(); // with the arrow keys the user moves on to the next mode
 }
 
 void frmLoans::showMode() {
@@ -143,7 +144,7 @@ assessment::Loans frmLoans::shown() const {
 void frmLoans::calculate() {
     const assessment::Loans before = m_loans;
     solve(m_loans);
-    if (m_loans != before) m_work.record.changed.LoansChanged = 1; // the file does not hold this result yet
+    if (m_loans != before) m_work.record.changed.LoansChanged = 1; // the saved client does not have this result yet
 }
 
 void frmLoans::solve(assessment::Loans& loan) {

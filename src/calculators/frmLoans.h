@@ -23,12 +23,12 @@ private:
     void buildPrintPanel();
     void pickMode(int mode);
     void showMode();
-    /// The field of each mode's answer, by the mode's index.
+    /// The result field of each mode, by the mode's index.
     std::array<screenkit::NumberField*, 4> solvedFields() const;
-    /// Solves a loan and shows it; the record's own, or a copy where looking must not change the record.
+    /// Solves a loan and shows it: the record's own, or a copy if the record must not change.
     void solve(assessment::Loans& loan);
     void calculate();
-    /// What the user sees: after an opening the result of a copy, which the record need not hold.
+    /// The figures on the screen. After opening they are a copy's result, which the record need not hold.
     assessment::Loans shown() const;
     void showCharges(const assessment::Loans& loan);
     void toggleCharges();

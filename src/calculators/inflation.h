@@ -9,7 +9,7 @@ struct InflationResult {
     double buyingPower = 0; ///< what the present amount shrinks to
 };
 
-/// A present cost (rand) carried over `PeriodInflation` whole years at `IntRateInflation` percent a year, year by year.
+/// A present cost (rand) increased over `PeriodInflation` whole years at `IntRateInflation` percent a year.
 InflationResult LTLINFL(const assessment::Inflation& inputs);
 
 } // namespace calculators

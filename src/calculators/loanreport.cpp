@@ -17,7 +17,7 @@ struct ModeReport {
     const char* monthlyTitle;
 };
 
-// By the modes' order on the screen.
+// In the order of the modes on the screen.
 constexpr std::array<ModeReport, 4> reports{{
     {"Lonrepa", "Annual repayment of Loan with Amortisation", "Annual repayment of Loan with Monthly Amortisation"},
     {"LonPrAm", "Principal calculation of Loan with Annual Amortisation",

@@ -11,8 +11,8 @@ using assessment::Loans;
 
 namespace {
 
-/// The search for the period starts a cent low: the cents that it adds then bring an exact fit back to the repayment
-/// as typed, and only a loan that never clears stays a cent below it.
+/// The search for the period starts a cent below the repayment: where it fits exactly, the cents that the search adds
+/// lead back to what was typed. A loan that never clears keeps the repayment a cent lower.
 void solvePeriod(Loans& loan) {
     loan.Num2 = 0;
     loan.Num4 -= 0.01;

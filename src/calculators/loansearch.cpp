@@ -12,11 +12,11 @@ using assessment::Loans;
 namespace {
 
 constexpr double highestRate = 1000000;
-constexpr int coarseSteps = 200000; // the steps of 5 that lead to the highest rate
-constexpr int mostSteps = 20000;    // a loan needs some thirty; figures that are none could go on for millions
+constexpr int coarseSteps = 200000; // steps of 5 up to the highest rate
+constexpr int mostSteps = 20000;    // a real loan needs about thirty; senseless figures could go on for millions
 
-/// The whole months that the repayment covers: found as they stand if the discounted amount meets the principal in
-/// the last digit, else one less than the first month that passes it.
+/// The whole months that the repayment covers. If the discounted amount equals the principal in every digit, that month
+/// is `exact`; otherwise it is the month before the first one whose amount exceeds the principal.
 struct CoveredMonths {
     int months = 0;
     bool exact = false;
@@ -31,22 +31,22 @@ CoveredMonths coveredMonths(double principal, double percentAYear, double repaym
     return {0, true};
 }
 
-/// A rate on the grid of 5 up to which no repayment exceeds `repayment`: the ladder may begin there.
+/// A start for the rate search: a multiple of 5 below which no computed repayment exceeds `repayment`.
 ///
-/// The true repayment rises with the rate (falls, for a negative principal), and from 5 percent up the computed one
-/// lies within 1e-10 of it; so one that is below by 1e-9 tells the same of all lower (higher) rates. Of a tiny part of
-/// a month, of part of a month to the negative, and of repayments among the smallest doubles this can't be said:
-/// there the ladder begins at 0.
-double surelyBelow(double principal, double months, double repayment) {
-    const bool told = (months >= 0.01 || months <= -1) && std::fabs(repayment) >= 1e-290;
-    if (!told) return 0;
+/// The true repayment rises with the rate (falls, for a negative principal), and from 5 percent up the computed one is
+/// within 1e-10 of it. So if it is below `repayment` by 1e-9 at one rate, it is below at every lower (higher) rate.
+/// This does not hold for a very short or negative fraction of a month, nor for the smallest doubles: then the search
+/// starts at 0.
+double safeStartRate(double principal, double months, double repayment) {
+    const bool isReliable = (months >= 0.01 || months <= -1) && std::fabs(repayment) >= 1e-290;
+    if (!isReliable) return 0;
     const double bound = repayment > 0 ? repayment / (1 + 1e-9) : repayment * (1 + 1e-9);
-    const auto sure = [=](int step) { return repaymentFor(principal, months, 5.0 * step) <= bound; };
-    if (principal < 0) return repaymentFor(principal, months, 5) <= repayment && sure(2) ? highestRate : 0;
+    const auto isBelow = [=](int step) { return repaymentFor(principal, months, 5.0 * step) <= bound; };
+    if (principal < 0) return repaymentFor(principal, months, 5) <= repayment && isBelow(2) ? highestRate : 0;
     int below = 0, above = coarseSteps + 1;
     while (above - below > 1) {
         const int middle = (below + above) / 2;
-        (sure(middle) ? below : above) = middle;
+        (isBelow(middle) ? below : above) = middle;
     }
     return 5.0 * below;
 }
@@ -71,7 +71,7 @@ LoanPeriod periodFor(double principal, double percentAYear, double repayment) {
 
 double rateFor(double principal, double months, double repayment) {
     if (principal == 0 || months == 0 || repayment == 0) return 0;
-    double rate = surelyBelow(principal, months, repayment);
+    double rate = safeStartRate(principal, months, repayment);
     int steps = 0;
     for (const double step : {5.0, 1.0, 0.1, 0.01}) {
         do {

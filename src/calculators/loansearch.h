@@ -7,7 +7,7 @@ namespace calculators {
 /// The longest period, months, that a loan is solved for.
 inline constexpr int longestPeriod = 600;
 
-/// What `rateFor` gives when no rate up to 1 000 000 percent takes the repayment past the one asked for.
+/// What `rateFor` returns if at every rate up to 1 000 000 percent the repayment stays within the one asked for.
 inline constexpr double unsolvableRate = 1000005;
 
 /// A period and the repayment that clears the loan in it.
@@ -16,19 +16,19 @@ struct LoanPeriod {
     double repayment = 0; ///< rand a month
 };
 
-/// Months that a repayment needs to clear a loan, and the repayment that clears it in just these months.
+/// Months that a repayment needs to clear a loan, and the repayment that clears it in exactly these months.
 ///
 /// Finds the whole months that the repayment fully covers, then raises it cent by cent until the loan clears in that
-/// term. A repayment that fits a term exactly is not raised. 0 months, with the repayment as it was, if any argument
-/// is 0, if 600 months do not suffice, or if no number of cents clears the loan (less than a month is needed, or the
-/// repayment is so large that a cent no longer changes it). At most some hundreds of powers are worked out.
+/// term. A repayment that fits a term exactly is not raised. Returns 0 months and the repayment unchanged if any
+/// argument is 0, if 600 months are too few, or if no number of cents clears the loan (less than a month is needed, or
+/// the repayment is so large that a cent no longer changes it). Computes some hundreds of powers at most.
 LoanPeriod periodFor(double principal, double percentAYear, double repayment);
 
 /// The highest rate, percent a year on the grid of 0.01, at which the repayment of the loan does not exceed
-/// `repayment`; it carries the noise of the additions that lead to it.
+/// `repayment`. It keeps the rounding errors of the additions that lead to it.
 ///
-/// 0 if any argument is 0, and where even a rate of 0.01 asks for more. `unsolvableRate` if the rate passes 1 000 000,
-/// or if figures that are no loan, such as a period of a thousandth of a month, don't settle in 20 000 steps.
+/// 0 if any argument is 0, or if even a rate of 0.01 needs a higher repayment. `unsolvableRate` if the rate exceeds 1
+/// 000 000, or if the search takes over 20 000 steps, as for a period of a thousandth of a month.
 double rateFor(double principal, double months, double repayment);
 
 /// Solves Num2, the period, from Num1, Num3 and Num4, and raises Num4 to clear the loan in it (see `periodFor`).

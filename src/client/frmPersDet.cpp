@@ -58,7 +58,7 @@ Item frmPersDet::clientPage() {
                     {"Employer", text("txtCEmployer", d.CEmployer, room(d.CEmployer))},
                     {"Education", text("txtEducation", d.CEducation, room(d.CEducation))},
                     {"Description", text("txtDescription", d.Description, room(d.Description))}}));
-    // Option 1 is deceased; any other value of an old file leaves both off.
+    // 1 is deceased, 0 active. An old file may hold another value, which selects neither option.
     auto* life = options("grpDeceased", {"Active client", "Deceased"}, d.Deceased);
     life->option(0)->setObjectName("optActiveClientOther");
     life->option(1)->setObjectName("optDeceased");
@@ -125,7 +125,7 @@ Item frmPersDet::identityRemark(Identity& identity, const QString& who) {
     identity.remark = note({});
     identity.remark->setObjectName("lbl" + who + "IDRemark");
     identity.take = button("cmd" + who + "UseIDDate", "Use th&is date", [this, &identity] {
-        identity.number->takeFocus(); // the button is about to go
+        identity.number->takeFocus(); // the button with the focus disappears next
         m_births[identity.birth].field->enter(*identity.offered);
         showRemark(identity);
     });

@@ -10,7 +10,7 @@ class QLabel;
 
 namespace client {
 
-/// The client's front page: all that is known of client, spouse and dependants, and its report.
+/// The personal details: all that is known of client, spouse and dependants, and its report.
 class frmPersDet : public screenkit::Screen {
     Q_OBJECT
 public:
@@ -21,13 +21,13 @@ protected:
     void settled(screenkit::Field* field) override;
 
 private:
-    /// A date of birth, which is asked about when it can hardly be one.
+    /// A date of birth. The user is asked about one that is unlikely.
     struct Birth {
         screenkit::DateField* field;
         const double* date;
-        double seen = base::blankDate; ///< asked about already, or found there
+        double seen = base::blankDate; ///< loaded, or the user was already asked about it: do not ask again
     };
-    /// An identity number, what is said of it, and the button that takes the date of birth from it.
+    /// An identity number, the remark on it, and the button that copies its date of birth.
     struct Identity {
         screenkit::TextField* number = nullptr;
         const std::string* digits = nullptr;
@@ -37,7 +37,7 @@ private:
         std::optional<double> offered = {};
     };
     screenkit::DateField* birthDate(const QString& name, double& place);
-    /// Belongs to the date of birth declared last.
+    /// The number belongs to the date of birth declared last.
     screenkit::TextField* identityNumber(Identity& identity, const QString& name, std::string& place, int size);
     screenkit::Item identityRemark(Identity& identity, const QString& who);
     void showRemark(Identity& identity);
@@ -46,10 +46,10 @@ private:
     screenkit::Item addressPage();
     screenkit::Item dependantsPage();
     screenkit::Item notesPage();
-    /// Characters that the file takes of a text of the client.
+    /// The number of characters that the file stores of one of the client's texts.
     int room(const std::string& place);
     screenkit::TextField* namePart(const QString& name, std::string& part, int size, int characters = 0);
-    /// What client and spouse alike are asked beside who they are; `who` is "C" or "S" in the controls' names.
+    /// The details asked of both client and spouse; `who` is "C" or "S" in the controls' names.
     struct Contact {
         const char* who;
         std::string &telWork, &telHome, &faxWork, &faxHome, &cell, &email;

@@ -17,18 +17,18 @@ using namespace screenkit;
 namespace {
 
 constexpr const char* screenTitle = "Policies & Investments";
-constexpr std::size_t mostRecords = std::numeric_limits<std::int16_t>::max(); // what the file can count
+constexpr std::size_t mostRecords = std::numeric_limits<std::int16_t>::max(); // the file counts them in 16 bits
 const NumberKind cpiRate =
     percent.between(0, 100, "The range for the CPI is between 0% and 100%", "Incorrect Inflation Rate!");
 
-/// What of the folded schedule is stored with the client.
+/// The totals of the schedule that are stored with the client.
 auto storedTotals(const assessment::Assessment& record) {
     return std::tuple(record.retirement.ANSLAss4, record.death.ANSAss5, record.disability.DisaASS5,
                       record.itemised.RNAPoliciesItemise, record.itemised.DTHLifeAssItemise,
                       record.itemised.DISALifeAssItemise);
 }
 
-/// Runs what folds the schedule into the analyses; if that gives new totals, the file does not hold them yet.
+/// Recalculates the totals that the schedule gives the analyses. New totals mark the client as changed.
 template <class Fold>
 void foldSchedule(assessment::Assessment& record, Fold fold) {
     const auto before = storedTotals(record);
@@ -42,8 +42,7 @@ bool printPolicies(Workplace& workplace, Destination destination, const PolicyRe
     return workplace.reports.run(definition, title, destination);
 }
 
-/// Greys a button out; the focus it may have goes to one that undoes what it did, so that a key pressed once too often
-/// does no harm.
+/// Disables a button. If it has the focus, the opposite button gets it, so that one key press too many does no harm.
 void greyOut(QPushButton* button, QPushButton* opposite) {
     if (button->hasFocus() && opposite->isEnabled()) opposite->setFocus(Qt::OtherFocusReason);
     button->setEnabled(false);
@@ -168,7 +167,7 @@ void frmPolInvest::show(std::size_t number) {
 }
 
 void frmPolInvest::step(int direction) {
-    show(static_cast<std::size_t>(m_record.CurPolicy + direction)); // greyed out where there is none
+    show(static_cast<std::size_t>(m_record.CurPolicy + direction)); // always exists: else the button is disabled
 }
 
 void frmPolInvest::add() {
@@ -183,7 +182,7 @@ void frmPolInvest::add() {
 }
 
 void frmPolInvest::remove() {
-    // Nothing brings the record back but a load of the client as last saved.
+    // A deleted record comes back only by loading the client as last saved.
     const QString question = tr("Are you sure you want to delete Policy/Investment %1 of %2 ?");
     const Answer answer = m_work.desk.box(BoxStyle::question, question.arg(m_record.CurPolicy).arg(count()),
                                           tr("Delete Policy/Investment"), Buttons::yesNo, Answer::no);

@@ -11,8 +11,8 @@ class QGroupBox;
 
 namespace client {
 
-/// The client's schedule of policies and investments, one record at a time, with what each is worth at retirement, a
-/// list of them all with its totals, and the two reports.
+/// The client's schedule of policies and investments, one record at a time, with each one's worth at retirement, a list
+/// of all with totals, and the two reports.
 class frmPolInvest : public screenkit::Screen {
     Q_OBJECT
 public:
@@ -33,7 +33,7 @@ private:
     void buildCPIPanel();
     void buildPrintPanel();
 
-    // Controls on a column of the schedule, named after it.
+    // Fields bound to a column of the schedule and named after it.
     screenkit::NumberField* figure(const QString& column, const screenkit::NumberKind& kind, const QString& spoken);
     screenkit::NumberField* amount(const QString& column, const QString& spoken = {});
     screenkit::NumberField* age(const QString& column, const QString& spoken = {});
@@ -41,16 +41,17 @@ private:
     screenkit::NumberField* rate(const QString& column, const QString& spoken = {});
     screenkit::TextField* line(const QString& column);
     screenkit::CheckField* tick(const QString& column, const QString& caption, std::function<void(bool)> ticked = {});
-    /// A value at an age and its escalation from there, on one line, and the box that takes it for a purpose.
+    /// One line: a value, the age at which it applies, its escalation from then on, and optionally a tick box for its
+    /// use.
     QLayout* valueAtAge(const QString& benefit, const QString& value, const QString& age, const QString& escalation,
                         const QString& escalationCaption, QWidget* taken = nullptr);
-    /// A figure with room beside it for what `policyRemarks` says of it, or that room alone.
+    /// A figure with space beside it for a remark from `policyRemarks`.
     QLayout* remarked(screenkit::NumberField* field);
     screenkit::Remark* remarkOn(screenkit::NumberField* field);
     screenkit::NumberField* valueField(const QString& name, double& value);
     screenkit::Bound<double> place(const QString& column);
 
-    /// The record on screen.
+    /// The record on the screen.
     assessment::Policy& policy();
     std::size_t count() const { return m_record.policies.size(); }
     void show(std::size_t number);
@@ -77,19 +78,20 @@ private:
     };
     std::vector<Remarked> m_remarks;
     std::vector<screenkit::NumberField*> m_valueFields;
-    std::vector<QWidget*> m_premiums; ///< what a paid-up policy locks
+    std::vector<QWidget*> m_premiums; ///< fields that a paid-up policy locks
     screenkit::TextField *m_type = nullptr, *m_other = nullptr;
     QTabWidget* m_pages = nullptr;
     screenkit::Grid* m_list = nullptr;
-    bool m_inList = false;               ///< a line of the list was picked, and its record is being shown
+    bool m_inList = false;               ///< a line of the list was picked and its record is about to be shown
     QGroupBox* m_atRetirement = nullptr; ///< below every page; its title names the record
     QPushButton *m_back = nullptr, *m_forward = nullptr;
     std::function<void()> m_openCPI;
     screenkit::PrintPanel* m_printPanel = nullptr;
 };
 
-/// The reports on all policies of the record in hand; no screen need be open. The schedule is folded into the analyses
-/// first. False if the report could not run: the user has been told. Throws store::Error if Print.mdb takes no figures.
+/// Prints the reports on all policies of the record; no screen need be open. Totals the schedule for the analyses
+/// first. False if the report could not run and the user has been told. Throws store::Error if Print.mdb can't be
+/// written.
 bool PrintPolInvList(screenkit::Workplace& workplace, screenkit::Destination destination,
                      const PolicyReportOptions& options = {});
 bool PrintPolInvSchedule(screenkit::Workplace& workplace, screenkit::Destination destination,

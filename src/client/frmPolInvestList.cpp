@@ -4,7 +4,7 @@
 
 #include "client/frmPolInvest.h"
 
-// All policies at a glance, and what is said of a value that counts for nothing.
+// The list of all policies, and the remarks on values that count for nothing.
 namespace client {
 
 using namespace screenkit;
@@ -58,13 +58,13 @@ Item frmPolInvest::listPage() {
         });
     m_list->setSortable(true);
     m_list->setVisibleLines(8);
-    m_list->show(columns(), GridRows()); // the window opens as wide as they are
+    m_list->show(columns(), GridRows()); // the column widths decide how wide the window opens
     return column({m_list});
 }
 
 void frmPolInvest::fillList() {
     if (m_pages == nullptr || m_pages->currentWidget() == nullptr || !m_pages->currentWidget()->isAncestorOf(m_list))
-        return; // it is filled when it is turned to
+        return; // the list is filled when its page is shown
     const QScopedValueRollback filling(m_inList, true);
     const double age = m_record.retirement.AgeRetiment;
     std::vector<GridCell> totals{{}, tr("Total"), {}};
@@ -75,7 +75,7 @@ void frmPolInvest::fillList() {
         totals.emplace_back(total);
     }
     const auto cell = [this, age](std::size_t row, std::size_t column) {
-        // Records may have gone since; the list is filled again when it is next seen.
+        // Records may have been deleted since the list was filled; it is filled again when it is next shown.
         return row < count() ? cellOf(m_record.policies[row], row, column, age) : GridCell();
     };
     m_list->show(columns(), {count(), cell, {}, std::move(totals)});

@@ -5,7 +5,7 @@
 #include "assessment/tables.h"
 #include "client/frmPolInvest.h"
 
-// The pages of the policies screen, and how their controls find the record on screen.
+// The pages of the policies screen, and how their fields find the record on the screen.
 namespace client {
 
 using namespace screenkit;
@@ -25,8 +25,8 @@ const assessment::FieldLine& lineOf(const QString& column) {
     return *line;
 }
 
-/// Whole numbers where the file keeps whole numbers, though the record be wider: what is shown on leaving a field is
-/// what a load will bring back.
+/// Rounds to a whole number where the file stores whole numbers, even if the record could hold more: the field then
+/// shows what a load will bring back.
 void put(double number, const assessment::FieldLine& line, assessment::Policy& policy) {
     if (line.kind.declared.type == store::Type::Integer) number = narrowed<std::int16_t>(number);
     const auto write = [number]<class Member>(Member* member) {
@@ -169,11 +169,12 @@ Item frmPolInvest::retirementPage() {
          {"Monthly",
           row({amount("RBMonAvaible", "Monthly pension"),
                labelled("esc at ", rate("RBMonAvaibleEscFor", "Monthly pension, escalation")), note("%"), spring()})}});
-    // What a value is taken for stands beside it: below it the page would be higher than the main window as it opens.
+    // The tick boxes stand beside their values; below them the page would be taller than the main window at its first
+    // size.
     auto* useEndowment = tick("UseEndowEMVAtRet", "Use at retirement");
     auto* takeCurrent = tick("InvBensTakeAtDisa", "Take on disability");
     auto* takeMaturity = tick("InvBensTakeFinValAtRet", "Take at retirement");
-    for (CheckField* box : {useEndowment, takeCurrent, takeMaturity}) // their squares stand below one another
+    for (CheckField* box : {useEndowment, takeCurrent, takeMaturity}) // lines up the squares of the tick boxes
         box->setMinimumWidth(takeMaturity->sizeHint().width());
     auto* endowment =
         form({{"E&stimated maturity value", valueAtAge("Estimated maturity value", "EndowEMV", "EndowEMVAge",
@@ -181,7 +182,7 @@ Item frmPolInvest::retirementPage() {
     auto* current = amount("InvBensCurVal");
     auto* loan = amount("InvBensCurValLoanAgainst");
     auto* onCurrent = remarkOn(current);
-    m_remarks.push_back({loan, onCurrent}); // the line has room for one
+    m_remarks.push_back({loan, onCurrent}); // one remark per line only, there is no room for a second
     auto* investment =
         form({{"Current value of investment",
                row({current, labelled("Loan a&gainst", loan), Item(onCurrent, 1), takeCurrent})},

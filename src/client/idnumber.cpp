@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::size_t length = 13;
 
-/// From the last digit on every second counts twice, its two digits summed.
+/// Luhn's check: from the last digit backwards, every second digit is doubled and the digits of the result are added.
 bool checkDigitFits(const std::string& digits) {
     int sum = 0;
     for (std::size_t i = 0; i < digits.size(); ++i) {

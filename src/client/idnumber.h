@@ -6,21 +6,21 @@
 
 namespace client {
 
-/// What is to be said of an identity number beside a date of birth.
+/// The result of comparing an identity number with a date of birth.
 struct IDCheck {
-    std::string remark;            ///< for the user, in one or two sentences; empty: nothing is amiss
-    std::optional<double> offered; ///< a date of birth for the field that has none, as a day number
+    std::string remark;            ///< one or two sentences for the user; empty if nothing is wrong
+    std::optional<double> offered; ///< the date of birth, as a day number, to offer if the field is empty
 };
 
 /// Checks a South African identity number: YYMMDD, a serial number, the citizenship, and in the last place a check
 /// digit by Luhn's formula.
 ///
-/// Anything but 13 digits, blanks aside, is another country's number or not all there yet, and passes. The century is
-/// the one of `birthDate` where that fits, otherwise the last in which the day has come by `today`. A number whose
-/// check digit is wrong offers no date.
+/// Anything other than 13 digits (blanks are ignored) passes: it is another country's number or not complete yet. The
+/// century is that of `birthDate` if this fits, otherwise the latest one in which the day is not after `today`. A
+/// number whose check digit is wrong offers no date.
 IDCheck checkIDNumber(std::string_view number, double birthDate, double today);
 
-/// What is odd in a date of birth: it lies after today, or more than 120 years back. Empty: nothing, or no date.
+/// A remark on an unlikely date of birth: after today, or more than 120 years ago. Empty if there is none.
 std::string birthRemark(double birthDate, double today);
 
 } // namespace client

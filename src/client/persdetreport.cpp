@@ -8,7 +8,7 @@ namespace client {
 
 namespace {
 
-/// The texts and dates of the client's table under their own names; its options go in as words.
+/// The texts and dates of the client's table under their own names; the options are added as words.
 datastore::Row textsAndDates(assessment::Assessment& record) {
     datastore::Row row;
     for (const assessment::FieldLine& line : assessment::persDetailsTable().fields()) {

@@ -7,14 +7,14 @@
 
 namespace client {
 
-/// What the personal details report shows as words, and whether the notes go with it.
+/// The words for the options in the personal details report, and whether it includes the notes.
 struct PersDetWords {
     std::string clientMarital, spouseMarital, clientSmoker, spouseSmoker; ///< captions of the chosen options
     bool notes = false;
 };
 
-/// Writes the client's front page into Print.mdb: texts as they are, dates dd/mm/yyyy or a blank, comments only if the
-/// notes are wanted. The record is only read. Throws store::Error; nothing is written then.
+/// Writes the personal details into Print.mdb: texts unchanged, dates as dd/mm/yyyy or a blank, notes only if they are
+/// wanted. Does not change the record. If it throws store::Error, nothing is written.
 void feedPersonalDetails(const std::filesystem::path& printDbPath, assessment::Assessment& record,
                          const PersDetWords& words);
 

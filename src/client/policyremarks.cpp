@@ -9,7 +9,7 @@ namespace {
 
 using assessment::Policy;
 
-// Short: they stand beside their values, in the room that a line of fields leaves.
+// Short, to fit beside the values in the space that the fields leave.
 constexpr const char* noAge = "Counts nothing: no age";
 constexpr const char* noTick = "Counts nothing: no tick";
 constexpr const char* reportsOnly = "Counts nothing: reports only";

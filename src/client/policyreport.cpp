@@ -29,7 +29,7 @@ double total(const std::vector<ValuesAtRetirement>& values) {
                            [](double sum, const ValuesAtRetirement& value) { return sum + value.capital(); });
 }
 
-/// As its cell is printed: cents that no reader sees must not make a column add up to another total.
+/// Rounded as its cell is printed: otherwise cents that nobody sees would make the printed column and its total differ.
 double toTheCent(const ValuesAtRetirement& value) { return base::roundHalfEven(total({value}), 2); }
 
 double printedTotal(const std::vector<ValuesAtRetirement>& values) {
@@ -44,12 +44,13 @@ bool fallsDue(const Policy& policy) {
            policy.EndowEMV != 0 || policy.InvBensMatValLS != 0;
 }
 
-/// What each kind of beneficiary receives. A benefit that is ceded away is nothing, never a debt of theirs.
+/// What each kind of beneficiary receives. If more is ceded than the benefit, it is 0, not a debt.
 std::array<double, beneficiaries.size()> benefits(const Policies& policies) {
     std::array<double, beneficiaries.size()> received{};
     for (const Policy& policy : policies) {
         const double benefit = policy.DeathBen - (policy.DeathBenAmtCeded + policy.DeathBenLoanAgainst);
-        const auto person = static_cast<std::size_t>(policy.DeathBenPerson); // of an old file perhaps nobody's number
+        // An old file may hold a number without a beneficiary.
+        const auto person = static_cast<std::size_t>(policy.DeathBenPerson);
         if (person < received.size() && benefit > 0) received[person] += benefit;
     }
     return received;
@@ -93,11 +94,11 @@ datastore::Row headerRow(const assessment::Assessment& record, const std::vector
             {"LumpSumsDue", static_cast<double>(std::count_if(policies.begin(), policies.end(), fallsDue))},
             {"CurrentValueTotal", total(policies, &Policy::InvBensCurVal)},
             {"WorthTotal", printedTotal(values)},
-            // The header has room for one: that of the record on screen.
+            // The header holds one note only: that of the record on the screen.
             {"PolIncAddNote", shown < policies.size() ? noted(policies[shown].PolIncAddNote, options) : std::string()}};
 }
 
-/// What the report says in other words than the record.
+/// What the report words differently from the record.
 store::Value printed(const Policy& policy, const std::string& field, store::Value stored,
                      const PolicyReportOptions& options) {
     if (field == "InceptionDate") return base::reportDate(policy.InceptionDate);
@@ -121,7 +122,7 @@ datastore::Row policyRow(Policy& policy, int number, const ValuesAtRetirement& v
         if (line.at == nullptr) continue;
         row.emplace_back(line.name, printed(policy, line.name, assessment::valueAt(line.at(&policy)), options));
     }
-    row.emplace_back("PremInvAmtAnnualCPI", 0); // no record ever had it
+    row.emplace_back("PremInvAmtAnnualCPI", 0); // no field of the record feeds it
     row.emplace_back("IsFilled", isFilled(policy) ? 1 : 0);
     row.emplace_back("WorthAtRetirement", toTheCent(values));
     return row;

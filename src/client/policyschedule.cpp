@@ -11,10 +11,10 @@ namespace {
 
 using assessment::Policy;
 
-/// True for a benefit that is paid at an age up to retirement.
+/// True if the benefit is paid at or before the age of retirement.
 bool isPaidBy(double retirement, double age) { return age > 0 && age <= retirement; }
 
-/// A value at an age, escalated for each year between that age and the one of retirement, both left out.
+/// A value at an age, escalated once for each year strictly between that age and the age of retirement.
 double escalated(double value, double percent, double age, double retirement) {
     const double rate = percent / 100;
     for (int year = yearsFromTo(age + 1, retirement - 1); year > 0; --year)
@@ -22,8 +22,8 @@ double escalated(double value, double percent, double age, double retirement) {
     return value;
 }
 
-/// What falls due after retirement, brought back to it. No rate undoes a yearly loss of everything: such a value counts
-/// as it stands.
+/// The worth at retirement of a value that falls due later. At an escalation of -100 percent the discount is undefined,
+/// so the value is not discounted.
 double discounted(double value, double percent, double age, double retirement) {
     if (100 + percent == 0) return value;
     const double cut = percent / (100 + percent);
@@ -35,7 +35,7 @@ double discounted(double value, double percent, double age, double retirement) {
 double cashValue(const Policy& policy, double retirement) {
     const double age = policy.DeathBenCashValAge;
     if (policy.DeathBenUseCashAtRet != 1 || !isPaidBy(retirement, age)) return 0;
-    if (!(policy.DeathBen - policy.DeathBenCashVal > 0)) return 0; // a cash value past the cover is no cash value of it
+    if (!(policy.DeathBen - policy.DeathBenCashVal > 0)) return 0; // only one below the death benefit counts
     return escalated(policy.DeathBenCashVal, policy.DeathBenCashValEscFor, age, retirement);
 }
 
@@ -45,13 +45,13 @@ double lumpSum(double value, double age, double percent, double retirement) {
 
 double maturityValue(const Policy& policy, double retirement) {
     if (policy.InvBensTakeFinValAtRet != 1) return 0;
-    const double age = policy.InvBensMatValLSAtAge; // a blank one escalates from the first year of life
+    const double age = policy.InvBensMatValLSAtAge; // an empty age is 0: it escalates from the first year of life
     const double percent = policy.InvBensMatValLSEscAt;
     if (age < retirement) return escalated(policy.InvBensMatValLS, percent, age, retirement);
     return discounted(policy.InvBensMatValLS, percent, age, retirement);
 }
 
-/// A pension counts on top of those of the records before it.
+/// The pension of this record is added to those of the records before it.
 double runningPensions(const Policy& policy, double& pensions) {
     if (!(policy.RBMonAvaible > 0)) return 0;
     return pensions += policy.RBMonAvaible;
@@ -69,7 +69,7 @@ ValuesAtRetirement atAge(const Policy& policy, double retirement, double& pensio
             maturityValue(policy, retirement)};
 }
 
-/// What locks the policy line of the retirement analysis: a tick by itself, a lump sum only where it is paid by then.
+/// True for what locks the policy line of the retirement analysis: a tick, or a lump sum paid by retirement.
 bool isTakenAtRetirement(const Policy& policy, double retirement) {
     const auto isPaid = [&](double value, double age) { return value > 0 && isPaidBy(retirement, age); };
     return policy.DeathBenUseCashAtRet == 1 || policy.UseEndowEMVAtRet == 1 || policy.InvBensTakeFinValAtRet == 1 ||
@@ -77,7 +77,7 @@ bool isTakenAtRetirement(const Policy& policy, double retirement) {
            isPaid(policy.RBPenLump, policy.RBPenLumpAge) || isPaid(policy.RBProvFLump, policy.RBProvFLumpAge);
 }
 
-/// Capital at retirement, added in the order of the values.
+/// The capital at retirement with these values added, in their order.
 double addTo(double capital, const ValuesAtRetirement& value) {
     for (const double part :
          {value.cashValue, value.raMaturity, value.pensionLump, value.providentLump, value.endowment, value.investment})
@@ -90,7 +90,7 @@ double shownMonthlyOnDeath(const assessment::Assessment& record) {
     return shown < record.policies.size() ? record.policies[shown].DeathBenMonthly : 0;
 }
 
-/// On, off, or left as it was where the totals say neither.
+/// Sets a flag on or off; it stays unchanged if neither is asked for.
 void follow(std::int16_t& flag, bool on, bool off) {
     if (on) flag = 1;
     if (!on && off) flag = 0;
@@ -131,7 +131,7 @@ std::vector<ValuesAtRetirement> CalculatePolInv(assessment::Assessment& record) 
     std::vector<ValuesAtRetirement> values;
     values.reserve(record.policies.size());
     for (const Policy& policy : record.policies) {
-        deathMonthly += shownMonthlyOnDeath(record); // of the policy shown, each time: it decides a flag and no more
+        deathMonthly += shownMonthlyOnDeath(record); // always that of the policy shown: it only decides a flag
         disabilityMonthly += policy.DisabilMonthly + policy.IncProMonthly;
 
         const ValuesAtRetirement value = atAge(policy, retirement, pensions);

@@ -26,12 +26,12 @@ constexpr const char* folderIsReadOnly = "The folder of the database is read-onl
 
 struct Cause {
     Number number;
-    std::string why; ///< empty: the usual words for the number
+    std::string why; ///< empty: use the standard message for the number
 };
 
 bool holds(std::string_view text, std::string_view part) { return text.find(part) != std::string_view::npos; }
 
-/// SQLite has one code for everything wrong with a statement and tells more only in its words.
+/// SQLite has one error code for every fault in a statement; only its message says which fault it was.
 Cause statementCause(const std::string& words) {
     if (holds(words, "no such table")) return {Number::noSuchTableInQuery, "There is " + words + "."};
     if (holds(words, "no such column") || holds(words, "no column named"))
@@ -78,8 +78,8 @@ Cause causeFrom(int extendedCode, const std::string& words) {
     throw Error(cause.number, path.string(), cause.why);
 }
 
-/// What the file system alone can tell. The file is not opened for it: closing a second handle on a database drops the
-/// locks that this process holds on it through another connection.
+/// Checks what can be checked without opening the file. Opening and closing a second handle on a database would drop
+/// the locks that this process holds on it through another connection.
 void checkBeforeOpening(const fs::path& path) {
     std::error_code error;
     const fs::path folder = path.has_parent_path() ? path.parent_path() : fs::path(".");
@@ -91,7 +91,7 @@ void checkBeforeOpening(const fs::path& path) {
     const fs::file_status status = fs::status(path, error);
     if (status.type() == fs::file_type::not_found) throw Error(Number::fileNotFound, path.string());
     if (status.type() != fs::file_type::regular) throw Error(Number::cannotOpen, path.string());
-    // SQLite takes an empty file for a new database and would fill it.
+    // SQLite would take an empty file for a new database and fill it.
     const std::uintmax_t size = fs::file_size(path, error);
     if (!error && size < headerBytes)
         throw Error(Number::notADatabase, path.string(), size == 0 ? "This file is empty." : "");
@@ -99,7 +99,7 @@ void checkBeforeOpening(const fs::path& path) {
 
 std::unique_ptr<SQLite::Database> connect(const fs::path& path, int flags) {
     try {
-        // A connection serves one operation on one thread: without a lock around each cell a list is read a tenth
+        // Each connection is used for one operation on one thread. Without SQLite's own locking a list is read a tenth
         // faster.
         return std::make_unique<SQLite::Database>(path.string(), flags | SQLite::OPEN_NOMUTEX, busyMilliseconds);
     } catch (const SQLite::Exception& error) {
@@ -108,7 +108,7 @@ std::unique_ptr<SQLite::Database> connect(const fs::path& path, int flags) {
 }
 
 void configure(sqlite3* connection) {
-    // A misspelt name in double quotes would otherwise be read as a text constant.
+    // Otherwise a misspelt name in double quotes would be read as a text constant.
     sqlite3_db_config(connection, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
     sqlite3_db_config(connection, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
 }
@@ -147,11 +147,11 @@ bool Statement::step() {
     if (code == SQLITE_DONE) return false;
     const int extended = m_database->m_connection->getExtendedErrorCode();
     const std::string words = m_database->m_connection->getErrorMsg();
-    reset(); // or the statement would keep its lock on the file
+    reset(); // otherwise the statement would keep its lock on the file
     failWith(m_database->m_path, extended, words);
 }
 
-// Its answer is that of the last step, which has been reported already.
+// Its return code repeats the error of the last step, which has been reported already.
 void Statement::reset() { m_statement->tryReset(); }
 
 void Statement::run() {
@@ -185,13 +185,12 @@ std::string Statement::text(int column) const {
 
 Database::Database(const fs::path& path) : m_path(existingSpelling(path)) {
     checkBeforeOpening(m_path);
-    // Each connection belongs to one thread, so it needs no lock around every value that is read.
     m_connection = connect(m_path, SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX);
     configure(m_connection->getHandle());
-    // The first statement reads the header and all tables' definitions, so a damaged file is known at once. An outside
-    // tool may have switched the file to a write-ahead log; a copy of the one file must hold everything again.
+    // The first statement reads the header and all table definitions, so it reveals a damaged file. Another program may
+    // have switched the file to a write-ahead log; with a rollback journal a copy of the one file is complete again.
     execute("PRAGMA journal_mode=DELETE; PRAGMA synchronous=FULL");
-    // SQLite counts a last page that is cut short as a whole one.
+    // SQLite counts a truncated last page as a whole one.
     Statement pageSize = prepare("PRAGMA page_size");
     std::error_code error;
     if (pageSize.step() && fs::file_size(m_path, error) % static_cast<std::uintmax_t>(pageSize.number(0)) != 0 &&
@@ -213,9 +212,9 @@ void Database::create(const fs::path& path) {
     if (::faccessat(AT_FDCWD, folder.c_str(), W_OK, AT_EACCESS) != 0)
         throw Error(Number::cannotOpen, path.string(), folderIsReadOnly);
     const auto connection = connect(path, SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
-    // Before anything is in it; journals take their mode from the file.
+    // Set while the file is empty; its journals get the same permissions.
     ::chmod(path.c_str(), S_IRUSR | S_IWUSR);
-    // An empty write lays down the header, which tells the new file from a file that was emptied by an accident.
+    // An empty transaction writes the header, which distinguishes a new file from one that was emptied by accident.
     const int code = connection->tryExec("PRAGMA synchronous=FULL; BEGIN IMMEDIATE; COMMIT");
     if (code != SQLITE_OK) failWith(path, connection->getExtendedErrorCode(), connection->getErrorMsg());
 }
@@ -240,7 +239,7 @@ FileState Database::state() const {
     constexpr sqlite3_int64 placeOfCount = 24;
     unsigned char count[4] = {};
     sqlite3_file* file = nullptr;
-    // Read by the connection's own handle: closing another one would drop its locks.
+    // Read through the connection's own handle: closing a second one would drop its locks.
     sqlite3_file_control(m_connection->getHandle(), "main", SQLITE_FCNTL_FILE_POINTER, &file);
     struct stat info {};
     if (file == nullptr || file->pMethods == nullptr ||
@@ -255,13 +254,13 @@ FileState Database::state() const {
 void Database::fail() const { failWith(m_path, m_connection->getExtendedErrorCode(), m_connection->getErrorMsg()); }
 
 Transaction::Transaction(Database& database, Access access) : m_database(database) {
-    // SQLite would take a read-only file as a wish to read and refuse the first write only.
+    // SQLite would open a read-only file without complaint and refuse only the first write.
     if (access == Access::write && sqlite3_db_readonly(m_database.m_connection->getHandle(), "main") == 1)
         throw Error(Number::readOnly, m_database.m_path.string());
     m_database.execute(access == Access::write ? "BEGIN IMMEDIATE" : "BEGIN");
 }
 
-// An error such as a full disk may have undone it already; that a second undoing fails is of no account.
+// After an error such as a full disk SQLite may have rolled back already; a failure of this second one does not matter.
 Transaction::~Transaction() {
     if (m_open) m_database.m_connection->tryExec("ROLLBACK");
 }
@@ -273,7 +272,7 @@ void Transaction::commit() {
 
 std::string bracketed(std::string_view name) {
     if (!holds(name, "]")) return "[" + std::string(name) + "]";
-    // Brackets know no escape.
+    // A bracket inside brackets can't be escaped, so such a name is quoted.
     std::string quoted = "\"";
     for (const char c : name)
         quoted += c == '"' ? std::string("\"\"") : std::string(1, c);

@@ -32,7 +32,7 @@ public:
     Statement& bind(int index, const Value& value);
     /// To the next row; false when there is none. Every failure is a store::Error.
     bool step();
-    /// Ready to run again, with the old values still bound.
+    /// Makes it ready to run again, with the old values still bound.
     void reset();
     /// Runs it to its end and resets it.
     void run();
@@ -54,15 +54,15 @@ struct Column {
     Declared declared;
 };
 
-/// Asks for a database that lies in memory alone and is gone with its object.
+/// Asks for a database in memory only, which is gone when its object is.
 struct InMemory {};
 
-/// One connection to one database file, open for one operation only and closed with the object. Statements and
-/// transactions must go before it. The file's name is matched without case.
+/// One connection to one database file, open for one operation and closed with the object. Destroy its statements and
+/// transactions first. The file name is matched without case.
 ///
-/// Opening never creates: a missing file is Error 3024, a missing folder 3044, an empty file or one that is no database
-/// 3343, a damaged one 3049, and the file is left byte for byte as it was. Rollback journal, synchronous=FULL.
-/// A busy file is waited for at most a second, then Error 3356.
+/// Opening never creates a file and never changes one that it refuses: a missing file is Error 3024, a missing folder
+/// 3044, an empty file or one that is no database 3343, a damaged one 3049. Rollback journal, synchronous=FULL. Waits
+/// up to a second for a busy file, then throws Error 3356.
 class Database {
 public:
     explicit Database(const std::filesystem::path& path);
@@ -71,7 +71,7 @@ public:
     Database(const Database&) = delete;
     Database& operator=(const Database&) = delete;
 
-    /// A new empty file, readable by its owner alone. Error 3204 if there is one already.
+    /// Creates an empty file that only its owner can read. Error 3204 if the file exists.
     static void create(const std::filesystem::path& path);
 
     const std::filesystem::path& path() const { return m_path; }
@@ -81,7 +81,7 @@ public:
     std::vector<Column> columns(std::string_view table);
     void execute(std::string_view sql);
     Statement prepare(std::string_view sql) { return {*this, sql}; }
-    /// The file's state; certain only while a transaction holds it. A default one if the file can't be looked at.
+    /// The file's state; reliable only while a transaction is open. A default one if the file can't be examined.
     FileState state() const;
     /// Rowid of the row inserted last.
     std::int64_t lastRow() const;
@@ -94,11 +94,11 @@ private:
     std::unique_ptr<SQLite::Database> m_connection;
 };
 
-/// What a transaction is for. Reading gives one unchanging view of several tables, and works on a read-only file;
-/// writing takes the file's write lock at once, so that Error 3027 or 3356 comes before any work is done.
+/// What a transaction is for. `read` gives one unchanging view of several tables, and works on a read-only file.
+/// `write` takes the file's write lock at once, so that Error 3027 or 3356 comes before any work is done.
 enum class Access { write, read };
 
-/// Undone unless committed: a crash, an error or an early return leaves the file as it was.
+/// Rolled back unless committed: a crash, an error or an early return leaves the file as it was.
 class Transaction {
 public:
     explicit Transaction(Database& database, Access access = Access::write);
@@ -112,7 +112,7 @@ private:
     bool m_open = true;
 };
 
-/// A name in brackets, as every statement writes it: quotes would turn a misspelt name into a text constant.
+/// A name in brackets, as every statement writes it: SQLite would read a misspelt name in quotes as a text constant.
 std::string bracketed(std::string_view name);
 
 } // namespace store

@@ -8,14 +8,14 @@ namespace store {
 
 namespace {
 
-/// In an advice {name} stands for the file's name and {folder} for the folder that it lies in.
+/// In the advice {name} stands for the file's name and {folder} for its folder.
 struct Usual {
     Number number;
     const char* reason;
     const char* advice;
 };
 
-// Worded so that it can be followed whether the program goes on or ends with the box.
+// The advice must be right both if the program goes on and if it ends after this message.
 constexpr const char* copyBackup =
     "Close Marlowbeck, rename {name} in the folder {folder}, copy {name} from your last backup there, and start again. "
     "Keep the renamed file: it may be of use to whoever helps you.";

@@ -5,7 +5,7 @@
 
 namespace store {
 
-/// The numbers by which a failure of a database or a file is known; they stand last in every message.
+/// The numbers that identify a failure of a database or a file. Every message ends with its number.
 enum class Number {
     fileNotFound53 = 53,
     deviceError = 57,
@@ -40,11 +40,11 @@ enum class Number {
     wrongType = 3421,
 };
 
-/// The one error of the database and file floors: what failed, on which file, why, and what the user can do about it.
+/// Every failure of a database or a file: what failed, on which file, why, and what the user can do about it.
 class Error : public std::runtime_error {
 public:
     /// why: one sentence in plain words; advice: what the user can do, with {name} for the file's name and {folder} for
-    /// its folder. Each is taken from the number where it is empty.
+    /// its folder. If empty, the standard text for the number is used.
     Error(Number number, std::string file, const std::string& why = {}, std::string advice = {});
 
     int number() const { return static_cast<int>(m_number); }
@@ -54,7 +54,7 @@ public:
     std::string why() const { return what(); }
     const std::string& advice() const { return m_advice; }
 
-    /// The whole message: file, reason, advice, the number last in brackets; parts joined by line breaks.
+    /// The whole message: file, reason, advice and number in brackets, each on its own line.
     std::string message() const;
 
 private:

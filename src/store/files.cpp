@@ -47,7 +47,7 @@ Number numberFor(int error) {
                     : std::string());
 }
 
-/// An open file that is closed with its scope.
+/// Closes an open file at the end of its scope.
 class Handle {
 public:
     explicit Handle(int handle) : m_handle(handle) {}
@@ -65,7 +65,7 @@ private:
 
 constexpr const char* temporaryEnding = ".XXXXXX"; // each X becomes a letter or a digit
 
-/// The file beside: gone with its scope unless it has taken the place of the real one.
+/// A new file beside the real one. Removed at the end of its scope unless it has replaced the real one.
 class TemporaryFile {
 public:
     explicit TemporaryFile(const fs::path& target)
@@ -100,7 +100,7 @@ private:
     bool m_kept = false;
 };
 
-/// The folder's own entry must reach the disk too, or a power cut could bring the old name back. File systems that
+/// The folder's own entry must reach the disk too, or a power cut could bring the old file back. File systems that
 /// cannot flush a folder keep their entries in order by themselves.
 void flushFolder(const fs::path& folder) {
     const Handle handle(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
@@ -109,7 +109,7 @@ void flushFolder(const fs::path& folder) {
 
 fs::path folderOf(const fs::path& path) { return path.has_parent_path() ? path.parent_path() : fs::path("."); }
 
-/// Where the bytes are to lie: an existing file under its own spelling, the end of a link rather than the link.
+/// The file that is really written: an existing file in its own spelling, or what a link points to.
 fs::path targetOf(const fs::path& path) {
     fs::path spelled = existingSpelling(path);
     std::error_code ignored;
@@ -130,7 +130,7 @@ void removeWithJournals(const fs::path& database) {
     removeJournals(database);
 }
 
-/// The name of the file that a temporary one was to become; nothing if that is none of ours by its look.
+/// The name of the file that a temporary one was to become; nothing if its name is not of our form.
 std::optional<std::string> unfinishedName(const std::string& temporary) {
     const std::size_t ending = std::strlen(temporaryEnding);
     if (!temporary.starts_with('.') || temporary.size() < ending + 2) return {};
@@ -183,7 +183,8 @@ std::string readFile(const fs::path& path) {
 
 void writeFile(const fs::path& path, std::string_view bytes, unsigned mode) {
     const fs::path target = targetOf(path);
-    // Renaming over a file asks leave of the folder only; a file that its owner has made read-only must stay as it is.
+    // Renaming onto a file checks the rights on the folder only, but a file that its owner made read-only must not
+    // change.
     if (::faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS) != 0 && errno != ENOENT) fail(target, errno);
     TemporaryFile beside(target);
     beside.fill(bytes, mode);
@@ -227,7 +228,7 @@ void removeUnfinished(const fs::path& folder, const std::function<bool(const std
 
 void moveIntoPlace(const fs::path& from, const fs::path& to) {
     int failed = ::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE);
-    // Not every file system can refuse to replace.
+    // Not every file system supports a rename that refuses to replace.
     if (failed != 0 && (errno == EINVAL || errno == ENOSYS)) {
         errno = EEXIST;
         if (!fs::exists(fs::symlink_status(to))) failed = ::rename(from.c_str(), to.c_str());

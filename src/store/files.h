@@ -7,24 +7,24 @@
 
 namespace store {
 
-/// A path with `\` and `/` taken alike, made absolute from `folder` where it is relative.
+/// An absolute path: `\` and `/` both separate folders, and a relative path starts from `folder`.
 std::filesystem::path nativePath(std::string_view path, const std::filesystem::path& folder = {});
 
-/// The file that a path means: its last component is matched without case, the exact name first, else the first match
-/// in byte order. A path that matches nothing comes back as it is, so that a new file gets the spelling asked for.
+/// The existing file that a path means. Its last component is matched without case: the exact name first, else the
+/// first match in byte order. A path without a match is returned unchanged, to keep the spelling of a new file.
 std::filesystem::path existingSpelling(const std::filesystem::path& path);
 
-/// The whole of a file, its name matched without case. Throws Error 53, 70, 57 or 75. Not for a database in use:
-/// closing a second handle on it would drop the locks of this program's own connections.
+/// The whole content of a file, its name matched without case. Throws Error 53, 70, 57 or 75. Not for a database in
+/// use: closing a second handle on it would drop the locks of this program's own connections.
 std::string readFile(const std::filesystem::path& path);
 
-/// Writes a file whole or not at all: beside it first, flushed to the disk, then renamed over it. An existing file
-/// keeps its spelling, a link stays a link. Readable by the owner alone unless `mode` says otherwise. Throws Error 57,
-/// 61, 70, 75 or 76 and leaves the old file as it was.
+/// Writes a file completely or not at all: to a temporary file beside it, flushed to the disk, then renamed over it. An
+/// existing file keeps its spelling, a link stays a link. Readable by the owner alone unless `mode` says otherwise.
+/// Throws Error 57, 61, 70, 75 or 76 and leaves the old file as it was.
 void writeFile(const std::filesystem::path& path, std::string_view bytes, unsigned mode = 0600);
 
-/// A file that is built beside its place, as `.NAME.new`, and gone with its scope unless it has taken that place. What
-/// a killed program left of an earlier attempt is removed first, its journals too.
+/// A file built beside its final place as `.NAME.new`, and removed at the end of its scope unless moved into that
+/// place. Remains of an earlier attempt by a killed program, with their journals, are removed first.
 class FileBeside {
 public:
     explicit FileBeside(const std::filesystem::path& target);
@@ -33,10 +33,10 @@ public:
     FileBeside& operator=(const FileBeside&) = delete;
 
     const std::filesystem::path& path() const { return m_path; }
-    /// Takes a place that is free; Error 58 and nothing done if there is a file of that name by now.
+    /// Moves it into its place. Error 58, with nothing done, if a file of that name exists by now.
     void settle();
-    /// Takes the place of the file that is there, in one step; a journal of that file goes first, or the database that
-    /// takes its place would be spoilt by it.
+    /// Replaces the existing file in one step. The old file's journal is deleted first: applied to the new database it
+    /// would corrupt it.
     void replace();
 
 private:
@@ -45,12 +45,12 @@ private:
     bool m_kept = false;
 };
 
-/// Removes what a killed `writeFile` has left in a folder of the files that are ours: `.NAME.` and six letters. Only
-/// for a folder in which no other program is writing just then. What can't be removed stays, without a word.
+/// Removes what killed `writeFile` calls left in a folder: `.NAME.` and six letters, for the files that are ours. Only
+/// safe while no other program writes to that folder. Files that can't be removed are silently left.
 void removeUnfinished(const std::filesystem::path& folder, const std::function<bool(const std::string& name)>& isOurs);
 
-/// Gives a finished new file its name and flushes the folder. Throws Error 58 and leaves both as they are if there is a
-/// file of that name by now.
+/// Renames a finished new file and flushes the folder. Throws Error 58 and leaves both as they are if a file of that
+/// name exists by now.
 void moveIntoPlace(const std::filesystem::path& from, const std::filesystem::path& to);
 
 } // namespace store

@@ -4,9 +4,9 @@
 
 namespace store {
 
-/// By what a database file is known not to have been written to, nor to have been replaced by another, since it was
-/// looked at: its place on the disk, its time and size, and the count of changes that each writer raises in its header.
-/// A default one is that of no file and equals no state that was looked at.
+/// Shows whether a database file was written to or replaced since it was examined: its place on the disk, its time and
+/// size, and the change counter that each writer raises in its header. A default one stands for no file and equals no
+/// examined state.
 struct FileState {
     std::uint64_t device = 0;
     std::uint64_t inode = 0;

@@ -16,8 +16,8 @@ struct Spelling {
     std::string_view word;
 };
 
-// SQLite derives how it keeps a value from these words. A date has two: the first tells it from a plain number, the
-// second makes SQLite keep it as one.
+// SQLite derives how it stores a value from these words. A date has two: the first tells it from a plain number, the
+// second makes SQLite store it as one.
 constexpr Spelling spellings[] = {
     {Type::Boolean, "BOOLEAN"},  {Type::Integer, "SMALLINT"}, {Type::Single, "REAL"}, {Type::Double, "DOUBLE"},
     {Type::Date, "DATE DOUBLE"}, {Type::Text, "VARCHAR"},     {Type::Memo, "TEXT"},

@@ -20,11 +20,11 @@ struct Declared {
     int size = 0;
 };
 
-/// How a type is declared in a table, e.g. "VARCHAR(80)"; and the way back, Double for what is unknown.
+/// How a type is declared in a table, e.g. "VARCHAR(80)", and back; an unknown declaration is a Double.
 std::string declaration(Declared declared);
 Declared declaredFrom(std::string_view declaration);
 
-/// The value as a field of this type holds it; every write goes through here.
+/// Converts a value to what a field of this type stores. Every write goes through here.
 ///
 /// Boolean: 0 or 1. Integer: rounded half to even, Error 3421 outside -32768 to 32767. Single: rounded to float.
 /// Text: Error 3163 past its size, never cut. Numbers given to a text field and texts to a number field: Error 3421.
