@@ -14,13 +14,13 @@ namespace {
 
 constexpr const char* table = "PersDetails";
 
-/// The columns of the list as the file has them: those of the first versions lack some.
+/// The columns of the client list in this file; files of the first versions lack some.
 class Columns {
 public:
     explicit Columns(store::Database& database) : m_present(database.columns(table)) {}
 
     std::string one(const char* name) const { return has(name) ? store::bracketed(name) : "NULL"; }
-    /// Texts in one column, joined by line breaks: a list of a hundred thousand is read sooner for each column less.
+    /// Several columns joined by line breaks into one: each column less makes a long list faster to read.
     std::string joined(std::initializer_list<const char*> names) const {
         std::string sql = "''";
         for (const char* name : names)
@@ -56,7 +56,7 @@ std::vector<ClientLine> readRows(store::Statement rows) {
 
 bool isBetween(char c) { return std::string_view(" -/.()+").find(c) != std::string_view::npos; }
 
-/// Without what stands between the digits of a number or the letters of initials.
+/// Removes what stands between the digits of a number or the letters of initials.
 std::string closedUp(std::string_view text) {
     std::string closed;
     std::ranges::copy_if(text, std::back_inserter(closed), [](char c) { return !isBetween(c); });

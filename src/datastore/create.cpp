@@ -20,7 +20,7 @@ constexpr int defaultZero = 10;
 constexpr int defaultEmpty = 11;
 constexpr int noAttribute = 0;
 
-/// Index names are unique in a whole file, so each carries its table's.
+/// SQLite's index names are unique in the whole file, so each starts with its table's name.
 std::string indexName(std::string_view table, std::string_view index) {
     return bracketed(std::string(table) + "_" + std::string(index));
 }
@@ -78,7 +78,7 @@ Creator::Creator(store::Database& database) : m_database(&database) {}
 
 Creator::~Creator() {
     m_transaction.reset();
-    m_own.reset(); // before the file beside goes
+    m_own.reset(); // before the file beside it is removed
 }
 
 void Creator::CreateOrOpenDb(const fs::path& path) {
@@ -112,7 +112,7 @@ void Creator::AddField(std::string_view name, store::Type type, int size, int at
     const auto isIt = [&](const auto& field) { return base::sameName(field.name, name); };
     if (std::any_of(m_existing.begin(), m_existing.end(), isIt) || std::any_of(m_new.begin(), m_new.end(), isIt))
         return;
-    // A counter can only be born with its table.
+    // A counter can only be created together with its table.
     if (attribute == counter && !m_existing.empty()) return;
     m_new.push_back({std::string(name), declarationOf(type, size, attribute),
                      attribute == defaultZero || attribute == defaultEmpty});
@@ -148,8 +148,8 @@ void Creator::createTable() {
     m_database->execute(sql + ")");
 }
 
-// The rows that are there would get the default too, but they are to hold Null, by which the steps of an upgrade know
-// that they are older than the field.
+// Existing rows would get the default too. They must hold Null instead, so that the steps of an upgrade can see that
+// they are older than the field.
 void Creator::alterTable() {
     std::string blanks;
     for (const NewField& field : m_new) {
@@ -195,7 +195,7 @@ void createClientDb(const fs::path& path, const Notice& notice) {
         describeAll(creator);
         creator.finish(addFirstRows);
     } catch (const store::Error& error) {
-        throw store::Error(error.kind(), path.string(), error.why()); // it happened to a file that nobody knows of
+        throw store::Error(error.kind(), path.string(), error.why()); // the user does not know the temporary file
     }
 }
 

@@ -11,7 +11,7 @@ frmBrowse::frmBrowse(Workplace& workplace)
     defaultButton(ok);
 }
 
-/// The first hit is chosen, so that a word and Enter load a client.
+/// Selects the first match, so that typing a word and Enter loads a client.
 void frmBrowse::narrowed(bool bySomeWord) {
     list()->pick({});
     if (bySomeWord) list()->pickFirst();
@@ -20,7 +20,7 @@ void frmBrowse::narrowed(bool bySomeWord) {
 void frmBrowse::load() {
     const auto chosen = picked();
     if (chosen.empty()) return list()->setFocus(Qt::OtherFocusReason);
-    if (!m_work.shell.openClient(chosen.front()->DCLNO)) readAgain(); // the client may be gone from the file
+    if (!m_work.shell.openClient(chosen.front()->DCLNO)) readAgain(); // the client may have been deleted from the file
 }
 
 } // namespace datastore

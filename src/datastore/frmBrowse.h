@@ -4,7 +4,7 @@
 
 namespace datastore {
 
-/// The clients of the file in surname order; loads the one chosen.
+/// Lists the clients of the file by surname and loads the one that is picked.
 class frmBrowse : public ClientsScreen {
     Q_OBJECT
 public:

@@ -20,7 +20,7 @@ namespace {
 GridCell dateIf(bool isDate, double day) { return isDate ? GridCell(day) : GridCell(); }
 GridCell words(const std::string& text) { return QString::fromStdString(text); }
 
-/// The surname alone stands as the name, as the text of a line has it; first names tell namesakes apart.
+/// The name column shows the surname only, like the text of a line; the first names distinguish people of one surname.
 struct Column {
     GridColumn shown;
     GridCell (*cell)(const ClientLine&);
@@ -57,12 +57,12 @@ ClientsScreen::ClientsScreen(Workplace& workplace, const QString& name, const QS
     m_list->setSortable(true);
     m_list->setSortedBy(0);
     m_list->setVisibleLines(16);
-    m_list->show(heads(), GridRows()); // the window opens as wide as they are
+    m_list->show(heads(), GridRows()); // the column widths decide how wide the window opens
     connect(new QShortcut(Qt::Key_F5, this), &QShortcut::activated, this, [this] {
         m_read.reset();
         readAgain();
     });
-    // Another program that held the file may be done with it when the user comes back.
+    // When the user comes back from another program, that program may have released the file.
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
         if (state == Qt::ApplicationActive && m_listed && isVisible()) readAgain();
     });
@@ -92,7 +92,7 @@ void ClientsScreen::filled() {
 }
 
 ClientsScreen::Stamp ClientsScreen::stampNow() const {
-    std::error_code ignored; // a file that is not there has no stamp, and is told when it is read
+    std::error_code ignored; // a missing file has no stamp; reading it reports the error
     const std::filesystem::path& path = m_work.paths.DataDbPath;
     return {path, std::filesystem::last_write_time(path, ignored), std::filesystem::file_size(path, ignored)};
 }
@@ -116,7 +116,7 @@ void ClientsScreen::read(bool withBox) {
     sayWhyEmpty();
 }
 
-/// What was picked stays picked, though others have come before it.
+/// What was selected stays selected, even if clients were added before it.
 void ClientsScreen::take(std::vector<ClientLine> clients) {
     std::unordered_set<double> keys;
     for (const ClientLine* client : picked())
@@ -153,7 +153,7 @@ std::vector<const ClientLine*> ClientsScreen::picked() const {
     return clients;
 }
 
-/// Before anything is gone to, the first client is shown and none is picked.
+/// Until the user moves in the list, the first client is shown and none is selected.
 void ClientsScreen::showEntry() {
     const auto row = m_list->picked().empty() ? m_list->first() : m_list->current();
     const ClientLine client = row ? m_clients[*row] : ClientLine();

@@ -7,17 +7,16 @@
 
 namespace datastore {
 
-/// What the fields beside the list of clients are called on a screen.
+/// Names of the fields beside the client list on a screen.
 struct ClientFieldNames {
     QString name = "txtName", description = "txtDescription", birthDate = "dtBirthDate";
 };
 
-/// A screen that lists the clients of the file, `List1`, in surname order, to pick one or several from.
+/// A screen that lists the clients of the file, `List1`, by surname, to pick one or several from.
 ///
-/// Words typed into `txtSearch` narrow the list; its heads sort it. What is known of the line gone to stands below. The
-/// list is read when the screen comes to the front and the file has changed since, so that a file that could not be
-/// read, or has got another client meanwhile, is listed as it is now; a list that is empty says why. The toolbar is off
-/// while such a screen is open.
+/// Words typed into `txtSearch` narrow the list; clicking a column head sorts it. The fields below show the current
+/// line. When the screen comes to the front, the list is read again if the file has changed or could not be read
+/// before. An empty list says why it is empty. The toolbar is disabled while such a screen is open.
 class ClientsScreen : public screenkit::Screen {
     Q_OBJECT
 public:
@@ -25,7 +24,7 @@ public:
                   screenkit::Grid::Picking picking, const ClientFieldNames& fields = {});
 
 protected:
-    /// Search field, list and the fields of the line gone to, for the screen's body.
+    /// The search field, the list and the fields of the current line, for the screen's body.
     QLayout* clientList();
     /// The clients picked, in surname order.
     std::vector<const ClientLine*> picked() const;
@@ -33,9 +32,9 @@ protected:
     /// Reads the list again if the file has changed, or if it could not be read the last time.
     void readAgain() { read(false); }
 
-    /// The text searched for has changed, and the list with it.
+    /// Called when the searched text, and with it the list, has changed.
     virtual void narrowed(bool /*bySomeWord*/) {}
-    /// A line was opened by a double click.
+    /// Called when a line is double-clicked.
     virtual void lineOpened() {}
 
     QWidget* firstField() override;
@@ -43,7 +42,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    /// A file as it was when it was read.
+    /// Identifies the state of a file when it was read.
     struct Stamp {
         std::filesystem::path path;
         std::filesystem::file_time_type changed;
@@ -59,9 +58,9 @@ private:
 
     ClientFieldNames m_fieldNames;
     std::vector<ClientLine> m_clients;
-    std::optional<ClientSearch> m_finder; ///< made when the first search is typed
-    std::optional<Stamp> m_read;          ///< the file as it is listed
-    QString m_trouble;                    ///< why it could not be read
+    std::optional<ClientSearch> m_finder; ///< created when the first search is typed
+    std::optional<Stamp> m_read;          ///< the state of the file that is listed
+    QString m_trouble;                    ///< why the file could not be read
     bool m_listed = false;
     QLineEdit* m_search = nullptr;
     screenkit::Grid* m_list = nullptr;

@@ -63,7 +63,7 @@ void frmSaveFileAs::saveAs() {
     const auto flagsBefore = std::pair(record.ClientOnFile, record.ClientChanged);
     takeOver();
     record.ClientChanged = 0;
-    record.ClientOnFile = 0; // a client not on file gets a key of its own
+    record.ClientOnFile = 0; // a client not on file gets a new key
     if (!m_work.shell.Save()) {
         record.client = clientBefore;
         record.details = detailsBefore;

@@ -5,8 +5,8 @@
 
 namespace datastore {
 
-/// Saves the client under another name as a new one. The six values shown are a copy: Cancel leaves the client as it
-/// is.
+/// Saves the client under another name as a new one. The six values shown are a copy: Cancel leaves the client
+/// unchanged.
 class frmSaveFileAs : public screenkit::Screen {
     Q_OBJECT
 public:

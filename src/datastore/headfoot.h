@@ -7,14 +7,14 @@
 /// The four header and four footer lines of every report.
 namespace datastore {
 
-/// The lines of the client database. Error 3021 if it has none.
+/// Reads the lines from the client database. Error 3021 if it has none.
 assessment::HeadFootLines readHeadFoot(const Paths& paths);
 assessment::HeadFootLines readHeadFoot(store::Database& database);
 
-/// Writes the lines into the client database, then into Print.mdb, from which reports take them. If the second fails
-/// the first stays. Error 3163 for a line of more than 80 characters.
+/// Writes the lines into the client database, then into Print.mdb, where reports read them. If the second write fails,
+/// the first one stays. Error 3163 for a line of more than 80 characters.
 void writeHeadFoot(const Paths& paths, assessment::HeadFootLines lines);
-/// Edits the one row of lines in a database, or adds it.
+/// Updates the one row of lines in a database, or adds it.
 void writeHeadFoot(store::Database& database, assessment::HeadFootLines& lines);
 
 } // namespace datastore

@@ -15,7 +15,7 @@ using assessment::RowReader;
 
 namespace {
 
-/// One load from one unchanging view of the file.
+/// Loads one client from one unchanging view of the file.
 class ClientReader {
 public:
     ClientReader(store::Database& database, double key) : m_database(database), m_key(key) {}
@@ -47,7 +47,7 @@ private:
         return reader.key();
     }
 
-    /// Rows in the order of adding, as many as the first of them tells, or fewer if there are fewer.
+    /// The rows in the order of adding: as many as the first row says, or fewer if there are fewer.
     template <class Row>
     std::vector<Row> readList(const FieldTable<Row>& table, double atLeast = 0) {
         std::vector<Row> rows;
@@ -71,7 +71,7 @@ private:
 
     store::Database& m_database;
     double m_key;
-    assessment::Checksum m_sum; ///< its order is that of the save
+    assessment::Checksum m_sum; ///< over the tables in the same order as in the save
 };
 
 } // namespace

@@ -6,14 +6,15 @@
 
 namespace datastore {
 
-/// Fills the record with the client of this key, blanked first; the client is then on file and unchanged.
+/// Blanks the record and fills it with the client of this key, who is then on file and unchanged.
 ///
-/// Error 3021 if the client has vanished; the record is then blank and not on file. On any other error, a file that is
-/// locked, missing or damaged, it is left as it was. Fields that an older file lacks or left Null read as their blanks.
+/// Error 3021 if the client has been deleted; the record is then blank and not on file. After any other error, such as
+/// a locked, missing or damaged file, the record is unchanged. Fields that are missing or Null in an older file read as
+/// their blanks.
 void load(assessment::Assessment& record, const Paths& paths, double key);
 
-/// What a file holds of the client of this key, put into a blank record; `inFile` tells it apart from any other state
-/// of the file. For callers whose transaction holds the view of the file still. Error 3021 as above.
+/// Reads what a file holds of the client of this key into a blank record; `inFile` identifies that state of the file.
+/// The caller must have an open transaction. Error 3021 as above.
 void readClient(assessment::Assessment& record, store::Database& database, double key);
 
 } // namespace datastore

@@ -20,7 +20,7 @@ std::string_view withoutBlanks(std::string_view text) {
     return text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
 
-/// The path of one line, quoted or bare.
+/// The path in one line, with or without quotes.
 std::optional<std::string> pathOfLine(std::string_view line) {
     std::string_view path = withoutBlanks(line.substr(0, line.find_first_of(lineEnds)));
     if (path.starts_with('"')) {
@@ -31,13 +31,14 @@ std::optional<std::string> pathOfLine(std::string_view line) {
     return std::string(path);
 }
 
-/// The program folder that the file says it was written for.
+/// The program folder that the file names as the one it was written for.
 std::optional<std::string> parseWrittenFor(std::string_view text) {
     const auto end = text.find('\n');
     return end == std::string_view::npos ? std::nullopt : pathOfLine(text.substr(end + 1));
 }
 
-/// Nothing for a file that is not there. A link that leads nowhere is there: its disk may not be connected.
+/// The text of the file; nothing if it does not exist. A link to a missing file counts as existing: its disk may be
+/// unmounted.
 std::optional<std::string> readLocation(const fs::path& programFolder) {
     const fs::path file = store::existingSpelling(programFolder / locationFile);
     std::error_code ignored;
@@ -60,7 +61,7 @@ void writeQuietly(const fs::path& programFolder, const fs::path& dataDbPath) {
     try {
         writeDataPath(programFolder, dataDbPath);
     } catch (const store::Error&) {
-        // The default path needs no file to be found again.
+        // Without the file the next start uses the default path again, so a failed write does no harm.
     }
 }
 

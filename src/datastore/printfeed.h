@@ -12,33 +12,33 @@
 
 namespace datastore {
 
-/// Hands a screen's figures to its report: rows for the tables of Print.mdb, all of them or none.
+/// Passes a screen's figures to its report: rows for the tables of Print.mdb, all of them or none.
 ///
 ///     PrintFeed feed(printPath, record.client.Name);
 ///     feed.replace("Loans", {{"Heading", loans.Heading}, {"Num1", loans.Num1}});
 ///     feed.replace("Amort", rows);
 ///     feed.commit();
 ///
-/// A table never holds rows of an earlier printout beside new ones. Fields that are not named are empty. Error 3011 for
-/// an unknown table, 3265 for an unknown field, 3163 or 3421 for a value that does not fit; nothing is changed then.
+/// A replaced table keeps no rows of an earlier printout. Fields not named are empty. Error 3011 for an unknown table,
+/// 3265 for an unknown field, 3163 or 3421 for a value that does not fit; nothing is changed then.
 class PrintFeed {
 public:
-    /// client: whose printout it is, which stands on each page; empty if nobody's.
+    /// client: the client's name, printed on each page; empty for a report without a client.
     PrintFeed(const std::filesystem::path& printDatabase, std::string_view client);
 
-    /// One row in place of all that the table held.
+    /// Replaces all rows of the table by this one.
     void replace(std::string_view table, std::initializer_list<Field> row);
     void replace(std::string_view table, const Row& row);
-    /// These rows, in this order, in place of all that the table held.
+    /// Replaces all rows of the table by these, in this order.
     void replace(std::string_view table, const std::vector<Row>& rows);
 
-    /// The fields of a row that the table has a place for: of a client's table a report shows what Print.mdb has.
+    /// The fields of a row that the table has: of a client's table Print.mdb has only what its report shows.
     Row printedOf(std::string_view table, Row row);
 
     void clear(std::string_view table);
     void add(std::string_view table, const Row& row);
 
-    /// Without it everything is undone when the feed goes.
+    /// Makes the changes take effect. A feed that is destroyed without it changes nothing.
     void commit();
 
 private:
@@ -47,7 +47,7 @@ private:
 
     store::Database m_database;
     store::Transaction m_transaction;
-    // The last row's shape: the next one most often has the same.
+    // The statement of the last row: the next row mostly has the same fields.
     std::string m_table;
     std::vector<store::Column> m_columns;
     std::vector<std::string> m_names;

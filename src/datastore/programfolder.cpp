@@ -32,12 +32,12 @@ fs::path homeFolder() {
 }
 
 fs::path userDataFolder() {
-    // A relative path counts as not set: it would mean another folder with every folder that the program starts from.
+    // A relative path counts as not set: it would depend on the folder that the program is started from.
     if (const char* data = std::getenv("XDG_DATA_HOME"); data && *data == '/') return fs::path(data) / userFolder;
     return homeFolder() / ".local" / "share" / userFolder;
 }
 
-/// Makes the folder and those above it that are missing, each for its owner alone from its first moment.
+/// Creates the folder and its missing parents, each accessible to its owner only from the start.
 void makePrivateFolder(const fs::path& folder) {
     std::error_code ignored;
     if (fs::is_directory(folder, ignored)) return;
@@ -59,7 +59,7 @@ void refresh(const fs::path& installed, const fs::path& folder) {
     if (!fs::exists(own) || store::readFile(own) != bytes) store::writeFile(own, bytes);
 }
 
-/// Report definitions and help pages.
+/// True for report definitions and help pages, which every upgrade replaces.
 bool isThePackages(const fs::path& file) { return file.extension() == ".rpt" || file.extension() == ".md"; }
 
 void seed(const fs::path& installed, const fs::path& folder) {

@@ -24,7 +24,7 @@ void readCPI(assessment::Assessment& record, store::Database& clients) {
     try {
         assessment::RowReader(clients, assessment::cpiDefaultTable()).next(record);
     } catch (const store::Error&) {
-        record.CPI = 0; // a practice that has never entered it works without
+        record.CPI = 0; // stays 0 if the practice has never entered it
     }
 }
 

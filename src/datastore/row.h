@@ -9,11 +9,11 @@
 #include "store/database.h"
 #include "store/value.h"
 
-/// Rows put together field by field: what a report or a settings panel writes. A table whose rows are a struct goes by
-/// its field table instead, `assessment/rows.h`.
+/// Rows put together field by field: what a report or a settings panel writes. A table whose row is a struct uses its
+/// field table instead, see `assessment/rows.h`.
 namespace datastore {
 
-/// One field of one row, by its name in the table (case does not count). Any kind of number will do for a number.
+/// One field of one row, found by its name in the table without case. All number types are accepted.
 struct Field {
     Field(std::string_view fieldName, store::Value fieldValue) : name(fieldName), value(std::move(fieldValue)) {}
     template <class Arithmetic>
@@ -26,10 +26,10 @@ struct Field {
 
 using Row = std::vector<Field>;
 
-/// The columns of a table; Error 3011 if the file has none of that name.
+/// The columns of a table; Error 3011 if the file has no table of that name.
 std::vector<store::Column> requiredColumns(store::Database& database, std::string_view table);
 
-/// The declaration of one of them; Error 3265 if there is none of that name.
+/// The declaration of one column; Error 3265 if there is none of that name.
 store::Declared requiredField(const store::Database& database, std::string_view table,
                               const std::vector<store::Column>& columns, std::string_view field);
 
@@ -37,7 +37,7 @@ store::Declared requiredField(const store::Database& database, std::string_view 
 store::Statement insertion(store::Database& database, std::string_view table, const Row& row);
 store::Statement prepareUpdate(store::Database& database, std::string_view table, const Row& row);
 
-/// Binds the values of a row from 1 on, each as its column holds it.
+/// Binds the values of a row from 1 on, each converted to its column's type.
 void bindRow(store::Statement& statement, const Row& row, const store::Database& database, std::string_view table,
              const std::vector<store::Column>& columns);
 

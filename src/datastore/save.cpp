@@ -20,7 +20,7 @@ using assessment::TableDescription;
 
 namespace {
 
-/// One save within one transaction.
+/// Saves one client in one transaction.
 class ClientWriter {
 public:
     ClientWriter(store::Database& database, Assessment& record)
@@ -61,7 +61,7 @@ private:
             writer.add(row, place);
     }
 
-    /// A client on file must be found again, unless the table is empty.
+    /// A client on file must still have its row, unless the table is empty.
     void writeClientRow(const FieldTable<Assessment>& table) {
         std::optional<std::int64_t> rowid;
         if (m_isUpdate) {
@@ -74,8 +74,8 @@ private:
         put(table, m_record, rowid);
     }
 
-    /// A client from an older file may have no row yet; a row that a deleted client of the same key left behind would
-    /// be read in place of what is saved now.
+    /// A client from an older file may have no row yet. A row left by a deleted client with the same key must go: the
+    /// next load would read it instead of this one.
     template <class Row>
     void writeSideRow(const FieldTable<Row>& table, Row& row) {
         put(table, row, assessment::firstRow(m_database, table, m_key));
@@ -115,7 +115,7 @@ private:
     Assessment& m_record;
     bool m_isUpdate;
     double m_key;
-    assessment::Checksum m_sum; ///< its order is that of a load
+    assessment::Checksum m_sum; ///< over the tables in the same order as in a load
 };
 
 /// "Mr P J O'Brien (born 17/03/1960)"
@@ -124,12 +124,12 @@ std::string described(const std::string& name, double born) {
     return born > base::blankDate ? shown + " (born " + base::formatDate(born) + ")" : shown;
 }
 
-/// Nothing is written over a stranger, nor unasked over what another program has put into the file meanwhile.
+/// Refuses to write over a different client, or, without the user's consent, over another program's changes.
 void requireUnchanged(store::Database& database, const Assessment& record, TheirChanges theirs) {
-    // As a rule nobody else has written to the file, and the client need not be read again for each save.
+    // Usually no other program has written to the file; then the client need not be read before each save.
     if (record.inFile.file.inode != 0 && record.inFile.file == database.state()) return;
     for (const FieldTable<Assessment>* table : {&assessment::dataTable(), &assessment::persDetailsTable()})
-        if (!assessment::firstRow(database, *table, record.DCLNO)) return; // the writer has its own words for that
+        if (!assessment::firstRow(database, *table, record.DCLNO)) return; // the writer throws its own error for this
     Assessment found;
     readClient(found, database, record.DCLNO);
     const assessment::ClientInFile& known = record.inFile;
@@ -145,7 +145,7 @@ void requireUnchanged(store::Database& database, const Assessment& record, Their
                             "Nothing was saved. Use Save As to keep both.");
 }
 
-/// However a save ends, the next one is a plain one again.
+/// Clears `SaveThenNew` however the save ends.
 class ThenNewCleared {
 public:
     explicit ThenNewCleared(Assessment& record) : m_record(record) {}
@@ -157,7 +157,7 @@ private:
     Assessment& m_record;
 };
 
-/// The state that our own commit has left, by the count before it; none if another program was faster than the look.
+/// The state of the file after our own commit, judged by its change count; none if another program has written since.
 store::FileState stateAfterCommit(const store::Database& database, const store::FileState& before) {
     const store::FileState now = database.state();
     return now.changes == before.changes + 1 ? now : store::FileState();

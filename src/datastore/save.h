@@ -11,10 +11,10 @@ namespace datastore {
 enum class Saved {
     nothing, ///< a client on file without changes: nothing was written
     written,
-    thenNew, ///< written, and the save was asked for by New: the caller blanks the record and closes the screens
+    thenNew, ///< written at the request of New: the caller blanks the record and closes the screens
 };
 
-/// The file holds somebody else under the client's key: it was replaced by another file, or by an older state of
+/// The file holds a different client under this key: the file was replaced by another one or by an older state of
 /// itself.
 class OtherClientInFile : public store::Error {
     using Error::Error;
@@ -25,18 +25,18 @@ class ChangedInFile : public store::Error {
     using Error::Error;
 };
 
-/// What becomes of another program's changes to the client.
+/// What to do with another program's changes to the client.
 enum class TheirChanges { keep, overwrite };
 
 /// Writes the whole record into the client database in one transaction, under its key or, for a client not on file,
-/// under the highest key plus 1. It alone writes client data.
+/// under the highest key plus 1. Nothing else writes client data.
 ///
-/// On success the client is on file and unchanged, all changed flags cleared but the draw-down annuity's. On an error
-/// file, record and flags stay as they were. `SaveThenNew` is cleared either way, so that a later plain save does not
-/// blank the client. Error 3021 if the client's row has vanished.
+/// On success the client is on file and unchanged; all changed flags are cleared except the draw-down annuity's. On an
+/// error file, record and flags stay as they were. `SaveThenNew` is cleared in both cases, so that a later plain save
+/// does not blank the client. Error 3021 if the client's row has been deleted.
 ///
-/// A client on file must still be the one that was loaded, by name and birth date, or OtherClientInFile is thrown; and
-/// all that the file holds of it must be as it was then, or ChangedInFile is thrown unless `theirs` says otherwise.
+/// A client on file must still have the name and birth date that were loaded, otherwise OtherClientInFile is thrown.
+/// All its rows must be as they were, otherwise ChangedInFile is thrown unless `theirs` is overwrite.
 Saved Save(assessment::Assessment& record, const std::filesystem::path& dataDbPath,
            TheirChanges theirs = TheirChanges::keep);
 

@@ -9,7 +9,7 @@ namespace datastore {
 
 namespace {
 
-/// The row that was put in first, since settings tables have no key.
+/// The row that was added first, since settings tables have no key.
 store::Statement firstRow(store::Database& database, std::string_view table) {
     return database.prepare("SELECT rowid, * FROM " + store::bracketed(table) + " ORDER BY rowid LIMIT 1");
 }
@@ -19,7 +19,7 @@ store::Statement firstRow(store::Database& database, std::string_view table) {
                        "The table \"" + std::string(table) + "\" must have a row and is empty.");
 }
 
-/// False if there is no row to edit.
+/// Writes the fields into the first row; false if there is no row.
 bool editFirstRow(store::Database& database, std::string_view table, const Row& fields,
                   const std::vector<store::Column>& columns) {
     std::optional<double> rowid;

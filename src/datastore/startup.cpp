@@ -15,7 +15,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// What a start that was killed while it wrote a file of its own left behind.
+/// Removes the unfinished files of a start that was killed while writing.
 void clearUnfinished(const fs::path& programFolder) {
     store::removeUnfinished(programFolder, [](const std::string& name) {
         const std::string kind = base::lowerAscii(fs::path(name).extension().string());
@@ -33,7 +33,7 @@ bool isMissing(const fs::path& path) {
     }
 }
 
-/// The way out for whoever has no folder of that name: the start ends, so the path can only be mended by hand.
+/// Advice for a missing folder. The start ends there, so the user can only correct the path by hand.
 std::string wayToThePath(const Paths& paths) {
     std::string advice = "Check that the disk or network share with the folder {folder} is connected, and that "
                          "DataPath.txt in the folder " +
@@ -46,8 +46,8 @@ std::string wayToThePath(const Paths& paths) {
     return advice;
 }
 
-/// Creates the client database if there is none. A missing folder is an error instead: an empty database in place of
-/// an unmounted share would look as if all clients were lost.
+/// Creates the client database if there is none. But a missing folder is an error: an empty database instead of an
+/// unmounted share would look as if all clients were lost.
 void provideClientDb(const Paths& paths, const Notice& notice) {
     const fs::path& path = paths.DataDbPath;
     std::error_code ignored;
@@ -59,10 +59,11 @@ void provideClientDb(const Paths& paths, const Notice& notice) {
     }
 }
 
-/// Fails a start whose settings could not be written later: a read-only file, or a folder that takes no journal.
+/// Ends a start at once if the settings could not be written later: a read-only file, or a folder that takes no
+/// journal.
 ///
-/// The factory's row is to stay as it is, and the database skips a write that changes nothing. So the row is changed
-/// and the change undone: that needs all that a write needs, but the wait for the disk.
+/// The row must keep its values, and SQLite skips a write that changes nothing. So the row is changed and the change
+/// rolled back: this tests everything about a write without waiting for the disk.
 void touchTallowenDefault(store::Database& settings) {
     const store::Transaction undone(settings);
     const SettingsRow row = readSettings(settings, "TallowenDefault");
@@ -89,7 +90,7 @@ StartUpResult startUp(const fs::path& programFolder, assessment::Assessment& rec
     result.paths = findPaths(programFolder);
     result.notice = copiedFolderNotice(result.paths);
     provideClientDb(result.paths, notice);
-    // One connection a file: reading the definitions of its tables is most of the work of a start on it.
+    // One connection per file: reading the table definitions is most of the work when a file is opened.
     store::Database clients(result.paths.DataDbPath);
     renewPrintDb(clients, result.paths.PrintDbPath);
     result.paths.UpDateDBValue = bringUpToDate(clients, result.paths);
@@ -106,7 +107,7 @@ void useClientDb(Paths& paths, const fs::path& dataDbPath, assessment::Assessmen
     store::Database clients(dataDbPath);
     next.UpDateDBValue = bringUpToDate(clients, next);
     UpgradeHeadFoot(clients);
-    std::error_code ignored; // work without reports goes on, as after a start
+    std::error_code ignored; // the program works without reports, as at start-up
     if (fs::exists(next.PrintDbPath, ignored)) CopyHeadFootToPrintDb(clients, next.PrintDbPath);
     paths = std::move(next);
     readCPI(record, clients);

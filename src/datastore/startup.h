@@ -11,20 +11,20 @@ struct StartUpResult {
     std::string notice; ///< see copiedFolderNotice
 };
 
-/// Everything of a start that needs no window: finds the files, creates the client database or brings it up to date,
-/// and the databases that come with the program too, blanks the record and reads the fund defaults. `notice` shows the
-/// one message that a creation may give.
+/// The part of start-up that needs no window: finds the files, creates or updates the client database and the databases
+/// that come with the program, blanks the record and reads the fund defaults. `notice` shows the one message that
+/// creating a database may give.
 ///
-/// Throws store::Error for whatever is not put right here; the program then can't go on.
+/// Throws store::Error for everything that it can't handle; the program then can't continue.
 StartUpResult startUp(const std::filesystem::path& programFolder, assessment::Assessment& record,
                       const Notice& notice = {});
 
-/// Goes over to another client database while the program runs, or opens the same one again after it was replaced: it
-/// is brought up to date as at a start, its report lines go to Print.mdb, its rate of inflation into the record. The
-/// client in hand counts as not on file, since its key belongs to the file before.
+/// Switches to another client database while the program runs, or reopens the same one after it was replaced: updates
+/// it as at start-up, copies its report lines to Print.mdb and its rate of inflation into the record. The current
+/// client then counts as not on file, since its key belongs to the previous file.
 ///
-/// Throws store::Error if that is no client database or can't be brought up to date; all is as before then. Nothing is
-/// created, and `DataPath.txt` is the caller's.
+/// Throws store::Error and changes nothing if that is no client database or can't be updated. Creates nothing; the
+/// caller writes `DataPath.txt`.
 void useClientDb(Paths& paths, const std::filesystem::path& dataDbPath, assessment::Assessment& record);
 
 } // namespace datastore

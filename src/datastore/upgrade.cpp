@@ -14,7 +14,7 @@ namespace datastore {
 
 namespace {
 
-/// What a client draws from shares, as far as the conversion needs it.
+/// The fields of a client's income from shares that the conversion needs.
 struct ShareIncome {
     std::int64_t row;
     double percent;
@@ -116,7 +116,7 @@ double bringUpToDate(store::Database& database, const Paths& paths) {
     const double version = readVersion(database);
     if (version >= currentVersion) return version;
     store::Transaction transaction(database);
-    // Behind the lock it is read again: with a shared file another start may just have brought it up to date.
+    // Read again inside the transaction: another start may just have upgraded a shared file.
     const double lockedVersion = readVersion(database);
     if (lockedVersion >= currentVersion) return lockedVersion;
     runUpgradeSteps(database, lockedVersion, paths);

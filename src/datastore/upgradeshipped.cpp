@@ -23,8 +23,8 @@ std::ptrdiff_t tablesOf(std::string_view source) {
     return count;
 }
 
-/// Whether a database has the tables of its source and no others. It keeps each definition letter for letter, so that
-/// looking for them in the source is enough; an added or dropped column changes the letters.
+/// True if a database has exactly the tables of its source. SQLite keeps each definition letter for letter, so it can
+/// be looked up in the source; an added or dropped column changes its text.
 bool isOf(store::Database& database, std::string_view source) {
     store::Statement tables = database.prepare("SELECT sql FROM sqlite_master WHERE type='table'");
     std::ptrdiff_t count = 0;
@@ -49,7 +49,7 @@ void copyLines(store::Database& clients, store::Database& print) {
     try {
         lines = readHeadFoot(clients);
     } catch (const store::Error&) {
-        return; // a client database from before these lines: its upgrade is to come, and copies them
+        return; // an old client database without these lines; its upgrade will add and copy them
     }
     writeHeadFoot(print, lines);
 }
@@ -75,7 +75,7 @@ bool has(const std::vector<store::Column>& columns, std::string_view name) {
                        [&](const store::Column& column) { return base::sameName(column.name, name); });
 }
 
-/// The shipped values of the fields that a table of the user's lacks.
+/// The shipped values of the fields that the user's table lacks.
 Row lackingFields(const Row& shipped, const std::vector<store::Column>& present) {
     Row lacking;
     for (const Field& field : shipped)
@@ -113,7 +113,8 @@ void renewPrintDb(store::Database& clients, const fs::path& printDbPath) {
         fill(beside.path(), clients);
         beside.replace();
     } catch (const store::Error& error) {
-        throw store::Error(error.kind(), printDbPath.string(), error.why()); // nobody knows the name of the file beside
+        // The user does not know the temporary file's name.
+        throw store::Error(error.kind(), printDbPath.string(), error.why());
     }
 }
 

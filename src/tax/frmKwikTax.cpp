@@ -11,7 +11,7 @@ using namespace screenkit;
 namespace {
 
 const QStringList yearCaptions{"Tax Calc for Feb 2026", "Tax Calc for Feb 2027"}; // stored as 0 and 1
-// An age may be a fraction: it is tested against 65 and 75 as it stands.
+// An age may be a fraction, which is compared with 65 and 75 unrounded.
 const NumberKind age{"##0.####", false, 8};
 const NumberKind rate = percent.shownAs("0.00");
 const NumberKind marginalRate = percent.shownAs("0");
@@ -26,7 +26,7 @@ frmKwikTax::frmKwikTax(Workplace& workplace)
       m_client(workplace.record.tax) {
     buildBody();
     const auto print = [this](Destination to) {
-        feed(); // monthly tax may have left another income while the panel was open
+        feed(); // monthly tax may have changed the income while the panel was open
         m_work.reports.run("\\kwiktep.rpt", {}, to);
     };
     m_printPanel = printPanel({}, print, printNames);
@@ -83,7 +83,7 @@ void frmKwikTax::calculate() {
 }
 
 void frmKwikTax::openPrint() {
-    calculate(); // the page must not show an income beside another one's tax
+    calculate(); // the page must not show the tax of an earlier income
     feed();
     m_printPanel->open();
 }

@@ -5,7 +5,7 @@
 
 namespace tax {
 
-/// How one taxable income is taxed in either year, worked out again at each change of the year, and its report.
+/// Shows how one taxable income is taxed in either of two years, recalculated when the year changes, and prints it.
 class frmKwikTax : public screenkit::Screen {
     Q_OBJECT
 public:

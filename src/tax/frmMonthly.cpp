@@ -44,7 +44,7 @@ const Topic information{
     "amounts.  Note that, in addition to normal MTC’s for members/beneficiaries, MTC’s for contributions in the case "
     "of taxpayers 65 and older are allowed at salary source."};
 
-/// A figure that is rounded where it is shown, and only there.
+/// Displays a figure rounded; the figure itself stays exact.
 Bound<double> rounded(const double& figure) {
     return {[&figure] { return base::roundHalfEven(figure); }, [](double) {}};
 }
@@ -62,7 +62,7 @@ frmMonthly::frmMonthly(Workplace& workplace)
 }
 
 NumberField* frmMonthly::randWithoutCents(const QString& name, double& place) {
-    // Cents may be typed, so that a figure copied from a payslip is taken; they are dropped, not rounded.
+    // Cents may be typed, so that a figure can be copied from a payslip; they are dropped, not rounded.
     return number(name, {[&place] { return place; }, [&place](double typed) { place = std::trunc(typed); }}, wholeRand);
 }
 
@@ -195,8 +195,8 @@ void frmMonthly::settingsConfirmed() {
 }
 
 void frmMonthly::openPrint() {
-    // A page must not show one month's figures beside another's tax. What is worked out already stays: a second run of
-    // the same figures could allow another deduction than the one on the screen.
+    // A page must not show the inputs of one month with the tax of another. A month already calculated is not
+    // calculated again: that could allow another deduction than the screen shows.
     if (m_calculated != m_month && !calculate()) return;
     m_printPanel->open();
 }

@@ -7,12 +7,12 @@
 
 namespace tax {
 
-/// The employees' tax of one employee for one month, with UIF, skills levy and medical credits. Its figures live while
-/// it is open; the settings alone are stored.
+/// The employees' tax of one employee for one month, with UIF, skills levy and medical credits. Its figures are kept
+/// only while it is open; only the settings are stored.
 class frmMonthly : public screenkit::Screen {
     Q_OBJECT
 public:
-    /// Throws store::Error if the settings can't be read: no month can be worked out then.
+    /// Throws store::Error if the settings can't be read, since no month can be calculated without them.
     explicit frmMonthly(screenkit::Workplace& workplace);
 
 private:
@@ -24,7 +24,7 @@ private:
     void buildBody();
     void buildSettings();
     void buildPrintPanel();
-    /// False, after a box, if the dates allow none.
+    /// False, after telling the user, if the dates are not valid.
     bool calculate();
     bool complainOfDates();
     void work();
@@ -33,11 +33,11 @@ private:
     void print(screenkit::Destination destination);
 
     PAYESetup m_setup;
-    PAYESetup m_entered; ///< as the settings panel shows them; in force once confirmed
+    PAYESetup m_entered; ///< as shown on the settings panel; in force once confirmed
     MonthlyInputs m_month;
-    std::optional<MonthlyInputs> m_calculated; ///< what the figures shown are of; nothing if the settings have changed
+    std::optional<MonthlyInputs> m_calculated; ///< inputs of the figures shown; nothing after a change of the settings
     MonthlyTax m_result;
-    /// The rate of the calculation before: its test of the fund deduction looks at that one, 0 before the first.
+    /// The rate of the previous calculation, 0 before the first: the test of the fund deduction uses that one.
     double m_previousInclusionRate = 0;
     std::string m_employee;
 

@@ -10,11 +10,11 @@ namespace tax {
 
 namespace {
 
-// Of the year to February 2027, by the Income Tax Act, section 11F.
+// For the year to February 2027, Income Tax Act, section 11F.
 constexpr double fundShare = 0.275;         // of remuneration
 constexpr double fundCapAYear = 350000;     // rand
 constexpr double contributionFree = 3;      // times the beneficiaries' credit
-constexpr double contributionShare = 0.333; // the literal of the deduction tables, not a third
+constexpr double contributionShare = 0.333; // as printed in the deduction tables, not exactly a third
 constexpr double monthsAYear = 12;
 
 double beneficiaryCredit(const MonthlyInputs& month) {
@@ -39,7 +39,7 @@ double allowableFund(const MonthlyInputs& month, double inclusionRate) {
     return std::min(allowed, fundCapAYear / monthsAYear);
 }
 
-/// Commissions are paid for in the levy and not insured; the levy knows no limit.
+/// Commissions count for the skills levy but not for UIF; only UIF has a limit.
 void workLevies(const MonthlyInputs& month, const PAYESetup& setup, MonthlyTax& result) {
     const double insurable =
         month.salary + month.employerMedical + month.bonus + result.taxableTravel + month.employerFund;
@@ -88,12 +88,12 @@ MonthlyTax monthlyTax(const MonthlyInputs& month, const PAYESetup& setup, double
     client.Salary = (month.salary + month.commissions + result.taxableTravel - result.allowableFund +
                      month.employerMedical + month.employerFund) *
                         (days / worked) * monthsAYear +
-                    month.bonus; // a bonus comes once a year
+                    month.bonus; // a bonus is paid once a year
     const double rebates = totalRebates(monthlyTaxRules, month.age);
     const double withBonus = std::max(0.0, TABLEVIEW(client).tax - rebates);
     client.Salary -= month.bonus;
     const double withoutBonus = std::max(0.0, TABLEVIEW(client).tax - rebates);
-    if (!std::isfinite(client.Salary)) client.Salary = kept; // it could never be saved
+    if (!std::isfinite(client.Salary)) client.Salary = kept; // a result that is not finite could never be saved
     result.taxLiability = std::max(0.0, withoutBonus / monthsAYear * worked / days + (withBonus - withoutBonus));
     workLevies(month, setup, result);
     result.contributionCredit = contributionCredit(month, result.beneficiaryCredit);

@@ -10,7 +10,7 @@ namespace {
 
 struct Range {
     const char* field;
-    double highest; ///< the lowest is 0 for all
+    double highest; ///< the lowest is always 0
     const char* words;
 };
 

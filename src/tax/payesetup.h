@@ -11,18 +11,18 @@ struct PAYESetup {
     double EmployeeUIF = 0;   ///< percent, 0 to 100
     double EmployerUIF = 0;   ///< percent, 0 to 100
     double SkillLevy = 0;     ///< percent, 0 to 100
-    double UIFLimit = 0;      ///< rand a month, not negative: what is earned above pays no UIF
-    double TAIncRate8020 = 0; ///< taxed part of a travel allowance, a fraction: 0.8 or 0.2, any other used as it is
+    double UIFLimit = 0;      ///< rand a month, not negative: earnings above it pay no UIF
+    double TAIncRate8020 = 0; ///< taxed part of a travel allowance, a fraction from 0 to 1, usually 0.8 or 0.2
 };
 
-/// Its fields, which the report's table of the same name has too.
+/// Its fields; the report's table of the same name has them too.
 const assessment::FieldTable<PAYESetup>& payeSetupTable();
 
-/// Throws store::Error if file, table, row or a figure is missing, or a figure is outside its range: rates are never
-/// invented, and a wrong one would be signed for.
+/// Throws store::Error if the file, the table, the row or a figure is missing, or if a figure is out of range: rates
+/// are never made up, since the practice signs for the result.
 PAYESetup readPAYESetup(const std::filesystem::path& defaultDbPath);
 
-/// Throws store::Error; the row is as before then.
+/// If it throws store::Error, the row is unchanged.
 void writePAYESetup(const std::filesystem::path& defaultDbPath, const PAYESetup& setup);
 
 } // namespace tax

@@ -30,7 +30,7 @@ void feedMonthlyReport(const std::filesystem::path& printDbPath, const std::stri
                        const MonthlyInputs& month, const PAYESetup& setup, const MonthlyTax& result) {
     datastore::PrintFeed feed(printDbPath, client);
     feed.replace(payeSetupTable().name(), datastore::rowOf(payeSetupTable(), setup));
-    // Captions beside figures, as the report lays them out.
+    // The captions that the report prints beside the figures.
     feed.replace("IRP5Mon", {{"TypeAM", "Monthly Check"},
                              {"Employee", " For : " + employee},
                              {"EmployeeName", employee},
@@ -46,7 +46,7 @@ void feedMonthlyReport(const std::filesystem::path& printDbPath, const std::stri
                              {"Bonus", "Bonus"},
                              {"BonusNum", month.bonus},
                              {"MedExp", "Medical expenses"},
-                             {"MedExpNum", 0}, // credits took the place of the deduction; its line stayed
+                             {"MedExpNum", 0}, // credits have replaced this deduction, but the report keeps its line
                              {"PenCont", "Employer's R/Fund contributions "},
                              {"PenContNum", month.employerFund},
                              {"RACont", "Employee's R/Fund contributions"},

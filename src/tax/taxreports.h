@@ -8,12 +8,12 @@
 
 namespace tax {
 
-/// Writes a client's quick tax into Print.mdb for `kwiktep.rpt`. Throws store::Error; nothing is written then.
+/// Writes a client's quick tax into Print.mdb for `kwiktep.rpt`. If it throws store::Error, nothing is written.
 void feedQuickTaxReport(const std::filesystem::path& printDbPath, const std::string& client,
                         const assessment::KwikTax& income, const QuickTax& result);
 
-/// Writes an employee's month, and the settings it was worked out by, into Print.mdb for `Monthly.rpt`. Throws
-/// store::Error; nothing is written then.
+/// Writes an employee's month, and the settings used, into Print.mdb for `Monthly.rpt`. If it throws store::Error,
+/// nothing is written.
 void feedMonthlyReport(const std::filesystem::path& printDbPath, const std::string& client, const std::string& employee,
                        const MonthlyInputs& month, const PAYESetup& setup, const MonthlyTax& result);
 

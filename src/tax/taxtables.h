@@ -5,24 +5,24 @@
 /// The income tax of natural persons. Figures are rand a year and rates percent, unless a line says otherwise.
 namespace tax {
 
-/// One step of an income tax scale: incomes over `over`, up to and including `upTo`.
+/// One bracket of an income tax scale: incomes above `over`, up to and including `upTo`.
 struct Bracket {
     double over;
     double upTo;
-    double taxOnOver; ///< tax on an income of just `over`
-    double rate;      ///< on what the income is more than `over`
+    double taxOnOver; ///< tax on an income of exactly `over`
+    double rate;      ///< on the part of the income above `over`
 };
 
-/// The top of each scale's last bracket. An income above it is taxed by that bracket all the same.
+/// The top of each scale's last bracket. An income above it is still taxed by that bracket.
 inline constexpr double topOfScale = 9999999999;
 
-/// What Parliament fixes for one tax year, by that year's Rates and Monetary Amounts and Amendment of Revenue Laws Act.
+/// The figures of one tax year, fixed by that year's Rates and Monetary Amounts and Amendment of Revenue Laws Act.
 struct TaxYear {
     const char* ends; ///< as the screens and reports name it
     std::array<Bracket, 7> scale;
     double primaryRebate;
-    double rebateFrom65; ///< beside the primary one, at ages from 65 to 74
-    double rebateFrom75; ///< beside the primary one, from 75 on; secondary and tertiary rebate in one figure
+    double rebateFrom65; ///< in addition to the primary one, at ages from 65 to 74
+    double rebateFrom75; ///< in addition to the primary one, from 75 on; secondary and tertiary rebate together
 };
 
 /// 1 March 2025 to 28 February 2026: Rates and Monetary Amounts and Amendment of Revenue Laws Act of 2025.
@@ -62,40 +62,40 @@ inline constexpr TaxYear february2027{
 /// Tax credits for the members of a medical scheme, rand a month for each; fixed by the same Act as the scale.
 struct MedicalCredits {
     double firstTwo; ///< each of the first two
-    double further;  ///< each one more
+    double further;  ///< each further member
 };
 inline constexpr MedicalCredits medicalCredits2027{376, 254}; ///< 1 March 2026 to 28 February 2027
 
-/// Whose scale and whose rebates one consumer of the tables works with.
+/// The years whose scale and rebates one user of the tables works with.
 struct TaxRules {
     const TaxYear& scale;
     const TaxYear& primaryRebate;
     const TaxYear& ageRebates;
 };
 
-// Where the rebates of one year stand beside the scale of the other it is meant: each screen goes on giving the figures
-// that practices know from it. Change a pairing here only when the practice's figures are to change.
+// Where the rebates of one year are paired with the scale of another, this is intended: each screen keeps giving the
+// figures that practices know from it. Change a pairing only if the practice's figures are to change.
 inline constexpr TaxRules quickTaxFebruary2026{february2026, february2026, february2026};
 inline constexpr TaxRules quickTaxFebruary2027{february2027, february2027, february2027};
 inline constexpr TaxRules monthlyTaxRules{february2027, february2026, february2026};
 inline constexpr TaxRules retirementFundingRules{february2027, february2027, february2027};
 inline constexpr TaxRules investmentComparisonRules{february2027, february2026, february2027};
 
-/// How a scale taxes one income: the bracket it falls into and the tax, the part of each.
+/// How a scale taxes one income: the bracket that applies, the tax and its two parts.
 struct ScaleTax {
     double lowerLimit = 0;
     double upperLimit = 0;
     double rate = 0; ///< percent
     double taxOnLowerLimit = 0;
-    double portion = 0; ///< at the rate: what the income is more than the lower limit
-    double tax = 0;     ///< both together, never rounded
+    double portion = 0; ///< tax on the part of the income above the lower limit
+    double tax = 0;     ///< sum of both parts, never rounded
 };
 
-/// Taxes an income. One that stands on a limit falls into the bracket below, one above the last limit into the last,
-/// a negative one into the first, with a negative tax.
+/// Taxes an income. An income exactly on a limit is taxed in the bracket below it, one above the last limit in the last
+/// bracket, a negative one in the first, with a negative tax.
 ScaleTax taxOn(const TaxYear& year, double income);
 
-/// Primary rebate and the one for the age (years, may be a fraction): 64.99 is not yet 65.
+/// Primary rebate plus the one for the age (years, may be a fraction): 64.99 is still below 65.
 double totalRebates(const TaxRules& rules, double age);
 
 } // namespace tax
