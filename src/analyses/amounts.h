@@ -6,7 +6,7 @@
 
 namespace analyses {
 
-/// How the needs analyses show an amount, on screen, in a sentence and on paper: whole rand, 0 as nothing.
+/// How the needs analyses show an amount on screen, in sentences and on paper: whole rand, 0 as an empty text.
 inline constexpr const char* amountMask = "### ### ###";
 
 inline std::string amountText(double rand) { return base::formatNumber(rand, amountMask); }

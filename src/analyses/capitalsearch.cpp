@@ -7,7 +7,7 @@ namespace analyses {
 
 namespace {
 
-/// How many steps of `taken` keep x within its power of two, the upper end counted in.
+/// The number of additions of `taken` that leave x within its power of two, including the power's upper end.
 double stepsWithin(double x, double taken) {
     int exponent = 0;
     std::frexp(x, &exponent);
@@ -20,9 +20,9 @@ double stepsWithin(double x, double taken) {
     return std::max(steps, 0.0);
 }
 
-/// The first of the steps 1 to `most` at which `holds` is true; nothing if it holds at none of them.
+/// The first of the steps 1 to `most` at which `holds` is true; nothing if it is false at all of them.
 ///
-/// holds must not fall back to false at a later step: it is asked at steps 1, 2, 4, ... and then between the last two.
+/// Once true, holds must stay true: it is called at steps 1, 2, 4, ... and then between the last two.
 std::optional<std::int64_t> firstStep(std::int64_t most, const std::function<bool(std::int64_t)>& holds) {
     std::int64_t fails = 0;
     std::int64_t tried = std::min<std::int64_t>(1, most);
@@ -38,9 +38,9 @@ std::optional<std::int64_t> firstStep(std::int64_t most, const std::function<boo
     return tried;
 }
 
-/// Steps of this size that lead from a capital past another; 0 if it lies the other way.
+/// The number of steps of this size from a capital past another; 0 if the other lies in the opposite direction.
 std::int64_t stepsPast(double from, double to, double step) {
-    constexpr double most = 1e18; // beyond it a step is lost in the figure anyhow
+    constexpr double most = 1e18; // larger counts can't change the figure
     const double steps = std::floor((to - from) / step) + 1;
     return steps >= 1 ? static_cast<std::int64_t>(std::min(steps, most)) : 0;
 }
@@ -50,10 +50,10 @@ std::int64_t stepsPast(double from, double to, double step) {
 double stepped(double start, double step, std::int64_t steps) {
     double x = start;
     while (steps > 0) {
-        x += step; // a true step: it may enter another power of two, and settles which way ties round
+        x += step; // adding the first step shows how ties round; it may also reach another power of two
         --steps;
         const double taken = (x + step) - x;
-        if (taken == 0 || !std::isfinite(taken)) return x; // the step is lost in the size of x
+        if (taken == 0 || !std::isfinite(taken)) return x; // the step is too small to change x
         const double leap = std::min(static_cast<double>(steps), stepsWithin(x, taken));
         x += leap * taken;
         steps -= static_cast<std::int64_t>(leap);

@@ -6,35 +6,35 @@
 
 namespace analyses {
 
-/// How a needs analysis steps to the capital that it looks for, rand.
+/// The steps, in rand, by which a needs analysis searches for a capital.
 struct CapitalSteps {
     double coarse = 0;
-    double fine = 0;        ///< within the last coarse step upwards; 0: the coarse steps are all
-    int mostFinePasses = 1; ///< where rounding keeps the fine steps from ever meeting the coarse one
-    double highest = 1e15;  ///< where a search upwards ends without an answer
+    double fine = 0;        ///< refines the last coarse step upwards; 0: coarse steps only
+    int mostFinePasses = 1; ///< limit, because rounding can keep the fine steps from meeting the coarse one
+    double highest = 1e15;  ///< an upward search stops here without an answer
 };
 
-/// What a search came to.
+/// The result of a search.
 struct CapitalFound {
-    std::optional<double> solved; ///< the capital that does; nothing if there is none
-    std::optional<double> failed; ///< the last capital below it that was tried and does not; nothing if all do
-    double lastTried = 0;         ///< what the last run was made with
+    std::optional<double> solved; ///< the capital that suffices; nothing if there is none
+    std::optional<double> failed; ///< the last lower capital tried that does not suffice; nothing if all do
+    double lastTried = 0;         ///< the capital of the last run
 };
 
-/// True if a capital carries the years asked for. Must not turn false again for a larger one.
+/// True if a capital suffices for the years asked for. Once true, it must stay true for larger capitals.
 using CapitalTest = std::function<bool(double capital)>;
 
-/// The least capital, by coarse steps down from `start`, that still does; nothing if it does down to 0.
+/// The least capital that still suffices, by coarse steps down from `start`; nothing if even 0 suffices.
 CapitalFound searchDown(double start, const CapitalSteps& steps, const CapitalTest& covers);
 
-/// The least capital, by fine steps within the last coarse step up from `start`, that does; nothing up to the highest.
-/// `start` itself is not tried: it is known to fall short.
+/// The least capital that suffices, by fine steps within the last coarse step up from `start`; nothing if even the
+/// highest does not. `start` itself is not tried, since it is known not to suffice.
 CapitalFound searchUp(double start, const CapitalSteps& steps, const CapitalTest& covers);
 
-/// start + step + step + ..., `steps` times, bit for bit as adding them one by one would round it.
+/// start + step + step + ..., `steps` times, with exactly the bits that adding them one by one gives.
 ///
-/// Within a power of two every further step adds the same amount exactly, so that it is taken in leaps of one power of
-/// two each: ten thousand million steps cost some fifty additions.
+/// Within a power of two every further step adds exactly the same amount, so that one multiplication covers all of
+/// them: ten thousand million steps cost about fifty additions.
 double stepped(double start, double step, std::int64_t steps);
 
 } // namespace analyses

@@ -134,7 +134,7 @@ void ItemisedScreen::printItems(Destination destination) {
 void ItemisedScreen::buildPanel() {
     if (m_panel != nullptr) return;
     m_grid = editGrid("grdItemise");
-    untrackedField(m_grid); // a working copy: the record changes when it is taken
+    untrackedField(m_grid); // the grid edits a copy; OK writes it to the record
     m_grid->edited = [this] { showTotal(); };
     m_totalField = result("numItemiseTotal", m_total, wholeRand);
     auto* add = button("cmdAddRow", tr("Add &row"), [this] { m_grid->addRow(); });
@@ -155,7 +155,7 @@ void ItemisedScreen::open(const ItemLine& itemised) {
     std::vector<EditColumn> columns;
     for (const ItemColumn& each : itemised.columns())
         columns.push_back(editColumn(each));
-    const int visibleRows = itemised.kind == ItemKind::timed ? 6 : 5; // one more brings the scroll bar
+    const int visibleRows = itemised.kind == ItemKind::timed ? 6 : 5; // a further row would bring a scroll bar
     m_grid->present(std::move(columns), editRows(itemised, itemised.list(m_work.record).rows), visibleRows);
     m_before = m_grid->rows();
     showTotal();
@@ -213,7 +213,7 @@ bool ItemisedScreen::commitPendingEdits() {
 bool ItemisedScreen::mayClose() { return leavePanel(); }
 
 void ItemisedScreen::clientReplaced() {
-    if (m_open != nullptr) closePanel(); // the list was the client's who is gone
+    if (m_open != nullptr) closePanel(); // the list belonged to the previous client
     Screen::clientReplaced();
 }
 

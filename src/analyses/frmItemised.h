@@ -10,11 +10,11 @@
 
 namespace analyses {
 
-/// A needs analysis some of whose money lines may be itemised: what the three of them share.
+/// The common part of the three needs analyses whose money lines may be itemised.
 ///
-/// A line's button opens a panel with a copy of its list. OK makes the copy the list, and its sum the line's figure;
-/// closing drops it, after asking if something in it was changed. While a list is in use its line's fields are locked
-/// and its button shows another picture.
+/// A line's button opens a panel with a copy of its list. OK stores the copy, and its sum becomes the line's figure;
+/// closing the panel discards the copy, after a question if it was changed. While a list is in use, its line's fields
+/// are locked and its button shows another picture.
 class ItemisedScreen : public screenkit::Screen {
     Q_OBJECT
 public:
@@ -27,17 +27,17 @@ protected:
 
     /// `cmdItemise(index)`: opens the list of that line, which must be one of `itemLines`.
     QPushButton* itemiseButton(int index);
-    /// `cmdItemise(index)` of the line that the policies feed: opens their schedule in place of a list.
+    /// `cmdItemise(index)` of the line that the policies fill: opens their schedule instead of a list.
     QPushButton* policiesButton(int index);
-    /// These fields show what the line's list comes to and lock while it is in use.
+    /// These fields show the total of the line's list and are locked while the list is in use.
     void locks(int index, std::initializer_list<screenkit::Field*> fields);
-    /// Pictures and locks by the flags: to be called in `filled()`.
+    /// Sets pictures and locks from the flags. Call it in `filled()`.
     void refreshItemised();
 
-    /// The lists in use as a report of their own; none if there are none.
+    /// Prints the lists in use as a report of their own; nothing if there are none.
     void printItems(screenkit::Destination destination);
 
-    /// The user has taken a list: the line's fields show it already.
+    /// Called after the user has confirmed a list; the line's fields already show its total.
     virtual void itemsTaken(const ItemLine&) {}
     virtual void recalculate() = 0;
 
@@ -56,7 +56,7 @@ private:
     void buildPanel();
     void open(const ItemLine& line);
     void take();
-    /// Closes the panel; false if the user would rather go on.
+    /// Closes the panel; false if the user chooses to go on editing.
     bool leavePanel();
     void closePanel();
     bool hasChanges() const;

@@ -25,15 +25,15 @@ namespace {
 
 constexpr double highestAge = 99; ///< at retirement
 
-// A slip of the key must not pull the age of retirement along with it.
+// A typing error in the age must not move the age of retirement with it.
 const NumberKind ages = whole.from(0, "The minimum age is 0", "Incorrect Age!")
                             .upTo(client::oldestAge, "The maximum age allowed is 120", "Incorrect Age!");
 
-/// From the client's age to 99; a client past that retires today. The title is the bank rate's and is kept.
+/// From the client's age to 99; an older client retires today. The box has the bank rate's title; this is deliberate.
 NumberKind retirementAge(const assessment::NARetirement& needs) {
     return whole.where(
         [&needs](double age) {
-            const double today = needs.CurrAge > client::oldestAge ? 0 : needs.CurrAge; // its own field complains of it
+            const double today = needs.CurrAge > client::oldestAge ? 0 : needs.CurrAge; // its field reports the error
             return age >= today && age <= std::max(highestAge, today);
         },
         "The maximum age allowed is 99 and the minimum age must be equal or greater than the current age",
@@ -128,7 +128,7 @@ Item frmNARA::capitalPage() {
     auto* estate = amount("numASS(0)", m_needs.ANSLAss1);
     auto* stocks = amount("numASS(1)", m_needs.ANSLAss2);
     auto* business = amount("numASS(2)", m_needs.ANSLAss3);
-    m_policies = result("numASS(3)", m_needs.ANSLAss4, wholeRand); // always the schedule's
+    m_policies = result("numASS(3)", m_needs.ANSLAss4, wholeRand); // only the schedule of policies sets it
     auto* other = amount("numASS(4)", m_needs.ANSLAss5);
     m_totalAssets = result("numASS(5)", m_assets, wholeRand);
     locks(1, {estate});
@@ -225,7 +225,7 @@ void frmNARA::showAges() {
 
 void frmNARA::agesChanged() {
     followAges(m_work.record);
-    client::CalculatePolInv(m_work.record); // what the policies are worth at another age
+    client::CalculatePolInv(m_work.record); // their values depend on the age
     for (NumberField* follower : {m_years, m_income, m_cover, m_policies})
         follower->fill();
     showTotals();
@@ -237,14 +237,14 @@ void frmNARA::settled(Field* field) {
         m_birthUsed = m_work.record.client.BirthDate;
         prepareRetirement(m_work.record, today());
     } else if (field == m_age && m_needs.CurrAge != m_ageUsed) {
-        // Once for each new age: a retirement typed before today is told, not put right behind the user's back.
+        // Done once per new age. A retirement age typed below it later brings a message instead of a silent correction.
         retireNotBeforeToday(m_needs);
         followAges(m_work.record);
     }
     m_ageUsed = m_needs.CurrAge;
     if (before == std::pair(m_needs.CurrAge, m_needs.AgeRetiment)) return;
     showAges();
-    // Who turns to the results straight from the field sees them worked out before the ages have followed.
+    // If the user goes from the field straight to the results, they were calculated before the ages were updated.
     if (showsResults()) recalculate();
 }
 
@@ -260,7 +260,7 @@ bool frmNARA::showsResults() const { return m_pages->currentIndex() == m_pages->
 void frmNARA::recalculate() {
     const assessment::NARetirement before = m_needs;
     m_analysis = NARACalc(m_work.record);
-    if (m_needs != before) m_work.record.changed.NARAChanged = 1; // the file does not hold these results yet
+    if (m_needs != before) m_work.record.changed.NARAChanged = 1; // the saved client does not have these results yet
     for (NumberField* corrected : {m_years, m_inflation, m_rate, m_policies})
         corrected->fill();
     refreshItemised();

@@ -7,8 +7,8 @@ class QTabWidget;
 
 namespace analyses {
 
-/// The retirement needs analysis: how long the capital at retirement carries the income wanted, how much more it takes,
-/// the years one by one, their graph and their report.
+/// The retirement needs analysis: how long the capital at retirement provides the required income, how much more is
+/// needed, the year-by-year table, its graph and its report.
 class frmNARA : public ItemisedScreen {
     Q_OBJECT
 public:
@@ -29,7 +29,7 @@ private:
     void buildPrintPanel();
     screenkit::NumberField* amount(const QString& name, double& place);
 
-    /// One of the two ages, from which others follow as it is typed.
+    /// One of the two ages; typing it updates the figures that depend on it.
     screenkit::Bound<double> age(double& place);
     void agesChanged();
     void showAges();
@@ -44,10 +44,10 @@ private:
 
     assessment::NARetirement& m_needs;
     RetirementAnalysis m_analysis;
-    double m_birthUsed = base::blankDate; ///< birth date that the age was last worked out from
-    double m_ageUsed = 0;                 ///< age that retirement was last held against
+    double m_birthUsed = base::blankDate; ///< birth date from which the age was last calculated
+    double m_ageUsed = 0;                 ///< age against which retirement was last checked
     int m_includeAmort = 0, m_includePremium = 0, m_includeNotes = 0, m_includeItems = 0, m_includePolicies = 0;
-    double m_assets = 0, m_liabilities = 0; ///< what the two capital pages sum to
+    double m_assets = 0, m_liabilities = 0; ///< totals of the two capital pages
     QTabWidget* m_pages = nullptr;
     QLineEdit *m_name = nullptr, *m_idNumber = nullptr, *m_lasts = nullptr, *m_needed = nullptr;
     screenkit::DateField* m_birth = nullptr;
@@ -56,7 +56,7 @@ private:
     screenkit::NumberField *m_policies = nullptr, *m_totalAssets = nullptr, *m_totalLiabilities = nullptr;
     screenkit::NumberField *m_required = nullptr, *m_available = nullptr, *m_difference = nullptr;
     screenkit::NumberField *m_capital = nullptr, *m_expenses = nullptr, *m_netWorth = nullptr;
-    double m_shown[6] = {}; ///< behind the six results of the last page
+    double m_shown[6] = {}; ///< unformatted figures of the six results on the last page
     QLabel* m_shortfall = nullptr;
     QPushButton* m_ok = nullptr;
     screenkit::PrintPanel* m_printPanel = nullptr;

@@ -18,7 +18,7 @@ using assessment::ItemLayout;
 using assessment::ItemRow;
 using assessment::ItemTable;
 
-constexpr double longestPeriod = 50; // years: as far as an analysis runs
+constexpr double longestPeriod = 50; // years: the longest that an analysis runs
 
 constexpr ItemColumn description{"Description", nullptr, 60, "A maximum of only 60 characters can be accepted !"};
 constexpr ItemColumn amount{"Amount", amountMask, 99999999, "Only a value between 0 and 99 999 999 can be entered!",
@@ -157,7 +157,7 @@ std::vector<ItemLine> disabilityLines() {
 } // namespace
 
 const std::vector<ItemColumn>& ItemLine::columns() const {
-    const bool byAge = table->analysis == Analysis::retirement; // the others start today: they count years
+    const bool byAge = table->analysis == Analysis::retirement; // the others start today and count years
     if (kind == ItemKind::capital) return capitalColumns;
     if (kind == ItemKind::income) return byAge ? incomeByAge : incomeByYear;
     return byAge ? timedByAge : timedByYear;
@@ -193,7 +193,7 @@ void takeItems(Assessment& record, const ItemLine& line, std::vector<ItemRow> ro
 }
 
 std::optional<IncomeAsked> incomeAsked(const std::vector<ItemRow>& rows, double first) {
-    if (!(sumOfItems(rows) > 0)) return {}; // not in use: the figures that the user types stand
+    if (!(sumOfItems(rows) > 0)) return {}; // not in use: the figures typed by the user count
     double atFirst = 0, later = 0, begins = 0, ends = 0;
     bool startsAtFirst = false, spans = false, lasts = false;
     for (const ItemRow& row : rows) {
@@ -202,7 +202,7 @@ std::optional<IncomeAsked> incomeAsked(const std::vector<ItemRow>& rows, double 
             atFirst += row.Amount;
         }
         if (row.FromAge > first) later += row.Amount;
-        if (row.Amount == 0) continue; // a row without an amount lasts no time
+        if (row.Amount == 0) continue; // a row without an amount does not extend the period
         begins = spans ? std::min(begins, row.FromAge) : row.FromAge;
         ends = spans ? std::max(ends, row.ToAge) : row.ToAge;
         lasts = lasts || row.ToAge >= row.FromAge;

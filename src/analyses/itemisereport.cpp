@@ -12,7 +12,7 @@ namespace {
 
 using assessment::ItemRow;
 
-/// Where a column is printed: under the name that it is stored by, but for the one point in time.
+/// The field in which a column is printed: the one that stores it, except for the time of a timed amount.
 const char* printField(const ItemColumn& column) {
     if (column.figure == nullptr) return "IncomeSource";
     if (column.figure == &ItemRow::Amount) return "Amount";
@@ -29,7 +29,7 @@ datastore::Row heads(const ItemLine& line) {
     return printed;
 }
 
-/// Below a list's last row. Incomes of different years are no sum that anyone receives: their total says what it is.
+/// The total under a list. Nobody receives incomes of different years as one sum, so their total says what it covers.
 datastore::Row total(const ItemLine& line, double sum) {
     const char* words = "Total";
     if (line.kind == ItemKind::income)

@@ -5,14 +5,14 @@
 #include "analyses/yearrun.h"
 #include "datastore/printfeed.h"
 
-/// Parts of a row of Print.mdb that the reports of several analyses have in common. Of a part that is not asked for
-/// every line is blank, so that none is left over from an earlier printout.
+/// Parts of a row of Print.mdb that the reports of several analyses share. If a part is not wanted, each of its lines
+/// is blank, so that nothing remains of an earlier printout.
 namespace analyses {
 
 /// Heading, colon and text of the notes.
 datastore::Row notesLines(bool included, const std::string& notes);
 
-/// The premium's block, blank: no premium can be solved yet.
+/// The block for the premium, blank, since no premium can be solved yet.
 datastore::Row noPremium();
 
 /// The rows of the amortisation.

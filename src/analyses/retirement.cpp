@@ -39,7 +39,7 @@ RetirementAnalysis statement(const assessment::Assessment& record) {
     return analysis;
 }
 
-/// One run from any capital; the years of `NetCapital` are those of table, graph and report.
+/// Runs the years from a given capital; the years run from `NetCapital` are those of table, graph and report.
 YearRun NARAProjectCapital(const assessment::NARetirement& needs, const RetirementAnalysis& analysis, double capital) {
     return projectCapital(analysis.flows, capital, needs.BankInvestRate);
 }

@@ -32,15 +32,15 @@ Yearly policyIncomes(const assessment::Assessment& record, double pensions) {
     return incomes;
 }
 
-/// What a need in today's money comes to after the years from the next birthday to an age, both counted.
+/// Inflates a need in today's money over the years from the next birthday to an age, both included.
 double inflatedTo(double age, double amount, const assessment::NARetirement& needs) {
     for (int year = client::yearsFromTo(needs.CurrAge + 1, age); year > 0; --year)
         amount = amount * needs.InflationRA / 100 + amount;
     return amount;
 }
 
-/// The monthly need of a year from the itemised needs in force; without one, last year's inflated. Each row sets the
-/// figure, so that of rows that overlap the last one counts.
+/// The monthly need of a year from the itemised needs in force; without one, last year's need plus inflation. If rows
+/// overlap, the last one counts.
 void setItemisedNeed(const assessment::Assessment& record, std::size_t year, Yearly& monthly) {
     const auto& needs = record.retirement;
     const std::vector<ItemRow>& rows = record.itemised.RNAMonIncReq.rows;
@@ -52,7 +52,7 @@ void setItemisedNeed(const assessment::Assessment& record, std::size_t year, Yea
         if (row.FromAge != age) {
             monthly[year] = monthly[year - 1] + monthly[year - 1] * row.Escalation / 100;
         } else if (&row == &rows.front()) {
-            // The first need starts with the figure of the year before it, in both years.
+            // The first need also replaces the previous year's figure, and both get the value of that earlier year.
             monthly[year] = monthly[year - 1] = inflatedTo(age - 2, row.Amount, needs);
         } else {
             monthly[year] = inflatedTo(age - 1, row.Amount, needs);
@@ -61,8 +61,8 @@ void setItemisedNeed(const assessment::Assessment& record, std::size_t year, Yea
     if (!isNeeded) monthly[year] = monthly[year - 1] + monthly[year - 1] * needs.InflationRA / 100;
 }
 
-/// Policies that pay out after retirement, at the value that they have at that age. An endowment counts with or without
-/// its tick, a cash value whatever the cover: unlike those that are paid by retirement.
+/// Policies that pay out after retirement, at their value at that age. Unlike those paid by retirement, an endowment
+/// counts even without its tick, and a cash value whatever the death benefit.
 void addLumpSums(const assessment::Assessment& record, Yearly& paidOut) {
     const auto add = [&](double value, double age) {
         if (const std::size_t year = laterYearAt(age, record.retirement.AgeRetiment); year > 0) paidOut[year] += value;

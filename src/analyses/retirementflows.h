@@ -5,10 +5,10 @@
 
 namespace analyses {
 
-/// Incomes, needs and payouts from the year of retirement on, by year and so by age: year 1 is at `AgeRetiment`.
+/// Incomes, needs and payouts from the year of retirement on, by year; year 1 is at the age `AgeRetiment`.
 ///
-/// incomeRequired: rand a month at retirement; pensions: of all policies, rand a month. Itemised lists count in place
-/// of the plain figures while their flag is on.
+/// incomeRequired: rand a month at retirement; pensions: of all policies, rand a month. Itemised lists replace the
+/// plain figures while their flag is on.
 YearlyFlows retirementFlows(const assessment::Assessment& record, double incomeRequired, double pensions);
 
 } // namespace analyses

@@ -9,7 +9,7 @@ namespace {
 
 constexpr const char* lasts = "Funds available will provide income for ";
 
-/// True if the capital is said to fall short of the first year's need.
+/// True if the sentence says that the capital does not last the first year.
 bool fallsShort(const SentenceRules& rules, const Prospect& of) {
     const bool isCapital = rules.nothingFalls ? of.capital >= 0 : of.capital > 0;
     const bool isShort = of.capital + of.firstYearIncome <= 12 * of.monthlyNeed;

@@ -4,15 +4,15 @@
 
 namespace analyses {
 
-/// What tells the sentences of the three large analyses apart. Each difference is meant.
+/// The differences between the sentences of the three needs analyses. Each difference is deliberate.
 struct SentenceRules {
-    const char* years;               ///< behind the number of years
-    bool nothingFalls = false;       ///< a capital of exactly 0 is said to fall short of a year as well
-    bool anyCapitalFalls = false;    ///< so is every capital above 0, until a later sentence takes its place
-    bool exactYearCarries = false;   ///< capital and income of exactly a year's need carry that year
-    bool needsRealShortfall = false; ///< a need below nothing has a sentence of its own
-    double excess = 0;               ///< rand beyond which an excess is told
-    bool exactExcessTold = false;    ///< one of just that much too
+    const char* years;               ///< the text after the number of years
+    bool nothingFalls = false;       ///< a capital of exactly 0 also brings the sentence "less than 1 year"
+    bool anyCapitalFalls = false;    ///< every capital above 0 brings it too, unless a later sentence replaces it
+    bool exactYearCarries = false;   ///< exactly a year's need is enough for that year
+    bool needsRealShortfall = false; ///< a negative need has its own sentence
+    double excess = 0;               ///< rand: only a larger excess is mentioned
+    bool exactExcessTold = false;    ///< an excess of exactly this amount is mentioned too
 };
 
 inline constexpr SentenceRules retirementSentences{.years = " year/s.", .needsRealShortfall = true, .excess = 100000};
@@ -20,22 +20,22 @@ inline constexpr SentenceRules deathSentences{.years = " years.", .nothingFalls 
 inline constexpr SentenceRules disabilitySentences{
     .years = " years.", .anyCapitalFalls = true, .exactYearCarries = true, .excess = 50000, .exactExcessTold = true};
 
-/// What an analysis says of: rand and years.
+/// The figures that the sentences are about: rand and years.
 struct Prospect {
     double monthlyNeed = 0;     ///< in the first year
-    double capital = 0;         ///< net
-    double firstYearIncome = 0; ///< available in it beside the capital
+    double capital = 0;         ///< net worth at the start
+    double firstYearIncome = 0; ///< available in it besides the capital
     int covered = 1;            ///< years that the capital lasts
-    double asked = 0;           ///< years that it should, at most 50
+    double asked = 0;           ///< years that it should last, at most 50
 };
 
-/// How long the capital lasts, never more than the years asked for; empty where nothing is to be said of it.
+/// How long the capital lasts, never more than the years asked for; empty if there is nothing to say.
 std::string lastingSentence(const SentenceRules& rules, const Prospect& prospect);
 
-/// What the capital has beyond that which does; empty where that is too little to tell.
+/// The capital in excess of what is needed; empty if it is too small to mention.
 std::string excessSentence(const SentenceRules& rules, double excess);
 
-/// What it lacks.
+/// The additional capital that is needed.
 std::string shortfallSentence(double missing);
 
 } // namespace analyses

@@ -5,7 +5,7 @@
 
 namespace analyses {
 
-/// The last year that a needs analysis looks at; it can say of 50 years that the capital lasts.
+/// The last year that is run. A capital can then be said to last up to 50 years.
 inline constexpr int lastYear = 51;
 inline constexpr int mostYears = 50;
 
@@ -15,7 +15,8 @@ inline constexpr double highestInflation = 30, highestBankInvest = 50;
 /// Figures by year, 1 to 51; element 0 is unused.
 using Yearly = std::array<double, lastYear + 1>;
 
-/// What comes in and goes out year by year whatever the capital: worked out once, then run with any number of capitals.
+/// Income and spending by year, which do not depend on the capital: calculated once, then run with any number of
+/// capitals.
 struct YearlyFlows {
     Yearly MonthlyRequiredByYear{}; ///< rand a month
     Yearly RequiredByYear{};        ///< rand a year
@@ -25,18 +26,18 @@ struct YearlyFlows {
     Yearly sold{};                  ///< what is sold in the year: it earns interest from the next one on
 };
 
-/// How a capital fares under such flows.
+/// The course of a capital under such flows.
 struct YearRun {
     Yearly CapitalByYear{};  ///< at the start of the year, rand
-    Yearly InterestByYear{}; ///< on it in the year
-    int YearsCovered = 1;    ///< years that it lasts, 1 to 50; the year after it is the last one filled in
+    Yearly InterestByYear{}; ///< earned on it in the year
+    int YearsCovered = 1;    ///< years that it lasts, 1 to 50; the arrays are filled to the year after
 };
 
-/// Runs a capital from year 1 until a year needs more than capital, interest and income together, or year 51 is
-/// reached. percent: return a year. The first year's interest alone is cut down to whole rand.
+/// Runs a capital from year 1 until a year needs more than capital, interest and income together, or until year 51.
+/// percent: return a year. Only the first year's interest is truncated to whole rand.
 YearRun projectCapital(const YearlyFlows& flows, double capital, double percent);
 
-/// Years as an analysis counts them: whole, ties to even, 0 to 50.
+/// A number of years as an analysis counts it: whole, ties to even, 0 to 50.
 int wholeYears(double years);
 
 /// A line of the amortisation, on screen and in the report.
@@ -45,11 +46,11 @@ struct ShownYear {
     double capital = 0, interest = 0, available = 0, required = 0;
 };
 
-/// The years that the amortisation shows: those covered and the one after, at most 50, and no more than one beyond the
-/// years asked for. `first` is the number of the first.
+/// The years that the amortisation shows: the years covered and the one after, at most 50, and at most one more than
+/// the years asked for. `first` is the number of the first line.
 std::vector<ShownYear> shownYears(const YearlyFlows& flows, const YearRun& run, double asked, double first);
 
-/// Points of the graph: the years covered, and where all 50 are, the years asked for.
+/// Number of points of the graph: the years covered; if these are all 50, the years asked for.
 int graphPoints(const YearRun& run, double asked);
 
 } // namespace analyses
