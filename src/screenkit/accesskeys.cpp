@@ -18,11 +18,11 @@ namespace screenkit {
 namespace {
 
 struct Target {
-    QWidget* focus; ///< has or takes the focus; tells which of several comes next
+    QWidget* focus; ///< has the focus or gets it; its position decides which target is next
     std::function<void()> act;
 };
 
-/// The panel or else the screen that holds the focus: only its keys count.
+/// The panel with the focus, or else the screen with it: only its keys count.
 QWidget* scopeOf(QWidget* focused) {
     for (QWidget* widget = focused; widget != nullptr; widget = widget->parentWidget())
         if (qobject_cast<Panel*>(widget) != nullptr || qobject_cast<Screen*>(widget) != nullptr) return widget;
@@ -36,7 +36,7 @@ bool means(const QString& caption, const QKeySequence& pressed) {
 
 bool reachable(const QWidget* widget) { return widget->isVisible() && widget->isEnabled(); }
 
-/// Selects also what a field holds that has the focus already: whoever presses its letter means to type it anew.
+/// Also selects the content of a field that has the focus already: its letter means that the user wants to retype it.
 void enter(QWidget* field) {
     field->setFocus(Qt::ShortcutFocusReason);
     if (auto* line = qobject_cast<QLineEdit*>(field)) line->selectAll();
@@ -68,7 +68,7 @@ std::vector<Target> targets(QWidget* scope, const QKeySequence& pressed) {
     return found;
 }
 
-/// Of several with the same letter the one behind the focus, round and round.
+/// Of several targets with the same letter the next one after the focus, cyclically.
 const Target& nextOf(const std::vector<Target>& found, const QWidget* focused) {
     for (std::size_t i = 0; i + 1 < found.size(); ++i)
         if (found[i].focus == focused) return found[i + 1];
@@ -87,7 +87,7 @@ bool AccessKeys::eventFilter(QObject* watched, QEvent* event) {
     QWidget* scope = scopeOf(focused);
     if (scope == nullptr) return false;
     const auto found = targets(scope, QKeySequence(key->keyCombination()));
-    // A letter that leads nowhere, here or in the menu, would be typed, and over all of a field whose text is selected.
+    // A letter without a target, here or in the menu, would be typed as text and could overwrite a selected field.
     if (found.empty()) return event->type() == QEvent::KeyPress && !key->text().isEmpty() && key->text()[0].isPrint();
     event->accept();
     if (event->type() == QEvent::KeyPress) nextOf(found, focused).act();

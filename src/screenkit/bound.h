@@ -10,9 +10,9 @@
 
 namespace screenkit {
 
-/// A number put into a record's member, held at the ends of its width, so that a figure too large to keep never wraps
-/// round into another one. Whole numbers are rounded half to even. What is no number is 0: an infinite figure in the
-/// record would keep the client from being saved.
+/// Stores a number in a record's member, limited to the range of its type, so that a figure that is too large never
+/// wraps round. Whole numbers are rounded half to even. A number that is not finite becomes 0: in the record it would
+/// keep the client from being saved.
 template <class T>
 T narrowed(double number) {
     if (std::isnan(number)) return 0;
@@ -27,13 +27,13 @@ T narrowed(double number) {
     }
 }
 
-/// Where a field's value lives. Made from a member of the record, or from a pair of functions where the place itself
-/// moves (the policy shown, a row of a list).
+/// Where a field's value is stored: a member of the record, or a pair of functions where the place changes (the policy
+/// shown, a row of a list).
 template <class T>
 struct Bound {
     std::function<T()> get;
     std::function<void(T)> set;
-    /// Of a number: what the place can hold. A field refuses what lies beyond.
+    /// For a number: the range of the place. A field refuses numbers outside it.
     double lowest = -std::numeric_limits<double>::max();
     double highest = std::numeric_limits<double>::max();
 
@@ -51,7 +51,7 @@ struct Bound {
         requires std::same_as<T, QString> : get([&member] { return QString::fromStdString(member); }),
                                             set([&member](const QString& text) { member = text.toStdString(); }) {}
 
-    /// The same place, with what follows from each value that is put there.
+    /// The same place, with an action that runs after each value stored there.
     Bound then(std::function<void()> follow) const {
         return {get, [put = set, follow = std::move(follow)](T value) {
                     put(std::move(value));

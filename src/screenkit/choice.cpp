@@ -13,7 +13,7 @@ namespace {
 
 bool canBePicked(const QAbstractButton* option) { return option->isEnabled() && !option->isHidden(); }
 
-/// Blanks and a colon at a caption's end would be read out.
+/// A screen reader would read out blanks and a colon at a caption's end.
 void nameInWords(QAbstractButton* choice) {
     const QString plain = QString(choice->text()).remove('&');
     if (spokenLabel(plain) != plain) choice->setAccessibleName(spokenLabel(choice->text()));

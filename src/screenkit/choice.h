@@ -12,16 +12,16 @@
 
 namespace screenkit {
 
-/// Options of which one holds, named `name(0)`, `name(1)`, ... from the top (or the left, if it lies flat).
+/// Options of which one is selected, named `name(0)`, `name(1)`, ... from the top (or from the left if horizontal).
 ///
-/// The record holds the index; an index that names no option leaves all of them off. Picking one writes it, then calls
-/// `picked`; picking the one that holds already is no edit. Tab stops at the option that holds, or at the first that
-/// can be picked if that one can't; the arrow keys go round those that can be picked.
+/// The record holds the index; an index without an option selects none. Picking an option writes it, then calls
+/// `picked`; picking the selected one again is no edit. Tab stops at the selected option, or at the first enabled one
+/// if the selected one is disabled; the arrow keys go round the enabled options.
 class OptionGroup : public QWidget, public Field {
     Q_OBJECT
 public:
-    /// Without an orientation the options stand apart: each is put beside what it belongs to (`option(1)`), wherever
-    /// that is on the screen, and the group itself is never shown.
+    /// Without an orientation the options are separate: each is placed where it belongs on the screen (`option(1)`),
+    /// and the group widget itself is never shown.
     OptionGroup(const QString& name, const QStringList& captions, Bound<int> place,
                 std::optional<Qt::Orientation> orientation, QWidget* parent = nullptr);
 
@@ -33,14 +33,14 @@ public:
     std::optional<double> figure() const override { return chosen(); }
     QRadioButton* option(int index) const { return qobject_cast<QRadioButton*>(m_group.button(index)); }
 
-    /// True while `picked` runs for an option that the arrow keys moved to.
+    /// True while `picked` runs for an option reached with the arrow keys.
     bool pickedByArrow() const { return m_byArrow; }
 
     std::function<void(int)> picked;
 
 protected:
     bool eventFilter(QObject* option, QEvent* event) override;
-    /// By its label's access key: on to the option that holds.
+    /// Called for its label's access key: moves on to the selected option.
     void focusInEvent(QFocusEvent*) override { takeFocus(); }
 
 private:
@@ -48,9 +48,9 @@ private:
     void walk(int from, int step);
     /// Where Tab stops.
     QAbstractButton* stop() const;
-    /// The toolkit would send Tab to the first option even where another holds, until one has had the focus.
+    /// Until one option has had the focus, Qt would send Tab to the first one even if another is selected.
     void placeStop();
-    /// The next option that can be picked, round and round.
+    /// The next enabled option, cyclically.
     int after(int index, int step) const;
 
     Bound<int> m_place;
@@ -59,7 +59,7 @@ private:
     bool m_byArrow = false;
 };
 
-/// A yes or no, 1 or 0 in the record.
+/// A tick box: 1 or 0 in the record.
 class CheckField : public QCheckBox, public Field {
     Q_OBJECT
 public:

@@ -8,7 +8,7 @@ namespace screenkit {
 
 namespace {
 
-/// Share of a full light that a colour gives off.
+/// Relative luminance of a colour, 0 to 1.
 double luminance(const QColor& color) {
     const auto linear = [](double part) {
         return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
@@ -16,9 +16,9 @@ double luminance(const QColor& color) {
     return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
 }
 
-/// The ink as near to the first of the papers as it can be read on all of them.
+/// The ink mixed with the first of the papers as far as it stays readable on all of them.
 QColor greyed(const QColor& ink, const std::vector<QColor>& papers) {
-    constexpr double readable = 3.3; // 3 is the least; letters are drawn with soft edges
+    constexpr double readable = 3.3; // the guidelines ask for 3, but letters have soft edges
     constexpr int steps = 20;
     const QColor& paper = papers.front();
     for (int step = steps; step > 0; --step) {

@@ -5,11 +5,11 @@
 
 namespace screenkit {
 
-/// Contrast of two colours by the accessibility guidelines' formula, from 1 to 21.
+/// Contrast of two colours by the formula of the accessibility guidelines (WCAG), from 1 to 21.
 double contrast(const QColor& one, const QColor& other);
 
-/// Makes greyed text of a palette readable: it steps back as far as a contrast of 3 allows, on each of the grounds that
-/// text stands on; the toolkit's own has less than 2. True if anything had to change.
+/// Makes a palette's disabled text readable on every background that text is shown on: as pale as a contrast of 3
+/// allows, while Qt's own has less than 2. True if anything was changed.
 bool makeGreyedReadable(QPalette& palette);
 
 } // namespace screenkit

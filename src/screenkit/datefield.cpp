@@ -103,7 +103,7 @@ void DateField::giveBack() {
 
 void DateField::enter(double day) {
     const std::string text = base::formatDate(day);
-    if (!base::isShownOnScreen(day) || text.empty()) return; // past the ends of the calendar
+    if (!base::isShownOnScreen(day) || text.empty()) return; // beyond the end of the calendar
     setText(QString::fromStdString(text));
     typed(this->text());
 }
@@ -118,7 +118,7 @@ bool DateField::step(int days) {
 double DateField::today() const { return static_cast<double>(dayZero.daysTo(m_desk.today())); }
 
 std::optional<Complaint> DateField::complaint() {
-    if (isRefused()) { // an end may have moved since
+    if (isRefused()) { // a limit may have moved since
         const double day = read(text());
         if (!isRefused()) put(day);
     }
@@ -131,7 +131,7 @@ std::optional<Complaint> DateField::complaint() {
 QSize DateField::sizeHint() const { return look::fieldSize(this, 14); }
 
 void DateField::tidy() {
-    if (!isRefused()) fill(); // 1-3-26 is shown as 01/03/2026
+    if (!isRefused()) fill(); // shows 1-3-26 as 01/03/2026
 }
 
 void DateField::keyPressEvent(QKeyEvent* event) {
@@ -141,7 +141,7 @@ void DateField::keyPressEvent(QKeyEvent* event) {
     else if (event->text() == "+" && plain)
         step(1);
     else if (event->text() == "-" && plain && step(-1))
-        event->accept(); // otherwise it parts day and month
+        event->accept(); // otherwise + and - are typed, as separators of day and month
     else if (event->key() == Qt::Key_F4 && plain)
         showCalendar();
     else

@@ -8,35 +8,35 @@
 
 namespace screenkit {
 
-/// What a date must be. Kinds are values, as those of numbers are. Limits count for what the user enters; what the file
-/// held is his to look at.
+/// The rules for a date. Kinds are values, like number kinds. Limits apply to what the user enters; a date from the
+/// file is only marked.
 struct DateKind {
-    QString requiredTitle = {}; ///< empty: the date may be left out
-    Complaint noDate = {};      ///< for a text that is none; without words the usual ones
+    QString requiredTitle = {}; ///< empty: no date is required
+    Complaint noDate = {};      ///< for a text that is no date; without a text the standard message
     std::vector<Limit> limits = {};
 
-    /// An empty date is a bad entry too, and every complaint goes under this title.
+    /// A date is required: an empty field is an error, and every message gets this title.
     DateKind required(const QString& boxTitle) const;
-    /// The box for a text that is no date.
+    /// The message for a text that is no date.
     DateKind worded(const QString& text, const QString& boxTitle) const;
     DateKind where(std::function<bool(double)> holds, std::function<Complaint()> complaint) const;
-    /// An end that moves, a day number; where it is no date (of another field that is empty) there is no end.
+    /// A limit that may move, a day number. If it is no date (its field is empty), there is no limit.
     DateKind notBefore(std::function<double()> earliest, std::function<Complaint()> complaint) const;
     DateKind notAfter(std::function<double()> latest, std::function<Complaint()> complaint) const;
 };
 
-/// A date as a day number, typed freely as `base::parseDate` tells and shown as dd/mm/yyyy; empty is no date
-/// (`base::NoDate`). Day and month alone are of this year.
+/// A date as a day number, typed in any form that `base::parseDate` accepts and shown as dd/mm/yyyy; empty is no date
+/// (`base::NoDate`). A day and month alone are taken in this year.
 ///
-/// T is today, + and - a day on and back, F4 or the button inside the field a calendar. A text that is no date, or one
-/// outside the limits, is refused. Dates on or before 1 January 1800 are no dates here: that day marks an empty date in
-/// the record.
+/// T enters today, + and - move by a day, F4 or the button in the field opens a calendar. A text that is no date, or
+/// one outside the limits, is refused. Dates on or before 1 January 1800 are refused too: in the record that day stands
+/// for an empty date.
 class DateField : public EntryLine {
     Q_OBJECT
 public:
     DateField(const QString& name, Bound<double> place, Desk& desk, DateKind kind = {}, QWidget* parent = nullptr);
 
-    /// As if the user had typed it: a day number. One past the ends of the calendar changes nothing.
+    /// Enters a day number as if the user had typed it. A day beyond the calendar's ends changes nothing.
     void enter(double day);
 
     void giveBack() override;
@@ -53,9 +53,9 @@ protected:
 private:
     void typed(const QString& text);
     void put(double day);
-    /// The day that the text means; what stood there before where it is refused.
+    /// The day that the text means; if it is refused, the day that was accepted last.
     double read(const QString& text);
-    /// Puts a day on or takes one off; false where the text is neither empty nor a date with its year.
+    /// Adds or subtracts a day; false if the text is neither empty nor a full date.
     bool step(int days);
     std::optional<double> dateIn(const QString& text) const;
     double today() const;
@@ -63,7 +63,7 @@ private:
     Bound<double> m_place;
     Desk& m_desk;
     DateKind m_kind;
-    double m_stood = 0; ///< taken last: it holds while what is typed is refused
+    double m_stood = 0; ///< accepted last; stays valid while the typed text is refused
 };
 
 } // namespace screenkit

@@ -9,7 +9,7 @@
 #include "screenkit/pages.h"
 #include "screenkit/screen.h"
 
-// What a screen is declared with; its panels are in panels.cpp, its life in screen.cpp.
+// The controls that a screen declares; panels are in panels.cpp, the screen's behaviour in screen.cpp.
 namespace screenkit {
 
 namespace {

@@ -11,54 +11,54 @@
 
 namespace screenkit {
 
-using EditCell = std::variant<QString, double>; ///< text and number in the order of the columns
+using EditCell = std::variant<QString, double>; ///< text or number
 using EditRow = std::vector<EditCell>;
 
-/// A column that the user fills: a text of so many characters, or a number shown and limited by its kind.
+/// A column that the user fills: a text up to a length, or a number shown and limited by its kind.
 struct EditColumn {
     QString head;
-    std::optional<NumberKind> number; ///< nothing: a text
-    int characters = 0;               ///< of a text: at most this many
-    QString complaint;                ///< of a text: the box for one that can't stand
-    /// Of a text: what it is kept as, or nothing where it can't stand. By default every text is kept as it is.
+    std::optional<NumberKind> number; ///< nothing: a text column
+    int characters = 0;               ///< of a text: the longest length
+    QString complaint;                ///< of a text: the message for a text that is refused
+    /// For a text: what is stored for it, or nothing if it is refused. By default every text is stored as it is.
     std::function<std::optional<QString>(const QString&)> keptAs = {};
-    QString blank = {}; ///< of a text: what a new row holds
+    QString blank = {}; ///< of a text: the content of a new row
 
     struct Reading {
         EditCell cell;
-        std::optional<Complaint> refusal; ///< no content for this column
+        std::optional<Complaint> refusal; ///< why the content does not fit this column
     };
-    /// What a typed or pasted text comes to here.
+    /// What a typed or pasted text means in this column.
     Reading read(const QString& typed) const;
 };
 
-/// A column of Yes and No. It takes y, n, yes and no in any case; an empty cell is No.
+/// A column of Yes and No. Accepts y, n, yes and no in any case; an empty cell is No.
 EditColumn yesNoColumn(const QString& head);
 
-/// The rows behind an EditGrid, never fewer than one.
+/// The rows of an EditGrid, always at least one.
 class EditCells : public QAbstractTableModel {
 public:
     using QAbstractTableModel::QAbstractTableModel;
 
     void set(std::vector<EditColumn> columns, std::vector<EditRow> rows);
-    /// All rows but a last one that was offered and is blank.
+    /// All rows, except a blank last one that was only offered for the next entry.
     std::vector<EditRow> rows() const;
 
     const EditColumn& column(const QModelIndex& cell) const { return m_columns[place(cell.column())]; }
     bool isBlank(const QModelIndex& cell) const;
     const EditCell& at(const QModelIndex& cell) const { return m_rows[place(cell.row())][place(cell.column())]; }
     void put(const QModelIndex& cell, EditCell content);
-    /// Puts rows of texts over the cells from one on, new rows behind the last. What does not fit is told, and then
-    /// nothing is taken.
+    /// Pastes rows of texts starting at a cell, and adds rows at the end as needed. If anything does not fit, returns
+    /// the complaint and changes nothing.
     std::optional<Complaint> paste(const QModelIndex& from, const std::vector<QStringList>& texts);
 
-    /// Adds a blank row for a next entry, unless the last one is blank already; false then. It counts once something is
-    /// in it.
+    /// Adds a blank row for the next entry; false if the last one is blank already. The row counts once something is
+    /// entered in it.
     bool offer();
-    /// Those below move up.
+    /// Deletes a row; the rows below move up.
     void erase(int row);
 
-    /// What a screen reader calls a cell.
+    /// The name of a cell for a screen reader.
     QString spokenName(const QModelIndex& cell) const;
 
     int rowCount(const QModelIndex& parent = {}) const override;

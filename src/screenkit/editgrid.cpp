@@ -20,8 +20,8 @@ bool isOneCell(const std::vector<QStringList>& rows) { return rows.size() == 1 &
 
 } // namespace
 
-/// Lays the kit's own fields over the cells, and leaves it to the table when an entry is taken: the toolkit's delegate
-/// would take or drop it without a check.
+/// Edits the cells with the kit's own fields, and lets the table decide when an entry is accepted: Qt's delegate would
+/// accept or drop it unchecked.
 class EditGrid::Delegate : public QStyledItemDelegate {
 public:
     explicit Delegate(EditGrid* grid) : QStyledItemDelegate(grid), m_grid(grid) {}
@@ -50,7 +50,7 @@ EditGrid::EditGrid(const QString& name, QWidget* parent) : QTableView(parent), m
     setItemDelegate(new Delegate(this));
     setAlternatingRowColors(true);
     setSelectionMode(ContiguousSelection);
-    setTabKeyNavigation(false); // Tab is walked by ourselves, since it adds rows and leaves at the end
+    setTabKeyNavigation(false); // our own code handles Tab, since it adds rows and leaves the table at the end
     setEditTriggers(DoubleClicked | EditKeyPressed | AnyKeyPressed);
     setCornerButtonEnabled(false);
     setHorizontalScrollMode(ScrollPerPixel);
@@ -62,7 +62,7 @@ EditGrid::EditGrid(const QString& name, QWidget* parent) : QTableView(parent), m
 }
 
 EditGrid::~EditGrid() {
-    if (m_editor != nullptr) m_editor->left = {}; // it outlives this table's members by a moment, with the focus
+    if (m_editor != nullptr) m_editor->left = {}; // it may lose the focus after this table's members are gone
 }
 
 void EditGrid::present(std::vector<EditColumn> columns, std::vector<EditRow> rows, int visibleRows) {
@@ -127,7 +127,7 @@ void EditGrid::deleteRow() {
 }
 
 void EditGrid::keyPressEvent(QKeyEvent* event) {
-    if (m_editor != nullptr) return event->ignore(); // has come up from the cell, which had no use for it
+    if (m_editor != nullptr) return event->ignore(); // comes from the cell editor, which had no use for it
     const QModelIndex here = currentIndex();
     const bool control = event->modifiers().testFlag(Qt::ControlModifier);
     const int key = event->key();
@@ -164,7 +164,7 @@ void EditGrid::copy() const {
 }
 
 void EditGrid::paste() {
-    if (!currentIndex().isValid()) goTo(0, 0); // a click below the rows has left none
+    if (!currentIndex().isValid()) goTo(0, 0); // a click below the rows leaves no current cell
     auto rows = tableRows(QGuiApplication::clipboard()->text());
     if (isOneCell(rows))
         editAfresh([](EntryLine& cell) { cell.paste(); });
@@ -178,7 +178,7 @@ void EditGrid::pasteRows(std::vector<QStringList> rows) {
     QStringList heads;
     for (int column = from.column(); column < m_cells->columnCount(); ++column)
         heads << m_cells->column(from.siblingAtColumn(column)).head;
-    if (rows.front() == heads) rows.erase(rows.begin()); // has been copied from a table like this one
+    if (rows.front() == heads) rows.erase(rows.begin()); // copied from a table like this one
     m_pasteFault = m_cells->paste(from, rows);
     if (!m_pasteFault) {
         if (edited) edited();
@@ -197,7 +197,8 @@ QWidget* EditGrid::openEditor(QWidget* parent, const QModelIndex& cell) {
         m_number = std::get<double>(m_cells->at(cell));
         made = new NumberField(objectName() + "Cell", m_number, *column.number, parent);
     } else {
-        // More room than the column has: what is too long is told, not cut.
+        // The editor takes more than the column does, so that a text that is too long gets a message instead of being
+        // cut.
         constexpr int room = 32767;
         m_text = std::get<QString>(m_cells->at(cell));
         made = new TextField(objectName() + "Cell",
@@ -248,7 +249,7 @@ bool EditGrid::editorKey(const QKeyEvent& event) {
 
 NumberField* EditGrid::numberInEdit() const { return qobject_cast<NumberField*>(m_editor.data()); }
 
-/// What the user has not typed over is not held against him, whatever the file had there.
+/// An entry that the user has not changed is never refused, whatever the file held.
 std::optional<Complaint> EditGrid::wrong() const {
     if (!hasOpenEntry()) return {};
     if (const NumberField* number = numberInEdit()) return number->fault();
@@ -283,7 +284,7 @@ bool EditGrid::leaveCell() {
 }
 
 void EditGrid::editorLeft(const EntryLine* editor) {
-    if (editor != m_editor) return; // closed, and losing the focus by it
+    if (editor != m_editor) return; // it is closed and is only losing the focus
     if (wrong()) {
         if (left) left();
         return;
@@ -326,7 +327,8 @@ void EditGrid::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint h
     QTableView::closeEditor(editor, hint);
 }
 
-/// A cell whose entry can't stand keeps the mouse: the box comes once its button is up.
+/// While a cell has an entry that may be refused, the mouse stays with it: the message comes when its button is
+/// released.
 bool EditGrid::isHeldByMouse() { return m_editor != nullptr; }
 
 void EditGrid::mousePressEvent(QMouseEvent* event) {

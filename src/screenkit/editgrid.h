@@ -11,43 +11,42 @@
 
 namespace screenkit {
 
-/// A table that the user fills in place, by keyboard alone if he likes. It holds its rows itself.
+/// A table that the user fills in place, also by keyboard alone. It holds its own rows.
 ///
-/// Typing, F2, Enter or a double click edits a cell; on an empty one Enter walks on. Enter and Tab take the entry and
-/// go to the next cell, from the last one to a new row; Up, Down and Escape take it as well, Down past the last row
-/// adds one. A blank row at the end is not followed by another: from there Tab leaves the table, as Ctrl+Enter does to
-/// the default button from anywhere. Ctrl+Delete deletes the row; one blank row always stays. A cell is checked
-/// whenever it is left, by key, by mouse or by a button: what can't stand is told in a box, the cell gets back what it
-/// held, and stays in edit. Numbers are typed as in a NumberField, refused as there, and keep every bit behind their
-/// mask until they are typed over. Rows of a spreadsheet are pasted from the current cell on, all of them or none;
-/// several cells are copied below their heads.
+/// Typing, F2, Enter or a double click edits a cell; on an empty cell Enter moves on. Enter and Tab accept the entry
+/// and go to the next cell, from the last one to a new row. Up, Down and Escape accept it too; Down in the last row
+/// adds a row. After a blank last row no further row is added: Tab then leaves the table. Ctrl+Enter goes to the
+/// default button from anywhere. Ctrl+Delete deletes the row; one blank row always remains. A cell is checked whenever
+/// it is left, by key, mouse or button: a refused entry brings a message, the cell gets its old content back and stays
+/// in edit. Numbers are typed and refused as in a NumberField, and keep all their digits until they are retyped. Rows
+/// of a spreadsheet are pasted from the current cell on, all or none; several cells are copied with their column heads.
 class EditGrid : public QTableView, public Field {
     Q_OBJECT
 public:
     explicit EditGrid(const QString& name, QWidget* parent = nullptr);
     ~EditGrid() override;
 
-    /// Shows these rows, or one blank one. visibleRows: as many as stand there before a scroll bar takes its room.
+    /// Shows these rows, or one blank row. visibleRows: the number shown without scrolling.
     void present(std::vector<EditColumn> columns, std::vector<EditRow> rows, int visibleRows);
-    /// What the table holds, without a blank row that was only offered for a next entry.
+    /// The rows, without a blank last one that was only offered for the next entry.
     std::vector<EditRow> rows() const;
-    /// True while a cell holds an entry that has not been taken yet.
+    /// True while a cell has an entry that is not accepted yet.
     bool hasOpenEntry() const { return m_editor != nullptr && m_touched; }
 
-    /// Goes to a blank row at the end, which is added if there is none.
+    /// Goes to a blank last row, which is added if there is none.
     void addRow();
-    /// Deletes the current row; those below move up.
+    /// Deletes the current row; the rows below move up.
     void deleteRow();
 
     QWidget* widget() override { return this; }
     QWidget* entry() override;
-    void fill() override {} // its rows are given to it, not bound
-    /// Takes the entry under way, or gives the cell back what it held and says what was wrong.
+    void fill() override {} // its rows are passed to it, not bound
+    /// Accepts the current entry, or restores the cell and returns what was wrong.
     std::optional<Complaint> complaint() override;
     void takeFocus() override;
     QSize sizeHint() const override;
 
-    /// Shows what is wrong with the entry under way, if anything; false then. Set by the screen.
+    /// Shows what is wrong with the current entry; false if something is. Set by the screen.
     std::function<bool()> check;
 
 protected:
@@ -72,7 +71,7 @@ private:
     void takeEntry();
     void endEdit();
     bool leaveCell();
-    /// Drops an entry that can't be read for what the cell held.
+    /// Replaces an entry that can't be read by the cell's old content.
     void giveBack();
     void enterPressed(const QModelIndex& cell);
     void editorLeft(const EntryLine* editor);
@@ -84,12 +83,12 @@ private:
     EditCells* m_cells;
     int m_visibleRows = 5;
     QPointer<EntryLine> m_editor;
-    QPersistentModelIndex m_edited; ///< the cell in edit
-    // What is typed, until it is taken.
+    QPersistentModelIndex m_edited; ///< the cell being edited
+    // The typed content until it is accepted.
     double m_number = 0;
     QString m_text;
     bool m_touched = false;
-    std::optional<Complaint> m_pasteFault; ///< for the box that comes next
+    std::optional<Complaint> m_pasteFault; ///< for the next message
 };
 
 } // namespace screenkit

@@ -11,7 +11,7 @@ namespace screenkit {
 
 namespace {
 
-/// The focus is only lent: to another program, a menu, the calendar.
+/// The focus will come back: it went to another program, a menu or the calendar.
 bool isLent(const QFocusEvent* event) {
     return event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason ||
            event->reason() == Qt::MenuBarFocusReason;
@@ -54,7 +54,7 @@ void EntryLine::focusInEvent(QFocusEvent* event) {
     if (isLent(event)) return;
     entered();
     if (event->reason() == Qt::MouseFocusReason)
-        m_selectOnRelease = m_onClick == OnClick::selectsAll; // the press still sets the cursor
+        m_selectOnRelease = m_onClick == OnClick::selectsAll; // only then, since the press sets the cursor
     else
         selectAll();
 }

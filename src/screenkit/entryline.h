@@ -6,14 +6,14 @@
 
 namespace screenkit {
 
-/// What every one-line field does when the user comes and goes.
+/// What every one-line field does when the user enters and leaves it.
 ///
-/// Coming by key selects all of it, at once, so that what is typed next is never swallowed. A box, a menu, the
-/// calendar or another program in front is no leaving: coming back from there finds the text and its selection as
-/// they were. The wheel does nothing.
+/// Entering by key selects all of it at once, so that the next key replaces it. A message box, a menu, the calendar or
+/// another program does not count as leaving: afterwards text and selection are as before. The mouse wheel does
+/// nothing.
 ///
-/// A text that can't be kept stays where it is, marked once the user has left it, until it is put right or Escape gives
-/// back what stood there. The record holds the latter meanwhile, and a refill leaves the text alone while the user is
+/// A refused text stays, and is marked once the user has left the field, until it is corrected or Escape restores the
+/// last accepted content. Meanwhile the record holds that content. Refilling does not change the text while the user is
 /// in the field.
 class EntryLine : public QLineEdit, public Field {
     Q_OBJECT
@@ -22,28 +22,28 @@ public:
     void setResult(bool result) override;
     void setLocked(bool locked) override;
     void takeFocus() override;
-    /// Enter has taken the content: shows it in its usual form, wholly selected.
+    /// Called when Enter has accepted the content: shows it in its usual form, all of it selected.
     void confirm();
-    /// True while what stands here can't be kept.
+    /// True while the text is refused.
     bool isRefused() const { return m_refusal.has_value(); }
-    /// Undoes what has been refused, or else what was entered since the user came in, and selects what stands there.
+    /// Restores the accepted content if the text is refused, else the content from when the user came in. Selects it.
     virtual void giveBack() {}
 
 protected:
     enum class OnClick { setsCursor, selectsAll };
     EntryLine(const QString& name, OnClick onClick, QWidget* parent);
 
-    /// The user has come in.
+    /// Called when the user enters the field.
     virtual void entered() {}
-    /// The user has left: show the content in its usual form.
+    /// Called when the user leaves: shows the content in its usual form.
     virtual void tidy() {}
 
     void refuse(Complaint why) { m_refusal = std::move(why); }
     const std::optional<Complaint>& why() const { return m_refusal; }
     void accept();
-    /// Why the text can't be kept, if so; marks it.
+    /// Why the text is refused, if it is; marks it.
     std::optional<Complaint> refusal();
-    /// True if a refill must leave the text for the user to put right.
+    /// True if refilling must leave the text for the user to correct.
     bool keepsText() const;
 
     void keyPressEvent(QKeyEvent* event) override;

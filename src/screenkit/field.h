@@ -9,52 +9,52 @@ namespace screenkit {
 
 class Field;
 
-/// Why a field's content can't stand: the box that says so, and where the focus goes after it. Without a text there is
-/// no box; the user stays all the same.
+/// Why a field's content is refused: the message, and where the focus goes after it. Without a text there is no
+/// message, but the user stays in the field.
 struct Complaint {
     QString text = {};
     QString title = {};
-    Field* focus = nullptr; ///< nothing: back to the field itself
-    bool rings = false;     ///< the bell: what was typed has not been understood
+    Field* focus = nullptr; ///< nothing: the field itself
+    bool rings = false;     ///< ring the bell: the typed text was not understood
 };
 
-/// What a field's number or day must be.
+/// A rule for a field's number or day.
 struct Limit {
     std::function<bool(double)> holds;
-    std::function<Complaint()> complaint; ///< asked when it is shown, as its words may hold another field's content
-    std::function<double()> instead = {}; ///< of a number: what the field goes back to
+    std::function<Complaint()> complaint; ///< called when shown, since the text may contain another field's content
+    std::function<double()> instead = {}; ///< for a number: the value that the field gets instead
 };
 
-/// What the screen does with every entry field, whatever it holds.
+/// The part of every entry field that the screen works with, whatever the field holds.
 ///
-/// A field writes to the record at each of the user's edits and calls `edited`; being filled never counts as an edit.
-/// When the user leaves it, `left` is called; the screen then asks for a complaint, shows it and brings the focus back.
+/// A field writes to the record at each edit by the user and calls `edited`; filling it is no edit. When the user
+/// leaves it, `left` is called; the screen then asks for a complaint, shows it and brings the focus back.
 class Field {
 public:
     virtual ~Field() = default;
     virtual QWidget* widget() = 0;
-    /// The control that holds the focus while the user is in it: of a table the cell in edit.
+    /// The control with the focus while the user is in the field; in a table the cell editor.
     virtual QWidget* entry() { return widget(); }
-    /// True for each control that is the field's or lies inside it.
+    /// True for the field's own control and every control inside it.
     virtual bool holds(const QWidget* control) { return widget() == control || widget()->isAncestorOf(control); }
-    /// Shows what the record holds.
+    /// Shows the record's content.
     virtual void fill() = 0;
-    /// What is wrong with what the user has put there, if anything. A field may clear itself here (a date that is
-    /// none).
+    /// What is wrong with the user's entry, if anything. A call may clear the field, for example if its text is not a
+    /// date.
     virtual std::optional<Complaint> complaint() { return {}; }
-    /// What is wrong with a content that the user found there, which the field shows by a mark. It is told, but never
-    /// held against anyone: what a file brought must not lock the way out.
+    /// What is wrong with content that the user did not enter; the field marks it. It is reported but never blocks:
+    /// content from a file must not keep the user from leaving.
     virtual std::optional<Complaint> markFault() { return {}; }
-    /// What it holds is no longer the user's doing: another client's record stands behind it.
+    /// Forgets that the user entered the content: another client's record is shown now.
     virtual void disown() {}
-    /// What a calculation takes from the field: a number, a day, the index of an option, a tick as 1 or 0. Nothing of a
-    /// result, or of words.
+    /// The field's input to a calculation: a number, a day, the index of an option, a tick as 1 or 0. Nothing for a
+    /// result or a text.
     virtual std::optional<double> figure() const { return {}; }
-    /// A result: yellow, read-only and out of the tab order. The four figures of a loan take turns at it.
+    /// Makes it a result: yellow, read-only and out of the tab order. The four figures of a loan take turns.
     virtual void setResult(bool) {}
-    /// An input that shows what is entered elsewhere (the total of a list): read-only, in a shade of its own.
+    /// An input that is entered elsewhere (the total of a list): read-only, in its own shade.
     virtual void setLocked(bool) {}
-    /// The focus, with the whole content selected.
+    /// Takes the focus and selects the whole content.
     virtual void takeFocus() = 0;
 
     std::function<void()> edited;

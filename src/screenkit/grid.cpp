@@ -139,7 +139,7 @@ void Grid::headChosen(int column) {
         headPressed(column);
     else
         sortByHead(column);
-    markHead(m_sortColumn, m_sortOrder); // the toolkit has turned its arrow round on its own
+    markHead(m_sortColumn, m_sortOrder); // Qt has already reversed its own arrow
 }
 
 // ---- what is picked
@@ -174,7 +174,7 @@ void Grid::restorePicks(std::optional<std::size_t> current, int column) {
     }
     if (place.isValid()) scrollTo(place);
     if (m_picking == Picking::several || seen == m_picked) return;
-    m_picked = std::move(seen); // what can't be seen is not picked
+    m_picked = std::move(seen); // hidden lines are not picked
     if (pickChanged) pickChanged();
 }
 
@@ -200,8 +200,8 @@ void Grid::pickFirst() {
 // ---- keys
 
 QSize Grid::sizeHint() const {
-    constexpr int readable = 26; // characters of a column that shares the room
-    const int lines = look::lineHeight(this) * 3 / 2 * (m_visibleLines + 1); // and a head
+    constexpr int readable = 26; // characters of a column without a fixed width
+    const int lines = look::lineHeight(this) * 3 / 2 * (m_visibleLines + 1); // and the head
     int characters = 0;
     for (const GridColumn& column : m_list->columns())
         characters += column.characters == 0 ? readable : column.characters + 2;
@@ -224,9 +224,9 @@ void Grid::keyPressEvent(QKeyEvent* event) {
     else if (enter && opened && selectionModel()->hasSelection())
         opened();
     else if (enter)
-        event->ignore(); // the default button's
+        event->ignore(); // left to the default button
     else if (key == Qt::Key_Down && m_picking == Picking::one && !selectionModel()->hasSelection())
-        pickFirst(); // not the second: nothing was picked yet
+        pickFirst(); // the first, since none was picked yet
     else
         QTableView::keyPressEvent(event);
 }
@@ -238,11 +238,11 @@ void Grid::mouseDoubleClickEvent(QMouseEvent* event) {
 
 void Grid::copySelection() const {
     QModelIndexList cells = selectedIndexes();
-    if (cells.isEmpty()) return; // what was copied before is worth more than heads alone
+    if (cells.isEmpty()) return; // keeps the clipboard, since column heads alone are worth nothing
     const bool isWhole = cells.size() == m_list->shownRows() * m_list->columnCount();
     if (isWhole && m_list->rowCount() > m_list->shownRows())
         for (int column = 0; column < m_list->columnCount(); ++column)
-            cells << m_list->index(m_list->shownRows(), column); // the totals of a whole table
+            cells << m_list->index(m_list->shownRows(), column); // a copy of the whole table includes the totals
     QGuiApplication::clipboard()->setText(tableText(cells));
 }
 

@@ -9,7 +9,7 @@
 #include <QStyleOption>
 #include <QSvgRenderer>
 
-// A library's resources are linked in only where they are named; the macro wants the global namespace.
+// A library's resources are linked in only if they are named; the macro must be used in the global namespace.
 static void nameResources() { Q_INIT_RESOURCE(marlowbeck); }
 
 namespace screenkit {
@@ -20,7 +20,7 @@ public:
     explicit LineIcon(QByteArray drawing) : m_drawing(std::move(drawing)) {}
 
     void paint(QPainter* painter, const QRect& area, QIcon::Mode mode, QIcon::State) override {
-        // The palette is asked at each painting, so that a change of theme shows at once.
+        // Reads the palette at each painting, so that a change of theme shows at once.
         const QPalette palette = QGuiApplication::palette();
         const QColor colour = mode == QIcon::Disabled   ? palette.color(QPalette::Disabled, QPalette::ButtonText)
                               : mode == QIcon::Selected ? palette.color(QPalette::HighlightedText)
@@ -36,7 +36,7 @@ public:
         QPainter painter(&pixmap);
         paint(&painter, QRect(QPoint(0, 0), size), mode, state);
         painter.end();
-        // A drawing that takes the text's colour is greyed by that; one with colours of its own must be greyed here.
+        // A drawing in the text's colour turns grey with the text; one with its own colours is greyed here.
         if (mode != QIcon::Disabled || m_drawing.contains("currentColor")) return pixmap;
         QStyleOption option;
         option.palette = QGuiApplication::palette();

@@ -5,8 +5,8 @@
 
 namespace screenkit {
 
-/// An icon of the program's own set by the name of its file in resources/icons, drawn in the colour of the text beside
-/// it: right in a light and a dark palette, greyed out with its button, sharp at every scale.
+/// An icon from resources/icons, by its file name, drawn in the colour of the text beside it: it suits light and dark
+/// palettes, is greyed with its button, and is sharp at every scale.
 QIcon icon(const QString& name);
 
 } // namespace screenkit

@@ -27,9 +27,9 @@ QWidget* firstWidget(const Item& item) {
     return first != nullptr ? first->widget() : nullptr;
 }
 
-/// The blanks that some captions are filled up with, and brackets that open or close in another label, are not said.
+/// Sets a caption and its spoken name, without padding blanks and without a bracket whose partner is in another label.
 void setCaption(QLabel* label, const QString& text) {
-    if (label->text() == text) return; // a name set again would be said again
+    if (label->text() == text) return; // a name set again would be announced again
     label->setText(text);
     label->setAccessibleName(spokenLabel(text));
 }
@@ -57,7 +57,7 @@ QLayout* withUnit(const FormRow& row) {
     return cell;
 }
 
-/// The controls of a cell, in their order.
+/// The controls of a cell, in order.
 QList<QWidget*> controlsOf(const Item& cell) {
     if (cell.layout == nullptr) return cell.widget != nullptr ? QList{cell.widget} : QList<QWidget*>();
     QList<QWidget*> controls;
@@ -84,7 +84,7 @@ void nameCell(const QList<QWidget*>& controls, const QString& rowHead, const QSt
     }
 }
 
-/// The labels whose buddy a field is, its caption first.
+/// The labels whose buddy is this field, its caption first.
 QList<QLabel*> labelsOf(const QWidget* field) {
     QList<QLabel*> labels;
     if (field->parentWidget() == nullptr) return labels;
@@ -173,7 +173,7 @@ void setRowVisible(QWidget* field, bool visible) {
 
 void setRowLabel(QWidget* field, const QString& label) {
     const QList<QLabel*> labels = labelsOf(field);
-    if (!labels.isEmpty()) setCaption(labels.front(), label); // a unit comes after it
+    if (!labels.isEmpty()) setCaption(labels.front(), label); // the other one is the unit
     if (field->accessibleName() != spokenLabel(label)) field->setAccessibleName(spokenLabel(label));
 }
 

@@ -13,7 +13,7 @@ class QWidget;
 
 namespace screenkit {
 
-/// A part of a screen: a control or a group of them. Blanks between parts come from the style.
+/// A part of a screen: a control or a group of them. The style sets the spaces between parts.
 struct Item {
     QWidget* widget = nullptr;
     QLayout* layout = nullptr;
@@ -23,10 +23,10 @@ struct Item {
     Item(QLayout* group, int share = 0) : layout(group), stretch(share) {}     // NOLINT(google-explicit-constructor)
 };
 
-/// Room that gives way: what follows goes to the far end.
+/// Space that stretches: what follows moves to the far end.
 Item spring();
 
-/// One line of a form: a label that is its field's buddy (with its access key), the field, and close behind it the
+/// One line of a form: a label that is its field's buddy (with its access key), the field, and directly after it the
 /// unit.
 struct FormRow {
     QString label;
@@ -37,7 +37,7 @@ struct FormRow {
         : label(std::move(text)), field(control), unit(std::move(unitText)) {}
 };
 
-/// One line of a matrix: its head and a cell for each column. `spring()`, or no cell, leaves a place empty.
+/// One line of a matrix: its head and a cell for each column. `spring()`, or a missing cell, leaves a place empty.
 struct MatrixRow {
     QString head;
     std::vector<Item> cells;
@@ -47,21 +47,21 @@ QLayout* row(std::initializer_list<Item> items);
 QLayout* column(std::initializer_list<Item> items);
 /// Labels in one column, fields in the next. A field without a label of its own (a check box) has an empty label.
 QLayout* form(const std::vector<FormRow>& rows);
-/// Fields under heads of columns and beside heads of rows. What a cell holds is called by both ("Other, For Executor
-/// fees") unless it has a name of its own; of a cell with several controls the further ones add their own caption. A
-/// row's head leads by its access key to the row's first field, a column's to the column's.
+/// Fields in rows and columns with heads. A cell is named after both heads ("Other, For Executor fees") unless it has a
+/// name of its own; in a cell of several controls the second and later ones add their captions. The access key of a
+/// row's or column's head goes to its first field.
 QLayout* matrix(const QStringList& columnHeads, const std::vector<MatrixRow>& rows);
 /// Shows or hides a line of a form: the field, its label and its unit.
 void setRowVisible(QWidget* field, bool visible);
 /// Gives a field another label.
 void setRowLabel(QWidget* field, const QString& label);
-/// A field with its label before it, for a line that holds several.
+/// A field with its label before it, for a line with several fields.
 QLayout* labelled(const QString& label, QWidget* field);
 /// A titled frame around a part, named `name`.
 QWidget* group(const QString& name, const QString& title, Item content);
-/// A note or heading; wraps.
+/// A note or heading; its text wraps.
 QLabel* note(const QString& text);
-/// Lets a screen's child window grow until the screen has a size, as far as the main window has room.
+/// Enlarges a screen's window until the screen has this size, within the main window.
 void makeRoom(QWidget* screen, const QSize& wanted);
 /// A label's text without its access key and colon: what a screen reader says.
 QString spokenLabel(const QString& label);

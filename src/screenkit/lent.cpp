@@ -11,7 +11,7 @@ void LentFigures::during(double& figure, const std::function<void()>& calculatio
         entry.owned = figure;
         entry.isLent = true;
     }
-    const auto note = qScopeGuard([&] { entry.left = figure; }); // also of one that fails half way
+    const auto note = qScopeGuard([&] { entry.left = figure; }); // also if the calculation fails half way
     calculation();
 }
 

@@ -5,25 +5,25 @@
 
 namespace screenkit {
 
-/// Figures of the client's that calculations of other screens work over: the scale of income tax takes the income that
-/// it taxes from `Salary`, whose own screen is quick tax. What the user has not asked for must not cost him the figure
-/// that stood there, so it is kept aside and given back, whichever of the screens that borrow it works last.
+/// Figures of the client that calculations of other screens overwrite: income tax scales read the income to tax from
+/// `Salary`, which the user enters in quick tax. The user's own figure must not get lost in this, so it is stored here
+/// and restored, whichever of the borrowing screens calculates last.
 class LentFigures {
 public:
-    /// Runs a calculation that writes over the figure. What stood there is kept aside, unless it is what an earlier one
-    /// left; then the owner's figure is kept aside already, or the user wanted it so.
+    /// Runs a calculation that overwrites the figure. The figure before it is stored, unless an earlier calculation
+    /// left it there: then the user's own figure is already stored, or the user chose to keep the calculated one.
     void during(double& figure, const std::function<void()>& calculation);
-    /// The user has asked for the calculation: what it left is the figure from here on.
+    /// The user asked for the calculation, so the calculated figure stays.
     void keep(const double& figure);
-    /// Puts the owner's figure back, unless it has been entered anew meanwhile. True if that changed anything.
+    /// Restores the user's own figure, unless it was entered anew since. True if that changed anything.
     bool giveBack(double& figure);
-    /// Another client has come: what was kept aside is not his.
+    /// Forgets all stored figures: they belong to another client.
     void forget() { m_loans.clear(); }
 
 private:
     struct Loan {
-        double left = 0;  ///< what the last calculation left in the figure's place
-        double owned = 0; ///< what it is given back as
+        double left = 0;  ///< the last calculation's value of the figure
+        double owned = 0; ///< the user's own figure
         bool isLent = false;
     };
     std::map<const double*, Loan> m_loans;

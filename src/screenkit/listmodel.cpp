@@ -13,7 +13,7 @@ namespace screenkit {
 
 namespace {
 
-/// A cell as it is compared. A figure that is none counts as a blank: it would have no place in any order.
+/// A cell in a form that can be compared. NaN counts as a blank, since it has no order.
 struct CellKey {
     enum class Rank { blank, number, text };
 

@@ -17,17 +17,17 @@ struct GridColumn {
     QString head;
     std::string mask;
     Kind kind = Kind::figures;
-    int characters = 0; ///< its width; 0: an equal share of the room that the others leave
+    int characters = 0; ///< its width; 0: an equal share of the remaining width
 
     static GridColumn text(const QString& head, int characters = 0) { return {head, {}, Kind::text, characters}; }
     static GridColumn date(const QString& head) { return {head, {}, Kind::date, 12}; }
 };
 
-/// What stands in a cell: nothing, a figure or day number, or a text.
+/// The content of a cell: nothing, a figure or day number, or a text.
 using GridCell = std::variant<std::monostate, double, QString>;
 
-/// The rows of a table, known by their numbers from 0. Cells are asked for as they are painted or sorted, so that a
-/// hundred thousand rows cost nothing before they are seen.
+/// The rows of a table, numbered from 0. Cells are requested only when they are painted or sorted, so a hundred
+/// thousand rows cost nothing until they are shown.
 struct GridRows {
     std::size_t count = 0;
     std::function<GridCell(std::size_t row, std::size_t column)> cell;
@@ -37,8 +37,8 @@ struct GridRows {
         {}; ///< a last line in bold, never sorted, narrowed away or picked; empty: there is none
 };
 
-/// The one model behind every table that is looked at and picked from: sorted by any column, narrowed to some rows.
-/// An index or section that is not there gives nothing.
+/// The model of every read-only table: sorted by any column, narrowed to some rows. An index or section that does not
+/// exist returns nothing.
 class ListModel : public QAbstractTableModel {
     Q_OBJECT
 public:
@@ -46,16 +46,16 @@ public:
 
     /// All rows, in their own order.
     void set(std::vector<GridColumn> columns, GridRows rows);
-    /// Shows these rows only, in the order of the sort; nothing: all.
+    /// Shows only these rows, in sorted order; nothing: all.
     void narrow(const std::optional<std::vector<std::size_t>>& rows);
-    /// By the cells of a column: blanks below all others, texts without regard to case and accents, equal cells in
-    /// their rows' own order both ways. A column that is not there brings back the rows' own order.
+    /// Sorts by the cells of a column: blanks last, texts without case and accents, equal cells in the rows' own order
+    /// in both directions. A column that does not exist restores the rows' own order.
     void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
 
     const std::vector<GridColumn>& columns() const { return m_columns; }
-    std::size_t rows() const { return m_rows.count; } ///< with those narrowed away
+    std::size_t rows() const { return m_rows.count; } ///< including hidden ones
     int shownRows() const { return static_cast<int>(m_shown.size()); }
-    /// The row that a line shows; nothing for the line of totals.
+    /// The row shown in a line; nothing for the line of totals.
     std::optional<std::size_t> rowAt(int line) const;
 
     int rowCount(const QModelIndex& parent = {}) const override;
@@ -75,8 +75,8 @@ private:
 
     std::vector<GridColumn> m_columns;
     GridRows m_rows;
-    std::vector<std::size_t> m_order; ///< all rows as they are sorted
-    std::vector<std::size_t> m_shown; ///< those of them that are not narrowed away
+    std::vector<std::size_t> m_order; ///< all rows, sorted
+    std::vector<std::size_t> m_shown; ///< the sorted rows that are not hidden
     std::optional<std::vector<bool>> m_narrowed;
 };
 

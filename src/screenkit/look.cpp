@@ -19,20 +19,20 @@ namespace {
 
 constexpr int middleGrey = 128; // of 255
 
-// What a line's colours follow from is kept with the line, since each part of it comes and goes by itself.
+// The states of a line are stored with the line, since each may be set and cleared by itself; the colours follow them.
 constexpr const char* kindOfLine = "kindOfLine";
 constexpr const char* staleLine = "staleLine";
 constexpr const char* markedLine = "markedLine";
 enum Kind { entry, result, shown, locked };
 const QColor amber(255, 213, 128);
 
-/// Between two colours, nearer to the first: what steps back and can still be read.
+/// A colour between two, nearer to the first: paler, but still readable.
 QColor between(const QColor& ink, const QColor& paper) {
     const auto mix = [](int near, int far) { return (near * 3 + far * 2) / 5; };
     return {mix(ink.red(), paper.red()), mix(ink.green(), paper.green()), mix(ink.blue(), paper.blue())};
 }
 
-/// The style sees the palette of the desktop; one that is set on the program itself comes past it.
+/// Watches the palette of the desktop. The style does not hear of a palette that is set on the program itself.
 class PaletteWatch : public QObject {
 public:
     using QObject::QObject;
@@ -45,9 +45,9 @@ public:
     }
 };
 
-/// The window's colour with a breath of the highlight's: neither an open field nor a result, in light and dark alike.
+/// The window's colour with a little of the highlight colour: unlike an entry field or a result, also in dark palettes.
 QColor lockedShade(const QPalette& palette) {
-    constexpr int share = 5; // one part in so many
+    constexpr int share = 5; // one part in this many
     const QColor window = palette.window().color(), tint = palette.highlight().color();
     const auto mixed = [](int of, int with) { return of + (with - of) / share; };
     return {mixed(window.red(), tint.red()), mixed(window.green(), tint.green()), mixed(window.blue(), tint.blue())};
@@ -72,7 +72,7 @@ void setState(QLineEdit* line, const char* name, int state) {
     colour(line);
 }
 
-/// In place of the line's own tip, which comes back when there is nothing to say. What a screen says of it stays then.
+/// Sets the accessible description, and a tip that replaces the line's own until the text is empty again.
 void say(QLineEdit* line, const QString& words) {
     constexpr const char* ownTip = "ownTip";
     if (!line->property(ownTip).isValid()) line->setProperty(ownTip, line->toolTip());
@@ -83,15 +83,15 @@ void say(QLineEdit* line, const QString& words) {
     line->setProperty(saidLast, words);
 }
 
-/// Fusion without pictures on the buttons of boxes, since the toolkit's own are of another style than ours, and with a
-/// plain toolbar. Captions of buttons stand clear of the frame.
+/// Fusion without icons on the buttons of message boxes, since they do not match ours, and with a plain toolbar. Button
+/// captions have space around them.
 class Style : public QProxyStyle {
 public:
     Style() : QProxyStyle(QStyleFactory::create("Fusion")) {}
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* answer) const override {
         if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
-        // The main window opens its menu at Alt itself; the toolkit would do it only where no field keeps the key.
+        // The main window opens its menu at Alt itself; Qt would do it only if no field uses the key.
         if (hint == SH_MenuBar_AltKeyNavigation) return qobject_cast<const QMenu*>(widget) != nullptr ? 1 : 0;
         return QProxyStyle::styleHint(hint, option, widget, answer);
     }
@@ -113,15 +113,15 @@ public:
     void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override {
         if (element != CE_ToolBar) return QProxyStyle::drawControl(element, option, painter, widget);
-        // Fusion's own edges are see-through, so that they are drawn dot by dot on several threads: the first paint
-        // waited for 36 of their jobs.
+        // Fusion's own edges are transparent, so Qt draws them pixel by pixel on several threads: the first paint
+        // waited for 36 of those jobs.
         const QRect& bar = option->rect;
         painter->fillRect(bar, option->palette.window());
         painter->fillRect(bar.left(), bar.bottom(), bar.width(), 1, option->palette.mid());
     }
 
 private:
-    /// Fusion draws outlines darker than the window: in a dark palette an empty option could not be seen.
+    /// Fusion draws outlines darker than the window: in a dark palette an empty option would be invisible.
     static void outline(PrimitiveElement element, const QStyleOption& option, QPainter& painter) {
         if (option.palette.window().color().lightness() > middleGrey) return;
         QColor ink = option.palette.windowText().color();
@@ -141,7 +141,7 @@ private:
 
 void setReadOnly(QLineEdit* field, bool readOnly) {
     field->setReadOnly(readOnly);
-    field->setFocusPolicy(readOnly ? Qt::ClickFocus : Qt::StrongFocus); // a click still lets the user copy it
+    field->setFocusPolicy(readOnly ? Qt::ClickFocus : Qt::StrongFocus); // a click still allows copying
 }
 
 } // namespace

@@ -7,45 +7,45 @@ class QLineEdit;
 class QString;
 class QWidget;
 
-/// The look that all screens share. Sizes follow the font, colours the palette, so that every screen holds at 200 % and
-/// in a dark theme.
+/// The look that all screens share. Sizes follow the font and colours the palette, so that every screen works at 200 %
+/// and in a dark theme.
 namespace screenkit::look {
 
-/// The type of screens and paper. Digits of equal width, so that figures stand in columns; a true minus sign as wide as
-/// they are; and every letter of the country's languages in each of its weights, Venda's ṱ ḓ ḽ ṋ ṅ among them.
+/// The typeface of screens and paper. Its digits have equal widths, so that figures line up; its minus sign is as wide
+/// as they are; and every weight has all letters of the country's languages, including Venda's ṱ ḓ ḽ ṋ ṅ.
 inline constexpr const char* fontFamily = "Roboto";
 
-/// Style, font and icon of the whole program; once, before the first window.
+/// Sets style, font and icon of the whole program. Call it once, before the first window.
 void apply(QApplication& application);
 
-/// Size of an entry field that shows this many figures.
+/// Size of an entry field for this many digits.
 QSize fieldSize(const QLineEdit* field, int characters);
 
 /// A result is yellow with black text, read-only and out of the tab order; an entry takes the palette's colours.
 void setResult(QLineEdit* field, bool result);
 
-/// An input that shows what is entered elsewhere: a shade of its own, read-only and out of the tab order. Yellow would
-/// pass it off as something worked out here.
+/// An input that is entered elsewhere: its own shade, read-only and out of the tab order. Yellow would present it as a
+/// result.
 void setLocked(QLineEdit* field, bool locked);
 
-/// The sentence that answers what a screen was asked: read-only, in bold and larger, in the ink of an entry.
+/// The sentence that answers the screen's question: read-only, bold and larger, in the colour of an entry.
 void setAnswer(QLineEdit* line);
 
-/// A text that is shown and not entered: on the window's own colour, with no look of a result.
+/// A text that is shown and not entered: on the window's background, not like a result.
 void setShown(QLineEdit* field);
 
-/// A result whose inputs have changed since it was worked out steps back, and says so to who asks and to a screen
-/// reader.
+/// Fades a result whose inputs have changed since it was calculated. Its tip says so, and so does its description for a
+/// screen reader.
 void setStale(QLineEdit* result, bool stale);
 
-/// A content that something is wrong with stands out by its colour; `why` is said to who asks and to a screen reader.
-/// Empty: nothing is wrong.
+/// Colours a field whose content has a fault. `why` becomes its tip and its description for a screen reader. Empty: no
+/// fault.
 void setMarked(QLineEdit* field, const QString& why);
 
-/// The palette has changed while the program runs: shades that are mixed from it are mixed anew.
+/// Call it when the palette changes: mixes the shades anew.
 void followTheme(QLineEdit* line);
 
-/// One line's height in the widget's font: the measure for spaces and panels.
+/// The height of a line in the widget's font: the unit for spaces and panels.
 int lineHeight(const QWidget* widget);
 
 } // namespace screenkit::look

@@ -33,7 +33,7 @@ void NumberField::display(double value) {
     accept();
     m_stood = m_value;
     setText(std::isfinite(value) ? m_kind.format(value) : noFigure);
-    setCursorPosition(0); // of one too wide for the field the thousands tell more than the cents
+    setCursorPosition(0); // if the figure is too wide, its start says more than its end
 }
 
 void NumberField::typed(const QString& text) {
@@ -111,7 +111,7 @@ std::optional<Complaint> NumberField::complaint() {
 }
 
 std::optional<Complaint> NumberField::markFault() {
-    if (isRefused()) return {}; // has a mark of its own, and its box
+    if (isRefused()) return {}; // it has its own mark and message
     const auto found = isOwn() ? std::nullopt : fault();
     look::setMarked(this, found ? found->text : QString());
     return found;
@@ -138,7 +138,7 @@ void NumberField::keyPressEvent(QKeyEvent* event) {
         EntryLine::keyPressEvent(event);
 }
 
-/// The point, unless points part the thousands already: beside them the comma is the decimal sign.
+/// Types a point; but if points separate thousands already, a comma.
 void NumberField::typeDecimalSign() {
     QString rest = text();
     if (hasSelectedText()) rest.remove(selectionStart(), selectionLength());

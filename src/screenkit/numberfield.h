@@ -8,23 +8,23 @@
 
 namespace screenkit {
 
-/// A number entry. The full double stays behind the display: what the user does not retype keeps every bit.
+/// A number entry. The exact double is kept behind the display: a figure that is not retyped keeps all its bits.
 ///
-/// Typed and pasted as `base::readAmount` tells; the keypad's decimal key is always the decimal sign. The record has
-/// the figure with each key that leaves a text to be read, and what the user leaves is shown grouped, as the record
-/// keeps it. What can't be read, or is more than the place can hold, is refused.
+/// Reads typed and pasted text with `base::readAmount`; the keypad's decimal key is the decimal sign. Each key that
+/// leaves a readable text updates the record; on leaving, the field shows the record's figure grouped. A text that
+/// can't be read, or is too large for its place, is refused.
 class NumberField : public EntryLine {
     Q_OBJECT
 public:
     NumberField(const QString& name, Bound<double> place, NumberKind kind, QWidget* parent = nullptr);
 
     double value() const { return m_value; }
-    /// As if the user had typed it: spin buttons use it.
+    /// Enters a figure as if the user had typed it, as spin buttons do.
     void enter(double value);
 
     void giveBack() override;
 
-    /// Shows a figure without writing it to the record. What is not finite shows as an error and counts as 0.
+    /// Shows a figure without writing it to the record. One that is not finite shows as an error and counts as 0.
     void present(double value);
 
     void fill() override;
@@ -33,7 +33,7 @@ public:
     void disown() override;
     std::optional<double> figure() const override;
     void setResult(bool result) override;
-    /// What is wrong with the content, whoever put it there.
+    /// What is wrong with the content, whoever entered it.
     std::optional<Complaint> fault() const;
     QSize sizeHint() const override;
 
@@ -46,19 +46,19 @@ private:
     void display(double value);
     void typed(const QString& text);
     void take(double value);
-    /// True if the user made the figure what it is.
+    /// True if the user entered the current figure.
     bool isOwn() const { return m_taken.has_value() && *m_taken == m_place.get(); }
-    /// A figure that the place can't hold: in the words of its limits, if it has any.
+    /// The complaint about a figure too large for its place, worded like its limits, if it has any.
     std::optional<Complaint> tooWide(double value) const;
     void typeDecimalSign();
 
     Bound<double> m_place;
     NumberKind m_kind;
     double m_value = 0;
-    double m_onEntry = 0; ///< what the user found when coming in
+    double m_onEntry = 0; ///< the content when the user came in
     bool m_ownOnEntry = false;
-    std::optional<double> m_taken; ///< what the user entered last, as the record keeps it
-    double m_stood = 0;            ///< checked last: it holds while what is typed is refused
+    std::optional<double> m_taken; ///< the user's last entry, as the record holds it
+    double m_stood = 0;            ///< checked last; stays valid while the typed text is refused
 };
 
 } // namespace screenkit

@@ -8,7 +8,7 @@
 
 namespace screenkit {
 
-// Screens in other files make their own kinds of these while the program is being loaded.
+// Constants, since screens in other files build their own kinds from these before main begins.
 constinit const NumberKind money{"# ### ### ##0.00", false, 16};
 constinit const NumberKind wholeRand{"# ### ### ##0", false, 16};
 constinit const NumberKind whole{"# ### ### ##0", true, 8};

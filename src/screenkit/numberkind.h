@@ -7,34 +7,34 @@
 
 namespace screenkit {
 
-/// How a number is typed and shown and what range it may take. Kinds are values: `whole.upTo(600, "...", "...")`; each
-/// limit adds to those that stand, and the first that does not hold has its say.
+/// How a number is typed and shown, and its range. Kinds are values: `whole.upTo(600, "...", "...")`. Each call adds a
+/// limit; the first limit that fails shows its message.
 struct NumberKind {
-    const char* mask;     ///< see base::formatNumber; a literal, so that the kinds below stand before any code runs
-    bool isWhole = false; ///< what is typed is rounded half to even: 3.5 is 4
+    const char* mask;     ///< see base::formatNumber; a literal, so that the kinds below are constants
+    bool isWhole = false; ///< round typed numbers half to even: 3.5 is 4
     int characters = 16;  ///< width of the field
     std::vector<Limit> limits = {};
 
     NumberKind from(double minimum, const QString& text, const QString& title) const;
     NumberKind upTo(double maximum, const QString& text, const QString& title) const;
     NumberKind between(double minimum, double maximum, const QString& text, const QString& title) const;
-    /// For an end that moves with another field.
+    /// Adds a limit that depends on another field.
     NumberKind where(std::function<bool(double)> holds, const QString& text, const QString& title) const;
-    /// With words that are worked out when they are shown, another field that the focus goes to, or no box at all.
+    /// Adds a limit whose message is built when it is shown, may move the focus to another field, or may be absent.
     NumberKind where(std::function<bool(double)> holds, std::function<Complaint()> complaint) const;
-    /// Where the limit added last does not hold, the field goes back to this.
+    /// If the limit added last fails, the field gets this value.
     NumberKind orElse(std::function<double()> value) const;
     NumberKind orElse(double value) const;
     NumberKind shownAs(const char* otherMask) const;
 
     struct Reading {
         double value = 0;
-        std::optional<Complaint> refusal; ///< no figure
+        std::optional<Complaint> refusal; ///< why the text is no figure
     };
-    /// A text as typed or pasted, limits apart.
+    /// Reads a typed or pasted text, without checking limits.
     Reading read(const QString& typed) const;
     QString format(double value) const;
-    /// The first limit that does not hold; nothing if they all do.
+    /// The first limit that fails; nothing if none does.
     const Limit* brokenBy(double value) const;
 };
 

@@ -3,24 +3,24 @@
 class QTabWidget;
 class QWidget;
 
-/// Books of tabs, worked by key: whoever turns to a page by key means to go on there.
+/// Tab pages, worked by key: turning to a page by key also moves the focus into it.
 namespace screenkit {
 
-/// A page of a book; no book for what lies on none.
+/// A page of a tab widget; `book` is null for a control that is on no page.
 struct Page {
     QTabWidget* book = nullptr;
     int index = -1;
 };
 
-/// The page that a control lies on.
+/// The page that contains a control.
 Page pageOf(const QWidget* control);
 
-/// Shows a page and leads the focus to the first control on it that takes entries, or where there is none to the first
-/// that can have the focus, such as a result; to its tab if the page has nothing of the kind.
+/// Shows a page and moves the focus to its first entry field; without one to the first control that can have the focus,
+/// such as a result; without any to its tab.
 void turnToPage(QTabWidget* book, int page);
 
-/// Ctrl+Page Down and Ctrl+Page Up turn to the next page and to the one before, round and round, from wherever the
-/// focus is inside `area`.
+/// Ctrl+Page Down and Ctrl+Page Up turn to the next and the previous page, cyclically, while the focus is inside
+/// `area`.
 void leafByKey(QTabWidget* book, QWidget* area);
 
 } // namespace screenkit

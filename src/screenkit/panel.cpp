@@ -17,7 +17,7 @@ namespace screenkit {
 
 namespace {
 
-/// Wants the size of what it holds, whatever that is, and makes do with a few lines.
+/// As large as its content if there is room, at least a few lines.
 class Content : public QScrollArea {
 public:
     explicit Content(QWidget* parent) : QScrollArea(parent) {
@@ -92,7 +92,7 @@ void Panel::open(QWidget* first) {
     raise();
     m_area->verticalScrollBar()->setValue(0);
     first != nullptr ? first->setFocus(Qt::OtherFocusReason) : takeFocus();
-    m_over->setEnabled(false); // after the focus has gone: otherwise it would wander through every field below
+    m_over->setEnabled(false); // after the focus has gone, otherwise it would move through every field below
 }
 
 void Panel::close() {
@@ -116,7 +116,7 @@ void Panel::bringToView(const QWidget* control) {
 
 bool Panel::event(QEvent* event) {
     const bool handled = QFrame::event(event);
-    if (event->type() == QEvent::LayoutRequest && isVisible()) { // a choice has shown or hidden another
+    if (event->type() == QEvent::LayoutRequest && isVisible()) { // a choice has shown or hidden another one
         makeRoom(parentWidget(), sizeHint() + QSize(1, 1) * look::lineHeight(this));
         place();
     }
@@ -130,7 +130,7 @@ void Panel::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape) pressed = m_cancel;
     if (enter) pressed = focused != nullptr ? focused : m_default;
     if (pressed != nullptr && pressed->isEnabled()) pressed->click();
-    event->accept(); // no key reaches the screen below
+    event->accept(); // keeps all keys from the screen below
 }
 
 QList<QWidget*> Panel::stops() {

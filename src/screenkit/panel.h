@@ -11,9 +11,9 @@ class QScrollArea;
 
 namespace screenkit {
 
-/// A panel laid over its screen: what lies below can't be reached until it is gone. Escape presses its cancel button,
-/// Enter its default button; Tab stays inside. Where the screen is too small for it, its content scrolls between its
-/// title and its buttons, and follows the focus.
+/// A panel over its screen: the controls below can't be reached until it is closed. Escape presses its cancel button,
+/// Enter its default button; Tab stays inside. If the screen is too small for it, its content scrolls between title and
+/// buttons and follows the focus.
 class Panel : public QFrame {
     Q_OBJECT
 public:
@@ -21,16 +21,16 @@ public:
 
     /// Shows it in the middle of the screen, with the focus on `first`, or on its first control.
     void open(QWidget* first = nullptr);
-    /// Hides it and gives the focus back to where it was.
+    /// Hides it and returns the focus to where it was.
     void close();
     /// Puts the focus on its first control.
     void takeFocus();
-    /// The title under the name of its label, which one that is shown for several things needs.
+    /// Its title label. A panel used for several things sets its text.
     QLabel* title() const { return m_title; }
     void setTitle(const QString& title);
-    /// What it holds, and the buttons at its foot: the first is its default, the last the one that Escape presses.
+    /// Its content, and the buttons at the bottom: the first is the default, the last the one that Escape presses.
     void setContent(const Item& content, std::initializer_list<QPushButton*> buttons);
-    /// Scrolls to what has the focus.
+    /// Scrolls to the control with the focus.
     void bringToView(const QWidget* control);
 
     void place();
@@ -41,7 +41,7 @@ protected:
     bool focusNextPrevChild(bool next) override;
 
 private:
-    /// Where Tab stops, in its order.
+    /// The controls at which Tab stops, in order.
     QList<QWidget*> stops();
 
     QWidget* m_over;
@@ -56,7 +56,7 @@ private:
 class PrintPanel : public Panel {
 public:
     using Panel::Panel;
-    /// Both ways to print on or off: where nothing to be printed is chosen there is none.
+    /// Enables or disables both ways to print; disabled while nothing is chosen to print.
     void setPrintable(bool printable) {
         view->setEnabled(printable);
         direct->setEnabled(printable);
@@ -67,7 +67,7 @@ public:
     QLabel* processing = nullptr; ///< shown while the report is made
 };
 
-/// Scrolls an area so that a control in it is seen whole, with the frame that the focus draws.
+/// Scrolls an area until a control in it is fully visible, including its focus frame.
 void reveal(QScrollArea* area, const QWidget* control);
 
 } // namespace screenkit

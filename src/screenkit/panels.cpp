@@ -5,12 +5,12 @@
 #include "screenkit/look.h"
 #include "screenkit/screen.h"
 
-// The panels that a screen is declared with.
+// The panels that a screen can declare.
 namespace screenkit {
 
 namespace {
 
-/// A text of a size that the eye keeps hold of; what is more is scrolled to, and a small window makes it smaller.
+/// A text of a comfortable reading size; longer text scrolls, and a small window makes it smaller.
 class TextPage : public QTextBrowser {
 public:
     explicit TextPage(const QString& name) {

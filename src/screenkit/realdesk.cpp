@@ -62,9 +62,9 @@ Answer first(Buttons buttons) {
     return buttons == Buttons::ok || buttons == Buttons::okCancel ? Answer::ok : Answer::yes;
 }
 
-/// The window from which the user asked for what a box or dialog is about. A dialog over another window would bring
-/// that one to the front, and the next key would go to the client there. Right after a dialog no window is active yet:
-/// then it is the one that asked last.
+/// The window in which the user asked for the box or dialog. A dialog over another window would bring that one to the
+/// front, and the next key would go to the client there. Directly after a dialog no window is active: then it is the
+/// window that asked last.
 class AskingWindow {
 public:
     AskingWindow(QPointer<QWidget>& last, QWidget* otherwise) : m_window(QApplication::activeWindow()) {
@@ -86,7 +86,7 @@ private:
 
 const char* const folderKey = "saveFolder";
 
-/// The folder used last, at first the user's documents.
+/// The folder used last; at first the user's documents.
 QString saveFolder() {
     const QStringList folders{userSettings().value(folderKey).toString(),
                               QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)};
@@ -95,10 +95,10 @@ QString saveFolder() {
     return QDir::homePath();
 }
 
-/// A name goes with the kind that is chosen: a bare one gets its ending, one of another kind has it changed.
+/// Keeps the ending of the file name in step with the chosen kind: adds it, or replaces another kind's.
 void followKind(QFileDialog& dialog, const QStringList& filters) {
     const auto follow = [&dialog, filters](const QString& chosen) {
-        dialog.setDefaultSuffix(endingOf(chosen).mid(1)); // the dialog adds the point
+        dialog.setDefaultSuffix(endingOf(chosen).mid(1)); // without the point, which the dialog adds
         const QFileInfo file(dialog.selectedFiles().value(0));
         for (const QString& filter : filters)
             if (file.fileName().endsWith(endingOf(filter), Qt::CaseInsensitive))
@@ -115,7 +115,7 @@ Answer RealDesk::box(BoxStyle style, const QString& text, const QString& title, 
     const NormalCursor cursor;
     const AskingWindow asking(m_lastAsking, m_window);
     QMessageBox box(icon(style), title, text, standard(buttons), asking.widget());
-    box.setTextFormat(Qt::PlainText); // a client's name may hold what looks like markup
+    box.setTextFormat(Qt::PlainText); // a client's name may look like markup
     box.setWindowModality(Qt::ApplicationModal);
     box.setEscapeButton(escape(buttons));
     box.setDefaultButton(standard(defaultAnswer.value_or(first(buttons))));

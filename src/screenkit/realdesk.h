@@ -8,8 +8,8 @@ class QPrinter;
 
 namespace screenkit {
 
-/// The program's own desk: real boxes, the system's file and print dialogs, the system's clock. Boxes and dialogs
-/// belong to the window that asked, which is in front again when they close.
+/// The program's own desk: real message boxes, the system's file and print dialogs, the system's clock. Boxes and
+/// dialogs belong to the window that asked, which is in front again when they close.
 class RealDesk : public Desk {
 public:
     explicit RealDesk(QWidget* window = nullptr) : m_window(window) {}
@@ -29,7 +29,7 @@ public:
     bool startProgram(const QStringList& candidates) override;
 
 private:
-    QWidget* m_window; ///< asks where no window of ours is active
+    QWidget* m_window; ///< used while none of our windows is active
     QPointer<QWidget> m_lastAsking;
 };
 

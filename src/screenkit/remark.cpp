@@ -7,7 +7,7 @@ Remark::Remark(const QString& name) {
     setObjectName(name);
     setTextFormat(Qt::PlainText);
     setWordWrap(true);
-    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored); // a line of fields is no higher for it
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored); // must not make its line of fields taller
     QFont font = this->font();
     font.setPointSizeF(font.pointSizeF() * small);
     setFont(font);

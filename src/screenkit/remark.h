@@ -4,8 +4,8 @@
 
 namespace screenkit {
 
-/// A remark in small on what stands in the field before it: two lines of some sixteen characters, more where the line
-/// of fields leaves more room.
+/// A small remark on the content of the field before it: two lines of about sixteen characters, longer ones if there is
+/// space.
 class Remark : public QLabel {
     Q_OBJECT
 public:
@@ -13,7 +13,7 @@ public:
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
-    bool hasHeightForWidth() const override { return false; } // it wraps, but asks for no more height than its field
+    bool hasHeightForWidth() const override { return false; } // its text wraps without asking for more height
 };
 
 } // namespace screenkit

@@ -25,7 +25,7 @@ std::optional<QString> askWhereToSave(Desk& desk, const QString& title, const QS
     if (!chosen || chosen->isEmpty()) return {};
     const auto ends = [&](const QString& filter) { return chosen->endsWith(endingOf(filter), Qt::CaseInsensitive); };
     if (std::any_of(filters.begin(), filters.end(), ends)) return chosen;
-    // The chooser asked before overwriting the name as typed, not the one that is written.
+    // The dialog asked before overwriting the typed name, which is not the name that is written.
     const QString name = *chosen + endingOf(filters.first());
     const QString question =
         QObject::tr("%1 exists already.\nDo you want to replace it ?").arg(QDir::toNativeSeparators(name));

@@ -51,7 +51,7 @@ Screen::Screen(Workplace& workplace, const QString& name, const QString& caption
 Screen::~Screen() {
     disconnect(qApp, nullptr, this, nullptr);
     for (Field* field : m_fields)
-        field->left = field->edited = {}; // the controls outlive this screen by a moment, and lose the focus in it
+        field->left = field->edited = {}; // the controls outlive this screen briefly and lose the focus meanwhile
 }
 
 void Screen::runPrint(PrintPanel* panel, const std::function<void(Destination)>& print, Destination destination) {
@@ -110,7 +110,7 @@ void Screen::focusLater(QWidget* widget) {
 void Screen::activate() {
     refill();
     if (std::exchange(m_opened, true)) {
-        QTimer::singleShot(0, this, [this] { recoverFocus(); }); // once the window has given it back
+        QTimer::singleShot(0, this, [this] { recoverFocus(); }); // after the window has restored the focus
         return;
     }
     QWidget* first = firstField();
@@ -128,7 +128,7 @@ void Screen::recoverFocus() {
 }
 
 void Screen::refill() {
-    const QScopedValueRollback flag(m_changed); // filling is no edit, whatever it sets off
+    const QScopedValueRollback flag(m_changed); // filling is no edit, even if it triggers signals
     const QScopedValueRollback filling(m_filling, true);
     for (Field* field : m_fields)
         field->fill();
@@ -189,12 +189,12 @@ bool Screen::attempt(const QString& what, const std::function<void()>& action) {
 
 void Screen::leave(Field* field) {
     m_left.push_back(field);
-    // Queued: a box from inside a focus change would nest in it, and a button that was clicked checks on its own.
+    // Later, since a message box must not open inside a focus change, and a clicked button checks by itself.
     m_leaving.start(0);
 }
 
 void Screen::checkLeft() {
-    // A box that comes up between the mouse's press and its release would leave the button hanging.
+    // A message box between the press and the release of a mouse button would leave the button pressed.
     if (QGuiApplication::mouseButtons() != Qt::NoButton) return m_leaving.start(mousePollTime);
     const auto left = std::exchange(m_left, {});
     const QWidget* now = QApplication::focusWidget();
@@ -207,7 +207,7 @@ bool Screen::inReach(const QWidget* widget) const {
     if (!widget->isEnabled()) return false;
     for (; widget != this; widget = widget->parentWidget())
         if (widget->isHidden() && qobject_cast<QStackedWidget*>(widget->parentWidget()) == nullptr) return false;
-    return true; // another page of tabs is a click away
+    return true; // another tab page can always be reached
 }
 
 bool Screen::complain(Field* field) {
@@ -215,7 +215,7 @@ bool Screen::complain(Field* field) {
     const QScopedValueRollback complaining(m_complaining, true);
     const auto complaint = field->complaint();
     if (!complaint) {
-        attempt(tr("take the entry"), [&] { settled(field); }); // told, but no reason to hold the user in the field
+        attempt(tr("take the entry"), [&] { settled(field); }); // a failure is told; the user may still leave
         tellFaults();
         showWhatIsStale();
         return false;
@@ -255,7 +255,7 @@ void Screen::enterPresses(QPushButton* button) {
 void Screen::followFocus(QWidget* focused) {
     for (NumberField* field : m_givingBack)
         if (field == focused) m_enteredLast = field;
-    // A click has found its field already: moving it away under the mouse would select text.
+    // A click is already on its field: scrolling then would select text.
     if (focused != nullptr && QGuiApplication::mouseButtons() == Qt::NoButton) bringToView(focused);
 }
 
@@ -274,13 +274,13 @@ void Screen::enterPressed() {
 
 void Screen::pressDefault() {
     m_default->click();
-    // The user is still in the field, and the next figure must not be appended to this one.
+    // The user is still in the field, and the next figure must replace this one, not extend it.
     if (auto* line = dynamic_cast<EntryLine*>(QApplication::focusWidget())) line->confirm();
 }
 
 QWidget* Screen::entryBehind(const QWidget* from, const QWidget* within) const {
     const auto isEntry = [](const QWidget* widget) { return [widget](Field* field) { return field->holds(widget); }; };
-    // The chain of all windows' controls comes back to where it began.
+    // The focus chain includes all windows' controls and ends where it began.
     for (QWidget* next = from->nextInFocusChain(); next != within && next != from; next = next->nextInFocusChain())
         if (within->isAncestorOf(next) && (next->focusPolicy() & Qt::TabFocus) == Qt::TabFocus && next->isEnabled() &&
             next->isVisibleTo(within) && std::any_of(m_fields.begin(), m_fields.end(), isEntry(next)))
@@ -296,7 +296,7 @@ QWidget* Screen::nextEntry(const QWidget* from) const {
     if (QWidget* next = entryBehind(from, here.book->widget(here.index)); next != nullptr) return next;
     for (int page = here.index + 1; page < here.book->count(); ++page)
         if (QWidget* next = entryBehind(here.book->widget(page), here.book->widget(page)); next != nullptr) return next;
-    return entryBehind(from, content); // what stands below the pages
+    return entryBehind(from, content); // the controls below the pages
 }
 
 void Screen::keyPressEvent(QKeyEvent* event) {
@@ -313,7 +313,7 @@ void Screen::lend(double& figure, const QString& owner) { m_lent.emplace_back(&f
 void Screen::giveBackLent() {
     for (const auto& [figure, owner] : m_lent) {
         if (!m_work.lent.giveBack(*figure)) continue;
-        // Its own screen may be in front, and would work with a figure that it doesn't show.
+        // The owner's screen may be in front, and would otherwise use a figure that it does not show.
         if (auto* shown = qobject_cast<Screen*>(m_work.shell.screen(owner)); shown != nullptr) shown->refill();
     }
 }

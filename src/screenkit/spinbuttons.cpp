@@ -9,7 +9,7 @@
 namespace screenkit {
 
 std::optional<Spun> spun(const SpinRule& rule, double value, int direction) {
-    constexpr double grain = 1e-9; // steps of a tenth add up to a hair beside the end
+    constexpr double grain = 1e-9; // steps of a tenth may end a hair beside the limit
     const double step = rule.step();
     if (step == 0 || (rule.idleAtZero && std::fabs(value) < grain)) return {};
     double next = value + direction * step;
@@ -37,7 +37,7 @@ SpinButtons::SpinButtons(const QString& name, std::function<bool(int)> step, QWi
         button->setAccessibleName(tip);
         button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
         connect(button, &QToolButton::clicked, this, [button, step, direction] {
-            if (!step(direction)) button->setDown(false); // a box has come up: the hand's release goes there
+            if (!step(direction)) button->setDown(false); // a message box gets the mouse release instead
         });
         layout->addWidget(button);
     };

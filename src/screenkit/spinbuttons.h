@@ -8,16 +8,16 @@ namespace screenkit {
 
 /// How spin buttons step a number, and what happens at the ends.
 struct SpinRule {
-    std::function<double()> step = [] { return 1.0; }; ///< asked at each step; with 0 the buttons do nothing
+    std::function<double()> step = [] { return 1.0; }; ///< called at each step; if it returns 0 the buttons do nothing
     bool idleAtZero = false;                           ///< a field that is 0 is not stepped
     std::optional<double> floor = {};
-    bool holdsFloor = true; ///< the floor itself can be stepped to; otherwise meeting it counts as passing it
+    bool holdsFloor = true; ///< the floor itself can be reached; otherwise reaching it counts as passing it
     std::optional<double> ceiling = {};
-    /// Where a step down past the floor leads, and then one up past the ceiling leads to one step; without it both
-    /// stop.
+    /// A step down past the floor leads to this value, and a step up past the ceiling then leads to one step; without
+    /// it both stop.
     std::optional<double> wrapsTo = {};
-    bool rings = false;                   ///< the bell on the way from the floor to `wrapsTo`
-    std::function<QWidget*()> focus = {}; ///< where a click puts the focus; by default it stays where it is
+    bool rings = false;                   ///< rings the bell when going from the floor to `wrapsTo`
+    std::function<QWidget*()> focus = {}; ///< where a click moves the focus; by default it stays
 };
 
 struct Spun {
@@ -25,11 +25,11 @@ struct Spun {
     bool rings;
 };
 
-/// Where a step up (1) or down (-1) leads; nothing if the rule has none there. What comes within 1e-9 of 0 is 0.
+/// The result of a step up (1) or down (-1); nothing if the rule allows none. A result within 1e-9 of 0 is 0.
 std::optional<Spun> spun(const SpinRule& rule, double value, int direction);
 
-/// A pair of small up and down buttons that step a field. They take no focus; a held button repeats until a step is
-/// refused. The field beside them steps by the Up and Down keys too (see Screen::spin).
+/// Two small buttons that step a field up and down. They take no focus; holding one repeats until a step is refused.
+/// The Up and Down keys of the field do the same (see Screen::spin).
 class SpinButtons : public QWidget {
     Q_OBJECT
 public:

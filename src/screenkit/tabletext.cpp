@@ -15,7 +15,7 @@ QString cellText(QString text) {
 
 bool endsCell(const QString& text, qsizetype at) { return at >= text.size() || text[at] == '\t' || text[at] == '\n'; }
 
-/// Place behind the mark that closes the cell that begins at `start`; nothing found: it is no such cell.
+/// The position after the quotation mark that closes the cell beginning at `start`; -1 if there is no such mark.
 qsizetype closingMark(const QString& text, qsizetype start) {
     if (text[start] != '"') return -1;
     for (qsizetype at = text.indexOf('"', start + 1); at >= 0; at = text.indexOf('"', at + 1)) {
@@ -47,7 +47,7 @@ QString tableText(QModelIndexList cells) {
 std::vector<QStringList> tableRows(const QString& copied) {
     QString text = copied;
     text.replace("\r\n", "\n").replace('\r', '\n');
-    if (text.endsWith('\n')) text.chop(1); // closes the last row
+    if (text.endsWith('\n')) text.chop(1); // only ends the last row
     std::vector<QStringList> rows(1);
     for (qsizetype start = 0; start <= text.size();) {
         const qsizetype marked = start < text.size() ? closingMark(text, start) : -1;

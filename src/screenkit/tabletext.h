@@ -8,13 +8,13 @@ class QAbstractItemModel;
 
 namespace screenkit {
 
-/// Cells as spreadsheets put them on the clipboard: tabs between cells, a line a row, the heads above. A cell that
-/// holds a tab or a line end of its own stands in quotation marks.
+/// Cells as spreadsheets put them on the clipboard: tabs between cells, one line for each row, the heads first. A cell
+/// that contains a tab or a line break is put in quotation marks.
 ///
-/// cells: of one model, in any order, hidden columns left out by the caller.
+/// cells: of one model, in any order; the caller leaves out hidden columns.
 QString tableText(QModelIndexList cells);
 
-/// The rows of cells that such a text holds; a text without tab and line end is one cell.
+/// The rows of cells in such a text; a text without tab and line break is one cell.
 std::vector<QStringList> tableRows(const QString& text);
 
 } // namespace screenkit

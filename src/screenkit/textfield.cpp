@@ -13,10 +13,10 @@ namespace screenkit {
 
 namespace {
 
-/// Characters as the file counts them: a letter outside the first plane is one, though it takes two units here.
+/// Characters as the file counts them. QString counts some characters, such as emoji, as two.
 std::size_t characters(const QString& text) { return base::characterCount(text.toStdString()); }
 
-/// The part of `before` that leaves room for `after`.
+/// As much of the start of `before` as leaves room for `after`.
 QString fitting(const QString& before, const QString& after, std::size_t room) {
     const std::size_t taken = characters(after);
     return QString::fromStdString(base::firstCharacters(before.toStdString(), room - std::min(room, taken)));
@@ -24,7 +24,8 @@ QString fitting(const QString& before, const QString& after, std::size_t room) {
 
 } // namespace
 
-/// Makes what is put in fit its place. The tabs and line ends of a pasted cell become blanks: a line shows one line.
+/// Cuts a text to the size of its place. Tabs and line breaks of a pasted cell become blanks, since the field is one
+/// line.
 class RoomValidator : public QValidator {
 public:
     RoomValidator(std::size_t most, QObject* parent) : QValidator(parent), m_most(most) {}
@@ -53,7 +54,7 @@ TextField::TextField(const QString& name, Bound<QString> place, int size, int ch
 }
 
 void TextField::typed(const QString& text) {
-    if (text == m_place.get()) return; // a key that found no room
+    if (text == m_place.get()) return; // there was no room for the typed character
     m_place.set(text);
     if (edited) edited();
 }
@@ -71,7 +72,7 @@ void TextField::fill() {
 }
 
 QSize TextField::sizeHint() const {
-    constexpr int readableLine = 30; // a longer text is seen by scrolling in the field
+    constexpr int readableLine = 30; // longer texts scroll in the field
     return look::fieldSize(this, m_characters > 0 ? m_characters : std::min(m_size, readableLine));
 }
 
@@ -86,7 +87,8 @@ void MemoField::fill() {
     const QScopedValueRollback filling(m_filling, true);
     const QString held = m_place.get();
     m_room = std::max(m_size, characters(held));
-    if (QString(held).replace("\r\n", "\n") != toPlainText()) setPlainText(held); // the cursor stays where it can
+    // Only if the text differs, since this moves the cursor.
+    if (QString(held).replace("\r\n", "\n") != toPlainText()) setPlainText(held);
     m_before = toPlainText();
 }
 
@@ -105,7 +107,7 @@ void MemoField::cutToRoom() {
     const QScopedValueRollback filling(m_filling, true);
     const int end = textCursor().position();
     QTextCursor cut = textCursor();
-    cut.joinPreviousEditBlock(); // one undo takes back the paste and its cut
+    cut.joinPreviousEditBlock(); // undo takes back the paste and the cut together
     cut.setPosition(static_cast<int>(fitting(text.left(end), text.mid(end), m_room).size()));
     cut.setPosition(end, QTextCursor::KeepAnchor);
     cut.removeSelectedText();
@@ -113,7 +115,7 @@ void MemoField::cutToRoom() {
 }
 
 void MemoField::insertFromMimeData(const QMimeData* source) {
-    // The toolkit reads the first of the formats, and there is none once the program that was copied from has closed.
+    // Qt reads the first of the formats, and there is none if the program copied from has closed.
     if (source != nullptr && source->hasText()) QPlainTextEdit::insertFromMimeData(source);
 }
 
@@ -123,7 +125,7 @@ QSize MemoField::sizeHint() const { return {QPlainTextEdit::sizeHint().width(), 
 
 void MemoField::wheelEvent(QWheelEvent* event) {
     if (hasFocus())
-        QPlainTextEdit::wheelEvent(event); // scrolls the notes; it never changes them
+        QPlainTextEdit::wheelEvent(event); // scrolls the notes, never changes them
     else
         event->ignore();
 }

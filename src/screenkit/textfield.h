@@ -10,15 +10,15 @@ namespace screenkit {
 
 class RoomValidator;
 
-/// One line of text, at most as long as the place that it is stored in. What does not fit is cut off where it was put
-/// in; a longer text that the file already holds is shown and kept whole.
+/// One line of text, at most as long as its place allows. Text that does not fit is cut where it was inserted; a longer
+/// text from the file is shown and kept in full.
 class TextField : public EntryLine {
     Q_OBJECT
 public:
-    /// size: characters at most; the field is as wide as `characters`, or as its column if that is 0.
+    /// size: the most characters; the field is as wide as `characters`, or as its column if that is 0.
     TextField(const QString& name, Bound<QString> place, int size, int characters = 0, QWidget* parent = nullptr);
 
-    /// As if the user had typed it.
+    /// Enters a text as if the user had typed it.
     void enter(const QString& text);
 
     void fill() override;
@@ -33,7 +33,7 @@ private:
     int m_characters;
 };
 
-/// Notes of several lines. Tab moves on. The room is that of a text field: `size` characters, or as many as the file
+/// Notes of several lines. Tab moves to the next field. The longest text is `size` characters, or as many as the file
 /// already holds.
 class MemoField : public QPlainTextEdit, public Field {
     Q_OBJECT
@@ -55,7 +55,7 @@ private:
 
     Bound<QString> m_place;
     std::size_t m_size;
-    std::size_t m_room; ///< characters at most just now
+    std::size_t m_room; ///< the most characters at the moment
     bool m_filling = false;
     QString m_before;
 };

@@ -20,8 +20,7 @@ bool guarded(Desk& desk, const QString& what, const std::function<void()>& actio
         return true;
     } catch (const store::Error& error) {
         showTrouble(desk, what, error);
-    } catch (
-        const std::exception& error) { // out of memory and the like: the work in hand is worth more than the action
+    } catch (const std::exception& error) { // out of memory and the like: the open work must not be lost
         showTrouble(desk, what, store::Error(store::Number::reserved, {}, error.what()));
     }
     return false;

@@ -11,15 +11,15 @@ namespace screenkit {
 
 class Desk;
 
-/// The box for a failure that no screen has words of its own for: what could not be done, with which file, why, what
-/// the user can do about it, the number last in brackets.
+/// The box for a failure without a message of its own: what failed, with which file, why, what the user can do, and the
+/// number in brackets at the end.
 void showTrouble(Desk& desk, const QString& what, const store::Error& error);
 
-/// Runs what an action does. A failure shows the box above and gives false; the program goes on, with the record as it
-/// stands. what: the action in words that follow "Marlowbeck could not", e.g. "save the client".
+/// Runs an action. A failure shows the box above and returns false; the program goes on, with the record as it is.
+/// what: the action in words that follow "Marlowbeck could not", e.g. "save the client".
 bool guarded(Desk& desk, const QString& what, const std::function<void()>& action);
 
-/// The busy cursor for as long as it lives.
+/// Shows the busy cursor during its lifetime.
 class BusyCursor {
 public:
     BusyCursor();
@@ -28,7 +28,7 @@ public:
     BusyCursor& operator=(const BusyCursor&) = delete;
 };
 
-/// The normal cursor for as long as it lives, whatever is under way: for boxes.
+/// Shows the normal cursor during its lifetime, for boxes.
 class NormalCursor {
 public:
     NormalCursor();
