@@ -14,7 +14,7 @@ const QSet<QString>& knownElements() {
     return elements;
 }
 
-/// Blanks and line ends between words of a definition count as one blank, as on any HTML page.
+/// Any blanks and line ends between words of a definition count as one blank, as in HTML.
 QString withSingleBlanks(const QString& text) {
     QString result;
     for (const QChar letter : text) {
@@ -27,7 +27,7 @@ QString withSingleBlanks(const QString& text) {
     return result;
 }
 
-/// Reads one file, and the pieces that it names, into nodes.
+/// Parses a file, and the pieces that it includes, into nodes.
 class Reader {
 public:
     Reader(const std::filesystem::path& file, QStringList readBefore)
@@ -35,7 +35,7 @@ public:
         m_openFiles << m_name;
     }
 
-    /// The file's nodes; a piece need have no single root, so one is put around whatever there is.
+    /// The file's nodes. A piece may have several roots, so all of it is wrapped in one element.
     Node read() {
         const QByteArray bytes = QByteArray::fromStdString(store::readFile(m_file));
         if (bytes.trimmed().isEmpty()) failAt(m_name, 1, "The definition is empty.");
@@ -54,7 +54,8 @@ public:
     }
 
 private:
-    /// A section left open shows as a fault of the element around it; the section's line is where to look.
+    /// The parser reports an unclosed section as an error of the surrounding element; this gives the section's line
+    /// instead.
     qint64 unclosedLine(qint64 otherwise) const {
         return m_open.back()->kind == Node::Kind::rows || m_open.back()->kind == Node::Kind::filled
                    ? m_open.back()->line
@@ -95,12 +96,12 @@ private:
     }
 
     void open(Node&& added) {
-        // Reserving keeps the addresses on the stack true: only the innermost node grows.
+        // Space was reserved, so the pointers on the stack stay valid: only the innermost node grows.
         m_open.back()->children.push_back(std::move(added));
         m_open.push_back(&m_open.back()->children.back());
     }
 
-    /// A text with tags in it; the line of each tag is counted back from the end of the text.
+    /// Splits a text at its tags. The line of each tag is found by counting back from the end of the text.
     void readText(const QString& text) {
         qint64 line = m_xml.lineNumber() - text.count('\n');
         qsizetype from = 0;
@@ -180,7 +181,7 @@ private:
 
     std::filesystem::path m_file;
     QString m_name;
-    QStringList m_openFiles; ///< the files around this one, so that a piece cannot hold itself
+    QStringList m_openFiles; ///< the including files, to detect a piece that includes itself
     QXmlStreamReader m_xml;
     std::vector<Node*> m_open;
 };
@@ -191,7 +192,7 @@ const Node* childElement(const Node& parent, const QString& name) {
     return nullptr;
 }
 
-/// What a file prints: the body of a whole page, all of a piece.
+/// The printed nodes of a file: the body of a whole page, or all of a piece.
 std::vector<Node> printedNodes(Node& root) {
     if (const Node* html = childElement(root, "html"))
         if (const Node* body = childElement(*html, "body")) return body->children;

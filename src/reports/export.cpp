@@ -25,25 +25,26 @@ constexpr Offered offered[] = {{"pdf", "PDF (*.pdf)"},
                                {"csv", "CSV (*.csv)"},
                                {"xlsx", "XLSX (*.xlsx)"}};
 
-/// A number with 15 digits, as many as a decimal figure keeps in a double, without exponent.
+/// A number with 15 significant digits, as many as a double holds exactly, without exponent.
 QByteArray rawNumber(double number) {
     char digits[400];
     const auto [end, ignored] =
         std::to_chars(digits, digits + sizeof digits, number, std::chars_format::scientific, 14);
-    double rounded = 0; // to 15 digits: written in full it has no more
+    double rounded = 0; // 15 digits are all that it has
     std::from_chars(digits, end, rounded);
     const auto last = std::to_chars(digits, digits + sizeof digits, rounded, std::chars_format::fixed).ptr;
     return {digits, last - digits};
 }
 
-/// A text that a spreadsheet would take for a figure or a formula: an account number would lose its last digits, a
-/// postal code its first nought, and a note that begins with "=" would be worked out.
+/// True for a text that a spreadsheet would take for a figure or a formula: an account number would lose its last
+/// digits, a postal code its first 0, and a note beginning with "=" would be evaluated.
 bool wouldBeMisread(const QString& text) {
     static const QRegularExpression misread(R"(^\s*([=+@-]|[\d(][\d\s.,:/()%-]*$))");
     return misread.match(text).hasMatch();
 }
 
-/// RFC 4180: a field with a comma, a quote or a line end stands in quotes, quotes doubled. A tab keeps a text a text.
+/// RFC 4180: a field with a comma, a quote or a line break is quoted, with its quotes doubled. A leading tab keeps it a
+/// text.
 QByteArray quoted(const QString& text) {
     QByteArray field = (wouldBeMisread(text) ? '\t' + text : text).toUtf8();
     static const char* const special = ",\"\n\r\t";
@@ -51,7 +52,7 @@ QByteArray quoted(const QString& text) {
     return '"' + field.replace("\"", "\"\"") + '"';
 }
 
-/// Days in the one form that every spreadsheet reads alike.
+/// Dates in the one form that every spreadsheet reads the same way.
 QByteArray fieldOf(const Cell& cell) {
     if (cell.number) return rawNumber(*cell.number);
     return cell.date.isValid() ? cell.date.toString(Qt::ISODate).toUtf8() : quoted(cell.text());
@@ -96,10 +97,10 @@ QString proposedFileName(const QString& client, const QString& title, const QStr
     QString name = who.isEmpty() ? title.simplified() : who + " - " + title.simplified();
     for (QChar& letter : name)
         if (letter < ' ' || QStringView(u"/\\:*?\"<>|\x7f").contains(letter)) letter = '-';
-    constexpr qsizetype mostBytes = 200; // of the 255 that a file name may have, since a save adds a part of its own
+    constexpr qsizetype mostBytes = 200; // of the 255 that a file name may have, since saving adds a part of its own
     while (name.toUtf8().size() > mostBytes)
         name.chop(name.back().isLowSurrogate() ? 2 : 1);
-    while (name.startsWith('.')) // would be hidden
+    while (name.startsWith('.')) // would hide the file
         name.remove(0, 1);
     return name.trimmed() + ending;
 }
@@ -119,7 +120,7 @@ std::vector<PdfHeading> headingsOf(const Layout& layout) {
     const Faces& faces = Faces::all();
     std::vector<PdfHeading> headings;
     for (int page = 0; page < layout.count(); ++page) {
-        const PlacedText* before = nullptr; // the piece before this one, if that is part of a heading too
+        const PlacedText* before = nullptr; // the previous piece, if it is part of a heading too
         for (const PlacedText& text : layout.pages[static_cast<std::size_t>(page)].texts) {
             const bool heads = text.face == &faces.title || text.face == &faces.heading;
             const double down = before && heads ? text.at.y() - before->at.y() : -1;
@@ -154,7 +155,7 @@ QByteArray toPdf(const Report& report) {
 }
 
 QByteArray toCsv(const Content& content) {
-    QByteArray csv = "\xef\xbb\xbf"; // the mark by which a spreadsheet that is not asked takes the letters for UTF-8
+    QByteArray csv = "\xef\xbb\xbf"; // without this mark a spreadsheet would not read the text as UTF-8
     addRecords(csv, content.blocks);
     return csv;
 }

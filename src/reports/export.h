@@ -13,35 +13,34 @@ namespace reports {
 
 struct PdfHeading;
 
-/// A report that has been run: its figures and its pages. It reads no file any more, so any number of windows and
-/// exports can share one.
+/// A finished report: its figures and its pages. It needs no file any more, so several windows and exports can share
+/// it.
 struct Report {
-    QString windowTitle; ///< of its preview, letter for letter; files carry documentTitle(content) instead
+    QString windowTitle; ///< of its preview, used unchanged; files are titled documentTitle(content)
     Content content;
     Layout layout;
 };
 
-/// Kinds of file that a report can be exported as, in the order in which they are offered.
+/// The file formats of an export, in the order in which they are offered.
 enum class Format { pdf, html, odt, csv, xlsx };
 
-/// What a file chooser offers: "PDF (*.pdf)" and so on, in the order of Format.
+/// The filters for a file dialog, "PDF (*.pdf)" and so on, in the order of Format.
 QStringList exportFilters();
-/// The ending with its point: ".pdf".
+/// The file ending, with its point: ".pdf".
 QString endingOf(Format format);
-/// The kind by a file's ending, without case; none if the ending is none of ours.
+/// The format of a file name's ending, without case; nothing for another ending.
 std::optional<Format> formatOf(const QString& fileName);
 
-/// A name to propose for a file about a client: "Botha - Needs analysis for retirement.pdf", without the client's part
-/// where there is no client. Letters that file systems refuse become "-"; a name too long for them is cut before its
-/// ending.
+/// A proposed file name such as "Botha - Needs analysis for retirement.pdf", or without the client's name if there is
+/// no client. Characters that file systems refuse become "-"; a name that is too long is cut before its ending.
 QString proposedFileName(const QString& client, const QString& title, const QString& ending);
 
-/// The report as a file of this kind. PDF: the pages as they print, letters kept as text. HTML: the flow with the
-/// header lines above and the footer lines below. ODT: the flow on pages like the printed ones. CSV: UTF-8, one record
-/// a row. XLSX: numbers as numbers. Throws store::Error if the kind's own writer fails.
+/// The report as a file of this format. PDF: the printed pages, with text as text. HTML: the text with the header lines
+/// above and the footer lines below. ODT: the text on pages like the printed ones. CSV: UTF-8, one record for each row.
+/// XLSX: numbers as numbers. Throws store::Error if writing the format fails.
 QByteArray exported(const Report& report, Format format);
 
-/// The headings of the pages in their order, those of several lines as one.
+/// The headings on the pages in order; the lines of one heading are joined.
 std::vector<PdfHeading> headingsOf(const Layout& layout);
 
 QByteArray toPdf(const Report& report);

@@ -3,7 +3,7 @@
 namespace reports {
 namespace {
 
-/// Fonts and colours of the printed page. Blanks of the stored texts are kept as they are.
+/// Fonts and colours of the printed page. Blanks in stored texts are kept.
 constexpr const char* style = R"(
 body { font-family: 'Roboto', sans-serif; font-size: 10pt; color: #1f232b; max-width: 52em; }
 h1 { font-size: 20pt; font-weight: 600; color: #17406b; margin: 12px 0 4px 0; }

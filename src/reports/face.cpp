@@ -11,9 +11,9 @@ QFont fontOf(double pointSize, QFont::Weight weight, bool italic) {
     font.setPixelSize(qRound(points(pointSize)));
     font.setWeight(weight);
     font.setItalic(italic);
-    // Widths must not depend on the size at which a page happens to be shown.
+    // Widths must not depend on the size at which a page is shown.
     font.setHintingPreference(QFont::PreferNoHinting);
-    // A spacing too small to see keeps letters from being joined into one glyph: "fi" read back from a PDF stays "fi".
+    // An invisibly small spacing keeps letters from being joined into ligatures: "fi" read back from a PDF stays "fi".
     font.setLetterSpacing(QFont::AbsoluteSpacing, 0.05);
     return font;
 }
@@ -23,7 +23,7 @@ QFont fontOf(double pointSize, QFont::Weight weight, bool italic) {
 Face::Face(double pointSize, QFont::Weight weight, const QColor& colour, bool slanted)
     : font(fontOf(pointSize, weight, slanted)), ink(colour), lineHeight(points(pointSize) * 1.36), ascent(0),
       metrics(font) {
-    // The capitals stand in the middle of their line, whatever room the font itself claims above and below.
+    // Centres the capitals in their line, whatever space the font itself asks for above and below.
     ascent = (lineHeight + metrics.capHeight()) / 2;
 }
 

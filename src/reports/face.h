@@ -6,14 +6,14 @@
 
 namespace reports {
 
-/// Pages are measured in 1/1200 inch, the resolution at which printers and PDF files are written, so that a page breaks
-/// at the same line wherever it is shown.
+/// Pages are measured in 1/1200 inch, the resolution of printers and PDF files, so that a page breaks at the same line
+/// wherever it is shown.
 inline constexpr double unitsPerInch = 1200;
 constexpr double points(double value) { return value * unitsPerInch / 72; }
 constexpr double millimetres(double value) { return value * unitsPerInch / 25.4; }
 
-/// The type of the pages, in one size, weight and colour. All are of the program's own family, whose digits are of
-/// equal width and which has every letter of the country's languages.
+/// The typeface of the pages in one size, weight and colour. All use the program's own font family, whose digits have
+/// equal widths and which has all letters of the country's languages.
 class Face {
 public:
     explicit Face(double pointSize, QFont::Weight weight = QFont::Normal, const QColor& ink = QColor(0x1f, 0x23, 0x2b),
@@ -22,11 +22,11 @@ public:
     QFont font;
     QColor ink;
     double lineHeight; ///< from one baseline to the next
-    double ascent;     ///< from the top of the line to its baseline, the line's room shared out above and below
+    double ascent;     ///< from the top of the line to its baseline; spare height is divided between above and below
     QFontMetricsF metrics;
 };
 
-/// The few faces that all reports share.
+/// The typefaces that all reports share.
 struct Faces {
     Face body{9.5};
     Face bold{9.5, QFont::DemiBold};
@@ -34,7 +34,7 @@ struct Faces {
     Face small{8};
     Face smallest{6.8};
     Face title{16, QFont::DemiBold, QColor(0x17, 0x40, 0x6b)};
-    Face answer{16, QFont::Bold, QColor(0x17, 0x40, 0x6b)}; ///< nothing on a page is stronger
+    Face answer{16, QFont::Bold, QColor(0x17, 0x40, 0x6b)}; ///< the strongest text on a page
     Face lead{10.5, QFont::Normal, QColor(0x5b, 0x64, 0x72)};
     Face heading{12, QFont::DemiBold, QColor(0x17, 0x40, 0x6b)};
     Face note{8.5, QFont::Normal, QColor(0x5b, 0x64, 0x72)};
@@ -47,12 +47,12 @@ struct Faces {
     Face header{8.5, QFont::Normal, QColor(0x3d, 0x45, 0x52)};
     Face footer{8, QFont::Normal, QColor(0x5b, 0x64, 0x72)};
 
-    /// Made once for the process, since measuring a face loads its font file.
+    /// Created once for the process, since measuring a face loads its font file.
     static const Faces& all();
 };
 
 namespace ink {
-inline const QColor strong(0x17, 0x40, 0x6b);   ///< rules that part the page
+inline const QColor strong(0x17, 0x40, 0x6b);   ///< rules that divide the page
 inline const QColor hairline(0xd3, 0xd9, 0xe2); ///< between rows
 inline const QColor headBand(0xe9, 0xee, 0xf5); ///< behind column heads
 inline const QColor resultBand(0xf3, 0xf6, 0xfa);

@@ -10,14 +10,14 @@
 namespace reports {
 namespace {
 
-/// The table whose fields a plain name means, and the row at hand.
+/// The table that a plain field name refers to, and its current row.
 struct Scope {
     const TableRows* table = nullptr;
     const std::vector<store::Value>* row = nullptr;
 };
 
 struct Name {
-    QString table; ///< empty: the table at hand
+    QString table; ///< empty: the current table
     QString field;
 };
 
@@ -34,7 +34,7 @@ QString shown(const store::Value& value, const QString& mask) {
     const std::string allPlaces = "0.##########";
     QString figure =
         QString::fromStdString(base::formatNumber(*number, mask.isEmpty() ? allPlaces : mask.toStdString()));
-    if (figure.startsWith('-')) figure.replace(0, 1, QChar(0x2212)); // in print a minus is no hyphen
+    if (figure.startsWith('-')) figure.replace(0, 1, QChar(0x2212)); // print uses a true minus sign, not a hyphen
     return figure;
 }
 
@@ -63,7 +63,7 @@ Align alignment(const Node& node, Align otherwise) {
     failAt(node.file, node.line, QString("\"%1\" is no alignment: left, center or right.").arg(align));
 }
 
-/// Shares that add up to 1; those without a width part what is left among them.
+/// Shares that add up to 1; columns without a width divide what is left.
 std::vector<double> evened(std::vector<double> widths, std::size_t count) {
     widths.resize(count, 0);
     double given = 0;
@@ -109,7 +109,7 @@ private:
         return {table, &table->rows.front()};
     }
 
-    /// Every field is looked up before a word is printed, so that a misspelt one shows even where its section is empty.
+    /// Looks up every field before anything is printed, so that a misspelt one is found even in an empty section.
     void check(const std::vector<Node>& nodes, const TableRows* atHand) const {
         for (const Node& node : nodes) {
             if (node.kind == Node::Kind::field) checkField(node, node.name, atHand);
@@ -143,7 +143,7 @@ private:
         return (*from.row)[static_cast<std::size_t>(from.table->column(name.field))];
     }
 
-    /// Hands each node to `use`, with the sections around it already worked out.
+    /// Receives each node; the sections around it are already resolved.
     using Use = std::function<void(const Node&, const Scope&)>;
     void visit(const std::vector<Node>& nodes, const Scope& scope, const Use& use) const {
         for (const Node& node : nodes) {
@@ -208,14 +208,14 @@ private:
             if (child.kind == Node::Kind::text && child.name.trimmed().isEmpty()) return;
             if (child.name != "div") failAt(child.file, child.line, "A row of columns holds nothing but <div>.");
             std::vector<Block> column = flow(child.children, at);
-            if (column.empty()) return; // the others take its room
+            if (column.empty()) return; // the other columns get its space
             made.widths.push_back(share(child));
             made.columns.push_back(std::move(column));
         });
         made.widths = evened(made.widths, made.columns.size());
     }
 
-    /// One table, or several where rows of the body say that another begins.
+    /// One table, or several if rows of the body begin another.
     std::vector<Table> tables(const Node& node, const Scope& scope) const {
         TableMaker maker{*this};
         visit(node.children, scope, [&](const Node& child, const Scope& at) {
@@ -238,7 +238,7 @@ private:
         std::vector<double> widths{};
         std::vector<Align> aligns{};
         std::vector<Table> tables = std::vector<Table>(1);
-        int headsToCome = 0; ///< rows of the body that are heads still
+        int headsToCome = 0; ///< number of following body rows that are still heads
 
         void add(const Node& row, const Scope& scope, bool isHead) {
             if (row.kind == Node::Kind::text && row.name.trimmed().isEmpty()) return;
@@ -305,8 +305,8 @@ private:
         return made;
     }
 
-    /// Days, and the figures of lists whose rows hold heads as well, are stored as texts. A figure stands at the right
-    /// and is written in groups: what has five digits and more in one is an account's or an identity number.
+    /// Recognises dates, and figures of lists whose rows also hold heads; both are stored as texts. A figure is
+    /// right-aligned and grouped in threes: five or more digits in a row are an account or identity number.
     static void readText(Cell& cell) {
         const QString text = cell.text().trimmed();
         static const QRegularExpression figure(R"(^[-\x{2212}]?(0|[1-9]\d{0,3}|[1-9]\d{0,2}( \d{3})+)(\.\d+)?$)");
@@ -324,7 +324,7 @@ private:
         return made;
     }
 
-    /// Blanks that lay out the definition itself are dropped at both ends of a line; those of a stored text are kept.
+    /// Removes the definition's own indentation at both ends of a line; blanks of a stored text are kept.
     void addRuns(std::vector<Run>& made, const std::vector<Node>& nodes, const Scope& scope, Run face) const {
         visit(nodes, scope, [&](const Node& child, const Scope& at) {
             Run run = face;

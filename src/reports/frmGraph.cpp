@@ -58,7 +58,7 @@ void frmGraph::EMVGraph(std::string_view typeInvest, GraphPeriod period, Yearly 
     draw(makeGraph(investmentGraph(typeInvest, period), {invested, growth, value, reinvested}, count));
 }
 
-// The needs analyses hand over what is available before what is required; the legend has them the other way about.
+// The needs analyses pass the available income before the required one; the legend has the reverse order.
 
 void frmGraph::NADAmortGraph(Yearly capital, Yearly interest, Yearly available, Yearly required, int count) {
     draw(makeGraph(graphDescription(GraphKind::NADAmort), {capital, interest, required, available}, count));
@@ -94,7 +94,7 @@ void frmGraph::DCAmortGraph(Yearly balance, Yearly capital, Yearly interest, int
 void frmGraph::print() {
     using screenkit::BoxStyle;
     if (!m_work.desk.hasPrinter()) return m_work.desk.tell(BoxStyle::warning, "No printer is installed.", "Print");
-    QPrinter& printer = m_work.reports.printer(); // the session's: what is chosen here holds for reports too
+    QPrinter& printer = m_work.reports.printer(); // the session's, so a choice made here also applies to reports
     printer.setFullPage(false);
     printer.setDocName(QString::fromStdString(m_graph.title).trimmed());
     printer.setPageOrientation(orientation());

@@ -13,8 +13,8 @@ namespace {
 
 constexpr std::string_view capitalInterestIncome = "CAPITAL, INTEREST, INCOME";
 
-// In the order of GraphKind. The texts stand on charts that practices have handed out for years, so they stay letter
-// for letter, slips too.
+// In the order of GraphKind. Practices have given charts with these texts to clients for years, so not a letter
+// changes, not even the spelling mistakes.
 const std::array<GraphDescription, 10> descriptions{{
     {"Illustration of Education Needs ",
      capitalInterestIncome,
@@ -78,11 +78,11 @@ Range rangeOf(const Graph& graph) {
             range.low = std::min(range.low, value);
             range.high = std::max(range.high, value);
         }
-    if (range.high - range.low < 0.01) range.high = range.low + 1; // nothing of a cent or more: an empty scale
+    if (range.high - range.low < 0.01) range.high = range.low + 1; // within a cent: the axis still needs a range
     return range;
 }
 
-// The smallest of 1, 2, 5, 10 times a power of ten that needs no more than seven steps.
+// The smallest of 1, 2, 5, 10 times a power of ten that needs at most seven steps.
 double roundStep(const Range& range) {
     const double rough = (range.high - range.low) / 7;
     const double power = std::pow(10, std::floor(std::log10(rough)));
@@ -133,7 +133,7 @@ std::vector<int> labelledPoints(int points) {
 }
 
 std::string AxisScale::label(double tick) const {
-    if (std::fabs(tick) >= 1e15) { // no room for all its digits
+    if (std::fabs(tick) >= 1e15) { // too many digits for the space
         std::array<char, 32> buffer{};
         std::snprintf(buffer.data(), buffer.size(), "%.3g", tick);
         return buffer.data();

@@ -8,7 +8,7 @@
 
 namespace reports {
 
-/// What a graph says around its lines. A blank Y title means that the axis has none.
+/// The texts around a graph's lines. A blank Y title means that the axis has no title.
 struct GraphDescription {
     std::string_view title, yTitle, xTitle;
     std::vector<std::string_view> series; ///< names in the order of the legend
@@ -32,7 +32,7 @@ const GraphDescription& graphDescription(GraphKind kind);
 
 enum class GraphPeriod { years, months };
 
-/// The graph of a quotation, whose title follows the investment's letter "E", "B", "R" or "U" (blank for any other).
+/// The graph of a quotation; its title depends on the investment's letter "E", "B", "R" or "U" (blank for any other).
 GraphDescription investmentGraph(std::string_view typeInvest, GraphPeriod period);
 
 struct GraphSeries {
@@ -40,30 +40,31 @@ struct GraphSeries {
     std::vector<double> values; ///< values[0] is point 1
 };
 
-/// A graph's own copy of what it shows, so that the caller's arrays may change while the window stays open.
+/// A graph's own copy of its figures, so that the caller's arrays may change while the window is open.
 struct Graph {
     std::string title, yTitle, xTitle;
     int points = 0;
     std::vector<GraphSeries> series;
 };
 
-/// The most points a graph shows; the year arrays can hold one more.
+/// The most points that a graph shows; the year arrays hold one more.
 inline constexpr int mostGraphPoints = 50;
 
-/// Copies points 1 to `count` of each array; element 0 is not used. At most 50 points, none for a count below 1, and
-/// never more than the shortest array holds. An empty array leaves its series out of the graph.
+/// Copies points 1 to `count` of each array; element 0 is unused. At most 50 points, none for a count below 1, and no
+/// more than the shortest array holds. An empty array omits its series.
 Graph makeGraph(const GraphDescription& description, std::initializer_list<std::span<const double>> arrays, int count);
 
-/// False for what no axis can hold: an overflowed projection, a missing figure. Such points are left out.
+/// False for a value that no axis can show, such as an overflowed projection or a missing figure. Such points are
+/// omitted.
 bool drawable(double value);
 
-/// The points whose number stands under the X axis: every one above 20 points, else every second from point 2.
+/// The points whose numbers are shown under the X axis: all if there are more than 20, else every second from point 2.
 std::vector<int> labelledPoints(int points);
 
-/// The Y axis: round steps from `minimum` to `maximum` that take in every value, and 0 as the base line.
+/// The Y axis: round steps from `minimum` to `maximum` that include every value, and 0 as the base line.
 struct AxisScale {
     std::vector<double> ticks;
-    int places = 0; ///< decimals that the tick labels need
+    int places = 0; ///< decimal places of the tick labels
 
     double minimum() const { return ticks.front(); }
     double maximum() const { return ticks.back(); }
@@ -72,7 +73,7 @@ struct AxisScale {
 
 AxisScale valueScale(const Graph& graph);
 
-/// "Year" or "Month": what one point of the graph is.
+/// What one point of the graph stands for: "Year" or "Month".
 std::string_view pointUnit(const Graph& graph);
 
 /// An amount as the callout shows it: "1 234 567.89".

@@ -15,7 +15,7 @@ namespace {
 
 using namespace look;
 
-/// Where the next thing goes.
+/// The position for the next block.
 struct Cursor {
     std::size_t page = 0;
     double y = 0;
@@ -36,7 +36,7 @@ public:
     }
 
 private:
-    // ---- the flow
+    // ---- the text
 
     Page& page(const Cursor& at) {
         while (m_layout.pages.size() <= at.page)
@@ -46,7 +46,7 @@ private:
     Cursor nextPage(const Cursor& at) const { return {at.page + 1, m_frame.top(at.page + 1)}; }
     bool atTop(const Cursor& at) const { return at.y <= m_frame.top(at.page); }
     double room(const Cursor& at) const { return m_frame.bottom() - at.y; }
-    /// Of any page but the first.
+    /// The height available on any page except the first.
     double fullRoom() const { return m_frame.bottom() - m_frame.top(1); }
 
     Cursor place(const std::vector<Block>& blocks, const Measure& measure, Cursor at) {
@@ -73,11 +73,11 @@ private:
         }
     }
 
-    /// Space never opens a page.
+    /// Space at the top of a page is dropped.
     Cursor withSpace(const Cursor& at, double space) const { return atTop(at) ? at : Cursor{at.page, at.y + space}; }
 
-    /// What of a block must stand on one page: all of a heading, two lines of a text, the heads and a few rows of a
-    /// table.
+    /// The part of a block that must stay on one page: a whole heading, two lines of a text, the heads and a few rows
+    /// of a table.
     double leastHeight(const Block& block, const Measure& measure) const {
         if (block.kind == Block::Kind::rule) return hairline;
         if (block.kind == Block::Kind::columns) {
@@ -123,7 +123,7 @@ private:
         return isAnswer(block) ? Measure{measure.x + cellPadding, measure.width - 2 * cellPadding} : measure;
     }
 
-    /// On a band, whose place was made sure of before.
+    /// Places an answer on a coloured band; the caller has made sure that it fits.
     Cursor placeAnswer(const Block& block, const Measure& measure, const Cursor& at) {
         const Measure inner = textMeasure(block, measure);
         const Paragraph paragraph = broken(block.runs, faceOf(block), inner.width);
@@ -148,7 +148,7 @@ private:
         const double height = heightOf(block, measure);
         if (height <= room(at)) return sideBySide(block, measure, at);
         if (height <= fullRoom() && room(at) < fullRoom() / 2) return sideBySide(block, measure, nextPage(at));
-        // Side by side they would leave half a page empty, below or beside: one under the other they leave none.
+        // Side by side they would leave half a page empty, so they are placed one below the other.
         Cursor next = at;
         for (const std::vector<Block>& column : block.columns)
             next = place(column, measure, withSpace(next, &column == &block.columns.front() ? 0 : spaceBefore(block)));
@@ -162,7 +162,8 @@ private:
         return lowest;
     }
 
-    /// Of columns side by side: tried out on pages of their own. More than any page's where they need a second one.
+    /// The height of columns side by side, found by placing them on trial pages. Larger than any page if they need a
+    /// second one.
     double heightOf(const Block& block, const Measure& measure) {
         Layout kept = std::exchange(m_layout, {});
         const Cursor start{1, m_frame.top(1)};
@@ -177,7 +178,7 @@ private:
         Paragraph text;
         Align align = Align::left;
         Measure measure;
-        double drop = 0; ///< what brings a smaller face down to the row's baseline
+        double drop = 0; ///< lowers a smaller face to the row's baseline
     };
     struct ShapedRow {
         std::vector<ShapedCell> cells;
@@ -231,7 +232,7 @@ private:
         return at;
     }
 
-    /// A total at the top of a page closes nothing: it takes the row before it along.
+    /// A total must not stand alone at the top of a page, so the row before it moves along. Gives the height of both.
     static double heightOfTotalBelow(const Table& table, std::size_t row, const Measure& measure) {
         if (row + 1 >= table.rows.size() || !table.rows[row + 1].total) return 0;
         return rowHeight(shapedRow(table.rows[row + 1], table, measure, false));
@@ -263,7 +264,7 @@ private:
         addLine(on, text, *cell.text.face, cell.measure.x + shift, y);
     }
 
-    /// A row higher than a page goes on over the next ones, line by line, under the heads.
+    /// A row higher than a page continues on the next pages, line by line, below the heads.
     Cursor placeLongRow(const ShapedRow& row, const std::vector<ShapedRow>& heads, const Measure& measure, Cursor at) {
         std::size_t most = 0;
         for (const ShapedCell& cell : row.cells)
@@ -298,7 +299,7 @@ void Layout::paint(QPainter& painter, int index, const QRectF& visible) const {
     for (const PlacedFill& fill : page.fills)
         if (all || fill.area.intersects(visible)) painter.fillRect(fill.area, fill.colour);
     for (const PlacedText& text : page.texts) {
-        const double reach = 2 * text.face->lineHeight; // accents and tails reach past the line
+        const double reach = 2 * text.face->lineHeight; // accents and descenders extend beyond the line
         if (!all && (text.at.y() + reach < visible.top() || text.at.y() - reach > visible.bottom())) continue;
         painter.setFont(text.face->font);
         painter.setPen(text.face->ink);

@@ -31,21 +31,20 @@ struct Page {
     std::vector<PlacedText> texts;
 };
 
-/// A report on its pages, broken once: the screen, the paper and the PDF all paint these.
+/// A report divided into pages once: screen, paper and PDF all paint these.
 struct Layout {
     std::vector<Page> pages;
 
-    /// A4, upright, in units of the page (see face.h).
+    /// A4 upright, in page units (see face.h).
     static QSizeF pageSize();
-    /// Paints a page on a painter whose units are those of the page; only what touches `visible` if that is given.
-    /// index from 0.
+    /// Paints a page; the painter's units are page units. If `visible` is given, only what touches it. index from 0.
     void paint(QPainter& painter, int index, const QRectF& visible = {}) const;
-    /// A page's text, line by line, for those who hear it.
+    /// A page's text, line by line, for a screen reader.
     QString textOf(int index) const;
     int count() const { return static_cast<int>(pages.size()); }
 };
 
-/// Breaks a report into pages. There is always at least one.
+/// Divides a report into pages; always at least one.
 Layout layOut(const Content& content);
 
 } // namespace reports

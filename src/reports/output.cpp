@@ -15,7 +15,7 @@ constexpr const char* name = "libmarlowbeck_output.so";
 const Output& load() {
     const std::filesystem::path beside = std::filesystem::read_symlink("/proc/self/exe").parent_path() / name;
     void* library = ::dlopen(beside.c_str(), RTLD_NOW);
-    if (library == nullptr) library = ::dlopen(name, RTLD_NOW); // a test has it linked in
+    if (library == nullptr) library = ::dlopen(name, RTLD_NOW); // tests link the library directly
     const void* table = library == nullptr ? nullptr : ::dlsym(library, "marlowbeckOutput");
     if (table == nullptr)
         throw store::Error(store::Number::fileNotFound53, beside.string(), ::dlerror(),

@@ -16,15 +16,14 @@ struct PdfHeading;
 
 enum class GraphFormat { png, svg, pdf };
 
-/// A graph on the screen: a widget for the caller to place, and how it is given what it shows.
+/// A graph on the screen: a widget that the caller places, and the function that sets its content.
 struct GraphPane {
     QWidget* widget;
     std::function<void(const Graph&)> show;
 };
 
-/// What draws charts, and writes text documents, workbooks and the properties of PDF files. It lives in a library of
-/// its own, since the toolkit's charts and the workbook writer bring more to load and relocate than all the rest of the
-/// program, and no start needs them.
+/// Draws charts, and writes text documents, workbooks and PDF properties. A library of its own, because Qt's charts and
+/// the workbook writer take longer to load than all the rest of the program, and start-up does not need them.
 struct Output {
     GraphPane (*newGraphPane)();
     QByteArray (*exportedGraph)(const Graph& graph, GraphFormat format, QPageLayout::Orientation orientation);
@@ -35,7 +34,7 @@ struct Output {
     QByteArray (*toXlsx)(const Content& content);
 };
 
-/// The library, loaded when it is first asked for. Throws store::Error if it does not lie beside the program.
+/// The library, loaded on first use. Throws store::Error if it is missing beside the program.
 const Output& output();
 
 } // namespace reports

@@ -55,7 +55,7 @@ PageFrame::PageFrame(const Content& content) : m_date(content.date) {
 
 Measure PageFrame::flow() { return {marginLeft, Layout::pageSize().width() - marginLeft - marginRight}; }
 
-/// Where the line on client and day begins, below the practice's lines and their rule.
+/// The top of the line with client and date, below the practice's lines and their rule.
 double PageFrame::headTop() const {
     return marginTop + (m_header.empty() ? 0 : heightOf(m_header) + points(5) + headGap);
 }

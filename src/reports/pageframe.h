@@ -10,23 +10,23 @@ namespace reports {
 
 struct Content;
 
-/// Where something stands across the page, in its units.
+/// A horizontal position and width, in page units.
 struct Measure {
     double x = 0;
     double width = 0;
 };
 
-/// What stands around the text of each page: the practice's lines above and below, the page's number, the day, and of
-/// whom the page speaks, so that a sheet that has lost its fellows still says where it belongs.
+/// The frame around the text of each page: the practice's lines at top and bottom, the page number, the date, and the
+/// client, so that a single sheet still shows which report it belongs to.
 ///
-/// Every line is shown whole, whatever its letters: what is wider than the page runs on over further lines.
+/// A line wider than the page wraps over further lines; nothing is cut.
 class PageFrame {
 public:
     explicit PageFrame(const Content& content);
 
-    /// The part of the page's width that the text takes.
+    /// The horizontal extent of the text.
     static Measure flow();
-    /// Where the text begins on a page, from 0, and where it must end.
+    /// Where the text of a page (from 0) begins, and where it must end.
     double top(std::size_t page) const;
     double bottom() const { return m_bottom; }
 
@@ -38,13 +38,13 @@ private:
     void addFooter(Page& page, const QString& number) const;
 
     std::vector<Paragraph> m_header, m_footer;
-    Paragraph m_client;  ///< of the first page
-    Paragraph m_running; ///< client and title, of the pages after it
+    Paragraph m_client;  ///< on the first page
+    Paragraph m_running; ///< client and title, on later pages
     QString m_date;
     double m_bottom = 0;
 };
 
-/// Puts a line of text on a page, its top left corner at (x, y).
+/// Adds a line of text to a page, its top left corner at (x, y).
 void addLine(Page& page, const Line& line, const Face& face, double x, double y);
 
 } // namespace reports

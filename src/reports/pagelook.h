@@ -10,7 +10,7 @@ struct Block;
 struct Cell;
 struct Row;
 
-/// The measures of a printed page, in its units. The pages and the exports that keep their look share them.
+/// The measurements of a printed page, in page units. Pages and exports share them.
 namespace look {
 inline constexpr double marginLeft = millimetres(20);
 inline constexpr double marginRight = millimetres(20);
@@ -23,25 +23,25 @@ inline constexpr double hairline = points(0.5);    ///< under a row and above th
 inline constexpr double headLine = points(0.9);    ///< under column heads
 inline constexpr double frameLine = points(1.2);   ///< under the header
 inline constexpr double headerGap = points(4);     ///< between the header's text and its rule
-inline constexpr double headGap = points(6);       ///< between the rule's room and the line on client and day
-inline constexpr double belowHead = points(12);    ///< between that line and the flow
+inline constexpr double headGap = points(6);       ///< between that rule and the line with client and date
+inline constexpr double belowHead = points(12);    ///< between that line and the text
 inline constexpr double answerPadding = points(5); ///< above and below an answer, within its band
-inline constexpr double aboveFooter = points(10);  ///< between the flow and the footer's rule
+inline constexpr double aboveFooter = points(10);  ///< between the text and the footer's rule
 inline constexpr double footerGap = points(5);     ///< between that rule and the footer's text
 inline constexpr double afterTable = points(4);
-/// Six times the size of the text, as in the screens' text fields: columns made with tabs are columns on paper.
+/// Six times the text size, as in the screens' text fields: columns made with tabs line up on paper too.
 inline constexpr double tabStop = points(57);
-inline constexpr std::size_t rowsTogether = 4; ///< at least so many under a table's heads, if it has them
+inline constexpr std::size_t rowsTogether = 4; ///< at least this many rows follow a table's heads on the same page
 } // namespace look
 
-/// The face of a block's text, and of a row's cells.
+/// The face of a block's text, or of a row's cells.
 const Face& faceOf(const Block& block);
 const Face& faceOf(const Row& row, bool head);
-/// The face of one cell, in a row of that face: a figure is never broken, one that is too wide for its column is set
-/// smaller, as far as there are smaller faces.
+/// The face of one cell in a row of that face. A figure is never broken: if it is too wide for its column, a smaller
+/// face is used, if there is one.
 const Face& faceOf(const Cell& cell, const Face& row, double width);
 
-/// Room above a block unless it opens its page or column, and below it.
+/// The space above a block, unless it is first on its page or column, and the space below it.
 double spaceBefore(const Block& block);
 double spaceAfter(const Block& block);
 

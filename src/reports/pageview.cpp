@@ -29,14 +29,14 @@ double PageView::gap() const { return fontMetrics().height() * 1.2; }
 
 QSizeF PageView::pageSize(double scale) const { return Layout::pageSize() * (scale * logicalDpiX() / unitsPerInch); }
 
-/// A page's place on the viewport as it is scrolled now.
+/// A page's rectangle in the viewport at the current scroll position.
 QRectF PageView::pageArea(int page) const {
     const QSizeF size = pageSize(m_scale);
     const double contentWidth = size.width() + 2 * gap();
     const double left = contentWidth <= viewport()->width() ? (viewport()->width() - size.width()) / 2
                                                             : gap() - horizontalScrollBar()->value();
     const double top = gap() + page * (size.height() + gap()) - verticalScrollBar()->value();
-    // Whole pixels, so that the paper's edges are sharp.
+    // Whole pixels keep the paper's edges sharp.
     return {std::round(left), std::round(top), std::round(size.width()), std::round(size.height())};
 }
 
@@ -53,7 +53,7 @@ void PageView::showPage(int page) {
 
 double PageView::fittingScale() const {
     const QSizeF natural = pageSize(1);
-    // Room for the scroll bar is kept free also before it shows, or the width would jump with it.
+    // Space for the scroll bar is reserved before it appears; otherwise the width would change when it does.
     const int bar = verticalScrollBar()->isVisible() ? 0 : verticalScrollBar()->sizeHint().width();
     const double width = (viewport()->width() - bar - 2 * gap()) / natural.width();
     if (m_zoom == Zoom::pageWidth) return width;
@@ -70,7 +70,7 @@ void PageView::setScale(double scale) {
     rescale(scale);
 }
 
-/// The place at the middle of the view stays where it is.
+/// Changes the scale; the place in the middle of the view stays there.
 void PageView::rescale(double scale) {
     const double pitch = pageSize(m_scale).height() + gap();
     const bool atTop = verticalScrollBar()->value() == 0;
@@ -114,7 +114,7 @@ void PageView::paintEvent(QPaintEvent* event) {
         const QRectF shadow = area.adjusted(1, 2, 2, 3);
         if (!shadow.intersects(event->rect())) continue;
         painter.fillRect(shadow, QColor(0, 0, 0, 70));
-        painter.fillRect(area, Qt::white); // paper is white in a dark theme too
+        painter.fillRect(area, Qt::white); // paper is white even in a dark theme
         const double scale = area.width() / Layout::pageSize().width();
         const QRectF visible = area.intersected(event->rect()).translated(-area.topLeft());
         painter.save();
@@ -136,7 +136,7 @@ void PageView::resizeEvent(QResizeEvent* event) {
 }
 
 void PageView::scrollContentsBy(int dx, int dy) {
-    viewport()->scroll(dx, dy); // only the strip that comes into view is painted
+    viewport()->scroll(dx, dy); // repaints only the strip that comes into view
     notePage();
 }
 
@@ -162,7 +162,7 @@ void PageView::mouseMoveEvent(QMouseEvent* event) {
 void PageView::mouseReleaseEvent(QMouseEvent*) { viewport()->setCursor(Qt::OpenHandCursor); }
 
 void PageView::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Space) // as in readers of all kinds: on by a screenful
+    if (event->key() == Qt::Key_Space) // forward by a screenful, as in other readers
         verticalScrollBar()->triggerAction(event->modifiers().testFlag(Qt::ShiftModifier)
                                                ? QAbstractSlider::SliderPageStepSub
                                                : QAbstractSlider::SliderPageStepAdd);

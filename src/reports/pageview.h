@@ -7,8 +7,8 @@ namespace reports {
 
 struct Layout;
 
-/// The pages of a report one below the other. A page is painted when it comes into view and only where it shows, so
-/// that a report of a hundred pages opens as fast as one of two.
+/// The pages of a report one below the other. Only the visible part of a page is painted, so a report of a hundred
+/// pages opens as fast as one of two.
 class PageView : public QAbstractScrollArea {
     Q_OBJECT
 
@@ -20,12 +20,12 @@ public:
     /// The page at the middle of the view, from 0.
     int currentPage() const;
     int pageCount() const;
-    /// Scrolls so that the page's top is in view; a number outside the report is taken to its nearest end.
+    /// Scrolls to the top of a page; a number outside the report means its first or last page.
     void showPage(int page);
 
     Zoom zoomMode() const { return m_zoom; }
     void setZoom(Zoom zoom);
-    /// 1 shows a page in its real size. Kept between 0.1 and 8.
+    /// 1 shows a page in its real size. Limited to 0.1 to 8.
     void setScale(double scale);
     double scale() const { return m_scale; }
 

@@ -11,11 +11,11 @@ namespace {
 
 const Face& faceOf(const Run& run, const Face& base) {
     const Faces& faces = Faces::all();
-    if (&base != &faces.body) return base; // headings have one face only
+    if (&base != &faces.body) return base; // headings have only one face
     return run.bold ? faces.bold : run.italic ? faces.italic : base;
 }
 
-/// Most texts are a word or a number that fits: no line breaking is needed to see that.
+/// Most texts are a word or a number that fits on one line; they need no line breaking.
 bool fitsOneLine(const std::vector<Run>& runs, const Face& face, double width, Paragraph& paragraph) {
     if (runs.size() != 1 || runs.front().text.contains('\n') || runs.front().text.contains('\t')) return false;
     const Face& own = faceOf(runs.front(), face);
@@ -25,7 +25,7 @@ bool fitsOneLine(const std::vector<Run>& runs, const Face& face, double width, P
     return true;
 }
 
-/// What stands between two tabs is a piece of its own, at its place.
+/// Adds the pieces of a line: each text between two tabs is a piece at its own position.
 void addPieces(Line& made, const QTextLine& line, const QString& text, int from, int to, const Face& face) {
     while (from < to) {
         const auto tab = static_cast<int>(text.indexOf('\t', from));

@@ -9,7 +9,7 @@ namespace reports {
 
 struct Run;
 
-/// Some text in one face on one line, measured from the line's start.
+/// A text in one face within one line; its position counts from the start of the line.
 struct Piece {
     double x = 0;
     QString text;
@@ -23,13 +23,13 @@ struct Line {
 
 struct Paragraph {
     std::vector<Line> lines;
-    const Face* face = nullptr; ///< gives the height of its lines
+    const Face* face = nullptr; ///< determines the line height
 
     double height() const { return static_cast<double>(lines.size()) * face->lineHeight; }
 };
 
-/// Runs of text broken into lines no wider than `width`, between words where that goes. A heading's face is the face of
-/// all of it; in body text a run may be bold or slanted.
+/// Breaks runs of text into lines no wider than `width`, between words if possible. A heading has the same face
+/// throughout; in body text a run may be bold or italic.
 Paragraph broken(const std::vector<Run>& runs, const Face& face, double width);
 
 } // namespace reports

@@ -20,7 +20,7 @@
 namespace reports {
 namespace {
 
-/// A field for the page's number that leaves the wheel to the pages.
+/// A field for the page number that ignores the mouse wheel, which scrolls the pages.
 class PageField : public QSpinBox {
 public:
     using QSpinBox::QSpinBox;
@@ -38,19 +38,19 @@ PreviewWindow::PreviewWindow(std::shared_ptr<const Report> report, screenkit::De
       m_savedLine(screenkit::newSavedLine(desk)) {
     setObjectName("reportPreview");
     setAttribute(Qt::WA_DeleteOnClose);
-    setAttribute(Qt::WA_QuitOnClose, false); // the program ends with its main window, not with its last preview
+    setAttribute(Qt::WA_QuitOnClose, false); // closing the last preview must not end the program
     setWindowTitle(m_report->windowTitle);
     setCentralWidget(m_view);
     m_view->setObjectName("pages");
     m_bar->setObjectName("reportToolBar");
     m_bar->setMovable(false);
-    m_bar->setContextMenuPolicy(Qt::PreventContextMenu); // it cannot be hidden: there is no menu to bring it back
+    m_bar->setContextMenuPolicy(Qt::PreventContextMenu); // no menu could bring a hidden toolbar back
     setContextMenuPolicy(Qt::PreventContextMenu);
     const int glyph = fontMetrics().height() * 5 / 4;
     m_bar->setIconSize({glyph, glyph});
     addActions();
     statusBar()->addWidget(m_savedLine, 1);
-    statusBar()->hide(); // until there is something to say
+    statusBar()->hide(); // until there is a message
     const QSize room = screen()->availableSize();
     resize(std::min(fontMetrics().height() * 54, room.width() * 95 / 100), room.height() * 88 / 100);
     connect(m_view, &PageView::pageChanged, this, &PreviewWindow::showPage);
@@ -104,7 +104,7 @@ void PreviewWindow::addActions() {
     if (m_help) addAction("help", {}, tr("Help"), {QKeySequence::HelpContents}, m_help);
 }
 
-/// The suitcase: pressed, it exports under a name that the user picks; its arrow offers the kinds one by one.
+/// The suitcase button: a click exports under a name that the user chooses; its arrow lists the formats.
 QToolButton* PreviewWindow::exportButton() {
     auto* button = new QToolButton;
     button->setObjectName("exportButton");

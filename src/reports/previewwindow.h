@@ -18,8 +18,8 @@ namespace reports {
 class PageView;
 class PrinterSession;
 
-/// A report on the screen: a window of its own that lives on when the screen that ran it is closed. Everything that it
-/// shows, prints or exports comes from the report that it holds.
+/// A report on the screen, in a window that stays open when the screen that ran it is closed. It shows, prints and
+/// exports only the report that it holds.
 class PreviewWindow : public QMainWindow {
     Q_OBJECT
 
@@ -30,10 +30,10 @@ public:
     const Report& report() const { return *m_report; }
     PageView& view() { return *m_view; }
 
-    /// Asks for a file name, this kind first among those offered, and exports. False if cancelled or failed.
+    /// Asks for a file name, with this format preselected, and exports. False if cancelled or failed.
     bool exportReport(Format first = Format::pdf);
-    /// Writes the export whole or not at all, and says where; a failure shows a box. The kind goes by the name's
-    /// ending.
+    /// Writes the export completely or not at all, and shows where; a failure shows a message. The name's ending
+    /// decides the format.
     bool exportTo(const QString& fileName);
 
 private:

@@ -12,14 +12,14 @@
 namespace reports {
 namespace {
 
-/// The pages that the print dialog asked for, from 0; all of them unless it named some.
+/// The first and last page chosen in the print dialog, from 0; all pages if none were chosen.
 std::pair<int, int> pagesAskedFor(const QPrinter& printer, int count) {
     if (printer.printRange() != QPrinter::PageRange || printer.fromPage() < 1) return {0, count - 1};
     const int to = printer.toPage() < 1 ? count : printer.toPage();
     return {std::min(printer.fromPage(), count) - 1, std::min(to, count) - 1};
 }
 
-/// A page is laid out on A4. On other paper it is made smaller as a whole, so that it breaks nowhere else.
+/// A page is laid out for A4. On other paper it is scaled as a whole, so that the page breaks stay the same.
 void fitToPaper(QPainter& painter, const QPrinter& printer) {
     const QRectF paper = printer.paperRect(QPrinter::DevicePixel);
     const QSizeF page = Layout::pageSize();

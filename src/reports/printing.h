@@ -14,7 +14,7 @@ namespace reports {
 
 struct Report;
 
-/// The session's printer: chosen once by Printer Setup or from a preview, used by every printout after that.
+/// The session's printer: chosen by Printer Setup or from a preview, then used for every printout.
 class PrinterSession {
 public:
     PrinterSession(screenkit::Desk& desk, std::function<std::unique_ptr<QPrinter>()> factory);
@@ -24,13 +24,13 @@ public:
 
     QPrinter& printer();
 
-    /// True if a printer is installed. If none is, a warning box says so, and what can still be done.
+    /// True if a printer is installed. Otherwise a warning says so and names the alternatives.
     bool available();
-    /// The system's print dialog on the session's printer; false if it was cancelled or there is no printer.
+    /// Shows the system's print dialog for the session's printer; false if cancelled or if there is no printer.
     bool choose();
-    /// Straight to the session's printer. False, with a box, if that could not be done.
+    /// Prints on the session's printer without asking. False, after a message, on failure.
     bool print(const Report& report, int copies);
-    /// The print dialog first, then what was chosen there.
+    /// Shows the print dialog, then prints with the settings chosen there.
     bool chooseAndPrint(const Report& report);
 
 private:

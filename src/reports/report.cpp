@@ -16,7 +16,7 @@
 namespace reports {
 namespace {
 
-/// The name after any separators before it: screens write "\Lonrepa.rpt".
+/// The file for a name. Leading separators are removed, since screens write "\Lonrepa.rpt".
 std::filesystem::path named(const std::filesystem::path& folder, const QString& name) {
     const std::filesystem::path inside = store::nativePath(name.toStdString()).relative_path();
     return store::existingSpelling(folder / inside);
@@ -63,7 +63,7 @@ QString Engine::practice() const {
     try {
         return practiceOf(Snapshot(named(m_programFolder, "Print.mdb"), {}).headerLines());
     } catch (const store::Error&) {
-        return {}; // a picture of figures can do without
+        return {}; // only a graph file's author: it can be missing
     }
 }
 

@@ -20,14 +20,14 @@ struct Report;
 
 using screenkit::Destination;
 
-/// Makes the session's printer; a test makes one that prints into a PDF file.
+/// Creates the session's printer; a test creates one that prints into a PDF file.
 using PrinterFactory = std::function<std::unique_ptr<QPrinter>()>;
 
-/// Runs report definitions (`*.rpt` in the program folder) against the rows of Print.mdb beside them.
+/// Runs report definitions (`*.rpt` in the program folder) on the rows of Print.mdb beside them.
 ///
 /// A screen writes its rows with datastore::PrintFeed, then calls run(). The rows are read once, when the report is
-/// run: a later feed never changes a preview that is open. Previews are windows of their own, several at a time; they
-/// outlive the screen and end with the engine.
+/// run: later printouts do not change an open preview. Previews are separate windows; several may be open. They stay
+/// open when the screen closes, until the engine is destroyed.
 class Engine {
 public:
     Engine(screenkit::Desk& desk, std::filesystem::path programFolder, PrinterFactory printerFactory = {});
@@ -35,33 +35,33 @@ public:
     Engine(const Engine&) = delete;
     Engine& operator=(const Engine&) = delete;
 
-    /// Copies of the next run that goes to the printer, 1 to 99; back to 1 after every run, also one that failed.
+    /// Number of copies of the next run to the printer, 1 to 99; reset to 1 after every run, even a failed one.
     int CopiesToPrinter = 1;
 
     /// definition: the file's name, with or without a separator before it, matched without case ("\Lonrepa.rpt").
-    /// title: the preview window's title, letter for letter; empty: the definition's own title.
-    /// A missing or broken definition, an unknown field or table, a missing Print.mdb and a missing printer each show
-    /// one box and give false; the program goes on.
+    /// title: the preview window's title, used unchanged; if empty, the definition's own title. A missing or invalid
+    /// definition, an unknown field or table, a missing Print.mdb or a missing printer shows one message and returns
+    /// false.
     bool run(const QString& definition, const QString& title, Destination destination);
 
-    /// The report itself, without a window or a box. Throws store::Error, which names the file.
+    /// Prepares the report without a window or message. Throws store::Error, which names the file.
     std::shared_ptr<const Report> prepare(const QString& definition, const QString& title = {}) const;
-    /// Its pages as a PDF. Throws store::Error.
+    /// The report's pages as a PDF. Throws store::Error.
     QByteArray pdf(const QString& definition, const QString& title = {}) const;
 
     /// The open previews, oldest first.
     std::vector<PreviewWindow*> previews() const;
     void closePreviews();
 
-    /// What F1 does in a preview; by itself it does nothing there.
+    /// Sets what F1 does in a preview; without it F1 does nothing there.
     void setHelp(std::function<void()> help) { m_help = std::move(help); }
 
-    /// The menu's Printer Setup: the system's print dialog, whose choice lasts for the session. With no printer
-    /// installed a warning box says so.
+    /// Printer Setup of the menu: shows the system's print dialog; its settings last for the session. If no printer is
+    /// installed, a warning says so.
     void setUpPrinter();
-    /// The practice, as files of all kinds name their author; empty if it has not said so or Print.mdb can't be read.
+    /// The practice's name, as author of exported files; empty if there is none or Print.mdb can't be read.
     QString practice() const;
-    /// The session's printer, for what else prints (graphs).
+    /// The session's printer, for other printouts (graphs).
     QPrinter& printer();
 
 private:

@@ -21,7 +21,7 @@ TableRows readTable(store::Database& database, const QString& name) {
     return read;
 }
 
-/// A text of the table's first row, blanks at its ends dropped; empty if there is none.
+/// A trimmed text of the table's first row; empty if there is none.
 QString line(const TableRows& table, const QString& field) {
     const int column = table.column(field);
     if (column < 0 || table.rows.empty()) return {};
@@ -46,7 +46,7 @@ int TableRows::column(const QString& field) const {
 
 Snapshot::Snapshot(const std::filesystem::path& printDatabase, const QStringList& tables) {
     store::Database database(printDatabase);
-    database.execute("BEGIN"); // one state of the file, though several tables are read; closing ends it
+    database.execute("BEGIN"); // so that all tables are read from one state of the file; closing ends the transaction
     for (const QString& name : tables)
         if (database.hasTable(name.toStdString())) m_tables.push_back(readTable(database, name));
     const TableRows headFoot = readTable(database, "HeadFoot");

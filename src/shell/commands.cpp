@@ -71,7 +71,7 @@ constexpr MenuItem items[] = {
     {"mnuCRM", "CRM", "", "frmCRM"},
     {"mnuActPending", "Activities Pending", "", "frmActPending"},
 
-    // Pop-ups of the toolbar, in no bar.
+    // Pop-up menus of the toolbar; not in the menu bar.
     {"mnuBanking", "Banking", nullptr},
     {"mnuDayBal1", "&Daily Balance", "mnuBanking", "frmDayBal"},
     {"mnuNomEffec1", "&Nominal/Effective", "mnuBanking", "frmNomEffec"},

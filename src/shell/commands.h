@@ -4,9 +4,9 @@
 
 namespace shell {
 
-/// One item of the menu: its name, its caption as it stands, the item that it hangs under ("" for the bar itself) the
-/// screen that it opens and its shortcut key. What it does besides opening a screen stands in menuactions.cpp, under
-/// its name; an item under which others hang is a drop-down.
+/// One item of the menu: its name, its caption, its parent item ("" for the menu bar), the screen that it opens and its
+/// shortcut key. If it does something other than opening a screen, menuactions.cpp has its action under its name. An
+/// item with children is a drop-down.
 struct MenuItem {
     const char* name;
     const char* caption;
@@ -15,11 +15,11 @@ struct MenuItem {
     const char* shortcut = "";
 };
 
-/// The whole menu, each item behind its parent. Parents without a caption are the toolbar's pop-ups and stand in no
-/// bar.
+/// The whole menu; each item comes after its parent. Parents without a caption are pop-up menus of the toolbar and do
+/// not appear in the menu bar.
 std::span<const MenuItem> menuItems();
 
-/// One button of the toolbar: its icon, its tip, and the menu item that it stands for (a drop-down: it pops up).
+/// One toolbar button: its icon, its tip, and its menu item (a drop-down pops up).
 struct ToolButton {
     const char* icon;
     const char* tip;

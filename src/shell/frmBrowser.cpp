@@ -74,7 +74,7 @@ void frmBrowser::showChapter(const QString& heading) {
 }
 
 void frmBrowser::bringToTop(const QTextBlock& block) {
-    m_page->setTextCursor(QTextCursor(block)); // a screen reader reads on from there
+    m_page->setTextCursor(QTextCursor(block)); // a screen reader continues from here
     const double top = m_page->document()->documentLayout()->blockBoundingRect(block).top();
     m_page->verticalScrollBar()->setValue(static_cast<int>(top));
 }
@@ -106,7 +106,7 @@ void frmBrowser::showHit(int step) {
     QTextBlock heading = m_hits[m_hit].block();
     while (heading.isValid() && heading.blockFormat().headingLevel() != 2)
         heading = heading.previous();
-    const QSignalBlocker stay(m_contents); // a line that is chosen would lead to the top of its chapter
+    const QSignalBlocker stay(m_contents); // without it, selecting a line would jump to the start of its chapter
     const auto lines = m_contents->findItems(heading.text(), Qt::MatchExactly);
     if (!lines.isEmpty()) m_contents->setCurrentItem(lines.front());
 }

@@ -11,14 +11,14 @@ class QTextBrowser;
 
 namespace shell {
 
-/// A help page that lies beside the program: the user's guide, with its contents beside it and a search that marks
-/// every place and leads from one to the next. A missing page shows one line that says so.
+/// A help page from the program's folder: the user's guide, with a table of contents and a search that marks every
+/// match and moves between them. A missing page shows one line that says so.
 class frmBrowser : public screenkit::Screen {
     Q_OBJECT
 public:
     explicit frmBrowser(screenkit::Workplace& workplace);
 
-    /// Brings the chapter of this heading to the top; a heading that is not there changes nothing.
+    /// Scrolls to the chapter with this heading; an unknown heading changes nothing.
     void showChapter(const QString& heading);
 
 protected:
@@ -30,7 +30,7 @@ private:
     void buildSearch();
     void readGuide();
     void search();
-    /// The place that many further on, round and round.
+    /// Moves by this many matches, cyclically.
     void showHit(int step);
     void bringToTop(const QTextBlock& block);
 
@@ -38,7 +38,7 @@ private:
     QListWidget* m_contents;
     QLineEdit* m_search;
     QLabel* m_found;
-    QList<QTextCursor> m_hits; ///< where the text searched for stands
+    QList<QTextCursor> m_hits; ///< the matches of the search
     qsizetype m_hit = 0;
 };
 

@@ -11,7 +11,7 @@ namespace shell {
 
 namespace {
 
-/// True if whoever listens there belongs to this user: a stranger who takes the name must not lock the user out.
+/// True if the process that listens there belongs to this user. Another user's process must not lock this user out.
 bool heldByThisUser(const sockaddr_un& address, socklen_t length) {
     const int client = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
     if (client < 0) return false;
@@ -21,7 +21,7 @@ bool heldByThisUser(const sockaddr_un& address, socklen_t length) {
         socklen_t size = sizeof owner;
         same = getsockopt(client, SOL_SOCKET, SO_PEERCRED, &owner, &size) != 0 || owner.uid == getuid();
     } else {
-        same = errno == EAGAIN; // the queue, which nobody ever takes from, is full of refused starts
+        same = errno == EAGAIN; // nobody accepts connections, so earlier refused starts can fill the queue
     }
     close(client);
     return same;
@@ -35,7 +35,7 @@ Instance::Instance(const std::string& name) {
     const std::string label = name + "-" + std::to_string(getuid());
     std::memcpy(address.sun_path + 1, label.data(), label.size()); // the leading NUL keeps it out of the file system
     const auto length = static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + 1 + label.size());
-    m_socket = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0); // a calculator that we start must not inherit it
+    m_socket = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0); // a calculator started from here must not inherit it
     if (m_socket < 0) return;
     if (bind(m_socket, reinterpret_cast<const sockaddr*>(&address), length) == 0)
         listen(m_socket, SOMAXCONN);

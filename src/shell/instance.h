@@ -4,13 +4,13 @@
 
 namespace shell {
 
-/// The right to be the one Marlowbeck of this user on this machine.
+/// The right to be the only running Marlowbeck of this user on this machine.
 ///
-/// Held as a name that the kernel drops when the process dies, however it dies, so that a start after a crash works at
+/// Held as a socket name that the kernel frees when the process ends in any way, so that a start after a crash works at
 /// once. Another user's Marlowbeck does not count.
 class Instance {
 public:
-    /// name: what stands before the user's number; only tests give another.
+    /// name: the part before the user's number; only tests pass another one.
     explicit Instance(const std::string& name = "marlowbeck");
     ~Instance();
     Instance(const Instance&) = delete;

@@ -52,9 +52,9 @@ MDIForm1::MDIForm1(assessment::Assessment& record, datastore::Paths& paths, scre
     m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     m_area->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     m_area->setBackground(palette().window().color().darker(108));
-    m_area->setActivationOrder(QMdiArea::ActivationHistoryOrder); // a graph that is closed gives back its calculator
+    m_area->setActivationOrder(QMdiArea::ActivationHistoryOrder); // a closed graph gives way to its calculator
     setCentralWidget(m_area);
-    setContextMenuPolicy(Qt::NoContextMenu); // the toolkit's would hide the toolbar behind the menu item's back
+    setContextMenuPolicy(Qt::NoContextMenu); // Qt's own menu would hide the toolbar without updating the menu item
     new screenkit::AccessKeys(this);
     new MenuKeys(this);
     buildMenu();
@@ -69,7 +69,7 @@ MDIForm1::MDIForm1(assessment::Assessment& record, datastore::Paths& paths, scre
 
 MDIForm1::~MDIForm1() {
     m_work.reports.setHelp({});
-    // A screen may speak to its shell as it goes; left to the toolkit it would go when there is no shell any more.
+    // Screens may call their shell while they close; Qt itself would destroy them when the shell is gone.
     m_area->disconnect(this);
     delete m_area;
 }
@@ -84,7 +84,7 @@ void MDIForm1::buildMenu() {
         QMenu* under = popUp ? nullptr : menus.value(item.parent);
         if (parents.contains(item.name)) {
             auto* menu = new QMenu(item.caption, this);
-            menu->setToolTipsVisible(true); // only what is greyed out has one
+            menu->setToolTipsVisible(true); // only disabled items have one
             menu->setObjectName(item.name);
             menus[item.name] = menu;
             m_actions[item.name] = menu->menuAction();
@@ -110,7 +110,7 @@ QAction* MDIForm1::addItem(const MenuItem& item) {
     m_actions[item.name] = action;
     const MenuAction* command = menuAction(item.name);
     if (command == nullptr && screenEntry(item.screen) == nullptr) {
-        action->setEnabled(false); // what it stands for does not exist yet: nothing pretends
+        action->setEnabled(false); // its screen or action does not exist yet
         action->setToolTip(tr("Not in this version yet"));
     } else if (command == nullptr)
         connect(action, &QAction::triggered, this,
@@ -174,7 +174,7 @@ void MDIForm1::act(const std::function<void()>& command) {
 void MDIForm1::afterToolbarCommand() {
     while (QGuiApplication::overrideCursor() != nullptr)
         QGuiApplication::restoreOverrideCursor();
-    if (screens().size() == 2) cascade(m_area); // two screens side by side can both be seen
+    if (screens().size() == 2) cascade(m_area); // so that two open screens are both visible
 }
 
 QList<Screen*> MDIForm1::screens() const {
@@ -221,8 +221,8 @@ void MDIForm1::place(Screen* screen) {
 }
 
 void MDIForm1::activated(QMdiSubWindow* window) {
-    // Nothing in front means that another program or a box is: when the window comes back to the same screen, what the
-    // user was typing there must not be filled over.
+    // Null means that another program or a message box is in front. When the window returns to the same screen, the
+    // screen must not be refilled over what the user was typing.
     if (window == nullptr || window == m_front) return;
     m_front = window;
     auto* screen = qobject_cast<Screen*>(window->widget());
@@ -242,7 +242,7 @@ void MDIForm1::showClientName() { m_status->showClientName(); }
 void MDIForm1::announce(const QString& said) { m_status->announce(said); }
 
 void MDIForm1::enableToolbar(bool on) {
-    m_toolbarHolders += on ? -1 : 1; // two screens that want it off may be open at once
+    m_toolbarHolders += on ? -1 : 1; // two screens that disable it may be open at once
     m_toolbar->setEnabled(m_toolbarHolders == 0);
     showTips();
 }
@@ -308,10 +308,10 @@ bool MDIForm1::NEWUNLOAD() {
 
 void MDIForm1::CLEARLOAD() {
     const BusyCursor busy;
-    m_work.lent.forget(); // it was the old client's: a screen that closes must not give it to the new one
+    m_work.lent.forget(); // the figure was the old client's: a closing screen must not restore it into the new one
     for (const char* name : clientScreens())
         if (auto* open = qobject_cast<Screen*>(screen(name)); open != nullptr) open->drop();
-    refillScreens(); // no old client's figures beside a new one
+    refillScreens(); // no screen may show the old client's figures beside the new client
     m_status->clear();
 }
 
@@ -330,17 +330,17 @@ bool MDIForm1::mayExit() {
     if (!allEditsCommitted()) return false;
     assessment::CheckChanges(m_work.record);
     if (m_work.record.ClientChanged != 1) return true;
-    // Two answers only, unlike New and Browse: whoever wants to keep the changes answers No and saves.
-    // No comes of itself, since Enter pressed twice on the way out must not lose a client's changes.
+    // Only two answers, unlike New and Browse: to keep the changes the user answers No and saves. No is the default, so
+    // that pressing Enter twice on the way out does not lose a client's changes.
     return m_work.desk.box(BoxStyle::question, "Current changes have not been saved. Do you still want to exit. ?",
                            "Exit ?", Buttons::yesNo, Answer::no) == Answer::yes;
 }
 
 void MDIForm1::sessionEnds(QSessionManager& session) {
-    if (!session.allowsInteraction()) return; // nobody can be asked: what is unsaved goes, the file is whole
+    if (!session.allowsInteraction()) return; // nothing can be asked: changes are lost, but the file is intact
     if (mayExit())
         m_sessionMayEnd.setRemainingTime(
-            std::chrono::minutes(1)); // the close that follows does not ask again; one after a log-out called off does
+            std::chrono::minutes(1)); // the close that follows does not ask again; one after a cancelled log-out does
     else
         session.cancel();
     session.release();

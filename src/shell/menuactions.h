@@ -6,14 +6,14 @@ namespace shell {
 
 class MDIForm1;
 
-/// What a menu item does that opens no screen. `run` is empty where the item's check mark alone does it.
+/// The action of a menu item that opens no screen. `run` is empty if the item only toggles its check mark.
 struct MenuAction {
     const char* item;
     void (*run)(MDIForm1& window);
 };
 
-/// The action of a menu item; nothing for one that opens a screen, or whose action does not exist yet (it is greyed
-/// out). The screen in front has passed its checks when it runs, and a failure that it throws is told.
+/// The action of a menu item; nothing if it opens a screen or if its action does not exist yet (it is disabled). The
+/// front screen has passed its checks before it runs, and a failure that it throws is shown to the user.
 const MenuAction* menuAction(const QString& item);
 
 } // namespace shell

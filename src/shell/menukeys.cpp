@@ -12,7 +12,7 @@ namespace shell {
 
 MenuKeys::MenuKeys(QMainWindow* window) : QObject(window), m_window(window) {
     connect(new QShortcut(Qt::Key_F10, window), &QShortcut::activated, this, &MenuKeys::openMenu);
-    qApp->installEventFilter(this); // the focus may be anywhere in the window, and some controls keep their keys
+    qApp->installEventFilter(this); // the focus may be anywhere in the window, and some controls consume these keys
 }
 
 bool MenuKeys::isInFront() const {
@@ -22,7 +22,7 @@ bool MenuKeys::isInFront() const {
 bool MenuKeys::eventFilter(QObject*, QEvent* event) {
     constexpr auto others = Qt::ControlModifier | Qt::ShiftModifier | Qt::MetaModifier;
     switch (event->type()) {
-    case QEvent::ShortcutOverride: // a letter that opens a menu never comes as a key press
+    case QEvent::ShortcutOverride: // a letter that opens a menu never arrives as a key press
     case QEvent::KeyPress: {
         const auto* key = static_cast<QKeyEvent*>(event);
         m_altAlone = key->key() == Qt::Key_Alt && (key->modifiers() & others) == 0 && isInFront();

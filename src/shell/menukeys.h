@@ -6,8 +6,8 @@ class QMainWindow;
 
 namespace shell {
 
-/// Opens the menu bar by F10 and by Alt pressed and released alone, wherever in its window the focus is. What opens is
-/// the first menu with its items, so that the way on is seen; Escape gives the focus back to where it was.
+/// Opens the menu bar by F10, and by Alt pressed and released alone, wherever in its window the focus is. It opens the
+/// first menu with its items, so that the user sees how to go on; Escape returns the focus.
 class MenuKeys : public QObject {
     Q_OBJECT
 public:
@@ -21,7 +21,7 @@ private:
     bool isInFront() const;
 
     QMainWindow* m_window;
-    bool m_altAlone = false; ///< Alt is down, and nothing else has happened since
+    bool m_altAlone = false; ///< Alt is down and nothing else has happened since
 };
 
 } // namespace shell

@@ -12,7 +12,7 @@
 #include "shell/recentclients.h"
 #include "store/error.h"
 
-// How a client of the file takes the place of the one on the screens.
+// How a client from the file replaces the current one.
 namespace shell {
 
 using screenkit::BoxStyle;
@@ -28,7 +28,7 @@ void MDIForm1::mnuBrowse_Click() {
     m_decided = std::make_unique<assessment::Assessment>(m_work.record);
     auto* present = qobject_cast<screenkit::Screen*>(screen("frmBrowse"));
     open("frmBrowse");
-    if (present != nullptr) present->refill(); // also where it was in front all along: its list may be empty by a fault
+    if (present != nullptr) present->refill(); // even if it was in front already: after a failure its list may be empty
 }
 
 bool MDIForm1::settleChanges() {
@@ -39,7 +39,7 @@ bool MDIForm1::settleChanges() {
 bool MDIForm1::mayBeReplaced() {
     if (!allEditsCommitted()) return false;
     assessment::CheckChanges(m_work.record);
-    // What the user has given up, or saved, on the way to the list is not asked about a second time.
+    // Changes that the user discarded or saved on the way to the list are not asked about a second time.
     return (m_decided != nullptr && *m_decided == m_work.record) || settleChanges();
 }
 
@@ -56,8 +56,8 @@ bool MDIForm1::openClient(double key) {
         }
     });
     if (!loaded) {
-        if (!vanished) return false; // the client who was on the screens still is
-        refillScreens();             // the record is blank: no screen shows the old client any longer
+        if (!vanished) return false; // otherwise the client on the screens is still there
+        refillScreens();             // the record is blank: no screen may show the old client
         showClientName();
         return false;
     }
@@ -103,7 +103,7 @@ void MDIForm1::listRecentClients(QMenu* file) {
     if (number > 0) separator();
 }
 
-/// A key may have gone to another client meanwhile, in a file that was put back or worked on elsewhere.
+/// The key may belong to another client by now, if the file was restored from a backup or changed on another computer.
 void MDIForm1::openRecent(const RecentClient& client) {
     const auto now = datastore::readClientLine(m_work.paths.DataDbPath, client.DCLNO);
     if (now && RecentClient{now->DCLNO, QString::fromStdString(now->Name), now->BirthDate} == client) {

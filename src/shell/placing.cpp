@@ -10,7 +10,7 @@ namespace shell {
 namespace {
 
 constexpr QSize usualSize(947, 692);
-// Nobody knows the frame before the window stands: room for the widest in use.
+// The frame's size is unknown before the window is shown: room for the widest one in use.
 constexpr QMargins frameRoom(5, 38, 5, 5);
 
 QSize roomOf(const QMdiArea* area) { return area->viewport()->size(); }

@@ -5,23 +5,24 @@
 class QMdiArea;
 class QMdiSubWindow;
 
-/// Where windows go. Child windows are placed in the coordinates of their area.
+/// Positions of windows. Child windows are placed in the coordinates of their area.
 namespace shell {
 
-/// The main window at the start, without its frame, in the middle of the room that panels and docks leave free: of its
-/// usual size, with two thirds of a large screen's room, and with its frame never larger than the room.
+/// The main window at start-up, without its frame, centred in the area that panels and docks leave free: its usual
+/// size, or two thirds of a large screen; with its frame never larger than the area.
 QRect startGeometry(const QRect& available);
 
-/// A window that opens comes to the top left at the size that its screen asks for, as far as there is room.
+/// Places a new window at the top left, in the size that its screen asks for, or as much of it as fits.
 void placeAtTopLeft(QMdiArea* area, QMdiSubWindow* window);
 
-/// A window that is brought to the front and fits is brought wholly into view.
+/// Moves a window that comes to the front fully into view, if it fits.
 void bringIntoView(QMdiArea* area, QMdiSubWindow* window);
 
-/// One behind the other, from the top left down, each wholly in view if it fits: where room is short they stand closer.
+/// Places windows one behind the other, from the top left down, each fully visible if it fits; closer together if there
+/// is little space.
 void cascade(QMdiArea* area);
 
-/// The minimised windows in rows from the bottom left.
+/// Places the minimised windows in rows from the bottom left.
 void arrangeIcons(QMdiArea* area);
 
 } // namespace shell

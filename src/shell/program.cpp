@@ -82,7 +82,7 @@ void Program::showWindow() {
     m_window->resize(place.size());
     m_window->move(place.topLeft());
     m_window->show();
-    QApplication::processEvents(); // painted before the files are looked for
+    QApplication::processEvents(); // painted before the files are searched for
 }
 
 void Program::checkArithmetic() {

@@ -19,17 +19,17 @@ namespace shell {
 class Instance;
 class MDIForm1;
 
-/// One run of the program: the record, the files and the main window, brought up in their order.
+/// One run of the program: creates the record, the files and the main window in this order.
 class Program {
 public:
-    /// programFolder: where the databases and report definitions lie. instanceName: see Instance.
+    /// programFolder: the folder of the databases and report definitions. instanceName: see Instance.
     Program(screenkit::Desk& desk, std::filesystem::path programFolder, std::string instanceName = "marlowbeck");
     ~Program();
 
-    /// The whole start: refuses a second instance before any file is touched, shows the window, finds, creates or
-    /// brings up to date the files, blanks the record. False if the program must end; the user has been told why.
+    /// The whole start-up: refuses a second instance before touching any file, shows the window, finds, creates or
+    /// updates the files, and blanks the record. False if the program must end; the user has been told why.
     bool MDIForm_Load();
-    /// True if it was refused because another instance runs: that is no failure.
+    /// True if the start was refused because another instance runs; this is no failure.
     bool refused() const { return m_refused; }
 
     MDIForm1& window() { return *m_window; }
@@ -52,7 +52,7 @@ private:
     std::unique_ptr<MDIForm1> m_window;
 };
 
-/// Product, maker's line and version, as the main window's caption and the about box show them.
+/// Product name, description and version, as shown in the main window's caption and the about box.
 std::string programCaption();
 
 } // namespace shell

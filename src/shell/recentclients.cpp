@@ -20,7 +20,7 @@ QList<RecentClient> RecentClients::list() const {
     for (const QString& line : screenkit::userSettings().value(m_place).toStringList()) {
         const QString name = line.section('\t', parts - 1);
         const RecentClient client{line.section('\t', 0, 0).toDouble(), name, line.section('\t', 1, 1).toDouble()};
-        if (client.DCLNO > 0 && clients.size() < most) clients << client; // whatever else was put into the file
+        if (client.DCLNO > 0 && clients.size() < most) clients << client; // ignores invalid lines in the settings file
     }
     return clients;
 }

@@ -6,7 +6,7 @@
 
 namespace shell {
 
-/// A client as this user had him open last.
+/// A client as it was when this user opened it last.
 struct RecentClient {
     double DCLNO = 0;
     QString name;
@@ -15,16 +15,16 @@ struct RecentClient {
     bool operator==(const RecentClient&) const = default;
 };
 
-/// The clients of one client database that this user opened last, the latest first, five at most. They are remembered
-/// from one run to the next in the user's own settings; the database itself knows nothing of it.
+/// The five clients of one client database that this user opened last, newest first. They are stored in the user's own
+/// settings, not in the database.
 ///
-/// The keys are those of a moment ago: whoever opens one makes sure first that the row is still the same client's.
+/// The keys may be out of date: before opening a client, check that the row still belongs to it.
 class RecentClients {
 public:
     explicit RecentClients(const std::filesystem::path& dataDbPath);
 
     QList<RecentClient> list() const;
-    /// Puts a client at the top, under the name that he has now.
+    /// Puts a client at the top, under its current name.
     void remember(const RecentClient& client) const;
     void forget(double DCLNO) const;
 

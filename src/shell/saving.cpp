@@ -27,7 +27,7 @@ void offerSaveAs(Workplace& work, const store::Error& error) {
         work.shell.open("frmSaveFileAs");
 }
 
-/// Yes loses what somebody else has entered, so it is never the answer of a hasty Enter.
+/// Yes loses what another person has entered, so it is never the default button.
 bool mayOverwrite(Workplace& work, const store::Error& error) {
     const QString question = QObject::tr("Do you want to save what is on your screen over those changes ? "
                                          "To keep both answer No and use Save As.");
@@ -44,7 +44,7 @@ std::optional<datastore::Saved> saveClient(Workplace& work) {
             saved = datastore::Save(work.record, work.paths.DataDbPath);
         } catch (const datastore::ChangedInFile& error) {
             if (!mayOverwrite(work, error)) return;
-            work.record.SaveThenNew = thenNew; // the save that was refused has cleared it
+            work.record.SaveThenNew = thenNew; // the refused save has cleared it
             saved = datastore::Save(work.record, work.paths.DataDbPath, TheirChanges::overwrite);
         } catch (const datastore::OtherClientInFile& error) {
             offerSaveAs(work, error);

@@ -21,15 +21,15 @@ StatusLine::StatusLine(QMainWindow* window, const assessment::Assessment& record
     m_saved = addPanel("lblSaved", true);
     caption->setBuddy(m_name);
     window->setWindowTitle(QString::fromStdString(programCaption()));
-    // Whatever changes the record does so in answer to an event. Looking after each costs less than to have every
-    // place that sets a flag tell of it, and none can be forgotten.
+    // Every change of the record is caused by an event. Checking after each event costs less than a notification from
+    // every place that sets a flag, and no place can be forgotten.
     connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::awake, this, &StatusLine::showCaption);
 }
 
 QLabel* StatusLine::addPanel(const char* name, bool atTheEnd) {
     auto* label = new QLabel;
     label->setObjectName(name);
-    label->setTextFormat(Qt::PlainText); // a name may hold what looks like markup
+    label->setTextFormat(Qt::PlainText); // a name may look like markup
     if (atTheEnd)
         m_window->statusBar()->addPermanentWidget(label);
     else
@@ -51,7 +51,7 @@ void StatusLine::clear() {
 }
 
 void StatusLine::announce(const QString& said) {
-    m_said->setAccessibleName(said); // a screen reader says a name that changes
+    m_said->setAccessibleName(said); // a screen reader reads out a name that changes
     emit announced(said);
 }
 
@@ -65,7 +65,7 @@ void StatusLine::showCaption() {
     if (client.isEmpty() && changed) client = tr("New client");
     QString caption = QString::fromStdString(programCaption());
     if (!client.isEmpty()) caption += " - " + client + (changed ? " *" : "");
-    m_window->setWindowTitle(caption.replace("[*]", "[*][*]")); // single, it would stand for a mark of the toolkit's
+    m_window->setWindowTitle(caption.replace("[*]", "[*][*]")); // Qt replaces a single one by its own mark
 }
 
 } // namespace shell

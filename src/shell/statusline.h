@@ -9,19 +9,19 @@ class QMainWindow;
 
 namespace shell {
 
-/// What the main window tells of the client without being asked: the name in the status bar, name and an asterisk for
-/// unsaved changes in the window's caption, the time of the last save, and to a screen reader what was worked out.
+/// What the main window always shows of the client: the name in the status bar, the name with an asterisk for unsaved
+/// changes in the caption, the time of the last save, and for a screen reader the calculated results.
 class StatusLine : public QObject {
     Q_OBJECT
 public:
     StatusLine(QMainWindow* window, const assessment::Assessment& record);
 
-    /// Shows the display name that title, initials and surname make up.
+    /// Shows the display name, built from title, initials and surname.
     void showClientName();
     void showSaved();
-    /// Another client is coming, or none: nothing of the last one stays.
+    /// Clears everything about the last client, when another client or none is loaded.
     void clear();
-    /// Has a screen reader say this, once. It can be found again in the status bar.
+    /// Has a screen reader say this once. It stays readable in the status bar.
     void announce(const QString& said);
 
 signals:
@@ -34,7 +34,7 @@ private:
     QMainWindow* m_window;
     const assessment::Assessment& m_record;
     QLabel *m_name, *m_said, *m_saved;
-    QString m_captionName; ///< what the caption shows
+    QString m_captionName; ///< the name shown in the caption
     bool m_captionChanged = false;
 };
 

@@ -13,7 +13,7 @@ namespace {
 
 using namespace look;
 
-/// Writes the flow of a report: texts, tables, and columns side by side as a table whose cells hold flows.
+/// Writes the text of a report: paragraphs, tables, and columns side by side as a table whose cells hold paragraphs.
 class FlowWriter {
 public:
     FlowWriter(QXmlStreamWriter& xml, OdtStyles& styles) : m_xml(xml), m_styles(styles) {}
@@ -58,14 +58,14 @@ private:
         m_xml.writeEndElement();
     }
 
-    /// Behind an answer. Padding counts only within a border, so it has one of its own colour all round.
+    /// The band behind an answer. Padding only works inside a border, so it has a border of its own colour.
     static QString band() {
         return QString(R"(fo:background-color="%1" fo:border="0.05pt solid %1" fo:border-left="%2 solid %3" )"
                        R"(fo:padding="%4")")
             .arg(ink::resultBand.name(), odtLength(frameLine), ink::strong.name(), odtLength(answerPadding));
     }
 
-    /// A text must follow a table at the end of a cell or of the page's flow: one that nobody sees.
+    /// At the end of a cell or of the text a table must be followed by a paragraph: here one too thin to be seen.
     void addThinLine() {
         m_xml.writeEmptyElement("text:p");
         m_xml.writeAttribute("text:style-name", "Thin");
@@ -106,7 +106,7 @@ private:
         m_xml.writeEndElement();
     }
 
-    /// keepsNext: the next row stands on the same page.
+    /// keepsNext: the next row must be on the same page.
     void addRow(const Row& row, const std::vector<double>& columns, bool head, bool keepsNext = false) {
         m_xml.writeStartElement("table:table-row");
         m_xml.writeAttribute("table:style-name", m_styles.row(fitsAPage(row)));
@@ -126,7 +126,7 @@ private:
     }
 
     static bool fitsAPage(const Row& row) {
-        constexpr qsizetype mostLetters = 600; // a narrow column takes so many on half a page
+        constexpr qsizetype mostLetters = 600; // a narrow column with so many fills half a page
         return std::all_of(row.cells.begin(), row.cells.end(), [](const Cell& cell) {
             const QString text = cell.text();
             return text.size() <= mostLetters && text.count('\n') < 20;
@@ -156,7 +156,7 @@ private:
             m_xml.writeEmptyElement("table:covered-table-cell");
     }
 
-    /// The rule is part of the row's height here as on the page.
+    /// As on the page, the rule is part of the row's height.
     static QString cellLook(const Row& row, bool head) {
         const double rule = head ? headLine : hairline;
         QString look =
@@ -198,7 +198,7 @@ QByteArray contentXml(const Content& content) {
     QByteArray body;
     QXmlStreamWriter xml(&body);
     FlowWriter(xml, styles).add(content.blocks, Layout::pageSize().width() - marginLeft - marginRight);
-    xml.writeEndDocument(); // closes an element that was left open for attributes
+    xml.writeEndDocument(); // closes an element still open for attributes
     return odtRoot("document-content") + odtFonts() + "<office:automatic-styles>\n" + styles.xml().toUtf8() +
            "</office:automatic-styles>\n<office:body><office:text>\n" + body +
            "\n</office:text></office:body>\n</office:document-content>\n";
@@ -207,7 +207,7 @@ QByteArray contentXml(const Content& content) {
 } // namespace
 
 QByteArray toOdt(const Content& content) {
-    return zipped({{"mimetype", "application/vnd.oasis.opendocument.text", true}, // other programs look here first
+    return zipped({{"mimetype", "application/vnd.oasis.opendocument.text", true}, // other programs expect it first
                    {"content.xml", contentXml(content)},
                    {"styles.xml", odtFrame(content)},
                    {"meta.xml", odtMeta(content)},

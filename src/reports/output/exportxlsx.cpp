@@ -14,15 +14,15 @@ namespace reports {
 namespace {
 
 constexpr double widestColumn = 60; // digits; longer texts wrap
-constexpr double textWidth = 84;    // of what is no table: as wide as a page of text
-constexpr double rowHeight = 15;    // points, of the workbook's own font
+constexpr double textWidth = 84;    // of text outside tables: as wide as a page of text
+constexpr double rowHeight = 15;    // points, for the workbook's own font
 
 lxw_color_t colourOf(const QColor& colour) { return colour.rgb() & 0xffffff; }
 
-/// How a cell looks, whatever its figure.
+/// The look of a cell, independent of its figure.
 enum class Look { text, small, title, heading, answer, head, result, row };
 
-/// The book's formats, one for each look, since a book holds a limited number of them.
+/// The workbook's formats, one for each look, since a workbook may hold only a limited number.
 class Formats {
 public:
     explicit Formats(lxw_workbook* book) : m_book(book) {}
@@ -88,7 +88,7 @@ public:
         }
     }
 
-    /// A4, as wide as the page, the heads again on each page, the page's number below.
+    /// Prints on A4, fitted to the page's width, with repeated heads and the page number at the bottom.
     void finish() {
         for (std::size_t column = 0; column < m_widths.size(); ++column) {
             const auto at = static_cast<lxw_col_t>(column);
@@ -112,7 +112,7 @@ private:
         }
     }
 
-    /// Each column as wide as what stands in it alone; then room beside them for texts as wide as a page.
+    /// Makes each column as wide as its own cells need; then adds space at the right for texts as wide as a page.
     void measureColumns() {
         for (const Block* block : m_plan.blocks) {
             m_widths.resize(std::max(m_widths.size(), block->table.widths.size()), 8);
@@ -152,7 +152,7 @@ private:
         }
     }
 
-    /// A text over several columns: they become one cell, so that it stands over no other.
+    /// Writes a text across several columns. They are merged, so that the text covers no other cell.
     void writeAcross(const QString& text, std::size_t column, std::size_t columns, lxw_format* format) {
         const auto first = static_cast<lxw_col_t>(column);
         const auto last = static_cast<lxw_col_t>(column + columns - 1);
@@ -163,7 +163,7 @@ private:
             worksheet_write_string(m_sheet, m_row, first, text.toUtf8().constData(), format);
     }
 
-    /// A row of one line keeps the height that the reading program gives it.
+    /// A row of one line keeps the default height.
     void setHeight(int lines) {
         constexpr double highest = 409;
         if (lines > 1) worksheet_set_row(m_sheet, m_row, std::min(lines * rowHeight, highest), nullptr);
@@ -176,13 +176,13 @@ private:
         if (&table == m_plan.headed && m_row > first) {
             worksheet_repeat_rows(m_sheet, first, m_row - 1);
             if (m_plan.blocks.back()->table.rows.size() == table.rows.size() && m_plan.blocks.size() <= 2)
-                worksheet_freeze_panes(m_sheet, m_row, 0); // nothing else stands on this sheet
+                worksheet_freeze_panes(m_sheet, m_row, 0); // the table has this sheet to itself
         }
         for (const Row& row : table.rows)
             addRow(row, row.result || row.total ? Look::result : Look::row);
     }
 
-    /// A row with texts too long for one goes on in rows below.
+    /// A row whose texts are too long for one row continues in the rows below.
     void addRow(const Row& row, Look look) {
         std::vector<QStringList> texts;
         qsizetype most = 1;
@@ -214,7 +214,7 @@ private:
         if (whole && cell.number && !text.isEmpty()) {
             lxw_format* format = m_formats.get(look, cell.align, spreadsheetFormat(cell.mask, text));
             worksheet_write_number(m_sheet, m_row, at, *cell.number, format);
-        } else if (constexpr int firstYear = 1900; whole && cell.date.year() > firstYear) { // it counts from there
+        } else if (constexpr int firstYear = 1900; whole && cell.date.year() > firstYear) { // a spreadsheet's first
             lxw_datetime day{cell.date.year(), cell.date.month(), cell.date.day(), 0, 0, 0};
             worksheet_write_datetime(m_sheet, m_row, at, &day, m_formats.get(look, cell.align, "dd/mm/yyyy"));
         } else if (columns == 1) {
@@ -246,12 +246,12 @@ void addSheets(lxw_workbook* book, const Content& content) {
 } // namespace
 
 QByteArray toXlsx(const Content& content) {
-    // The library writes to a named file only; the folder is ours alone and goes with the scope.
+    // The library writes only to a named file; this private folder is removed at the end of the scope.
     const QTemporaryDir folder;
     const QByteArray path = QFile::encodeName(folder.filePath("report.xlsx"));
     const QByteArray scratch = QFile::encodeName(folder.path());
     lxw_workbook_options options{};
-    options.tmpdir = const_cast<char*>(scratch.constData()); // read only, though the library does not say so
+    options.tmpdir = const_cast<char*>(scratch.constData()); // the library reads it only, though not declared const
     lxw_workbook* book = workbook_new_opt(path.constData(), &options);
     QByteArray bookTitle = documentTitle(content).toUtf8();
     QByteArray author = practiceOf(content.headerLines).toUtf8();

@@ -66,15 +66,15 @@ QCategoryAxis* pointAxis(const Graph& graph, const ChartLook& look) {
     axis->setRange(0.5, std::max(graph.points, 1) + 0.5);
     for (const int point : labelledPoints(graph.points))
         axis->append(QString::number(point), point);
-    if (axis->count() == 0) axis->append(" ", 1); // an axis without any label loses the place of its title
-    axis->setLineVisible(false);                  // the base line is the zero line, which may lie higher
+    if (axis->count() == 0) axis->append(" ", 1); // without any label an axis would misplace its title
+    axis->setLineVisible(false);                  // the base line is the zero line, which may be higher up
     return axis;
 }
 
 QCategoryAxis* valueAxis(const Graph& graph, const ChartLook& look) {
     QCategoryAxis* axis = newAxis(look, graph.yTitle);
     const AxisScale scale = valueScale(graph);
-    const double room = (scale.maximum() - scale.minimum()) * 0.015; // so that no marker is cut at the edge
+    const double room = (scale.maximum() - scale.minimum()) * 0.015; // so that markers at the edge are not cut off
     axis->setStartValue(scale.minimum());
     for (const double tick : scale.ticks)
         axis->append(QString::fromStdString(scale.label(tick)), tick);
@@ -111,7 +111,7 @@ void addRules(QChart& chart, const Graph& graph, const ChartLook& look) {
         addRule(chart, tick, std::max(graph.points, 1) + 0.5, tick == 0 ? zero : faint);
 }
 
-// A line and its markers are two series; the legend shows the marker, which tells the lines apart even in grey.
+// A line and its markers are two series. The legend shows the marker, which distinguishes the lines even in grey.
 void addSeries(QChart& chart, const GraphSeries& data, std::size_t index, const ChartLook& look) {
     const LineStyle& style = lineStyles[index % std::size(lineStyles)];
     const QColor colour = look.series[index % look.series.size()];
@@ -132,7 +132,7 @@ void addSeries(QChart& chart, const GraphSeries& data, std::size_t index, const 
     hideInLegend(chart, line);
 }
 
-// Every label has to be readable, so the numbers shrink together once the narrowest gap gets too small for them.
+// Every label must be readable, so all numbers shrink together when the narrowest gap becomes too small.
 void fitPointLabels(QChart& chart, const QFont& wanted) {
     auto* axis = qobject_cast<QCategoryAxis*>(chart.axes(Qt::Horizontal).constFirst());
     if (axis == nullptr || axis->categoriesLabels().isEmpty()) return;

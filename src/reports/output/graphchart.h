@@ -13,24 +13,24 @@ class QLineSeries;
 
 namespace reports {
 
-/// What a chart is drawn with. Four colours that people who see no red or no green tell apart; line style and marker
-/// differ too, so that a grey copy still reads.
+/// The colours and font of a chart. The four colours can be told apart by people who do not see red or green; line
+/// styles and markers differ too, so that a grey copy is readable.
 struct ChartLook {
-    QFont font; ///< sized in pixels: the chart's unit, on the screen as on paper
+    QFont font; ///< sized in pixels, the chart's unit on screen and on paper
     QColor background, text, grid;
     std::vector<QColor> series;
 };
 
-/// On the screen: the desktop's colours and font, light or dark.
+/// For the screen: the desktop's colours and font, light or dark.
 ChartLook screenLook(const QPalette& palette, const QFont& font);
 
-/// On paper and in files: dark on white whatever the desktop looks like.
+/// For paper and files: dark on white, whatever the desktop's colours are.
 ChartLook paperLook();
 
-/// The one drawing of every graph. The caller owns the chart and gives it its size.
+/// Draws every kind of graph. The caller owns the chart and sets its size.
 std::unique_ptr<QChart> drawChart(const Graph& graph, const ChartLook& look);
 
-/// The lines of a drawn chart in the order of the graph's series, without their markers.
+/// The lines of a drawn chart, without markers, in the order of the graph's series.
 std::vector<QLineSeries*> linesOf(const QChart& chart);
 
 } // namespace reports

@@ -20,10 +20,10 @@ namespace {
 constexpr double marginMillimetres = 12;
 constexpr double pictureScale = 2.5; // 240 dots an inch on A4: sharp in a printed letter
 
-// The chart's own unit is a 96th of an inch, so that its text has one size on every device.
+// The chart's own unit is 1/96 inch, so that its text has the same size on every device.
 QSizeF chartSize(QSizeF millimetres) {
     const QSizeF size = millimetres * 96 / 25.4;
-    return {size.width(), std::min(size.height(), size.width() * 1.15)}; // a tall page must not steepen every line
+    return {size.width(), std::min(size.height(), size.width() * 1.15)}; // on a tall page lines would look too steep
 }
 
 void paintGraph(const Graph& graph, QPainter& painter, QSizeF size, const QRectF& target) {

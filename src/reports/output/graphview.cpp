@@ -31,7 +31,7 @@ void GraphView::show(const Graph& graph) {
 void GraphView::redraw() {
     m_look = screenLook(palette(), font());
     const std::unique_ptr<QChart> old(chart());
-    delete m_box; // with the label in it; the two stay in the scene when its chart is changed
+    delete m_box; // with its label; both would stay in the scene when its chart is replaced
     delete m_ring;
     setChart(drawChart(m_graph, m_look).release());
     setBackgroundBrush(m_look.background);
@@ -86,7 +86,7 @@ void GraphView::pointAt(Cursor cursor) {
     m_ring->setVisible(shown);
     m_calloutText.clear();
     if (shown) placeCallout();
-    // A screen reader reads the description out whenever it changes.
+    // A screen reader reads the description whenever it changes.
     setAccessibleDescription(shown ? m_calloutText : "Left and Right show the values, Up and Down change the line");
 }
 
@@ -107,7 +107,7 @@ QString GraphView::calloutHtml() const {
     return html + "</table>";
 }
 
-// Beside the point where there is room, and always inside the window.
+// Beside the point if there is space, and always inside the window.
 void GraphView::placeCallout() {
     const QPointF at = positionOf(m_cursor.point, m_cursor.series);
     const double unit = m_look.font.pixelSize();
@@ -139,7 +139,7 @@ void GraphView::leaveEvent(QEvent* event) {
 void GraphView::focusInEvent(QFocusEvent* event) {
     QChartView::focusInEvent(event);
     const bool byKey = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
-    if (byKey) moveAlong(1); // the cursor shows where the keyboard is
+    if (byKey) moveAlong(1); // shows where the keyboard is
 }
 
 void GraphView::focusOutEvent(QFocusEvent* event) {

@@ -10,14 +10,14 @@ class QGraphicsTextItem;
 
 namespace reports {
 
-/// A graph on the screen. The value nearest to the pointer is shown in a callout; by keyboard Left and Right, Home and
-/// End move along the points, Up and Down from line to line, and Escape takes the callout away.
+/// A graph on the screen. A callout shows the value nearest to the pointer. By keyboard, Left and Right, Home and End
+/// move along the points, Up and Down between the lines, and Escape hides the callout.
 class GraphView : public QChartView {
 public:
     explicit GraphView(QWidget* parent = nullptr);
 
     void show(const Graph& graph);
-    /// The callout's text, line by line: "Year 12", then each series with its value. Empty while none is shown.
+    /// The callout's text, line by line: "Year 12", then each series with its value. Empty while it is hidden.
     QString callout() const { return m_calloutText; }
 
 protected:
@@ -31,7 +31,7 @@ protected:
 
 private:
     struct Cursor {
-        int point = 0; ///< 1 and up; 0 while nothing is pointed at
+        int point = 0; ///< from 1; 0 while no point is selected
         int series = 0;
     };
 

@@ -15,7 +15,7 @@ GraphPane newGraphPane() {
 
 } // namespace
 
-/// What the program asks the library for once it is loaded.
+/// The symbol that the program looks up after loading the library.
 extern "C" const Output marlowbeckOutput{newGraphPane, exportedGraph, printGraph, withProperties, toOdt, toXlsx};
 
 } // namespace reports

@@ -13,7 +13,7 @@ namespace {
 
 using namespace look;
 
-constexpr double thinLine = points(1); ///< of the text that must follow a table
+constexpr double thinLine = points(1); ///< the height of the text that must follow a table
 
 QStringList headerLinesOf(const Content& content) {
     QStringList lines = content.headerLines;
@@ -35,7 +35,7 @@ void writeLine(QXmlStreamWriter& xml, const QString& style, const QString& text)
     xml.writeEndElement();
 }
 
-/// Two cells, a text at the left and one at the right: what is long at the left wraps beside the other.
+/// Two cells, a text at the left and one at the right: a long left text wraps beside the right one.
 template <class Left, class Right>
 void writeCells(QXmlStreamWriter& xml, OdtStyles& styles, const QString& cell, double width, double right, Left left,
                 Right atRight) {
@@ -62,7 +62,7 @@ void writeCells(QXmlStreamWriter& xml, OdtStyles& styles, const QString& cell, d
 
 double flowWidth() { return Layout::pageSize().width() - marginLeft - marginRight; }
 
-/// Of whom the page speaks, and the day.
+/// The client and the date.
 void writeHead(QXmlStreamWriter& xml, OdtStyles& styles, const Content& content, bool firstPage, double above) {
     const Faces& faces = Faces::all();
     const QString rule = firstPage ? QString(R"(fo:border="none")")
@@ -106,7 +106,7 @@ void writePageNumber(QXmlStreamWriter& xml, const QString& style) {
     xml.writeEndElement();
 }
 
-/// Lines at the left and the number at the right, as two cells: a long line wraps beside the number.
+/// Lines at the left and the page number at the right, as two cells: a long line wraps beside the number.
 void writeFooter(QXmlStreamWriter& xml, OdtStyles& styles, const QStringList& lines, bool firstPage) {
     const Face& face = Faces::all().footer;
     const double number = face.metrics.horizontalAdvance("Page 8888 of 8888") + points(12);
@@ -125,7 +125,7 @@ void writeFooter(QXmlStreamWriter& xml, OdtStyles& styles, const QStringList& li
     xml.writeEndElement();
 }
 
-/// Common to all texts: no room but what a style asks for, and the language that a spelling check goes by.
+/// Defaults for all texts: no spacing, and the language for spell checking.
 QByteArray commonStyles() {
     return QString(R"(<office:styles>
 <style:default-style style:family="paragraph"><style:paragraph-properties fo:margin="0pt" fo:orphans="2" fo:widows="0" style:tab-stop-distance="%2"/><style:text-properties style:font-name="Text" fo:font-size="9.5pt" fo:language="en" fo:country="ZA"/></style:default-style>
@@ -197,7 +197,7 @@ QByteArray odtMeta(const Content& content) {
            "</office:meta>\n</office:document-meta>\n";
 }
 
-/// Rows whose texts keep with the next ones do so as rows only if a document asks for it.
+/// Keeping rows together works only if the document's settings ask for it.
 QByteArray odtSettings() {
     return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
            "<office:document-settings xmlns:office=\"urn:oasis:names:tc:opendocument:xmlns:office:1.0\" "

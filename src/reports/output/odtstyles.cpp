@@ -7,7 +7,7 @@ namespace reports {
 QString odtLength(double units) { return QString::number(units * 72 / unitsPerInch, 'f', 3) + "pt"; }
 
 QString OdtStyles::letters(const Face& face) {
-    // The font's weight goes by its number: half-bold heads would else come out as bold as results.
+    // The weight is given as a number: otherwise half-bold heads would be as bold as results.
     return QString(R"(<style:text-properties style:font-name="Text" fo:font-size="%1" fo:font-weight="%2" )"
                    R"(fo:font-style="%3" fo:color="%4"/>)")
         .arg(odtLength(face.font.pixelSize()))

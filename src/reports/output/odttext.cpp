@@ -8,7 +8,7 @@
 namespace reports {
 namespace {
 
-/// Readers of the file take blanks in a row, and blanks at either end, for one or none.
+/// Readers of the file reduce several blanks to one and drop those at either end, so they are written as elements.
 void writeBlanks(QXmlStreamWriter& xml, qsizetype count) {
     xml.writeEmptyElement("text:s");
     xml.writeAttribute("text:c", QString::number(count));
@@ -41,7 +41,7 @@ void writeOdtText(QXmlStreamWriter& xml, const QString& text) {
 void writeOdtRuns(QXmlStreamWriter& xml, OdtStyles& styles, const std::vector<Run>& runs, const Face& face) {
     const Faces& faces = Faces::all();
     for (const Run& run : runs) {
-        const bool apart = &face == &faces.body && (run.bold || run.italic); // headings have one face only
+        const bool apart = &face == &faces.body && (run.bold || run.italic); // headings have only one face
         if (apart) {
             xml.writeStartElement("text:span");
             xml.writeAttribute("text:style-name", styles.span(run.bold ? faces.bold : faces.italic));

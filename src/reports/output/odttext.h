@@ -11,10 +11,10 @@ namespace reports {
 class Face;
 class OdtStyles;
 
-/// A text with its blanks, tabs and line ends as the file writes them.
+/// Writes a text with its blanks, tabs and line ends in the file's own form.
 void writeOdtText(QXmlStreamWriter& xml, const QString& text);
 
-/// Runs inside a paragraph of that face; in body text a run may be bold or slanted.
+/// Writes the runs of a paragraph in that face; in body text a run may be bold or italic.
 void writeOdtRuns(QXmlStreamWriter& xml, OdtStyles& styles, const std::vector<Run>& runs, const Face& face);
 
 } // namespace reports

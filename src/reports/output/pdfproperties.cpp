@@ -16,7 +16,7 @@ QPDFObjectHandle textObject(const QString& text) { return QPDFObjectHandle::newU
 
 QPDFObjectHandle number(std::size_t value) { return QPDFObjectHandle::newInteger(static_cast<long long>(value)); }
 
-/// The outline as the file keeps it: each heading knows its parent, its neighbours, and its first and last child.
+/// The outline as PDF stores it: each heading refers to its parent, its neighbours, and its first and last child.
 class Outline {
 public:
     Outline(QPDF& pdf, const std::vector<PdfHeading>& headings)
@@ -29,7 +29,7 @@ public:
     }
 
 private:
-    /// Makes the headings of this stretch children of `parent`; one of a lower level belongs to the one before it.
+    /// Adds the headings of this range under `parent`; a heading of a lower level goes under the one before it.
     void addUnder(QPDFObjectHandle parent, std::size_t from, std::size_t to) {
         QPDFObjectHandle previous = QPDFObjectHandle::newNull();
         std::size_t count = 0;
@@ -52,7 +52,7 @@ private:
         }
         if (count == 0) return;
         parent.replaceKey("/Last", previous);
-        parent.replaceKey("/Count", number(count)); // shown opened
+        parent.replaceKey("/Count", number(count)); // initially expanded
     }
 
     QPDFObjectHandle itemOf(const PdfHeading& heading) {
@@ -63,7 +63,7 @@ private:
         place.appendItem(QPDFObjectHandle::newName("/XYZ"));
         place.appendItem(QPDFObjectHandle::newInteger(0));
         place.appendItem(QPDFObjectHandle::newReal(height - heading.top, 2));
-        place.appendItem(QPDFObjectHandle::newNull()); // as large as the reader has it
+        place.appendItem(QPDFObjectHandle::newNull()); // keeps the reader's zoom
         QPDFObjectHandle item = QPDFObjectHandle::newDictionary();
         item.replaceKey("/Title", textObject(heading.text));
         item.replaceKey("/Dest", place);
@@ -86,7 +86,7 @@ void setProperties(QPDF& pdf, const QString& title, const QString& author) {
     QPDFObjectHandle root = pdf.getRoot();
     root.replaceKey("/Lang", QPDFObjectHandle::newString("en-ZA"));
     root.replaceKey("/ViewerPreferences", QPDFObjectHandle::parse("<< /DisplayDocTitle true >>"));
-    root.removeKey("/Metadata"); // says less than the above, and would say it otherwise
+    root.removeKey("/Metadata"); // repeats part of the above and could contradict it
 }
 
 } // namespace

@@ -6,17 +6,16 @@
 
 namespace reports {
 
-/// A heading of a document: where its reader may go.
+/// A heading of a document, as a target in the outline.
 struct PdfHeading {
     QString text;
-    int level = 1;  ///< 1 for the title, 2 for what stands under it
+    int level = 1;  ///< 1 for the title, 2 for a heading below it
     int page = 0;   ///< from 0
     double top = 0; ///< points from the page's upper edge
 };
 
-/// The same PDF with the properties that the toolkit's writer does not give: its title and author, the language of its
-/// texts (South African English), and an outline of its headings, which readers show beside the pages. Throws
-/// store::Error if the bytes are no PDF.
+/// The same PDF with properties that Qt's writer does not set: title, author, language (South African English), and an
+/// outline of its headings, which PDF readers show beside the pages. Throws store::Error if the bytes are no PDF.
 QByteArray withProperties(const QByteArray& pdf, const QString& title, const QString& author,
                           const std::vector<PdfHeading>& headings);
 

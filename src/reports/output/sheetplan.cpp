@@ -9,7 +9,7 @@
 namespace reports {
 namespace {
 
-constexpr std::size_t shortTable = 12; // rows that fit under others on one sheet
+constexpr std::size_t shortTable = 12; // rows that may share a sheet with other parts
 
 bool hasOwnSheet(const Block& block) {
     return block.kind == Block::Kind::table && !block.table.heads.empty() && block.table.rows.size() > shortTable;
@@ -81,7 +81,7 @@ private:
 std::vector<SheetPlan> sheetsOf(const Content& content) { return Planner().planned(content); }
 
 QStringList cellTexts(const QString& text) {
-    constexpr qsizetype mostLetters = 1200; // a row is no higher than some 27 lines
+    constexpr qsizetype mostLetters = 1200; // about 27 lines, the most that a row can be high
     constexpr qsizetype mostLines = 16;
     QStringList texts;
     QString rest = text;
@@ -107,7 +107,7 @@ QStringList cellTexts(const QString& text) {
 }
 
 double digitsWide(const QString& text) {
-    // The workbook's own letters are not at hand; ours keep about the same proportion to their digits.
+    // The workbook's own font is not available here; ours has about the same widths in relation to its digits.
     static const double digit = Faces::all().body.metrics.horizontalAdvance("0");
     double widest = 0;
     for (const QString& line : text.split('\n'))
@@ -117,7 +117,7 @@ double digitsWide(const QString& text) {
 
 int linesIn(const QString& text, double digits) {
     int lines = 0;
-    for (const QString& line : text.split('\n')) // a little more: a line breaks before the word that does not fit
+    for (const QString& line : text.split('\n')) // adds a little, since a line breaks before the word that does not fit
         lines += std::max(1, static_cast<int>(std::ceil(digitsWide(line) * 1.06 / std::max(digits, 1.0))));
     return lines;
 }
@@ -135,7 +135,7 @@ QByteArray spreadsheetFormat(const QString& mask, const QString& printed) {
     static const QRegularExpression printedPlaces(R"(\d\.(\d+))"); // "0.###" prints 12 as "12", never as "12."
     const qsizetype places = printedPlaces.match(printed).captured(1).size();
     if (figure.contains('.') && places > 0) format += '.' + QString(places, '0');
-    if (after.startsWith('%')) format += '%', after.remove(0, 1); // of a fraction; after a blank it is but a letter
+    if (after.startsWith('%')) format += '%', after.remove(0, 1); // only directly after the digits
     const auto literal = [](const QString& text) {
         return text.isEmpty() ? text : '"' + QString(text).remove('"') + '"';
     };

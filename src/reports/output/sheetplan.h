@@ -8,28 +8,28 @@
 
 namespace reports {
 
-/// What one sheet of a workbook shows, in its order.
+/// The content of one sheet of a workbook, in order.
 struct SheetPlan {
-    QString name; ///< as a workbook takes it: short, without the letters that it refuses, unlike all others
+    QString name; ///< valid in a workbook: short, without refused characters, unlike all others
     std::vector<const Block*> blocks;
-    const Table* headed = nullptr; ///< the only table with heads; null where there is none, or several
+    const Table* headed = nullptr; ///< the only table with heads; null if there is none or more than one
 };
 
-/// Parts a report into sheets: a long table with heads, and the heading above it, has one of its own, since the heads
-/// that a sheet repeats when it is printed stand above all of its pages. Columns side by side come one below the other.
-/// The first sheet is "Report".
+/// Divides a report into sheets. A long table with heads gets a sheet of its own, with the heading above it, because a
+/// sheet repeats only one set of heads when printed. Columns side by side are placed one below the other. The first
+/// sheet is "Report".
 std::vector<SheetPlan> sheetsOf(const Content& content);
 
-/// The text in pieces that a cell can hold and a row can show, parted at line ends and blanks; one at least.
+/// The text in parts that fit a cell and a row, split at line ends and blanks; at least one part.
 QStringList cellTexts(const QString& text);
 
-/// How many digits' width the widest line of a text takes.
+/// The width of a text's widest line, in digits.
 double digitsWide(const QString& text);
-/// Rows of letters that the text takes in a cell so many digits wide.
+/// The number of lines of the text in a cell of this width in digits.
 int linesIn(const QString& text, double digits);
 
-/// A mask as a spreadsheet writes it, with as many places as the figure was printed with: groups by its own separator
-/// (a blank in South Africa), the letters around the figure quoted.
+/// A mask in a spreadsheet's own form, with as many decimal places as the figure was printed with. It groups by the
+/// spreadsheet's separator (a blank in South Africa) and quotes the text around the figure.
 QByteArray spreadsheetFormat(const QString& mask, const QString& printed);
 
 } // namespace reports

@@ -13,7 +13,7 @@ namespace {
 
 bool add(zipFile archive, const ZipEntry& entry) {
     zip_fileinfo info{};
-    info.tmz_date = {0, 0, 0, 1, 0, 1980}; // the earliest that the format knows: the same report gives the same file
+    info.tmz_date = {0, 0, 0, 1, 0, 1980}; // the format's earliest date, so that the same report gives the same file
     const int method = entry.stored ? 0 : Z_DEFLATED;
     return zipOpenNewFileInZip(archive, entry.name, &info, nullptr, 0, nullptr, 0, nullptr, method,
                                Z_DEFAULT_COMPRESSION) == ZIP_OK &&
@@ -24,7 +24,7 @@ bool add(zipFile archive, const ZipEntry& entry) {
 } // namespace
 
 QByteArray zipped(const std::vector<ZipEntry>& entries) {
-    // The library writes to a named file; the folder is ours alone and goes with the scope.
+    // The library writes only to a named file; this private folder is removed at the end of the scope.
     const QTemporaryDir folder;
     const QString path = folder.filePath("archive.zip");
     zipFile archive = zipOpen64(QFile::encodeName(path).constData(), APPEND_STATUS_CREATE);

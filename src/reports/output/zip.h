@@ -8,10 +8,10 @@ namespace reports {
 struct ZipEntry {
     const char* name;
     QByteArray bytes;
-    bool stored = false; ///< as it is, without compression
+    bool stored = false; ///< without compression
 };
 
-/// The entries as one zip archive, in their order. Throws store::Error if its scratch file can't be written.
+/// Packs the entries into a zip archive, in order. Throws store::Error if its temporary file can't be written.
 QByteArray zipped(const std::vector<ZipEntry>& entries);
 
 } // namespace reports
