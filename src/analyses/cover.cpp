@@ -13,9 +13,10 @@ namespace {
 using assessment::ItemList;
 using assessment::ItemRow;
 
-constexpr CapitalSteps steps{.coarse = 10000}; // both ways, with no finer stage: meant, retirement's are ten times that
+// Both ways, without finer steps. Retirement's steps are ten times larger; the difference is deliberate.
+constexpr CapitalSteps steps{.coarse = 10000};
 
-/// An amount of today after so many years of inflation.
+/// Inflates an amount in today's money over this many years.
 double inflated(double amount, double percent, std::size_t years) {
     for (; years > 0; --years)
         amount = amount * percent / 100 + amount;
@@ -24,10 +25,10 @@ double inflated(double amount, double percent, std::size_t years) {
 
 /// The monthly need of a later year from the list of needs.
 ///
-/// The last row in force in list order decides. Only the first row of the list ever brings an amount of its own, in the
-/// year that it starts: today's money, inflated to that year. In every other case last year's need grows, by the row's
-/// escalation once it has started and by inflation before. That later rows never bring theirs is meant: retirement's
-/// do, and clients' figures rest on the difference.
+/// The last row in the list that is in force decides. Only the first row of the list ever sets its own amount, in the
+/// year in which it starts: in today's money, inflated to that year. In all other cases last year's need grows: by the
+/// row's escalation after its start, by inflation otherwise. That later rows never set their amounts is deliberate,
+/// unlike in the retirement analysis: clients' figures depend on it.
 double itemisedNeed(const CoverNeeds& needs, std::size_t year, double last) {
     const std::vector<ItemRow>& rows = needs.required->rows;
     const auto now = static_cast<double>(year);
@@ -39,15 +40,15 @@ double itemisedNeed(const CoverNeeds& needs, std::size_t year, double last) {
     return last + last * (row == nullptr || starts ? needs.inflation : row->Escalation) / 100;
 }
 
-/// What comes in and goes out by year. Of a list of capital or debts the whole sum counts on the first day, and each
-/// amount once more in its year: so the two analyses have always reckoned.
+/// Income and spending by year. The whole sum of a list of capital or debts counts on the first day, and each amount
+/// again in its own year. This is deliberate: both analyses have always calculated this way.
 YearlyFlows coverFlows(const CoverNeeds& needs) {
     YearlyFlows flows;
     flows.IncomeRA = itemisedIncome(*needs.sources, 1);
     if (needs.sources->flag == 0) flows.IncomeRA.fill(needs.available);
     flows.IncomeRA[1] = needs.available;
     for (const ItemList* list : needs.sales)
-        addDue(flows.sold, *list, 1); // after the year's interest is fixed, unlike a policy that pays at retirement
+        addDue(flows.sold, *list, 1); // added after the year's interest, unlike a policy paid at retirement
     Yearly debts{};
     for (const ItemList* list : needs.debts)
         addDue(debts, *list, 1);

@@ -9,8 +9,8 @@ namespace analyses {
 
 namespace {
 
-/// What the policies pay a month on death: in the first year whatever their terms and the flag of the policies' line,
-/// later within each one's term, and only while the flag is on. The first year is meant to differ.
+/// The monthly income from the policies on death. In the first year all of it counts, whatever the terms and the flag
+/// of the policies' line; later only within each term and only while the flag is on. The difference is deliberate.
 PolicyIncome policyIncome(const assessment::Assessment& record) {
     PolicyIncome income;
     for (const assessment::Policy& policy : record.policies)
@@ -32,7 +32,7 @@ CoverNeeds deathNeeds(const assessment::Assessment& record) {
             .rate = group.InvestRate,
             .available = group.DeathMIAvail,
             .policies = policyIncome(record),
-            .assets = {group.ANSAss1, group.ANSAss2, group.ANSAss4, group.ANSAss5, group.ANSAss6}, // there is no third
+            .assets = {group.ANSAss1, group.ANSAss2, group.ANSAss4, group.ANSAss5, group.ANSAss6}, // no ANSAss3
             .liabilities = {group.ANSLib1, group.ANSLib2, group.ANSLib3, group.ANSLib4, group.lib5},
             .required = &lists.DTHMonIncReq,
             .sources = &lists.DTHFutMonInc,

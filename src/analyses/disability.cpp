@@ -10,9 +10,10 @@ namespace analyses {
 
 namespace {
 
-/// What the policies pay a month on disability. In the first year all of it, as on death. Later, while the flag of the
-/// policies' line is on, a disability income runs on without a term and an income protection within its own: both are
-/// meant, a death benefit has a term. All disability incomes are added before the first protection.
+/// The monthly income from the policies on disability. In the first year all of it counts, as on death. Later it counts
+/// only while the flag of the policies' line is on: disability income without a term, income protection within its own.
+/// A death benefit has a term; this difference is deliberate. All disability incomes are added before the first
+/// protection.
 PolicyIncome policyIncome(const assessment::Assessment& record) {
     constexpr double noTerm = std::numeric_limits<double>::infinity();
     PolicyIncome income;

@@ -5,18 +5,18 @@
 
 namespace analyses {
 
-/// What the disability analysis takes out of the record: the disability group, its lists and the policies.
+/// Collects the inputs of the disability analysis: the disability group, its lists and the policies.
 CoverNeeds disabilityNeeds(const assessment::Assessment& record);
 
-/// How long the capital of a client who is disabled today carries his income, and how much more or less of it the years
-/// asked for need. The twin of NADeathCalc, with which it shares what is read, written and promised, but for the
-/// policies' income and the edges of the sentences.
+/// How long the capital of a client who is disabled today provides the required income, and how much more or less
+/// capital the years asked for need. Reads, writes and returns the same as NADeathCalc; it differs in the policies'
+/// income and in the limits of the sentences.
 NeedsAnalysis NADisabilityCalc(assessment::Assessment& record);
 
-/// What comes before an analysis: the income and the period that lists in use ask for.
+/// Prepares an analysis: sets income and period from the lists in use.
 void prepareDisability(assessment::Assessment& record);
 
-/// The analysis of a client who need not be on any screen, as the screen shows it when it is opened.
+/// Runs the analysis without a screen. Gives what the screen shows when it is opened.
 NeedsAnalysis runDisability(assessment::Assessment& record);
 
 } // namespace analyses

@@ -28,8 +28,8 @@ YearlyFlows educationFlows(double cost, double inflation) {
     return flows;
 }
 
-/// One run. A capital below the first year's cost covers no year. One of exactly that cost is neither short nor enough:
-/// it leaves the years at what they were before, which is none too, since everything tried before it was less.
+/// Runs the years from a given capital. A capital below the first year's cost covers no year. One of exactly that cost
+/// keeps the count of the capital tried before it, which was smaller: so it also covers no year.
 YearRun NAEdProjectCapital(const EducationAnalysis& analysis, double capital, double rate) {
     if (capital > analysis.FundsFV) return projectCapital(analysis.flows, capital, rate);
     YearRun none;
@@ -50,7 +50,7 @@ void say(EducationAnalysis& analysis) {
     else if (analysis.found.solved) {
         const std::string amount = amountText(analysis.CapitalTried);
         analysis.txtAns = amount + " capital required to invest to provide funds.";
-        analysis.FundsReq = amount + " required to invest to provide funds."; // without "capital": reports always were
+        analysis.FundsReq = amount + " required to invest to provide funds."; // as always, reports leave out "capital"
     } else if (analysis.found.failed)
         analysis.txtAns = noFigure;
 }

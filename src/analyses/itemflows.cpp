@@ -12,7 +12,7 @@ bool isInForce(const ItemRow& row, double now) { return row.FromAge <= now && no
 Yearly itemisedIncome(const ItemList& list, double first) {
     Yearly incomes{};
     if (list.flag == 0) return incomes;
-    std::vector<double> values(list.rows.size()); // each source's income in the year that the walk has come to
+    std::vector<double> values(list.rows.size()); // each source's income in the current year
     for (std::size_t year = 1; year <= lastYear; ++year) {
         const double now = first + static_cast<double>(year - 1);
         for (std::size_t i = 0; i < list.rows.size(); ++i) {

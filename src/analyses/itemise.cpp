@@ -58,8 +58,8 @@ double& in(Assessment& record) {
     return record.*Group.*Amount;
 }
 
-/// The income and the period that a list asks for. One that sums to 0 or less changes nothing: what the user types
-/// stands.
+/// Sets the income and the period that a list asks for. A list that sums to 0 or less changes nothing: the user's own
+/// figures count.
 void deriveRequired(const assessment::ItemList& list, double first, double& monthly, double& years) {
     const auto asked = incomeAsked(list.rows, first);
     if (!asked) return;
@@ -67,7 +67,7 @@ void deriveRequired(const assessment::ItemList& list, double first, double& mont
     years = asked->years;
 }
 
-/// What the sources of a list pay in year 1; a list that sums to 0 or less changes nothing.
+/// Sets the income that the sources of a list pay in year 1. A list that sums to 0 or less changes nothing.
 void deriveAvailable(const assessment::ItemList& list, double& monthly) {
     if (!(sumOfItems(list.rows) > 0)) return;
     double sum = 0;
@@ -81,7 +81,7 @@ void deriveRetirementIncome(Assessment& record) {
     deriveRequired(record.itemised.RNAMonIncReq, needs.AgeRetiment, needs.IncomePD, needs.CoverYears);
 }
 
-// Death and disability may come today: their lists count years, the first of them 1.
+// Death and disability may happen today: their lists count years, starting with 1.
 void deriveDeathIncome(Assessment& record) {
     deriveRequired(record.itemised.DTHMonIncReq, 1, record.death.Income, record.death.PeriodDeath);
 }
@@ -117,7 +117,7 @@ std::vector<ItemLine> retirementLines() {
     };
 }
 
-// The investment lists of death and disability have no line: nothing reads them.
+// The investment lists of death and disability have no line, since nothing reads them.
 std::vector<ItemLine> deathLines() {
     using D = assessment::NADeath;
     constexpr auto group = &Assessment::death;

@@ -62,8 +62,8 @@ struct IncomeAsked {
 /// before they begin, the period is 0. Nothing if the list sums to 0 or less.
 std::optional<IncomeAsked> incomeAsked(const std::vector<assessment::ItemRow>& rows, double first);
 
-/// What the income lines of an analysis show, out of those of their lists that are in use. To be done again where it
-/// depends on more than the lists: retirement's on the age.
+/// Sets what the income lines of an analysis show, from their lists in use. Call it again when another input changes:
+/// retirement also depends on the age.
 void deriveItemised(assessment::Assessment& record, assessment::Analysis analysis);
 
 } // namespace analyses

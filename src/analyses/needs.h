@@ -8,14 +8,14 @@
 #include "analyses/sentences.h"
 #include "analyses/yearrun.h"
 
-/// What the three large analyses (retirement, death, disability) have in common: an income wanted for some years, a
-/// capital that carries it year by year, and a search for the capital that would just do.
+/// The common part of the three needs analyses (retirement, death, disability): an income required for some years, a
+/// capital that provides it year by year, and a search for the capital that just suffices.
 namespace analyses {
 
-/// Which way the capital was looked for that just carries the years asked for.
+/// Whether the search looked for a smaller or a larger capital that just suffices for the years asked for.
 enum class CapitalSought { less, more };
 
-/// What an analysis comes to: rand, years.
+/// The results of an analysis: rand, years.
 struct NeedsAnalysis {
     double IncomeReqFV = 0;         ///< needed a month in the first year
     double PolicyMonthlyIncome = 0; ///< from the schedule in the first year, a month
@@ -25,33 +25,33 @@ struct NeedsAnalysis {
     YearlyFlows flows;
     YearRun run;                                ///< of `NetCapital`
     double yearsAsked = 0;                      ///< at most 50
-    double firstNumber = 1;                     ///< what the years are counted from: 1, or the age of retirement
-    CapitalSought sought = CapitalSought::less; ///< less if the run carries the years asked for
+    double firstNumber = 1;                     ///< number of the first year: 1, or the age of retirement
+    CapitalSought sought = CapitalSought::less; ///< `less` if the capital suffices for the years asked for
     CapitalFound found;
-    double CapitalSolved = 0; ///< carries the years asked for; 0 where no search found any
+    double CapitalSolved = 0; ///< the capital that just suffices; 0 if the search found none
     std::string txtAns1, txtAns2;
 
-    /// Above 0 an excess, below 0 a shortfall, a month in the first year.
+    /// Monthly excess (above 0) or shortfall (below 0) in the first year.
     double monthlyDifference() const { return monthlyAvailable - IncomeReqFV; }
     /// The amortisation's lines.
     std::vector<ShownYear> years() const { return shownYears(flows, run, yearsAsked, firstNumber); }
 };
 
-/// What an analysis is searched and told by.
+/// The search steps and the sentences of an analysis.
 struct NeedsRules {
     CapitalSteps steps;
     SentenceRules sentences;
 };
 
-/// One run of a capital through the flows of an analysis.
+/// Runs a capital through the flows of an analysis.
 using CapitalRun = std::function<YearRun(double capital)>;
 
-/// Runs the net capital, looks for the capital that just carries the years asked for, and puts both into sentences. To
-/// be called when all that stands before `run` is filled in. Of figures too large to reckon with, also where the
-/// caller's own are (`isFinite` false), both sentences are an error.
+/// Runs the net capital, searches for the capital that just suffices for the years asked for, and writes both
+/// sentences. Call it when all fields before `run` are filled. If figures are too large to calculate with, also the
+/// caller's own (`isFinite` false), both sentences are an error.
 void runAndSearch(NeedsAnalysis& analysis, const NeedsRules& rules, const CapitalRun& run, bool isFinite);
 
-/// Corrects rates above their caps without a word.
+/// Silently reduces rates above their limits to them.
 void capRates(double& inflation, double& investment);
 
 } // namespace analyses

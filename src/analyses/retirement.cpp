@@ -14,8 +14,8 @@ namespace analyses {
 
 namespace {
 
-/// By 100 000 both ways. Upwards a finer stage follows; downwards it would begin on the first capital that does not do
-/// and end there, so that an excess is found to 100 000 and no closer. Ten fine steps lead back to the coarse one.
+/// Steps of 100 000 in both directions, refined by 10 000 upwards only. Downwards a refinement would start and end at
+/// the first capital that does not suffice, so an excess is known to 100 000. Ten fine steps equal a coarse one.
 constexpr NeedsRules rules{{.coarse = 100000, .fine = 10000, .mostFinePasses = 20}, retirementSentences};
 
 double incomeAtRetirement(const assessment::NARetirement& needs) {
@@ -25,7 +25,7 @@ double incomeAtRetirement(const assessment::NARetirement& needs) {
     return base::roundHalfEven(income);
 }
 
-/// What is asked and what there is, before anything is run.
+/// The required and the available amounts, before anything is run.
 RetirementAnalysis statement(const assessment::Assessment& record) {
     const assessment::NARetirement& needs = record.retirement;
     RetirementAnalysis analysis;

@@ -14,8 +14,8 @@ double ageIn(const assessment::Assessment& record, std::size_t year) {
     return record.retirement.AgeRetiment + static_cast<double>(year - 1);
 }
 
-/// The policies' pensions in each year, rand a month: they grow by steps of the pension as it began, one more of them
-/// each year, and the steps of the years before stay in.
+/// The policies' pensions in each year, rand a month. Each year adds one more escalation step than the year before, on
+/// top of all earlier steps; a step is a percentage of the initial pension.
 Yearly policyIncomes(const assessment::Assessment& record, double pensions) {
     Yearly incomes{};
     double income = pensions;
@@ -87,7 +87,7 @@ YearlyFlows retirementFlows(const assessment::Assessment& record, double incomeR
     flows.IncomeRA = itemisedIncome(record.itemised.RNAFutMonInc, first);
     addLumpSums(record, flows.paidOut);
     const Yearly policies = policyIncomes(record, pensions);
-    Yearly expenses{}; // of the itemised list, each in its year
+    Yearly expenses{}; // itemised, each in its year
     addDue(expenses, record.itemised.RNAOtherExp, first);
     Yearly& monthly = flows.MonthlyRequiredByYear;
     for (std::size_t year = 1; year <= lastYear; ++year) {

@@ -9,7 +9,7 @@ namespace analyses {
 inline constexpr int lastYear = 51;
 inline constexpr int mostYears = 50;
 
-/// Rates that a needs analysis reckons with at most, percent a year; those above are corrected without a word.
+/// The highest rates that a needs analysis uses, percent a year; higher ones are silently reduced to them.
 inline constexpr double highestInflation = 30, highestBankInvest = 50;
 
 /// Figures by year, 1 to 51; element 0 is unused.
@@ -21,9 +21,9 @@ struct YearlyFlows {
     Yearly MonthlyRequiredByYear{}; ///< rand a month
     Yearly RequiredByYear{};        ///< rand a year
     Yearly AvailableByYear{};       ///< rand a year
-    Yearly IncomeRA{};              ///< what of the income available is itemised, rand a month
-    Yearly paidOut{};               ///< policies that pay out in the year: they earn its interest
-    Yearly sold{};                  ///< what is sold in the year: it earns interest from the next one on
+    Yearly IncomeRA{};              ///< the itemised part of the available income, rand a month
+    Yearly paidOut{};               ///< payouts of policies in the year; they earn that year's interest
+    Yearly sold{};                  ///< sales in the year; they earn interest from the next year on
 };
 
 /// The course of a capital under such flows.

@@ -106,7 +106,7 @@ ValuesAtRetirement valuesAtRetirement(const Policy& policy, double ageOfRetireme
 double capitalOnDeath(const std::vector<Policy>& policies) {
     double capital = 0;
     for (const Policy& policy : policies) {
-        // Only what the estate or the spouse receives is the client's capital.
+        // Only what the estate or the spouse receives counts as the client's capital.
         const double benefit = policy.DeathBen - (policy.DeathBenAmtCeded + policy.DeathBenLoanAgainst);
         if ((policy.DeathBenPerson == 0 || policy.DeathBenPerson == 1) && benefit > 0) capital += benefit;
         capital += policy.InvBensCurVal;
