@@ -64,7 +64,7 @@ void Desk::press(const Expected& expected) {
     }
     try {
         if (!expected.pictureName.isEmpty()) picture(box, expected.pictureName);
-    } catch (const std::runtime_error& error) { // an exception must not cross the toolkit
+    } catch (const std::runtime_error& error) { // exceptions must not pass through Qt
         m_trouble = QString::fromStdString(error.what());
     }
     say("  answered: " + button->text().remove('&'));

@@ -7,25 +7,25 @@
 
 namespace tour {
 
-/// The program's own desk with its real boxes, which answers them by mouse as the case needs and says aloud what was
-/// asked. A box or file chooser that is not expected next is declined and kept as trouble, for the tour to end on.
+/// The program's own desk with its real boxes. It answers them by mouse as the tour requires and prints what was asked.
+/// An unexpected box or file dialog is declined, and the tour ends with it as the reason.
 class Desk : public screenkit::RealDesk {
 public:
-    /// The next box has this title and is answered so; pictureName: leave a picture of it.
+    /// The next box must have this title and gets this answer; pictureName: save a picture of it.
     void expect(const QString& title, screenkit::Answer answer, const QString& pictureName = {});
-    /// The next file to save under.
+    /// The name to enter in the next save dialog.
     void expectFile(const QString& name) { m_files.push_back(name); }
 
-    /// Ends the tour if something came that was not expected.
+    /// Ends the tour if something unexpected was asked.
     void checkQuiet() const;
-    /// Also if something that was expected has not come.
+    /// Also ends it if something expected was not asked.
     void checkDone() const;
 
     screenkit::Answer box(screenkit::BoxStyle style, const QString& text, const QString& title,
                           screenkit::Buttons buttons, std::optional<screenkit::Answer> defaultAnswer) override;
     std::optional<QString> fileToSave(const QString& title, const QString& suggested,
                                       const QStringList& filters) override;
-    /// The same day each time: ages, and all that follows from them, are the same whenever the tour is taken.
+    /// Always the same day, so that ages and all figures that depend on them are the same in every tour.
     QDate today() override { return {2026, 6, 15}; }
 
 private:

@@ -21,7 +21,7 @@ QString text(const store::Value& value) {
     return "nothing";
 }
 
-/// How to print and what is being typed into a list are no part of the client.
+/// Print choices and the contents of an open list are no part of the client.
 bool onPanel(const QWidget* widget) {
     while (widget != nullptr && qobject_cast<const screenkit::Panel*>(widget) == nullptr)
         widget = widget->parentWidget();
@@ -35,7 +35,7 @@ void keep(Figures& stored, const QString& place, const assessment::FieldTable<Ro
             stored[place + "." + QString::fromStdString(field.name)] = text(assessment::valueAt(field.at(&row)));
 }
 
-/// As `keep`, for the rows of a table that has many for one client.
+/// Like `keep`, for a table with several rows for one client.
 template <class Row>
 void keepRows(Figures& stored, const assessment::FieldTable<Row>& table, std::vector<Row>& rows) {
     for (std::size_t i = 0; i < rows.size(); ++i)

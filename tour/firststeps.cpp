@@ -6,7 +6,7 @@
 #include "tour/journal.h"
 #include "tour/steps.h"
 
-/// The client and the practice: all that is typed in.
+/// Entering the client and the practice.
 namespace tour {
 
 namespace {

@@ -24,9 +24,9 @@ namespace tour {
 
 namespace {
 
-constexpr int patience = 5000; // milliseconds until a window or menu must have come
+constexpr int patience = 5000; // milliseconds to wait for a window or menu
 
-/// As text: the toolkit's own helper knows Latin-1 alone.
+/// Sends the letter as text: Qt's own helper supports only Latin-1.
 void letterKey(QWidget* target, QChar letter) {
     QTest::sendKeyEvent(QTest::Click, target, Qt::Key_unknown, QString(letter), Qt::NoModifier);
 }
@@ -41,13 +41,13 @@ QString textIn(QWidget* field) {
     return static_cast<QLineEdit*>(field)->text();
 }
 
-/// Word for word, or as a number the same.
+/// True if the field shows this text, or the same number.
 bool shows(QWidget* field, const QString& typed) {
     if (const auto* figure = dynamic_cast<screenkit::NumberField*>(field)) return figure->value() == typed.toDouble();
     return textIn(field) == typed;
 }
 
-/// An option or a check box may be wider than its caption, and only the caption takes a click.
+/// An option or a check box may be wider than its caption, but only the caption accepts clicks.
 QPoint spotOn(const QAbstractButton* button) {
     return button->isCheckable() ? QPoint(button->height() / 2, button->height() / 2) : button->rect().center();
 }

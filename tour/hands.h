@@ -16,44 +16,44 @@ class Screen;
 
 namespace tour {
 
-/// A field and what is typed into it.
+/// A field and the text to type into it.
 struct Entry {
     const char* field;
     const char* text;
 };
 
-/// The user's hands on one run of the program: they find what is on the screen by its name, click it and type. Each
-/// move ends the tour if its target cannot be seen or used, or if the program asked something unexpected.
+/// Plays the user in one run of the program: finds controls by name, clicks and types. Each action ends the tour if its
+/// control is hidden or disabled, or if the program asked something unexpected.
 class Hands {
 public:
     Hands(Desk& desk, shell::Program& program) : m_desk(desk), m_program(program) {}
 
-    /// Picks a menu item by mouse, e.g. {"mnuFile", "mnuPrep"}.
+    /// Chooses a menu item by mouse, e.g. {"mnuFile", "mnuPrep"}.
     void menu(const QStringList& names);
-    /// Presses a key wherever the focus is.
+    /// Presses a key in the control with the focus.
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
     /// Clicks a button, an option or a check box.
     void click(const QString& name);
-    /// Clicks into a field, types over what it holds and leaves it by `leave`.
+    /// Clicks into a field, replaces its content, and leaves it with the key `leave`.
     void type(const QString& name, const QString& text, Qt::Key leave = Qt::Key_Tab);
-    /// Types into each field in turn; ends the tour at one that does not show what was typed.
+    /// Types into each field in turn; ends the tour if a field does not show what was typed.
     void enter(std::span<const Entry> entries);
-    /// Types wherever the focus is, which may move with the first letter.
+    /// Types into the control with the focus; the focus may move at the first letter.
     void write(const QString& text);
-    /// Turns to the page of a tabbed screen that holds this control.
+    /// Turns to the page that contains this control.
     void turnTo(const QString& name);
 
-    /// The text of a field of the screen in front.
+    /// The text of a field on the front screen.
     QString shown(const QString& name);
     double figure(const QString& name);
-    /// Ends the tour unless the field shows this, to the rand.
+    /// Ends the tour unless the field shows this amount, to the rand.
     void expectFigure(const QString& name, double expected);
     screenkit::Screen* front();
     /// Ends the tour unless this screen is in front.
     void expectFront(const QString& screen);
-    /// The report window opened last, in front of all others.
+    /// The report window opened last, brought to the front.
     reports::PreviewWindow* preview();
-    /// Closes it with Escape and goes back to the report window below it, or to the main window.
+    /// Closes it with Escape and returns to the report window below it, or to the main window.
     void closePreview();
 
     shell::MDIForm1& window();
@@ -71,9 +71,9 @@ public:
 private:
     QWidget* find(const QString& name);
     [[noreturn]] void lost(const QString& name);
-    /// Back to a window; without a desktop's window manager a closed menu or window would stay active.
+    /// Activates a window. Without a window manager a closed menu or window would stay active.
     void toFront(QWidget& window);
-    /// Ends the tour unless the control can be seen and used.
+    /// Ends the tour unless the control is visible and enabled.
     void reach(QWidget* control);
 
     Desk& m_desk;

@@ -11,10 +11,10 @@ namespace tour {
 
 namespace {
 
-constexpr int patience = 5000; // milliseconds for a window to show itself
+constexpr int patience = 5000; // milliseconds to wait for a window
 
 bool showsSomething(const QImage& image) {
-    constexpr std::size_t enough = 8; // shades; an unpainted window has one or two
+    constexpr std::size_t enough = 8; // colours; an unpainted window has one or two
     std::set<QRgb> seen;
     for (int y = 0; y < image.height(); y += 3)
         for (int x = 0; x < image.width(); x += 3)

@@ -5,7 +5,7 @@
 #include "tour/journal.h"
 #include "tour/steps.h"
 
-/// Leaving the program, and finding everything again.
+/// Leaving the program and loading everything again.
 namespace tour {
 
 Seen look(Hands& hands) {
@@ -52,7 +52,7 @@ void findClient(Hands& hands) {
 }
 
 void compare(Hands& hands, const Seen& before) {
-    say("Every value is held against what it was.");
+    say("Every value is compared with what it was.");
     const Seen now = look(hands);
     checkSame(before.personalDetails, now.personalDetails, "personal details on screen");
     checkSame(before.loan, now.loan, "loan on screen");

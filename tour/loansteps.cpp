@@ -8,21 +8,21 @@
 #include "tour/journal.h"
 #include "tour/steps.h"
 
-/// The loan: worked out in each mode, its charges, tables and graph.
+/// The loan: solved in each mode, with charges, tables and graph.
 namespace tour {
 
 namespace {
 
 constexpr double cent = 0.01;
 
-/// What the four fields show.
+/// The content of the four fields.
 QString loanLine(Hands& hands) {
     return QString("Loan: R %1 over %2 months at %3 % -> R %4 a month")
         .arg(hands.shown("numPrinAmount"), hands.shown("numPeriod"), hands.shown("numIntRate"),
              hands.shown("numMonRePay"));
 }
 
-/// Wipes one of the four figures and has it worked out again from the other three.
+/// Clears one of the four figures and solves it from the other three.
 void solveFor(Hands& hands, int mode, const QString& field) {
     const QString before = hands.shown(field);
     hands.type(field, "0");
@@ -34,7 +34,7 @@ void solveFor(Hands& hands, int mode, const QString& field) {
     picture(&hands.window(), "loan-" + QString(sought).toLower().replace(' ', '-'));
 }
 
-/// A table on screen must repay the whole loan and end at nothing.
+/// A table on the screen must repay the whole loan and end at 0.
 void checkTable(Hands& hands, const QString& unit, int rows) {
     const auto* table = hands.control<QTableView>("grdPayments")->model();
     check(table->rowCount() == rows, QString("the table has %1 rows instead of %2").arg(table->rowCount()).arg(rows));
@@ -42,7 +42,7 @@ void checkTable(Hands& hands, const QString& unit, int rows) {
     for (int row = 0; row < rows; ++row)
         repaid += cellOf(table, row, 1);
     check(std::abs(repaid - hands.figure("numPrinAmount")) <= rows * cent / 2, "the table does not repay the loan");
-    check(cellOf(table, rows - 1, 3) == 0, "the table does not end at nothing");
+    check(cellOf(table, rows - 1, 3) == 0, "the table does not end at 0");
     for (const int row : {0, rows - 1})
         say(QString("  %1 %2: capital %3, interest %4, balance %5")
                 .arg(unit)
@@ -69,7 +69,7 @@ void solveLoan(Hands& hands) {
     solveFor(hands, 2, "numPeriod");
     solveFor(hands, 3, "numIntRate");
     hands.click("optLoanCalc(0)");
-    hands.type("numIntRate", hands.shown("numIntRate")); // the rate found lies a hair beside the round one
+    hands.type("numIntRate", hands.shown("numIntRate")); // the solved rate differs slightly from the round one
     hands.key(Qt::Key_C, Qt::AltModifier);
     check(loanLine(hands) == line, "the loan is now " + loanLine(hands));
 }

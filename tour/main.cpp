@@ -15,14 +15,14 @@
 #include "tour/journal.h"
 #include "tour/steps.h"
 
-/// The guided tour: takes the program's real windows through a whole case, as a user would, and holds every figure
-/// against what it should be. Ends with 1 and a line that says why at the first thing that is not right.
+/// The guided tour: uses the program's real windows for a whole case, as a user would, and compares every figure with
+/// its expected value. At the first error it prints the reason and exits with 1.
 namespace {
 
 using tour::Desk;
 using tour::Hands;
 
-constexpr unsigned longestTour = 300; // seconds until a tour that hangs is ended
+constexpr unsigned longestTour = 300; // seconds before a hanging tour is ended
 const char* const screenFile = "screen.json";
 const char* const dark = "dark";
 const char* const large = "large";
@@ -33,12 +33,12 @@ void ended(int) {
     ::_exit(EXIT_FAILURE);
 }
 
-/// The offscreen platform tells of each wish of a window manager's that it cannot fulfil.
+/// The offscreen platform warns of each window manager feature that it lacks; these warnings are suppressed.
 void withoutPlatformsRegrets(QtMsgType, const QMessageLogContext&, const QString& message) {
     if (!message.startsWith("This plugin does not support")) std::fprintf(stderr, "%s\n", message.toUtf8().constData());
 }
 
-/// A screen as advisers have it, without one being there.
+/// Sets up an offscreen screen like an adviser's.
 void useOffscreen(double scale) {
     QFile file(screenFile);
     tour::check(file.open(QIODevice::WriteOnly), "the folder cannot be written");
@@ -57,7 +57,7 @@ void useDarkPalette() {
     QApplication::setPalette(palette);
 }
 
-/// One run of the program, from its start to its end.
+/// One run of the program, from start to end.
 template <class Steps>
 void session(Steps steps) {
     Desk desk;
@@ -99,7 +99,7 @@ void wholeCase() {
     });
 }
 
-/// The same client under another look: "dark" or "large".
+/// The same client with other settings: "dark" or "large".
 void anotherLook(const QString& name) {
     session([&](Hands& hands) {
         tour::findClient(hands);
@@ -108,7 +108,7 @@ void anotherLook(const QString& name) {
     });
 }
 
-/// Scale and palette are settled when a process starts, so each further look is a process of its own.
+/// Scale and palette are fixed when a process starts, so each further setting needs its own process.
 void startAgainAs(const QString& name) {
     tour::say("The same under another look: " + name + ".");
     QProcess again;

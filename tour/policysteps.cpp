@@ -6,7 +6,7 @@
 #include "tour/journal.h"
 #include "tour/steps.h"
 
-/// The schedule of policies and investments: eight of different kinds, as one client has them.
+/// The schedule of policies and investments: eight kinds, as a client may have them.
 namespace tour {
 
 namespace {
@@ -14,8 +14,8 @@ namespace {
 struct Policy {
     std::vector<Entry> entries;
     std::vector<const char*> clicks{};
-    std::vector<Entry> pictures{};      ///< a field of the page, and what the picture is called
-    const char* atRetirement = nullptr; ///< the field that shows what it is worth then
+    std::vector<Entry> pictures{};      ///< a field of the page, and the name of the picture
+    const char* atRetirement = nullptr; ///< the field that shows the worth at retirement
     double worth = 0;
 };
 
@@ -81,7 +81,7 @@ const std::vector<Policy>& policies() {
          {},
          {},
          "numRBProvFLumpAtRet",
-         0}, // it pays later
+         0}, // it pays after retirement
         {{{"txtPolInvType", "Endowment"},
           {"txtUnderInst", "Makhado Mutual"},
           {"numPremInvAmtMonthly", "1200"},

@@ -7,7 +7,7 @@
 #include "tour/journal.h"
 #include "tour/steps.h"
 
-/// The reports: viewed and exported in each kind.
+/// The reports: viewed, and exported in each format.
 namespace tour {
 
 namespace {
@@ -18,7 +18,7 @@ QByteArray bytesOf(const QString& name) {
     return file.readAll();
 }
 
-/// Exports the report in front by Ctrl+E as NAME.pdf and so on, and looks at what each file begins with.
+/// Exports the front report with Ctrl+E as NAME.pdf and so on, and checks how each file begins.
 void exportAll(Hands& hands, const QString& name) {
     struct Kind {
         const char* ending;
@@ -32,13 +32,13 @@ void exportAll(Hands& hands, const QString& name) {
     }
 }
 
-/// The text as a reader of the page has it in mind: all blanks alike.
+/// Ends the tour unless the file contains the text; all kinds of blanks count as equal.
 void checkHolds(const QString& file, const QString& text) {
     const QString page = QString::fromUtf8(bytesOf(file)).replace(QChar::Nbsp, ' ').replace("&nbsp;", " ");
     check(page.contains(text.toHtmlEscaped()), file + " lacks \"" + text + "\"");
 }
 
-/// The report drawn up beside the main window, as they lie on a screen.
+/// A picture of the report beside the main window, as on a real screen.
 QPixmap desktop(Hands& hands) {
     constexpr QSize screen(1280, 692);
     constexpr QPoint mainAt(0, 0);
@@ -70,7 +70,7 @@ void exportLoanReport(Hands& hands) {
     exportAll(hands, "loan report");
     checkHolds("loan report.html", hands.shown("numMonRePay"));
     checkHolds("loan report.html", "Baobab Financial Planning");
-    checkHolds("loan report.csv", "\n" + hands.shown("numPeriod") + ","); // the last month's line
+    checkHolds("loan report.csv", "\n" + hands.shown("numPeriod") + ","); // the line of the last month
     picture(desktop(hands), "desktop");
     hands.closePreview();
 }

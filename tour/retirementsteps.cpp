@@ -14,18 +14,18 @@
 #include "tour/journal.h"
 #include "tour/steps.h"
 
-/// The retirement needs analysis with the schedule of policies that feeds it: the adviser's main piece of work.
+/// The retirement needs analysis, with the schedule of policies that it uses.
 namespace tour {
 
 namespace {
 
-constexpr double oneRand = 1; // the tables show no cents
+constexpr double oneRand = 1; // the tables show whole rand
 constexpr double retireAt = 65, yearsToGo = 20, yearsWanted = 30, inflation = 5.5;
-constexpr double providentFund = 650000, providentAge = 67; // it pays after the retirement
+constexpr double providentFund = 650000, providentAge = 67; // it pays after retirement
 
 using Rows = std::vector<QStringList>;
 
-/// Fills the list behind an itemise button by keyboard alone.
+/// Fills the list behind an itemise button, using only the keyboard.
 void itemise(Hands& hands, const QString& button, const Rows& rows, const QString& pictureName = {}) {
     hands.click(button);
     double total = 0;
@@ -70,7 +70,7 @@ Sentences sentences(Hands& hands) { return {hands.shown("txtAns1"), hands.shown(
 const QRegularExpression lasting("^Funds available will provide income for (\\d+) year/s\\.$");
 const QRegularExpression needing("^([\\d ]+) additional cover required\\.$");
 
-/// The cover that the sentence asks for, put into the capital, does; 10 000 less does not.
+/// With the additional cover as capital, the capital must suffice; with 10 000 less it must not.
 void checkCover(Hands& hands) {
     const Sentences before = sentences(hands);
     const double more = needing.match(before.needed).captured(1).remove(' ').toDouble();
@@ -86,7 +86,7 @@ void checkCover(Hands& hands) {
     check(sentences(hands) == before, "the sentences do not come back with the capital");
 }
 
-/// Each year follows from the one before it, and the last one is the first that is not carried.
+/// Each year must follow from the one before, and only the last one must not be covered.
 void checkYears(const QAbstractItemModel* table) {
     const auto left = [table](int row) {
         return cellOf(table, row, 1) + cellOf(table, row, 2) + cellOf(table, row, 3) - cellOf(table, row, 4);
@@ -94,7 +94,7 @@ void checkYears(const QAbstractItemModel* table) {
     const int last = table->rowCount() - 1;
     for (int row = 1; row <= last; ++row) {
         const double paidOut = retireAt + row == providentAge ? providentFund : 0;
-        check(std::abs(cellOf(table, row, 1) - left(row - 1) - paidOut) < 3 * oneRand, // four figures in whole rand
+        check(std::abs(cellOf(table, row, 1) - left(row - 1) - paidOut) < 3 * oneRand, // four rounded figures
               QString("year %1 does not follow").arg(row + 1));
     }
     check(left(last - 1) >= 0 && left(last) < 0, "the capital does not end where the sentence says");
@@ -115,7 +115,7 @@ void checkPdf(const QString& file, const QString& text) {
 } // namespace
 
 void recordRetirement(Hands& hands) {
-    say("Needs Analysis for Retirement: the ages first, then what is there and what it must carry.");
+    say("Needs Analysis for Retirement: the ages first, then the capital and the income that it must provide.");
     hands.window().showMaximized();
     hands.settle();
     hands.menu({"mnuCalc", "mnuNARA"});
@@ -182,7 +182,7 @@ void exportRetirementReports(Hands& hands) {
     hands.click("cmdVR");
     const QString client = QString::fromStdString(hands.record().client.Name);
     check(QDir().mkpath("retirement"), "the folder of the set cannot be made");
-    // The report run last lies in front.
+    // The report that ran last is in front.
     for (const QString name : {"policies schedule", "itemised particulars", "needs analysis"}) {
         auto* report = hands.preview();
         say(QString("  report: %1, %2 pages").arg(report->windowTitle()).arg(report->report().layout.count()));

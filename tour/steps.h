@@ -3,10 +3,10 @@
 #include "tour/figures.h"
 #include "tour/hands.h"
 
-/// The case, step by step. Each step leaves the program where the next one begins.
+/// The tour's case, step by step. Each step ends where the next one begins.
 namespace tour {
 
-/// What the user saw when the client was saved.
+/// What the screens showed when the client was saved.
 struct Seen {
     Figures personalDetails, loan, retirement, practice, stored;
 };
@@ -22,7 +22,7 @@ void showGraph(Hands& hands);
 void exportLoanReport(Hands& hands);
 void exportPersonalDetails(Hands& hands);
 void recordRetirement(Hands& hands);
-/// From the retirement analysis and back to it; what they are worth at 65 as it should be, rand.
+/// Starts and ends in the retirement analysis. Returns the expected worth of the policies at 65, rand.
 double enterPolicies(Hands& hands);
 void showRetirementYears(Hands& hands);
 void exportRetirementReports(Hands& hands);
@@ -32,11 +32,11 @@ void save(Hands& hands);
 Seen look(Hands& hands);
 void exitProgram(Hands& hands);
 
-// The second one, which must find all of it again.
+// The second session, which must find everything again.
 void findClient(Hands& hands);
 void compare(Hands& hands, const Seen& before);
 
-/// The client's loan once more, for a picture in another palette or scale.
+/// Shows the client's loan again, for a picture with another palette or scale.
 void showLoan(Hands& hands, const QString& pictureName);
 
 } // namespace tour

@@ -7,7 +7,7 @@
 #include "tour/journal.h"
 #include "tour/steps.h"
 
-/// The practitioner's two daily questions: what comes off this month's salary, and what is the tax on a year's income.
+/// The two most common tax questions: the deductions from this month's salary, and the tax on a year's income.
 namespace tour {
 
 namespace {
@@ -19,7 +19,7 @@ void expectCents(Hands& hands, const QString& field, double expected) {
           QString("%1 shows %2 and not %3").arg(field, hands.shown(field)).arg(expected, 0, 'f', 2));
 }
 
-/// By the scale of the year to February 2027: the bracket over R530 200.
+/// The tax by the scale of the year to February 2027, in the bracket above R530 200.
 double taxIn2027(double income) { return 125599 + (income - 530200) * 0.36; }
 
 void exportPdf(Hands& hands, const QString& name) {
@@ -45,7 +45,7 @@ void taxAMonth(Hands& hands) {
                                    {"numMedAidBens", "3"}});
     hands.click("cmdCalculate");
     const double annual = (48000.0 - 3600 + 2400) * 12;
-    const double tax = (taxIn2027(annual) - 17235) / 12; // the rebate of the year before is meant
+    const double tax = (taxIn2027(annual) - 17235) / 12; // the rebate of the previous year, which is deliberate
     const double credit = 2 * 376 + 254;
     expectCents(hands, "numAllowableRFundDed", 3600);
     expectCents(hands, "numMAns", tax);
@@ -64,7 +64,7 @@ void taxAYear(Hands& hands) {
     say("QuickTax: the same employee's year, in both tax years.");
     hands.menu({"mnuCalc", "mnuQuickTax"});
     hands.expectFront("frmKwikTax");
-    expectCents(hands, "sidbEdit1(0)", (48000.0 - 3600 + 2400) * 12); // left there by the month
+    expectCents(hands, "sidbEdit1(0)", (48000.0 - 3600 + 2400) * 12); // set by the monthly tax
     hands.enter(std::vector<Entry>{{"sidbEdit1(0)", "650000"}, {"sidbEdit1(1)", "66"}});
     hands.key(Qt::Key_Return);
     expectCents(hands, "sidbEdit1(7)", taxIn2027(650000) - 17820 - 9765);
