@@ -99,7 +99,7 @@ void BareClient::save() {
         }
         sqlite3_finalize(write);
     }
-    // A row that is not changed is not written, so one figure differs at each save, as it does in ours.
+    // A row without a change is not written, so one figure differs at each save, as in the program's own save.
     sqlite3_stmt* edit = connection.prepare("UPDATE [Data] SET [Num1]=? WHERE [DCLNO]=?");
     sqlite3_bind_double(edit, 1, ++m_edits);
     sqlite3_bind_double(edit, 2, m_key);

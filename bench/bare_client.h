@@ -9,8 +9,8 @@ struct sqlite3_value;
 
 namespace bench {
 
-/// A client's rows as they stand in the file, written and read by the database's own functions and nothing else: no
-/// field tables, no check of types and sizes, no record. The file is opened and closed each time.
+/// A client's rows, written and read with the database's own functions only: no field tables, no checks of types and
+/// sizes, no record. The file is opened and closed each time.
 class BareClient {
 public:
     BareClient(std::filesystem::path file, double key);
@@ -18,9 +18,10 @@ public:
     BareClient(const BareClient&) = delete;
     BareClient& operator=(const BareClient&) = delete;
 
-    /// All rows in one transaction, synchronous=FULL: an update where the client has one row, else delete and insert.
+    /// Writes all rows in one transaction, synchronous=FULL: an update if the client has one row, else delete and
+    /// insert.
     void save();
-    /// All rows, each cell copied out.
+    /// Reads all rows and copies each cell.
     void load();
 
 private:

@@ -60,7 +60,7 @@ Assessment fullClient(int seed) {
     return record;
 }
 
-/// One client database with full clients in it, and one of them to save and load again and again.
+/// A client database of full clients, one of which is saved and loaded repeatedly.
 class ClientFile {
 public:
     ClientFile() {
@@ -73,7 +73,7 @@ public:
             m_record = fullClient(i);
             datastore::Save(m_record, m_paths.DataDbPath);
         }
-        // A file of its own: a save looks twice at a client in whose file somebody else has written.
+        // A file of its own: if another program had written to the file, our save would read the client first.
         fs::copy_file(m_paths.DataDbPath, folder / "Bare.Mdb");
         m_bare = std::make_unique<bench::BareClient>(folder / "Bare.Mdb", m_record.DCLNO);
     }

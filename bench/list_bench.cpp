@@ -16,7 +16,7 @@ namespace fs = std::filesystem;
 
 constexpr int clients = 100000;
 
-/// Surnames of three syllables, spread over the alphabet as a practice's are, each borne by a dozen clients.
+/// Surnames of three syllables, spread over the alphabet like a practice's, each shared by a dozen clients.
 std::string surname(int number) {
     static const char* const syllables[] = {"ba",  "de", "fou", "gro", "ho",  "ja",  "kru", "le", "mo", "na",
                                             "pie", "ro", "si",  "the", "van", "wes", "xo",  "ye", "zu", "ng"};
@@ -40,7 +40,7 @@ void addClients(store::Database& database) {
     transaction.commit();
 }
 
-/// The program on a file of many clients.
+/// The program with a file of many clients.
 class Practice {
 public:
     Practice() : m_folder(bench::emptyFolder("list")), m_program(m_desk, m_folder, "marlowbeck-bench-list") {
@@ -56,7 +56,7 @@ public:
         close();
         return taken;
     }
-    /// The first words typed after the list was opened: later ones find what they need prepared.
+    /// The first search after the list was opened; later ones reuse what it prepared.
     double search() {
         m_program.window().open("frmBrowse");
         QApplication::processEvents();
@@ -105,7 +105,7 @@ private:
 };
 
 Practice& practice() {
-    static auto* made = new Practice; // never destroyed: its windows may not outlive the application
+    static auto* made = new Practice; // never destroyed: its windows must not outlive the application
     return *made;
 }
 

@@ -15,8 +15,8 @@ using calculators::Amortisation;
 
 constexpr int loanCount = 1000;
 
-/// Loans of every size that the fields take, always the same ones: four in five as clients have them, the others with
-/// a repayment that has nothing to do with the principal, which sets the searches their hardest tasks.
+/// Loans of every size that the fields accept, the same ones in each run. Four in five are realistic; the others have a
+/// repayment unrelated to the principal, which is hardest for the searches.
 std::vector<Loans> clientLoans() {
     std::mt19937_64 random{20260301};
     const auto between = [&](double low, double high) { return std::uniform_real_distribution(low, high)(random); };
@@ -29,16 +29,16 @@ std::vector<Loans> clientLoans() {
         const double repayment = std::floor(calculators::repaymentFor(loan.Num1, loan.Num2, loan.Num3) * 100) / 100;
         loan.Num4 = between(0, 1) < 0.8 ? repayment : money();
     }
-    // a million million over one month, 400 thousand million rand short of clearing: 4e13 cents
+    // A million million over one month, 400 thousand million rand short of clearing: 4e13 cents.
     loans.push_back({"", 1e12, 1, 12, 6e11});
     loans.push_back({"", 1e12, 1, 0.001, 5.1e11});
     loans.push_back({"", 0.01, 600, 0.001, 1e12}); // a rate of millions of percent
     loans.push_back({"", 0.01, 1, 50, 80});        // 800 000 percent
-    loans.push_back({"", 1e12, 600, 50, 0.02});    // no month in 600 clears it
+    loans.push_back({"", 1e12, 600, 50, 0.02});    // never cleared within 600 months
     return loans;
 }
 
-/// Figures that no field takes, as a damaged file may hold them: searches that never settle.
+/// Figures that no field accepts, as a damaged file may hold them: the searches never settle.
 std::vector<Loans> oddLoans() {
     std::vector<Loans> loans;
     for (const double principal : {-1e300, -1000.0, -1e-310, 1e-310, 1000.0, 1e300})
@@ -48,7 +48,7 @@ std::vector<Loans> oddLoans() {
     return loans;
 }
 
-/// The slowest of the loans, solved in one mode; best of three tries each, for the machine does other things as well.
+/// The time of the slowest loan in one mode; the best of three tries for each, since the machine does other work too.
 double slowest(const std::vector<Loans>& loans, calculators::LoanMode mode) {
     double worst = 0;
     for (Loans loan : loans) {
@@ -84,7 +84,7 @@ bench::Bench slowestOddCase(calculators::LoanMode mode) {
 
 Loans twentyYears(int number) { return {"", 100000.0 + number, 240, 5 + number * 0.01, 0}; }
 
-/// The months of one loan, written straight into columns with all that stays the same taken out of the loop by hand.
+/// The months of one loan, written directly into columns, with everything constant moved out of the loop by hand.
 double leastWork(const Loans& loan) {
     static Amortisation table;
     const double growth = 1 + loan.Num3 / 12 / 100;

@@ -38,7 +38,7 @@ double median(std::vector<double> figures) {
     return *middle;
 }
 
-/// The medians of some rounds, floor and ours by turns, so that a busy machine slows both alike.
+/// The medians of several rounds. Floor and program are measured in turns, so that a busy machine slows both equally.
 Measured measure(const bench::Bench& bench) {
     std::vector<double> floor;
     std::vector<double> ours;
@@ -73,7 +73,7 @@ int main(int argc, char** argv) {
     screenkit::look::apply(application);
     std::puts("| What | Floor | Ours | Ratio | Goal | |\n|---|---|---|---|---|---|");
     bool allMet = true;
-    const std::string wanted = argc > 1 ? argv[1] : ""; // part of a name, to repeat one line alone
+    const std::string wanted = argc > 1 ? argv[1] : ""; // part of a name, to repeat a single line
     for (const bench::Bench& bench : bench::registry()) {
         if (bench.name.find(wanted) == std::string::npos) continue;
         allMet = report(bench) && allMet;

@@ -6,12 +6,12 @@
 
 namespace bench {
 
-/// Watches for the paint that fills the main window's area, the last of its parts to be painted.
+/// Watches for the paint event of the main window's central area, which is painted last.
 class Painted : public QObject {
 public:
     Painted() { qApp->installEventFilter(this); }
 
-    /// Lets the program run until the window stands painted.
+    /// Runs the event loop until the window is painted.
     void wait() {
         while (!m_painted)
             QApplication::processEvents(QEventLoop::WaitForMoreEvents);
@@ -25,8 +25,8 @@ private:
     bool m_painted = false;
 };
 
-/// Writes the most memory that this process has held (VmHWM, KiB) as one line to the standard output, which tells the
-/// bench that the window stands, and ends the process then and there.
+/// Writes the peak memory of this process (VmHWM, KiB) as one line to the standard output, which tells the bench that
+/// the window is painted, and ends the process at once.
 [[noreturn]] void tellAndLeave();
 
 } // namespace bench

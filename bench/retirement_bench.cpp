@@ -11,7 +11,7 @@ namespace {
 
 using assessment::Assessment;
 
-/// Clients whose capital can be stepped to while one waits.
+/// Clients whose capital plain steps reach in reasonable time.
 std::vector<Assessment> clients() {
     std::mt19937_64 random{20261122};
     std::vector<Assessment> all;
@@ -39,9 +39,9 @@ double solveAll() {
     });
 }
 
-/// What no stepping would ever get through: 50 years at 30 % inflation after 50 at the same, with no return, so that
-/// hundreds of thousands of millions of rand are looked for; and on top of it as many policies and items as a file
-/// holds.
+/// A search that plain steps would never finish: 50 years at 30 % inflation after 50 more at the same rate, without a
+/// return, so that the capital is hundreds of thousands of millions of rand; with as many policies and items as a file
+/// can hold.
 double solveWorst() {
     Assessment client;
     auto& needs = client.retirement;
@@ -66,7 +66,7 @@ double solveWorst() {
     return bench::milliseconds([&] { bench::keep(analyses::NARACalc(client).CapitalSolved); });
 }
 
-/// A thousand records, each with all values growing from the first year of life.
+/// A thousand records whose values all grow from the first year of life.
 double foldSchedule() {
     Assessment client;
     client.policies.resize(1000);

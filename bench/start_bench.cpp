@@ -14,8 +14,8 @@ namespace {
 namespace fs = std::filesystem;
 
 struct Start {
-    double milliseconds = 0; ///< from the making of the process until it tells that its window is painted
-    double mebibytes = 0;    ///< the most memory it has held until then
+    double milliseconds = 0; ///< from the start of the process until it reports that its window is painted
+    double mebibytes = 0;    ///< peak memory until then
 };
 
 pid_t spawn(const fs::path& executable, int output) {
@@ -51,8 +51,8 @@ Start start(const fs::path& executable, const std::string& platform) {
     return result;
 }
 
-/// The program in a folder of its own, its client database made by a first start, so that the starts that are measured
-/// find it and have nothing to bring up to date.
+/// The program in its own folder. A first start creates its client database, so that the measured starts find it and
+/// have nothing to update.
 const fs::path& program() {
     static const fs::path executable = [] {
         const fs::path folder = bench::emptyFolder("program");

@@ -1,4 +1,4 @@
-// The least that could be called this program: an empty window with an MDI area and a menu, on the toolkit alone.
+// The floor of a start: an empty window with an MDI area and a menu, using Qt alone.
 #include "painted.h"
 
 #include <QApplication>

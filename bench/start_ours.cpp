@@ -1,5 +1,5 @@
-// The program's own start, which ends as soon as the window stands painted and the files are found and checked. It is a
-// program of its own so that the shipped one needs no switch for it.
+// The program's own start, which ends once the window is painted and the files are checked. It is a separate program,
+// so that the shipped one needs no switch for it.
 #include "painted.h"
 
 #include <QApplication>

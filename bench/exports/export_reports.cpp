@@ -1,4 +1,4 @@
-// Writes every report definition as every kind of file, from full tables: what scripts/check-exports reads back.
+// Writes every report definition in every file format, from full tables, for bench/check-exports.
 //
 //   export_reports DEFINITIONS PRINT.MDB OUT
 
@@ -21,12 +21,12 @@ namespace {
 namespace fs = std::filesystem;
 using datastore::Row;
 
-/// How full the tables are.
+/// How much the tables hold.
 struct Fill {
     const char* name;
-    int rows;         ///< in the tables that hold many
-    bool longTexts;   ///< notes of several pages, lines with blanks, tabs and marks
-    bool headAndFoot; ///< the practice's lines
+    int rows;         ///< in tables of many rows
+    bool longTexts;   ///< notes of several pages, lines with blanks, tabs and quotation marks
+    bool headAndFoot; ///< the practice's header and footer lines
 };
 constexpr Fill fills[] = {{"short", 3, false, false}, {"full", 14, false, true}, {"long", 130, true, true}};
 
@@ -53,7 +53,7 @@ std::string fitting(const std::string& text, int size) {
     return size == 0 ? text : QString::fromStdString(text).left(size).toStdString();
 }
 
-/// As many months as two pages hold, and as many policies as a wealthy client has.
+/// As many months as fill two pages, and as many policies as a wealthy client has.
 int rowsOf(const std::string& table, const Fill& fill) {
     if (!manyRows.contains(table)) return 1;
     return table == "PolsInvestsAmorts" ? std::min(fill.rows, 20) : fill.rows;
@@ -109,7 +109,7 @@ void exportAll(const fs::path& definitions, const fs::path& printTemplate, const
     const reports::Engine engine(desk, folder);
     for (const auto& entry : fs::directory_iterator(definitions)) {
         const reports::Definition definition = reports::readDefinition(folder / entry.path().filename());
-        if (definition.title.isEmpty()) continue; // a piece of others
+        if (definition.title.isEmpty()) continue; // it is included by other definitions
         for (const Fill& fill : fills) {
             feedAll(print, reports::tablesOf(definition), fill);
             const auto report = engine.prepare(QString::fromStdString(entry.path().filename().string()));
