@@ -1,5 +1,5 @@
-# One set of compiler options for everything that is ours: the figures must be the same in every build, so contraction
-# of a*b+c is off and no option may trade exactness for speed.
+# One set of compiler options for all our code. Figures must be the same in every build, so a*b+c is not contracted into
+# one operation, and no option may trade exactness for speed.
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
@@ -25,7 +25,7 @@ endif()
 
 set(CMAKE_CXX_FLAGS_RELEASE "-O2 -DNDEBUG" CACHE STRING "What is installed and packaged" FORCE)
 
-# What a program does not use it need not load.
+# Libraries that a program does not use are not loaded.
 add_link_options(LINKER:--as-needed)
 
 add_library(marlowbeck_options INTERFACE)
@@ -33,7 +33,7 @@ target_compile_options(marlowbeck_options INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror -ffp-contract=off -fno-fast-math
   "$<$<BOOL:${CCACHE}>:-fpch-preprocess>")
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-  # From -O2 on this compiler warns of overlapping copies inside the library's own std::string, where there are none.
+  # From -O2 on, this compiler warns wrongly of overlapping copies inside the library's own std::string.
   target_compile_options(marlowbeck_options INTERFACE -Wno-restrict)
 endif()
 if(MARLOWBECK_SANITIZE)

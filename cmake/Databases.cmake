@@ -1,8 +1,8 @@
-# What lies beside the program: the four databases, made from their readable sources, the report definitions and the
-# guide that it shows as its help.
+# The files beside the program: the four databases, made from their SQL sources, the report definitions, and the guide
+# that it shows as help.
 #
-# Untouched databases stand in databases/, for packages; program/ gets a copy to work with. A copy is replaced only when
-# its source has changed, never because the generator was linked again: it may hold the rates that somebody has set.
+# databases/ holds untouched databases for packages; program/ gets working copies. A copy is replaced only if its source
+# has changed, never because the generator was linked again: it may hold rates set by a user.
 add_executable(makedatabase tools/makedatabase.cpp)
 target_link_libraries(makedatabase PRIVATE marlowbeck_options SQLiteCpp)
 set_target_properties(makedatabase PROPERTIES AUTOMOC OFF AUTORCC OFF)

@@ -1,17 +1,17 @@
-# What leaves the build folder, in two shapes that hold the same files.
+# What is installed from the build folder, in two forms with the same files.
 #
 #   component "program"  one folder that its user owns and can write: ./run makes it, and
 #                        `cmake --install build/release --component program --prefix FOLDER` makes one anywhere
-#   all the rest         the system's own folders, for all users: `cmake --install build/release --prefix /usr`, and the
-#                        Debian package. A marker file beside the executable tells the program that its user cannot write
-#                        here, so that it keeps its files in the user's data folder
+#   the other components the system's own folders, for all users: `cmake --install build/release --prefix /usr`, and the
+#                        Debian package. A marker file beside the executable tells the program that its user cannot
+#                        write there, so that it keeps its files in the user's data folder
 list(TRANSFORM MARLOWBECK_DATABASES PREPEND "${MARLOWBECK_DATABASE_DIR}/" OUTPUT_VARIABLE untouched_databases)
 
 # For all users.
 set(shared_folder lib/marlowbeck)
 foreach(folder bin lib lib/marlowbeck share share/applications share/doc share/doc/marlowbeck
         share/icons share/icons/hicolor share/icons/hicolor/scalable share/icons/hicolor/scalable/apps)
-  # Readable by all of them, whatever the umask of the one who packs.
+  # Readable by all users, whatever the packager's umask.
   install(DIRECTORY DESTINATION ${folder} DIRECTORY_PERMISSIONS
           OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 endforeach()
@@ -25,8 +25,8 @@ file(MAKE_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
 file(CREATE_LINK ../lib/marlowbeck/marlowbeck "${CMAKE_BINARY_DIR}/bin/marlowbeck" SYMBOLIC)
 install(FILES "${CMAKE_BINARY_DIR}/bin/marlowbeck" DESTINATION bin)
 
-# For one user. The folder holds clients' affairs, so nobody else may look into it; and a database that is there already
-# holds the user's settings, so it stays.
+# For one user. The folder holds confidential data of clients, so it is closed to others. An existing database holds the
+# user's settings and is kept.
 install(CODE [[
   set(folder "$ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}")
   if(NOT EXISTS "${folder}")
@@ -50,7 +50,7 @@ install(CODE [[
   endforeach()
 ]] COMPONENT program EXCLUDE_FROM_ALL)
 
-# What must be built before either shape can be installed.
+# The targets that both forms need.
 add_custom_target(marlowbeck_program DEPENDS marlowbeck)
 add_dependencies(marlowbeck_program databases)
 
@@ -67,7 +67,7 @@ set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
 reports and graphs of them, on South African rules and in rand.")
 set(CPACK_DEBIAN_PACKAGE_SECTION misc)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# libqt6svg6 also carries the plugins that draw the SVG icons.
+# libqt6svg6 also contains the plug-ins that draw the SVG icons.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "libqt6svg6, fonts-roboto-unhinted")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "xdg-utils")
 include(CPack)

@@ -1,5 +1,5 @@
-// What nearly every screen includes; parsed once. Only what many include stands here: the toolkit's whole set of
-// windows would make the parsed form half as large again, and each file that reads it slower.
+// Headers that nearly every screen includes, parsed once. Only common ones are listed: all of Qt's widgets would make
+// the precompiled header half as large again, and slower to read.
 #pragma once
 #include <QApplication>
 #include <QCheckBox>

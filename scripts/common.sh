@@ -1,5 +1,5 @@
 # shellcheck shell=bash
-# What run, test, tour/run and .ci/run share. Source it; it starts nothing by itself.
+# Shared by run, test, tour/run and .ci/run. Source it; it starts nothing by itself.
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd -P)
 
@@ -9,7 +9,7 @@ fail() {
     exit 1
 }
 
-# Names of the packages of these kinds (build, run, test, check), as packaging/packages.txt lists them.
+# The names of the packages of these kinds (build, run, test, check) in packaging/packages.txt.
 packages_of() {
     local wanted=" $* " kind name _
     while read -r kind name _; do
@@ -17,7 +17,7 @@ packages_of() {
     done <"$root/packaging/packages.txt"
 }
 
-# Those of the packages named that are not on this machine. Asks dpkg alone: no network, no rights.
+# Those of the given packages that are not installed. Asks only dpkg: needs no network and no rights.
 missing_of() {
     local known name
     known=$(dpkg-query --show --showformat='${db:Status-Status} ${Package}\n' "$@" 2>/dev/null || true)
@@ -26,12 +26,12 @@ missing_of() {
     done
 }
 
-# Installs what is missing of these kinds, saying what and as whom; when nothing is missing it touches nothing.
+# Installs the missing packages of these kinds and says what and as which user. Does nothing if none are missing.
 install_packages() {
     local wanted missing as_root=()
     mapfile -t wanted < <(packages_of "$@")
     if ! command -v dpkg-query >/dev/null; then
-        say "this is no Debian system, so nothing is installed; what is needed are the like of: ${wanted[*]}"
+        say "this is no Debian system, so nothing is installed; please install the equivalents of: ${wanted[*]}"
         return
     fi
     mapfile -t missing < <(missing_of "${wanted[@]}")
@@ -41,13 +41,13 @@ install_packages() {
         as_root=(sudo)
     fi
     say "installing${as_root[*]:+ through sudo}: ${missing[*]}"
-    # An update that fails (no network, one mirror down) may still leave lists good enough for the install.
+    # The lists may still be good enough after a failed update (no network, a mirror down).
     "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get update -q || say "apt-get update failed; trying all the same"
     "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -q -y --no-install-recommends "${missing[@]}"
 }
 
-# build PRESET TARGET...: configures and builds. A build folder that came along from another place is made anew, since
-# it holds the paths of the old one.
+# build PRESET TARGET...: configures and builds. A build folder that was moved or copied here is made anew, since it
+# contains paths of its old place.
 build() {
     local preset=$1 folder=$root/build/$1
     shift

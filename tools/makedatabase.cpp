@@ -1,4 +1,4 @@
-// Makes one of the databases that come with the program from its readable source: makedatabase SOURCE.sql TARGET
+// Creates one of the databases that come with the program from its SQL source: makedatabase SOURCE.sql TARGET
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <sqlite3.h>
 
@@ -23,7 +23,7 @@ std::string textOf(const fs::path& path) {
 
 void fill(const fs::path& path, const std::string& statements) {
     SQLite::Database database(path.string(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
-    // Without these a misspelt name in double quotes would end up in the file as a text.
+    // Without these options a misspelt name in double quotes would be stored as a text.
     sqlite3_db_config(database.getHandle(), SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
     sqlite3_db_config(database.getHandle(), SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
     SQLite::Transaction transaction(database);
@@ -44,7 +44,7 @@ int main(int argc, char** argv) {
         fs::remove(beside);
         fill(beside, textOf(argv[1]));
         fs::permissions(beside, fs::perms::owner_read | fs::perms::owner_write);
-        // A journal of the old file would be played into the new one.
+        // SQLite would replay a leftover journal of the old file into the new one.
         for (const char* ending : {"-journal", "-wal", "-shm"})
             fs::remove(target.string() + ending);
         fs::rename(beside, target);
