@@ -18,7 +18,7 @@ INSERT INTO [MutualFunds] VALUES (
     3, 3, 1, 0.5
 );
 
--- The factory rates, shown beside the user's and never changed.
+-- The original rates, shown beside the user's and never changed.
 CREATE TABLE [TallowenDefault] (
     [ESPremCom] DOUBLE, [EAPremCom] DOUBLE, [EMPremCom] DOUBLE, [EAComPortVal] DOUBLE, [EComEscPr] DOUBLE,
     [EIAF] DOUBLE, [EAMFee] DOUBLE, [EADivBo] DOUBLE, [ETaxRate] DOUBLE, [RSPremCom] DOUBLE, [RAPremCom] DOUBLE,

@@ -1,6 +1,6 @@
--- Print.mdb: what a screen hands to its report. A screen replaces the rows of its tables and then runs the report
--- definition, which reads them by these names. Rows mean nothing once the report has run, but for HeadFoot.
--- Tables here take no placeholder column. Dates are texts, dd/mm/yyyy, a blank for no date.
+-- Print.mdb: the data that a screen passes to its report. A screen replaces the rows of its tables and then runs the
+-- report definition, which reads them by these names. Only HeadFoot is needed after the report has run.
+-- Tables here have no placeholder column. Dates are texts: dd/mm/yyyy, or a blank for no date.
 
 -- -------------------------------------------------------------------------------------- the reports of calculators
 
@@ -60,8 +60,8 @@ CREATE TABLE [ItemisePrintName] (
 );
 INSERT INTO [ItemisePrintName] DEFAULT VALUES;
 
--- Lines of itemised lists. All are texts, since heading lines stand among them. The units stand in the line of the
--- column heads; what a list adds up to in its last line, with the words for it.
+-- Lines of itemised lists. All are texts, since some lines are headings. The line of the column heads holds the units,
+-- the last line of a list its total with a caption.
 CREATE TABLE [ItemisePrint] (
     [NewGrid] VARCHAR(255), [IncomeSource] VARCHAR(255), [Amount] VARCHAR(255), [Escalation] VARCHAR(255),
     [FromAge] VARCHAR(255), [ToAge] VARCHAR(255), [AmountUnit] VARCHAR(255), [EscalationUnit] VARCHAR(255),
@@ -166,9 +166,9 @@ CREATE TABLE [BondComp] (
     [IntPaid6] DOUBLE, [Total6] DOUBLE
 );
 
--- The heading of the policies and investments reports: totals in rand. FilledPolicies counts the records that hold
--- anything, LumpSumsDue those with a lump sum at some age, NoPolicies says so where nothing is filled; WorthTotal adds
--- up the column WorthAtRetirement as it is printed.
+-- The heading of the policies and investments reports: totals in rand. FilledPolicies counts the records that are not
+-- empty, LumpSumsDue those with a lump sum at some age, NoPolicies is a sentence if all are empty; WorthTotal is the
+-- sum of the column WorthAtRetirement as it is printed.
 CREATE TABLE [PolsInvests] (
     [Name] VARCHAR(255), [BirthDate] VARCHAR(255), [IDNumber] VARCHAR(255), [LifeCoverTotal] DOUBLE,
     [ContributionTotal] DOUBLE, [DisabilityTotal] DOUBLE, [DreadTotal] DOUBLE, [RetirementTotal] DOUBLE,
@@ -180,7 +180,7 @@ CREATE TABLE [PolsInvests] (
 );
 
 -- One row a policy or investment: rand, ages in years, escalations in percent. PremInvAmtAnnualCPI is always 0.
--- IsFilled is 0 for a record that nobody has entered anything in; WorthAtRetirement, rand, what it comes to then.
+-- IsFilled is 0 for an empty record; WorthAtRetirement, rand, is its worth at retirement.
 CREATE TABLE [PolsInvestsAmorts] (
     [PolNum] DOUBLE, [PolInvType] VARCHAR(255), [UnderInst] VARCHAR(255), [PolRefNum] VARCHAR(255),
     [PolOwner] VARCHAR(255), [InceptionDate] VARCHAR(255), [WoP] DOUBLE, [PaidUp] DOUBLE, [PremInvAmtMonthly] DOUBLE,
@@ -279,7 +279,7 @@ CREATE TABLE [HeadFoot] (
 INSERT INTO [HeadFoot] VALUES ('', '', '', '', 'This report was prepared in accordance with ',
     'information supplied by the undersigned client.', '', '');
 
--- The client's front page. Marital status and smoker are captions; Comments is empty unless notes are included.
+-- The client's personal details. Marital status and smoker are captions; Comments is empty unless notes are included.
 CREATE TABLE [PersDetails] (
     [Name] VARCHAR(80), [BirthDate] VARCHAR(10), [CTitle] VARCHAR(10), [CFName] VARCHAR(50), [CInit] VARCHAR(10),
     [CLName] VARCHAR(50), [IDNumber] VARCHAR(40), [PAdd1] VARCHAR(50), [PAdd2] VARCHAR(50), [PAdd3] VARCHAR(50),
@@ -299,7 +299,7 @@ CREATE TABLE [PersDetails] (
 );
 INSERT INTO [PersDetails] DEFAULT VALUES;
 
--- Whose printout it is. Every feed writes it with its own tables, so that no report bears the name of another client.
+-- The client of the printout. Every feed writes it with its own tables, so that no report shows another client's name.
 CREATE TABLE [Printout] (
     [Client] VARCHAR(255)
 );
@@ -323,7 +323,7 @@ CREATE TABLE [UnitHistDet] (
 );
 INSERT INTO [UnitHistDet] DEFAULT VALUES;
 
--- Monthly tax of one employee, each figure beside its caption: rand. EmployeeName is empty where none was typed.
+-- Monthly tax of one employee, each figure with its caption: rand. EmployeeName is empty if none was typed.
 CREATE TABLE [IRP5Mon] (
     [TypeAM] VARCHAR(255), [Employee] VARCHAR(255), [Age] VARCHAR(255), [AgeNum] DOUBLE, [Sal] VARCHAR(255),
     [SalNum] DOUBLE, [DirFees] VARCHAR(255), [DirFeesNum] DOUBLE, [TravAll] VARCHAR(255), [TravOne] DOUBLE,

@@ -1,7 +1,7 @@
 -- units.mdb: growth of unit trust funds. Figures are fractions a year: 0.123 shows as 12.3 %. The funds are invented
 -- examples; a practice puts its own here.
 
--- One row a fund. Index names say 10yr where the figures are of seven years. Ties go by the fund's name.
+-- One row a fund. Some index names say 10yr although the figures are of seven years. Ties are ordered by fund name.
 CREATE TABLE [Units] (
     [Unit Trust Fund] VARCHAR(80), [1 yr] DOUBLE, [2 yr] DOUBLE, [3 yr] DOUBLE, [5 yr] DOUBLE, [7 yr] DOUBLE
 );
