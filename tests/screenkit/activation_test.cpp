@@ -15,9 +15,8 @@ struct ActivationTest : testing::Test {
         bench.record.loans.Num1 = 500;
         bench.record.loans.Num2 = 12;
         bench.record.loans.Num3 = 10;
-        window.open("frmPersDet");
-        window.open("frmLoans");
-        settle();
+        open("frmPersDet");
+        open("frmLoans");
     }
     ~ActivationTest() override {
         for (Screen* open : window.screens())
@@ -26,6 +25,10 @@ struct ActivationTest : testing::Test {
     static void settle() {
         for (int i = 0; i < 5; ++i)
             QCoreApplication::processEvents();
+    }
+    void open(const char* screen) {
+        window.open(screen);
+        settle();
     }
     QLineEdit* field(const char* name) { return window.findChild<QLineEdit*>(name); }
     void away() {
@@ -38,9 +41,11 @@ struct ActivationTest : testing::Test {
         ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
         settle();
     }
-    static std::string focus() {
-        const auto* widget = QApplication::focusWidget();
-        return widget != nullptr ? widget->objectName().toStdString() : std::string();
+    static QString focus() { return QApplication::focusWidget()->objectName(); }
+    /// 700 months are more than a loan may run.
+    void enterTooMany() {
+        field("numPeriod")->setFocus(Qt::TabFocusReason);
+        QTest::keyClicks(field("numPeriod"), "700");
     }
 
     TestDesk desk;
@@ -59,12 +64,10 @@ TEST_F(ActivationTest, onlyAnotherScreenComingToTheFrontFillsIt) {
     EXPECT_EQ(field("numPrinAmount")->selectedText(), "");
     EXPECT_EQ(focus(), "numPrinAmount");
 
-    window.open("frmPersDet");
-    settle();
+    open("frmPersDet");
     EXPECT_EQ(focus(), "txtCTitle");
     EXPECT_EQ(field("numPeriod")->text(), "12");
-    window.open("frmLoans");
-    settle();
+    open("frmLoans");
     EXPECT_EQ(field("numPeriod")->text(), "24");
     EXPECT_EQ(field("numPrinAmount")->text(), "1.00");
     EXPECT_EQ(focus(), "numPrinAmount");
@@ -73,9 +76,7 @@ TEST_F(ActivationTest, onlyAnotherScreenComingToTheFrontFillsIt) {
 }
 
 TEST_F(ActivationTest, aWrongEntryCallsItsScreenBackToTheFront) {
-    field("numPeriod")->setFocus(Qt::TabFocusReason);
-    QTest::keyClicks(field("numPeriod"), "700");
-    desk.expect(Answer::ok);
+    enterTooMany();
     auto* other = window.findChild<QMdiSubWindow*>("frmPersDetWindow");
     other->raise();
     const QPoint title(other->width() / 2, 8);
@@ -84,32 +85,27 @@ TEST_F(ActivationTest, aWrongEntryCallsItsScreenBackToTheFront) {
     QTest::mousePress(window.windowHandle(), Qt::LeftButton, {}, other->mapTo(&window, title));
     QTest::qWait(5);
     EXPECT_TRUE(desk.boxes.empty());
-    QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {}, other->mapTo(&window, title));
-    QTest::qWait(40);
-    ASSERT_EQ(desk.boxes.size(), 1U);
-    EXPECT_EQ(desk.last().title, "Incorrect Period!");
+    const auto box = desk.told([&] {
+        QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {}, other->mapTo(&window, title));
+        QTest::qWait(40);
+    });
+    EXPECT_EQ(box.title, "Incorrect Period!");
     EXPECT_EQ(focus(), "numPeriod");
     EXPECT_EQ(field("numPeriod")->selectedText(), "700");
-    auto* loans = window.findChild<QMdiSubWindow*>("frmLoansWindow");
-    EXPECT_EQ(window.findChild<QMdiArea*>()->activeSubWindow(), loans);
+    EXPECT_EQ(window.findChild<QMdiArea*>()->activeSubWindow()->objectName(), "frmLoansWindow");
 }
 
 TEST_F(ActivationTest, aMenuIsNoLeavingButItsCommandsCheck) {
-    field("numPeriod")->setFocus(Qt::TabFocusReason);
-    QTest::keyClicks(field("numPeriod"), "700");
-    QTest::keyClick(window.windowHandle(), Qt::Key_F10);
-    settle();
-    QTest::keyClick(window.windowHandle(), Qt::Key_Escape);
-    settle();
+    enterTooMany();
+    for (const Qt::Key key : {Qt::Key_F10, Qt::Key_Escape}) {
+        QTest::keyClick(window.windowHandle(), key);
+        settle();
+    }
     EXPECT_TRUE(desk.boxes.empty());
     EXPECT_EQ(field("numPeriod")->text(), "700");
     EXPECT_EQ(focus(), "numPeriod");
 
-    desk.expect(Answer::ok);
-    window.findChild<QAction*>("mnuAbout")->trigger();
-    settle();
-    ASSERT_EQ(desk.boxes.size(), 1U);
-    EXPECT_EQ(desk.last().title, "Incorrect Period!");
+    EXPECT_EQ(desk.told([this] { window.findChild<QAction*>("mnuAbout")->trigger(); }).title, "Incorrect Period!");
 }
 
 } // namespace

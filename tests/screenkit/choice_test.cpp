@@ -8,31 +8,19 @@ namespace {
 QRadioButton* option(KitScreen* screen, int index) { return screen->findChild<OptionGroup*>("optMode")->option(index); }
 
 TEST_F(KitTest, anOptionIsPickedByMouseAndByTheArrows) {
-    const struct {
-        const char* how;
-        std::function<void()> pick;
-        int held;
-    } steps[] = {{"mouse", [this] { click(option(screen, 2)); }, 2},
-                 {"down, round to the top", [this] { key(Qt::Key_Down); }, 0},
-                 {"right", [this] { key(Qt::Key_Right); }, 1},
-                 {"up", [this] { key(Qt::Key_Up); }, 0},
-                 {"left, round to the bottom", [this] { key(Qt::Key_Left); }, 2}};
-    int picks = 0;
-    for (const auto& s : steps) {
-        SCOPED_TRACE(s.how);
+    int picks = 0; // the arrows go round at both ends
+    for (const auto& [pick, held] : {std::pair("@optMode(2)", 2), {"Down", 0}, {"Right", 1}, {"Up", 0}, {"Left", 2}}) {
+        SCOPED_TRACE(pick);
         changed() = 0;
-        s.pick();
-        EXPECT_EQ(places.mode, s.held);
-        EXPECT_TRUE(option(screen, s.held)->isChecked());
-        EXPECT_EQ(focus(), "optMode(" + std::to_string(s.held) + ")");
+        EXPECT_EQ(after(pick), "optMode(" + std::to_string(held) + ")");
+        EXPECT_EQ(places.mode, held);
+        EXPECT_TRUE(option(screen, held)->isChecked());
         EXPECT_EQ(changed(), 1);
         EXPECT_EQ(screen->picks, ++picks);
     }
     changed() = 0;
-    click(option(screen, 2));
+    act("@optMode(2) Space");
     EXPECT_EQ(changed(), 0) << "picking what holds already is no edit";
-    key(Qt::Key_Space);
-    EXPECT_EQ(changed(), 0);
 
     option(screen, 0)->setEnabled(false);
     key(Qt::Key_Down);
@@ -73,7 +61,7 @@ TEST_F(KitTest, aCheckBoxIsOneOrZero) {
     go("chkSmokes");
     key(Qt::Key_Space);
     EXPECT_EQ(places.smokes, 0);
-    click(get("chkSmokes"), QPoint(8, get("chkSmokes")->height() / 2));
+    click("chkSmokes");
     EXPECT_EQ(places.smokes, 1);
     EXPECT_EQ(changed(), 1);
 }
@@ -94,9 +82,7 @@ TEST_F(KitTest, spinButtonsStepByMouseAndByUpAndDown) {
 
     const double held = bench.record.loans.Num2;
     go("numMonths");
-    key(Qt::Key_Down);
-    key(Qt::Key_Down);
-    key(Qt::Key_Up);
+    act("Down Down Up");
     EXPECT_EQ(bench.record.loans.Num2, held - 1);
     EXPECT_EQ(text("numMonths"), std::to_string(static_cast<int>(held) - 1));
     go("numCount");
@@ -117,34 +103,24 @@ TEST(SpinRule, saysWhereAStepLeads) {
     const auto by = [](double step) { return [step] { return step; }; };
     const SpinRule years{
         .idleAtZero = true, .floor = 0, .holdsFloor = false, .ceiling = 40, .wrapsTo = 40, .rings = true};
-    const SpinRule rate{.step = by(0.1),
-                        .idleAtZero = true,
-                        .floor = 0,
-                        .holdsFloor = false,
-                        .ceiling = 50,
-                        .wrapsTo = 50,
-                        .rings = true};
+    SpinRule rate = years;
+    rate.step = by(0.1);
+    rate.ceiling = rate.wrapsTo = 50;
     const SpinRule inflation{.step = by(0.25), .floor = -5, .ceiling = 40, .wrapsTo = 30};
     const SpinRule copies{.floor = 1, .ceiling = 9};
     const SpinRule stuck{.step = by(0)};
     constexpr double nowhere = -999;
-    const struct {
-        const SpinRule& rule;
-        double from;
-        int direction;
-        double to;
-        bool rings;
-    } cases[] = {
+    const std::tuple<const SpinRule&, double, int, double, bool> cases[] = {
         {years, 2, -1, 1, false},        {years, 1, -1, 40, true},          {years, 40, 1, 1, false},
         {years, 0, 1, nowhere, false},   {years, 0.5, -1, 40, true}, // a part of a step meets the floor as well
         {rate, 0.1, -1, 50, true},       {rate, 0.3 - 0.2, -1, 50, true},   {rate, 50, 1, 0.1, false},
         {inflation, 0, 1, 0.25, false},  {inflation, -4.75, -1, -5, false}, {inflation, -5, -1, 30, false},
         {inflation, 40, 1, 0.25, false}, {inflation, 0.25, -1, 0, false},   {copies, 1, -1, nowhere, false},
         {copies, 9, 1, nowhere, false},  {copies, 8, 1, 9, false},          {stuck, 5, 1, nowhere, false}};
-    for (const auto& c : cases) {
-        const auto next = spun(c.rule, c.from, c.direction);
-        EXPECT_NEAR(next ? next->value : nowhere, c.to, 1e-12) << c.from << ' ' << c.direction;
-        EXPECT_EQ(next && next->rings, c.rings) << c.from << ' ' << c.direction;
+    for (const auto& [rule, from, direction, to, rings] : cases) {
+        const auto next = spun(rule, from, direction);
+        EXPECT_NEAR(next ? next->value : nowhere, to, 1e-12) << from << ' ' << direction;
+        EXPECT_EQ(next && next->rings, rings) << from << ' ' << direction;
     }
 }
 

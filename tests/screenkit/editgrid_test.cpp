@@ -31,21 +31,7 @@ private:
     std::string m_before, m_after;
 };
 
-struct Way {
-    const char* name;
-    std::function<void()> leave;
-};
-
 struct EditGridTest : KitTest {
-    EditGridTest() : grids(new GridScreen(bench.workplace)), gridChild(area.addSubWindow(grids)) {
-        gridChild->setGeometry(0, 0, 700, 500);
-        gridChild->show();
-        area.setActiveSubWindow(gridChild);
-        grids->activate();
-        settle();
-    }
-    ~EditGridTest() override { grids->drop(); }
-
     EditGrid& grid() { return *grids->grid; }
     void show(std::vector<EditRow> rows, int row = 0, int column = 0) {
         grids->show(std::move(rows));
@@ -56,30 +42,20 @@ struct EditGridTest : KitTest {
     QPoint at(int row, int column) { return grid().visualRect(grid().model()->index(row, column)).center(); }
     std::pair<int, int> place() { return {grid().currentIndex().row(), grid().currentIndex().column()}; }
     bool inEdit() { return focus() == "grdItemsCell"; }
-    std::function<void()> presses(Qt::Key pressed, Qt::KeyboardModifiers with = {}) {
-        return [this, pressed, with] { key(pressed, with); };
+    /// Leaves a cell of the first row that is in edit, in one of the `waysOut`.
+    void leave(const QString& way) {
+        if (way == "command of the main window")
+            grids->checkFields();
+        else if (way.contains("cell") || way.contains("below"))
+            click(grid().viewport(), at(1, 0) + QPoint(0, way == "below the rows" ? 60 : 0));
+        else
+            act(way);
+        settle();
     }
-    std::function<void()> clicks(QWidget* target, QPoint where = {}) {
-        return [this, target, where] { click(target, where); };
-    }
-    /// Every way out of a cell of the first row that is in edit.
-    std::vector<Way> waysOut() {
-        return {{"Tab", presses(Qt::Key_Tab)},
-                {"Shift+Tab", presses(Qt::Key_Tab, Qt::ShiftModifier)},
-                {"Enter", presses(Qt::Key_Enter)},
-                {"Escape", presses(Qt::Key_Escape)},
-                {"Up", presses(Qt::Key_Up)},
-                {"Down", presses(Qt::Key_Down)},
-                {"another cell", clicks(grid().viewport(), at(1, 0))},
-                {"below the rows", clicks(grid().viewport(), at(1, 0) + QPoint(0, 60))},
-                {"another field", clicks(grids->before)},
-                {"a button", clicks(grids->findChild<QPushButton*>("cmdAct"))},
-                {"its access key", presses(Qt::Key_A, Qt::AltModifier)},
-                {"a command of the main window", [this] { grids->checkFields(); }}};
-    }
-
-    GridScreen* grids;
-    QMdiSubWindow* gridChild;
+    const std::vector<const char*> waysOut{"Tab",        "Shift+Tab", "Enter",        "Esc",
+                                           "Up",         "Down",      "another cell", "below the rows",
+                                           "@txtBefore", "@cmdAct",   "Alt+A",        "command of the main window"};
+    GridScreen* grids = bring(new GridScreen(bench.workplace), {0, 0, 700, 500});
 };
 
 using Rows = std::vector<EditRow>;
@@ -97,15 +73,12 @@ TEST_F(EditGridTest, aListIsTypedByKeyboardAlone) {
     type("Shop");
     key(Qt::Key_Down); // past the last row
     EXPECT_EQ(place(), std::pair(2, 0));
-    key(Qt::Key_Down); // no second blank row
-    key(Qt::Key_Tab);
+    act("Down Tab"); // no second blank row
     EXPECT_EQ(place(), std::pair(2, 1));
     type("7.5");
     key(Qt::Key_Up);
     EXPECT_EQ(place(), std::pair(1, 1));
-    key(Qt::Key_Tab, Qt::ShiftModifier);
-    key(Qt::Key_F2);
-    key(Qt::Key_End);
+    act("Shift+Tab F2 End");
     type("2");
     key(Qt::Key_Escape);
     EXPECT_FALSE(inEdit());
@@ -114,46 +87,34 @@ TEST_F(EditGridTest, aListIsTypedByKeyboardAlone) {
     EXPECT_EQ(place(), std::pair(3, 0));
     EXPECT_EQ(grid().rows(), (Rows{{"Farm", 12.5, 10.0}, {"Shop2", 0.0, 0.0}, {"", 7.5, 0.0}})) << "without the offer";
     goTo(3, 2);
-    key(Qt::Key_Tab);
-    EXPECT_EQ(focus(), "txtAfter") << "from a blank last row Tab goes on";
+    EXPECT_EQ(after("Tab"), "txtAfter") << "from a blank last row Tab goes on";
     key(Qt::Key_Tab, Qt::ShiftModifier);
     goTo(0, 0);
-    key(Qt::Key_Tab, Qt::ShiftModifier);
-    EXPECT_EQ(focus(), "txtBefore");
+    EXPECT_EQ(after("Shift+Tab"), "txtBefore");
 }
 
 TEST_F(EditGridTest, everyWayOutTakesAGoodEntryAndTellsOfABadOneOnce) {
-    const struct {
-        int column;
-        const char *good, *typed;
-        QString told;
-        std::string held;
-    } cells[] = {{0, "Ṱhoho", "Houses", tooLong, "Farm"}, {1, "100", "100.01", tooMuch, "12.35"}};
-    show(twoRows);
-    for (const auto& cell : cells)
-        for (const Way& way : waysOut()) {
-            SCOPED_TRACE(testing::Message() << way.name << " from column " << cell.column);
-            show(twoRows, 0, cell.column);
-            type(cell.good);
-            way.leave();
-            EXPECT_EQ(grid().model()->index(0, cell.column).data(), cell.good);
-            EXPECT_TRUE(desk.boxes.empty());
+    const std::tuple<int, const char*, const char*, QString, std::string> cells[] = {
+        {0, "Ṱhoho", "Houses", tooLong, "Farm"}, {1, "100", "100.01", tooMuch, "12.35"}};
+    for (const auto& [column, good, bad, told, held] : cells)
+        for (const char* way : waysOut) {
+            SCOPED_TRACE(testing::Message() << way << " from column " << column);
+            show(twoRows, 0, column);
+            type(good);
+            leave(way);
+            EXPECT_EQ(grid().model()->index(0, column).data(), good);
             grids->acts = 0;
 
-            show(twoRows, 0, cell.column);
-            type(cell.typed);
-            desk.expect(Answer::ok);
-            way.leave();
-            settle();
-            ASSERT_EQ(desk.boxes.size(), 1U);
-            EXPECT_EQ(desk.last().text, cell.told);
-            EXPECT_EQ(desk.last().title, "Marlowbeck");
+            show(twoRows, 0, column);
+            type(bad);
+            const auto box = desk.told([&] { leave(way); });
+            EXPECT_EQ(box.text, told);
+            EXPECT_EQ(box.title, "Marlowbeck");
             EXPECT_TRUE(inEdit()) << focus();
-            EXPECT_EQ(place(), std::pair(0, cell.column));
-            EXPECT_EQ(selected(), cell.held);
+            EXPECT_EQ(place(), std::pair(0, column));
+            EXPECT_EQ(selected(), held);
             EXPECT_EQ(grid().rows(), twoRows);
             EXPECT_EQ(grids->acts, 0);
-            desk.boxes.clear();
         }
     key(Qt::Key_Tab); // what the cell got back lets the user go
     EXPECT_FALSE(inEdit());
@@ -163,27 +124,28 @@ TEST_F(EditGridTest, whatIsNotTypedOverKeepsEveryBitWhateverItIs) {
     const Rows old{{"Farmhouse", 12.3456, -500.0}};
     show(old);
     for (int i = 0; i < 3; ++i) {
-        key(Qt::Key_Return);
-        EXPECT_TRUE(inEdit());
+        EXPECT_EQ(after("Return"), "grdItemsCell");
         key(Qt::Key_Return);
     }
     EXPECT_EQ(grid().rows(), old);
+    show({{"a", 0.0, 3.0}}, 0, 1);
+    EXPECT_EQ(after("Return Return"), "grdItemsCell");
+    EXPECT_EQ(place(), std::pair(0, 2)) << "Enter on an empty cell walks on";
 }
 
 TEST_F(EditGridTest, rowsAreDeletedAndOneStays) {
+    const std::tuple<const char*, Rows, int> steps[] = {
+        {"Ctrl+Del", {{"a", 1.0, 0.0}, {"c", 3.0, 0.0}}, 1},
+        {"Ctrl+Del", {{"a", 1.0, 0.0}}, 0},
+        {"Del Esc", {{"a", 0.0, 0.0}}, 0}, // the cell alone
+        {"Ctrl+Del Ctrl+Del", {{"", 0.0, 0.0}}, 0},
+    };
     show({{"a", 1.0, 0.0}, {"b", 2.0, 0.0}, {"c", 3.0, 0.0}}, 1, 1);
-    key(Qt::Key_Delete, Qt::ControlModifier);
-    EXPECT_EQ(grid().rows(), (Rows{{"a", 1.0, 0.0}, {"c", 3.0, 0.0}}));
-    EXPECT_EQ(place(), std::pair(1, 1));
-    key(Qt::Key_Delete, Qt::ControlModifier);
-    EXPECT_EQ(place(), std::pair(0, 1));
-    key(Qt::Key_Delete); // empties the cell alone
-    EXPECT_TRUE(inEdit());
-    key(Qt::Key_Escape);
-    EXPECT_EQ(grid().rows(), (Rows{{"a", 0.0, 0.0}}));
-    for (int i = 0; i < 2; ++i)
-        key(Qt::Key_Delete, Qt::ControlModifier);
-    EXPECT_EQ(grid().rows(), (Rows{{"", 0.0, 0.0}}));
+    for (const auto& [keys, left, row] : steps) {
+        act(keys);
+        EXPECT_EQ(grid().rows(), left);
+        EXPECT_EQ(place(), std::pair(row, 1));
+    }
 }
 
 TEST_F(EditGridTest, mousePasteAndScreenReaderKnowTheCells) {
@@ -202,18 +164,13 @@ TEST_F(EditGridTest, mousePasteAndScreenReaderKnowTheCells) {
 TEST_F(EditGridTest, whatCannotBeReadStaysMarkedInItsCellUntilItIsMended) {
     show(twoRows, 0, 1);
     for (const char* typed : {"1.2.3", "12x"})
-        for (const Way& way : waysOut()) {
-            if (QString(way.name) == "Escape") continue;
-            SCOPED_TRACE(testing::Message() << typed << ", " << way.name);
+        for (const char* way : waysOut) {
+            if (way == std::string("Esc")) continue;
+            SCOPED_TRACE(testing::Message() << typed << ", " << way);
             if (inEdit()) key(Qt::Key_Escape);
-            key(Qt::Key_F2);
-            qobject_cast<QLineEdit*>(QApplication::focusWidget())->selectAll();
+            act("F2 Ctrl+A");
             paste(typed);
-            desk.boxes.clear();
-            desk.expect(Answer::ok);
-            way.leave();
-            settle();
-            ASSERT_EQ(desk.boxes.size(), 1U);
+            desk.told([&] { leave(way); });
             EXPECT_EQ(selected(), typed);
             EXPECT_EQ(grid().rows(), twoRows);
         }
@@ -225,37 +182,28 @@ TEST_F(EditGridTest, whatCannotBeReadStaysMarkedInItsCellUntilItIsMended) {
 }
 
 TEST_F(EditGridTest, rowsOfASpreadsheetArePastedWholeOrNotAtAll) {
-    const struct {
-        const char* copied;
-        int row, column;
-        Rows held;
-        const char* told; // nothing: they are taken
-    } cases[] = {
-        {"a\tR 1,5\t7\r\nb\t2\t8\r\nc\t\t9\r\n",
-         1,
-         0,
-         {twoRows[0], {"a", 1.5, 7.0}, {"b", 2.0, 8.0}, {"c", 0.0, 9.0}},
-         nullptr},
-        {"7\n8", 0, 1, {{"Farm", 7.0, 1.0}, {"Shop", 8.0, 2.0}}, nullptr},      // what lies beside stays
-        {"\"a\nb\"\t1", 0, 0, {{"a b", 1.0, 1.0}, twoRows[1]}, nullptr},        // a line end within a cell
-        {"Amount\tAge\n3\t4", 1, 1, {twoRows[0], {"Shop", 3.0, 4.0}}, nullptr}, // copied here, with its heads
+    const char* const taken = nullptr; // nothing is told
+    const std::tuple<const char*, int, int, Rows, const char*> cases[] = {
+        {"a\tR 1,5\t7\r\nb\t2\t8\r\n", 1, 0, {twoRows[0], {"a", 1.5, 7.0}, {"b", 2.0, 8.0}}, nullptr},
+        {"a\tR 1,5\t7\nb\t\t9", 0, 0, {{"a", 1.5, 7.0}, {"b", 0.0, 9.0}}, nullptr}, // an empty cell is 0
+        {"7\n8", 0, 1, {{"Farm", 7.0, 1.0}, {"Shop", 8.0, 2.0}}, nullptr},          // what lies beside stays
+        {"\"a\nb\"\t1", 0, 0, {{"a b", 1.0, 1.0}, twoRows[1]}, nullptr},            // a line end within a cell
+        {"Amount\tAge\n3\t4", 1, 1, {twoRows[0], {"Shop", 3.0, 4.0}}, nullptr},     // copied here, with its heads
         {"a\t1\nb\tmany", 0, 0, twoRows, "Row 2, Amount: “many” can't be read"},
         {"a\t1\nHouses\t2", 0, 0, twoRows, "Row 2, Item: At most five"},
         {"1\n100.5", 0, 2, twoRows, "Row 2, Age: 0 to 100"},
         {"1\t2\t3", 0, 1, twoRows, "Row 1 has more cells"},
     };
-    for (const auto& c : cases)
+    for (const auto& [copied, row, column, held, told] : cases)
         for (const bool fromTheCell : {false, true}) {
-            SCOPED_TRACE(testing::Message() << c.copied << (fromTheCell ? " in edit" : ""));
-            show(twoRows, c.row, c.column);
+            SCOPED_TRACE(testing::Message() << copied << (fromTheCell ? " in edit" : ""));
+            show(twoRows, row, column);
             if (fromTheCell) key(Qt::Key_F2);
-            desk.boxes.clear();
-            if (c.told != nullptr) desk.expect(Answer::ok);
-            paste(c.copied);
+            if (told != nullptr) desk.expect(Answer::ok);
+            paste(copied);
             settle();
-            EXPECT_EQ(grid().rows(), c.held);
-            ASSERT_EQ(desk.boxes.size(), c.told != nullptr ? 1U : 0U);
-            EXPECT_TRUE(c.told == nullptr || desk.last().text.startsWith(c.told)) << desk.last().text.toStdString();
+            EXPECT_EQ(grid().rows(), held);
+            EXPECT_TRUE(told == taken || desk.last().text.startsWith(told)) << desk.last().text.toStdString();
         }
     show(twoRows);
     grid().setCurrentIndex({}); // nothing is chosen
@@ -265,40 +213,28 @@ TEST_F(EditGridTest, rowsOfASpreadsheetArePastedWholeOrNotAtAll) {
 
 TEST_F(EditGridTest, cellsAreCopiedBelowTheirHeadsAndOneCellAlone) {
     show({{"\"Farm\"", 12.3456, 1.0}, twoRows[1]});
-    key(Qt::Key_A, Qt::ControlModifier);
-    key(Qt::Key_C, Qt::ControlModifier);
+    act("Ctrl+A Ctrl+C");
     EXPECT_EQ(QApplication::clipboard()->text(), "Item\tAmount\tAge\n\"\"\"Farm\"\"\"\t12.35\t1\nShop\t50\t2");
     goTo(1, 1);
     key(Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(QApplication::clipboard()->text(), "50");
 }
 
-TEST_F(EditGridTest, enterOnAnEmptyCellWalksOn) {
-    show({{"a", 0.0, 3.0}});
-    goTo(0, 1);
-    key(Qt::Key_Return);
-    EXPECT_EQ(place(), std::pair(0, 2));
-    key(Qt::Key_Return);
-    EXPECT_TRUE(inEdit()) << "a filled one is edited";
-}
-
 TEST_F(EditGridTest, aColumnOfYesAndNoTakesTheWordInAnyFormAndNoOther) {
     grid().present({{"Item", {}, 9, {}}, yesNoColumn("Split?")}, {{"a", "No"}}, 5);
     grid().setFocus(Qt::OtherFocusReason);
-    const struct {
-        const char *typed, *kept;
-    } cases[] = {{"y", "Yes"}, {" N ", "No"}, {"YES", "Yes"}, {"no", "No"}, {"maybe", nullptr}, {"", "No"}};
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.typed);
+    const std::pair<const char*, const char*> cases[] = {{"y", "Yes"}, {" N ", "No"},      {"YES", "Yes"},
+                                                         {"no", "No"}, {"maybe", nullptr}, {"", "No"}};
+    for (const auto& [typed, kept] : cases) {
+        SCOPED_TRACE(typed);
         goTo(0, 1);
         key(Qt::Key_Delete);
-        type(c.typed);
-        if (c.kept == nullptr) desk.expect(Answer::ok);
-        key(Qt::Key_Return);
-        if (c.kept == nullptr)
-            EXPECT_EQ(desk.last().text, "Please enter Yes or No.");
+        type(typed);
+        if (kept == nullptr)
+            EXPECT_EQ(desk.told([&] { act("Return"); }).text, "Please enter Yes or No.");
         else
-            EXPECT_EQ(grid().rows()[0][1], EditCell(c.kept));
+            act("Return");
+        EXPECT_TRUE(kept == nullptr || grid().rows()[0][1] == EditCell(kept));
         key(Qt::Key_Escape);
     }
     EXPECT_EQ(grid().rows().size(), 1U) << "a new row with its No is still blank";

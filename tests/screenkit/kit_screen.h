@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QClipboard>
 #include <QMainWindow>
@@ -127,6 +128,7 @@ protected:
         window.setCentralWidget(&area);
         window.resize(1000, 800);
         screen = new KitScreen(bench.workplace, places);
+        front = screen;
         child = area.addSubWindow(screen);
         child->resize(900, 780);
         window.show();
@@ -137,6 +139,20 @@ protected:
     }
     ~KitTest() override {
         if (screen != nullptr) screen->drop();
+        if (front != nullptr && front != screen) front->drop();
+    }
+
+    /// Shows another screen, which is the one that the hands work on from here.
+    template <class S>
+    S* bring(S* other, QRect place = {}) {
+        auto* frame = area.addSubWindow(other);
+        if (!place.isNull()) frame->setGeometry(place);
+        frame->show();
+        area.setActiveSubWindow(frame);
+        front = other;
+        other->activate();
+        settle();
+        return other;
     }
 
     /// The record was changed behind the screen's back, and the screen comes to the front.
@@ -151,7 +167,7 @@ protected:
 
     template <class T = QWidget>
     T* get(const char* name) {
-        return screen->findChild<T*>(name);
+        return front->findChild<T*>(name);
     }
     std::string text(const char* field) { return get<QLineEdit>(field)->text().toStdString(); }
     static std::string selected() {
@@ -172,11 +188,30 @@ protected:
         QTest::keyClick(window.windowHandle(), pressed, with);
         settle();
     }
+    /// What hands do, in words: a key by its name ("Tab", "Alt+R"), or "@" and a control, which is clicked.
+    void act(const QString& words) {
+        for (const QString& word : words.split(' ', Qt::SkipEmptyParts)) {
+            if (word.startsWith('@')) {
+                click(word.mid(1).toUtf8().constData());
+                continue;
+            }
+            const QKeyCombination pressed = QKeySequence(word)[0];
+            ASSERT_NE(pressed.key(), Qt::Key_unknown) << word.toStdString();
+            key(pressed.key(), pressed.keyboardModifiers());
+        }
+    }
+    /// Where the focus is after that.
+    std::string after(const QString& words) {
+        act(words);
+        return focus();
+    }
     /// Types with no pause for the event loop between the characters, as from a keyboard's buffer.
     static void type(const QString& typed) {
         for (const uint point : typed.toUcs4()) {
             const QString one = QString::fromUcs4(reinterpret_cast<const char32_t*>(&point), 1);
-            const auto code = point < 128 ? static_cast<Qt::Key>(QChar(point).toUpper().unicode()) : Qt::Key_unknown;
+            const auto code = point == '\t' ? Qt::Key_Tab
+                              : point < 128 ? static_cast<Qt::Key>(QChar(point).toUpper().unicode())
+                                            : Qt::Key_unknown;
             QTest::sendKeyEvent(QTest::Click, QApplication::focusWidget(), code, one, Qt::NoModifier);
         }
     }
@@ -198,7 +233,11 @@ protected:
         release(target, at);
         QTest::qWait(25); // a check that found the mouse down tries again after a while
     }
-    void click(const char* name) { click(get(name)); }
+    /// Clicks on a control; a check box or an option on its mark.
+    void click(const char* name) {
+        auto* button = get<QAbstractButton>(name);
+        click(get(name), button != nullptr && button->isCheckable() ? QPoint(8, button->height() / 2) : QPoint());
+    }
 
     std::int16_t& changed() { return bench.record.changed.LoansChanged; }
 
@@ -208,6 +247,7 @@ protected:
     QMainWindow window;
     QMdiArea area;
     QPointer<KitScreen> screen; ///< gone once its window is closed
+    QPointer<Screen> front;     ///< the one in which `get` looks for controls
     QPointer<QMdiSubWindow> child;
 
 private:

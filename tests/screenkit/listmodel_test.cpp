@@ -7,22 +7,16 @@ namespace screenkit {
 namespace {
 
 /// A fund a row: name, growth (nothing for a young one), date.
-struct Fund {
-    const char* name;
-    GridCell growth;
-    double started;
-};
-const std::vector<Fund> funds{
-    {"Êland", 0.5, 100}, {"bosbok", {}, 50}, {"", 12.25, 100}, {"Aalwyn", -1.0, 0}, {"BOSBOK", NAN, 300},
-};
+const std::vector<std::array<GridCell, 3>> funds{{QString("Êland"), 0.5, 100.0},
+                                                 {QString("bosbok"), {}, 50.0},
+                                                 {QString(""), 12.25, 100.0},
+                                                 {QString("Aalwyn"), -1.0, 0.0},
+                                                 {QString("BOSBOK"), NAN, 300.0}};
 const std::vector<GridColumn> columns{GridColumn::text(" Fund "), {"1 yr", "0.00"}, GridColumn::date("Started")};
 
 GridRows rowsOfFunds() {
     return {funds.size(),
-            [](std::size_t row, std::size_t column) -> GridCell {
-                const Fund& fund = funds[row];
-                return column == 0 ? GridCell(QString(fund.name)) : column == 1 ? fund.growth : GridCell(fund.started);
-            },
+            [](std::size_t row, std::size_t column) { return funds[row].at(column); },
             [](std::size_t row) { return QString("fund %1").arg(row); },
             {QString("All"), 11.75}};
 }
@@ -43,8 +37,6 @@ TEST(Models, AnswerNothingForLinesAndHeadsThatDoNotExist) {
     cells.set({{"Item", {}, 60, {}}, {"Amount", money, 0, {}}}, {{QString("a"), 1.0}, {QString("b"), 2.0}});
     for (QAbstractItemModel* model :
          std::initializer_list<QAbstractItemModel*>{&empty, &headless, &filled, &cells, &blankCells}) {
-        ListModel other;
-        other.set(columns, rowsOfFunds());
         const QModelIndex strange[] = {
             {}, model->index(-1, 0), model->index(0, 99), model->index(99, 0), model->index(0, -1)};
         for (const QModelIndex& index : strange) {
@@ -69,11 +61,8 @@ TEST(Models, AnswerNothingForLinesAndHeadsThatDoNotExist) {
 TEST(ListModelTest, SortsEachKindOfColumnBothWaysWithBlanksLowestAndEqualRowsInTheirOwnOrder) {
     ListModel model;
     model.set(columns, rowsOfFunds());
-    const struct {
-        int column;
-        Qt::SortOrder way;
-        const char* order; // the totals stay last
-    } cases[] = {
+    const std::tuple<int, Qt::SortOrder, const char*> cases[] = {
+        // the totals stay last
         {0, Qt::AscendingOrder, "23140+"},  {0, Qt::DescendingOrder, "01432+"}, {1, Qt::AscendingOrder, "14302+"},
         {1, Qt::DescendingOrder, "20314+"}, {2, Qt::AscendingOrder, "31024+"},  {2, Qt::DescendingOrder, "40213+"},
         {-1, Qt::AscendingOrder, "01234+"}, {7, Qt::DescendingOrder, "01234+"},
@@ -94,13 +83,17 @@ TEST(ListModelTest, SortsEachKindOfColumnBothWaysWithBlanksLowestAndEqualRowsInT
 TEST(ListModelTest, ShowsTextsFiguresDatesAndTotals) {
     ListModel model;
     model.set(columns, rowsOfFunds());
-    const auto cell = [&](int line, int column, int role = Qt::DisplayRole) {
-        return model.index(line, column).data(role).toString().toStdString();
-    };
-    EXPECT_EQ(cell(0, 0) + "|" + cell(0, 1) + "|" + cell(0, 2), "Êland|0.50|09/04/1900");
-    EXPECT_EQ(cell(1, 1), "");
-    EXPECT_EQ(cell(5, 0) + "|" + cell(5, 1) + "|" + cell(5, 2), "All|11.75|");
-    EXPECT_EQ(cell(1, 0, Qt::AccessibleTextRole) + "|" + cell(0, 1, Qt::AccessibleTextRole), "fund 1|1 yr: 0.50");
+    const std::tuple<int, int, int, const char*> cells[] = {{0, 0, Qt::DisplayRole, "Êland"},
+                                                            {0, 1, Qt::DisplayRole, "0.50"},
+                                                            {0, 2, Qt::DisplayRole, "09/04/1900"},
+                                                            {1, 1, Qt::DisplayRole, ""},
+                                                            {5, 0, Qt::DisplayRole, "All"},
+                                                            {5, 1, Qt::DisplayRole, "11.75"},
+                                                            {5, 2, Qt::DisplayRole, ""},
+                                                            {1, 0, Qt::AccessibleTextRole, "fund 1"},
+                                                            {0, 1, Qt::AccessibleTextRole, "1 yr: 0.50"}};
+    for (const auto& [line, column, role, said] : cells)
+        EXPECT_EQ(model.index(line, column).data(role), said) << line << ' ' << column;
     EXPECT_EQ(model.headerData(0, Qt::Horizontal).toString(), "Fund");
     EXPECT_TRUE(model.flags(model.index(4, 0)).testFlag(Qt::ItemIsSelectable));
     EXPECT_FALSE(model.flags(model.index(5, 0)).testFlag(Qt::ItemIsSelectable));
@@ -140,22 +133,19 @@ struct GridTest : KitTest {
 TEST_F(GridTest, HeadsSortByClickAndByKeyAndWhatIsPickedGoesAlong) {
     Grid* grid = make(Grid::Picking::one);
     EXPECT_EQ(picked(grid), "");
-    key(Qt::Key_Down);
-    EXPECT_EQ(picked(grid), "0") << "the first, not the second";
-    for (const auto& [press, to] : {std::pair{Qt::Key_End, "4"}, {Qt::Key_Down, "4"}, {Qt::Key_Home, "0"}}) {
-        key(press);
-        EXPECT_EQ(picked(grid), to) << "never the totals";
+    for (const auto& [press, to] : {std::pair{"Down", "0"}, {"End", "4"}, {"Down", "4"}, {"Home", "0"}}) {
+        act(press);
+        EXPECT_EQ(picked(grid), to) << "the first, not the second, and never the totals";
     }
-    const struct {
-        std::function<void()> act;
-        const char* order;
-    } presses[] = {{[&] { clickHead(grid, 0); }, "23140+"},
-                   {[&] { clickHead(grid, 0); }, "01432+"},
-                   {[&] { key(Qt::Key_3, Qt::ControlModifier); }, "31024+"},
-                   {[&] { clickHead(grid, 0); }, "23140+"},
-                   {[&] { key(Qt::Key_9, Qt::ControlModifier); }, "23140+"}};
-    for (const auto& [act, expected] : presses) {
-        act();
+    for (const auto& [press, expected] : {std::pair{"head", "23140+"},
+                                          {"head", "01432+"},
+                                          {"Ctrl+3", "31024+"},
+                                          {"head", "23140+"},
+                                          {"Ctrl+9", "23140+"}}) {
+        if (press == std::string("head"))
+            clickHead(grid, 0);
+        else
+            act(press);
         EXPECT_EQ(shownRows(grid), expected);
         EXPECT_EQ(picked(grid), "0");
         EXPECT_EQ(grid->current(), 0U);
@@ -174,10 +164,7 @@ TEST_F(GridTest, OneIsDroppedWhenASearchHidesItAndSeveralOutliveIt) {
     Grid* grid = make(Grid::Picking::several);
     for (const int line : {1, 3, 4, 3})
         clickLine(grid, line);
-    key(Qt::Key_Up); // walks, and picks nothing
-    key(Qt::Key_Up);
-    key(Qt::Key_Up);
-    key(Qt::Key_Space);
+    act("Up Up Up Space"); // the arrows walk, and pick nothing
     EXPECT_EQ(picked(grid), "014");
     grid->narrow(std::vector<std::size_t>{2, 4});
     key(Qt::Key_1, Qt::ControlModifier);
@@ -205,12 +192,10 @@ TEST_F(GridTest, CopiesPickedLinesUnderTheirHeadsAndSaysWhyItIsEmpty) {
     Grid* grid = make(Grid::Picking::stretch);
     QApplication::clipboard()->setText("before");
     grid->narrow(std::vector<std::size_t>{});
-    for (const Qt::Key press : {Qt::Key_C, Qt::Key_A, Qt::Key_C, Qt::Key_1})
-        key(press, Qt::ControlModifier);
+    act("Ctrl+C Ctrl+A Ctrl+C Ctrl+1");
     EXPECT_EQ(QApplication::clipboard()->text(), "before") << "no line, nothing copied";
     grid->narrow(std::vector<std::size_t>{0, 3});
-    key(Qt::Key_A, Qt::ControlModifier);
-    key(Qt::Key_C, Qt::ControlModifier);
+    act("Ctrl+A Ctrl+C");
     EXPECT_EQ(QApplication::clipboard()->text(),
               "Fund\t1 yr\tStarted\nAalwyn\t-1.00\t30/12/1899\nÊland\t0.50\t09/04/1900\nAll\t11.75\t");
     grid->setEmptyText("nobody");

@@ -25,67 +25,30 @@ private:
     double m_figures[6] = {};
 };
 
-class TabPages : public testing::Test {
-protected:
-    TabPages() {
-        new AccessKeys(&window);
-        window.setCentralWidget(&area);
-        area.addSubWindow(screen);
-        window.show();
-        window.activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
-        screen->activate();
-    }
-    std::string after(Qt::Key key, Qt::KeyboardModifiers with = {}) {
-        QTest::keyClick(window.windowHandle(), key, with);
-        QCoreApplication::processEvents();
-        return QApplication::focusWidget()->objectName().toStdString();
-    }
-    TestDesk desk;
-    Workbench bench{desk};
-    QMainWindow window;
-    QMdiArea area;
-    Paged* screen = new Paged(bench.workplace);
+struct TabPages : KitTest {
+    Paged* paged = bring(new Paged(bench.workplace));
 };
 
 TEST_F(TabPages, EnterGoesFromTheLastFieldOfAPageToTheNextPageThatHasAny) {
-    EXPECT_EQ(after(Qt::Key_Return), "numB");
-    EXPECT_EQ(after(Qt::Key_Return), "numC");
-    EXPECT_EQ(screen->book->currentIndex(), 2);
-    EXPECT_EQ(after(Qt::Key_Enter), "numD");
-    after(Qt::Key_Return);
-    EXPECT_EQ(screen->opened, 0);
+    for (const char* next : {"numB", "numC", "numD"})
+        EXPECT_EQ(after("Return"), next);
+    EXPECT_EQ(paged->book->currentIndex(), 2);
+    act("Return");
+    EXPECT_EQ(paged->opened, 0);
 }
 
 TEST_F(TabPages, KeysThatTurnToAPageLeadTheFocusIntoIt) {
-    struct Step {
-        Qt::Key key;
-        Qt::KeyboardModifier with;
-        const char* focus;
-    };
-    const Step steps[] = {{Qt::Key_L, Qt::AltModifier, "numC"},
-                          {Qt::Key_S, Qt::AltModifier, "numSum"},
-                          {Qt::Key_F, Qt::AltModifier, "numA"},
-                          {Qt::Key_F, Qt::AltModifier, "numA"},
-                          {Qt::Key_PageDown, Qt::ControlModifier, "numSum"},
-                          {Qt::Key_PageDown, Qt::ControlModifier, "numC"},
-                          {Qt::Key_PageDown, Qt::ControlModifier, "numA"},
-                          {Qt::Key_PageUp, Qt::ControlModifier, "numC"}};
-    for (const Step& step : steps)
-        EXPECT_EQ(after(step.key, step.with), step.focus) << step.key;
-    screen->findChild<QWidget*>("cmdOther")->setFocus();
-    EXPECT_EQ(after(Qt::Key_PageUp, Qt::ControlModifier), "numSum");
+    const std::pair<const char*, const char*> steps[] = {
+        {"Alt+L", "numC"},         {"Alt+S", "numSum"},     {"Alt+F", "numA"},       {"Alt+F", "numA"},
+        {"Ctrl+PgDown", "numSum"}, {"Ctrl+PgDown", "numC"}, {"Ctrl+PgDown", "numA"}, {"Ctrl+PgUp", "numC"}};
+    for (const auto& [keys, leadTo] : steps)
+        EXPECT_EQ(after(keys), leadTo) << keys;
+    go("cmdOther");
+    EXPECT_EQ(after("Ctrl+PgUp"), "numSum");
 
-    screen->panel->open(screen->findChild<QWidget*>("numE"));
-    EXPECT_EQ(after(Qt::Key_PageUp, Qt::ControlModifier), "numE") << "the pages lie below the panel";
-    EXPECT_EQ(screen->book->currentIndex(), 1);
-}
-
-TEST_F(TabPages, TheLetterOfTheFieldThatHasTheFocusSelectsIt) {
-    auto* field = screen->findChild<QLineEdit*>("numA");
-    field->deselect();
-    EXPECT_EQ(after(Qt::Key_A, Qt::AltModifier), "numA");
-    EXPECT_EQ(field->selectedText(), field->text());
+    paged->panel->open(get("numE"));
+    EXPECT_EQ(after("Ctrl+PgUp"), "numE") << "the pages lie below the panel";
+    EXPECT_EQ(paged->book->currentIndex(), 1);
 }
 
 } // namespace

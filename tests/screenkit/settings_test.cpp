@@ -55,50 +55,32 @@ public:
 };
 
 struct SettingsTest : KitTest {
-    SettingsTest() {
-        auto* frame = area.addSubWindow(shown);
-        frame->setGeometry(0, 0, 500, 420);
-        frame->show();
-        area.setActiveSubWindow(frame);
-        shown->activate();
+    void open() {
+        shown->open();
         settle();
     }
-    ~SettingsTest() override { shown->drop(); }
-    template <class T = QWidget>
-    T* find(const char* name) {
-        return shown->findChild<T*>(name);
-    }
-    bool isSeenWhole(const char* name) {
-        auto* control = find(name);
-        return control->visibleRegion().boundingRect().size() == control->size();
-    }
-    SettingsScreen* shown = new SettingsScreen(bench.workplace);
+    bool isSeenWhole(const char* name) { return get(name)->visibleRegion().boundingRect().size() == get(name)->size(); }
+    SettingsScreen* shown = bring(new SettingsScreen(bench.workplace), {0, 0, 500, 420});
 };
 
 TEST_F(SettingsTest, whatIsEnteredIsInForceOnceItIsStored) {
-    const struct {
-        const char* typed;
-        const char* leave;
-        bool isFull, stays;
-        double inForce;
-    } turns[] = {{"7", "cmdCancelCosts", false, false, 2},
-                 {"7", "cmdOKCosts", true, true, 2},
-                 {"", "cmdOKCosts", false, false, 7},
-                 {"8.5", "cmdCancelCosts", false, false, 7}};
-    for (const auto& turn : turns) {
-        if (!find("fraCosts")->isVisible()) {
-            shown->open();
-            settle();
+    const std::tuple<const char*, const char*, bool, bool, double> turns[] = {
+        {"7", "cmdCancelCosts", false, false, 2},
+        {"7", "cmdOKCosts", true, true, 2},
+        {"", "cmdOKCosts", false, false, 7},
+        {"8.5", "cmdCancelCosts", false, false, 7}};
+    for (const auto& [typed, leave, isFull, stays, inForce] : turns) {
+        if (!get("fraCosts")->isVisible()) {
+            open();
             EXPECT_EQ(focus(), "numRate0");
-            EXPECT_EQ(find<NumberField>("numRate31")->value(), shown->inForce.last) << "not what was dropped";
+            EXPECT_EQ(get<NumberField>("numRate31")->value(), shown->inForce.last) << "not what was dropped";
         }
-        find("numRate31")->setFocus(Qt::TabFocusReason);
-        type(turn.typed);
-        shown->isFull = turn.isFull;
-        if (turn.isFull) desk.expect(Answer::ok);
-        click(find(turn.leave));
-        EXPECT_EQ(find("fraCosts")->isVisible(), turn.stays);
-        EXPECT_EQ(shown->inForce.last, turn.inForce);
+        enter("numRate31", typed);
+        shown->isFull = isFull;
+        if (isFull) desk.expect(Answer::ok);
+        click(leave);
+        EXPECT_EQ(get("fraCosts")->isVisible(), stays);
+        EXPECT_EQ(shown->inForce.last, inForce);
         EXPECT_EQ(shown->inForce.first, 1);
     }
     EXPECT_TRUE(desk.last().text.contains("could not store the settings"));
@@ -108,30 +90,22 @@ TEST_F(SettingsTest, whatIsEnteredIsInForceOnceItIsStored) {
 }
 
 TEST_F(SettingsTest, aPanelTooTallScrollsAfterTheFocus) {
-    shown->open();
-    settle();
-    ASSERT_LT(find("fraCosts")->height(), shown->height() + 1);
+    open();
+    ASSERT_LT(get("fraCosts")->height(), shown->height() + 1);
     EXPECT_FALSE(isSeenWhole("numRate31"));
-    const std::pair<std::function<void()>, const char*> moves[] = {
-        {[this] { key(Qt::Key_L, Qt::AltModifier); }, "numRate31"},
-        {[this] { key(Qt::Key_Backtab); }, "numRate30"},
-        {[this] { key(Qt::Key_F, Qt::AltModifier); }, "numRate0"},
-        {[this] { key(Qt::Key_Backtab); }, "cmdCancelCosts"},
-        {[this] {
-             key(Qt::Key_Backtab);
-             key(Qt::Key_Backtab);
-         },
-         "numRate31"}};
+    const std::pair<const char*, const char*> moves[] = {{"Alt+L", "numRate31"},
+                                                         {"Backtab", "numRate30"},
+                                                         {"Alt+F", "numRate0"},
+                                                         {"Backtab", "cmdCancelCosts"},
+                                                         {"Backtab Backtab", "numRate31"}};
     for (const auto& [move, field] : moves) {
-        move();
-        EXPECT_EQ(focus(), field);
+        EXPECT_EQ(after(move), field);
         for (const char* seen : {field, "cmdOKCosts", "cmdCancelCosts"})
             EXPECT_TRUE(isSeenWhole(seen)) << seen;
-        EXPECT_EQ(find("numRate0")->mapTo(find("fraCosts"), QPoint()).x() > 0, true) << "nothing goes sideways";
+        EXPECT_GT(get("numRate0")->mapTo(get("fraCosts"), QPoint()).x(), 0) << "nothing goes sideways";
     }
     key(Qt::Key_Escape);
-    shown->open();
-    settle();
+    open();
     EXPECT_TRUE(isSeenWhole("numRate0")) << "it opens at its top again";
 }
 
@@ -142,19 +116,16 @@ TEST_F(SettingsTest, onePanelExplainsWhateverItIsOpenedOn) {
                   {"cmdInfo(0)", "  Base cost", "Base cost", "What it cost."},
                   {"cmdInfo(1)", "Gain", "Gain", "What it brought."}};
     for (const auto& topic : topics) {
-        click(find(topic.button));
-        auto* page = find<QTextBrowser>("txtInfo");
-        EXPECT_EQ(focus(), "txtInfo");
-        EXPECT_EQ(find<QLabel>("lblInfo")->text(), topic.title);
-        EXPECT_EQ(find("fraInfo")->accessibleName(), topic.spoken);
+        EXPECT_EQ(after("@" + QString(topic.button)), "txtInfo");
+        auto* page = get<QTextBrowser>("txtInfo");
+        EXPECT_EQ(get<QLabel>("lblInfo")->text(), topic.title);
+        EXPECT_EQ(get("fraInfo")->accessibleName(), topic.spoken);
         EXPECT_TRUE(page->toPlainText().startsWith(topic.begins));
         EXPECT_EQ(page->verticalScrollBar()->value(), 0);
-        key(Qt::Key_End);
-        click(find("cmdOKInfo"));
-        EXPECT_EQ(focus(), topic.button);
+        EXPECT_EQ(after("End @cmdOKInfo"), topic.button);
     }
     EXPECT_EQ(shown->findChildren<QTextBrowser*>().size(), 1);
-    EXPECT_NE(find("Frame4"), nullptr);
+    EXPECT_NE(get("Frame4"), nullptr);
 }
 
 // Two screens work over one figure of a third one's; whichever goes first, the owner has his figure back.
@@ -162,12 +133,7 @@ TEST(LentFigures, areGivenBackUnlessTheUserWantedThemOtherwise) {
     const auto taxes = [](LentFigures& lent, double& figure, double income) {
         lent.during(figure, [&] { figure = income; });
     };
-    const struct {
-        const char* when;
-        std::function<void(LentFigures&, double&)> happens;
-        double left;
-        bool givenBack;
-    } cases[] = {
+    const std::tuple<const char*, std::function<void(LentFigures&, double&)>, double, bool> cases[] = {
         {"looked", [&](auto& lent, double& f) { taxes(lent, f, 1); }, 500, true},
         {"looked twice", [&](auto& lent, double& f) { taxes(lent, f, 1), taxes(lent, f, 2); }, 500, true},
         {"it came out the same", [&](auto& lent, double& f) { taxes(lent, f, 500); }, 500, true},
@@ -185,13 +151,13 @@ TEST(LentFigures, areGivenBackUnlessTheUserWantedThemOtherwise) {
              }));
          },
          500, true}};
-    for (const auto& c : cases) {
+    for (const auto& [when, happens, left, givenBack] : cases) {
         LentFigures lent;
         double figure = 500;
-        c.happens(lent, figure);
-        EXPECT_EQ(lent.giveBack(figure), c.givenBack) << c.when;
-        EXPECT_EQ(figure, c.left) << c.when;
-        EXPECT_FALSE(lent.giveBack(figure)) << c.when;
+        happens(lent, figure);
+        EXPECT_EQ(lent.giveBack(figure), givenBack) << when;
+        EXPECT_EQ(figure, left) << when;
+        EXPECT_FALSE(lent.giveBack(figure)) << when;
     }
 }
 

@@ -5,6 +5,7 @@
 #include <QPrinter>
 #include <QStringList>
 #include <deque>
+#include <functional>
 #include <vector>
 
 #include "screenkit/desk.h"
@@ -16,10 +17,10 @@ namespace screenkit {
 class TestDesk : public Desk {
 public:
     struct Box {
-        BoxStyle style;
+        BoxStyle style{};
         QString text;
         QString title;
-        Buttons buttons;
+        Buttons buttons{};
         std::optional<Answer> defaultAnswer;
     };
 
@@ -30,6 +31,16 @@ public:
 
     /// The next box is answered so.
     void expect(Answer answer) { m_answers.push_back(answer); }
+    /// The one box that `act` brings up, answered so; none, or more than one, fails the test.
+    Box asked(Answer answer, const std::function<void()>& act) {
+        boxes.clear();
+        expect(answer);
+        act();
+        EXPECT_EQ(boxes.size(), 1U);
+        return boxes.empty() ? Box{} : boxes.front();
+    }
+    /// The same, answered OK.
+    Box told(const std::function<void()>& act) { return asked(Answer::ok, act); }
     /// The next file chooser gives this name; nothing: the user cancels.
     void expectFile(std::optional<QString> name) { m_files.push_back(std::move(name)); }
     /// The box shown last.

@@ -1,5 +1,3 @@
-#include <QAbstractButton>
-#include <QLabel>
 #include <QScrollArea>
 #include <QScrollBar>
 
@@ -15,12 +13,10 @@ const std::vector<std::string> tabOrder{"numAmount", "numMonths", "numCount",  "
 TEST_F(KitTest, tabFollowsTheDeclarationRoundAndBack) {
     EXPECT_EQ(focus(), tabOrder.front()) << "a screen opens on its first field";
     for (std::size_t i = 1; i <= tabOrder.size(); ++i) {
-        key(Qt::Key_Tab);
-        EXPECT_EQ(focus(), tabOrder[i % tabOrder.size()]);
+        EXPECT_EQ(after("Tab"), tabOrder[i % tabOrder.size()]);
     }
     for (std::size_t i = tabOrder.size(); i-- > 0;) {
-        key(Qt::Key_Backtab, Qt::ShiftModifier);
-        EXPECT_EQ(focus(), tabOrder[i]);
+        EXPECT_EQ(after("Backtab"), tabOrder[i]);
     }
 }
 
@@ -29,27 +25,20 @@ TEST_F(KitTest, enterWalksTheFieldsAndTheLastPressesTheDefaultButton) {
         if (name.starts_with("cmd")) continue; // Enter goes from field to field, past the buttons between
         EXPECT_EQ(focus(), name);
         EXPECT_EQ(screen->runs, 0);
-        if (name == "txtNotes")
-            key(Qt::Key_Tab); // Enter is a new line there
-        else
-            key(Qt::Key_Return);
+        act(name == "txtNotes" ? "Tab" : "Return"); // Enter is a new line there
     }
     EXPECT_EQ(screen->runs, 1);
     EXPECT_EQ(focus(), "chkSmokes");
     go("cmdCancel");
-    key(Qt::Key_Enter, Qt::KeypadModifier);
+    act("Num+Enter");
     EXPECT_EQ(screen->cancels, 1) << "on a button Enter presses that one";
     EXPECT_EQ(screen->runs, 1);
 
     go("numRate");
-    key(Qt::Key_Return);
-    EXPECT_EQ(focus(), "dtDay") << "past the result";
+    EXPECT_EQ(after("Return"), "dtDay") << "past the result";
     go("numAmount");
-    key(Qt::Key_Return);
-    EXPECT_EQ(selected(), text("numMonths"));
-    const std::string held = text("numMonths");
-    key(Qt::Key_7, Qt::AltModifier);
-    EXPECT_EQ(text("numMonths"), held) << "a key that leads nowhere is not typed over the selection";
+    act("Return Alt+7");
+    EXPECT_EQ(selected(), text("numMonths")) << "a key that leads nowhere is not typed over the selection";
 }
 
 TEST_F(KitTest, inASmallWindowWithLargeLettersTheFocusIsAlwaysInView) {
@@ -68,25 +57,18 @@ TEST_F(KitTest, inASmallWindowWithLargeLettersTheFocusIsAlwaysInView) {
         return seen.intersects(there) &&
                (there.height() > seen.height() || (seen.top() <= there.top() && seen.bottom() >= there.bottom()));
     };
-    go("numAmount");
-    for (std::size_t i = 0; i <= tabOrder.size(); ++i) {
-        key(Qt::Key_Tab);
-        EXPECT_TRUE(inView()) << focus();
-    }
-    go("numAmount");
-    for (int i = 0; i < 6; ++i) {
-        key(Qt::Key_Return);
-        EXPECT_TRUE(inView()) << focus();
+    for (const char* pressed : {"Tab", "Return"}) {
+        go("numAmount");
+        for (std::size_t i = 0; i < tabOrder.size(); ++i)
+            EXPECT_TRUE(after(pressed) != "" && inView()) << focus();
     }
     go("cmdOK");
-    key(Qt::Key_A, Qt::AltModifier);
-    EXPECT_EQ(focus(), "numAmount");
+    EXPECT_EQ(after("Alt+A"), "numAmount");
     EXPECT_TRUE(inView()) << "by access key";
     enter("numMonths", "700");
     scroll->verticalScrollBar()->setValue(scroll->verticalScrollBar()->maximum());
     desk.expect(Answer::ok);
-    click("cmdRun");
-    EXPECT_EQ(focus(), "numMonths");
+    EXPECT_EQ(after("@cmdRun"), "numMonths");
     EXPECT_TRUE(inView()) << "after its box";
     enter("numMonths", "7");
     QApplication::setFont(before);
