@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include <QMenuBar>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -100,72 +98,61 @@ TEST(Menu, EachScreenIsSeenWholeInTheWindowAsItStarts) {
     EXPECT_GE(opened, 4);
 }
 
-TEST(Toolbar, TwoScreensAreCascadedAfterACommandOfItsOwnOnly) {
+TEST(Toolbar, TwoScreensAreCascadedAfterACommandOfItsOwnOrOfItsPopUpsOnly) {
     RunningProgram run;
+    const auto areApart = [&] { return placeOf(run, "frmPersDet") != placeOf(run, "frmLoans"); };
     run.menu("mnuPersDet");
     run.menu("mnuLoansCalc");
-    EXPECT_EQ(placeOf(run, "frmPersDet"), QPoint(0, 0));
-    EXPECT_EQ(placeOf(run, "frmLoans"), QPoint(0, 0));
+    EXPECT_FALSE(areApart());
     press(run, "Personal Details");
-    EXPECT_NE(placeOf(run, "frmPersDet"), placeOf(run, "frmLoans"));
+    EXPECT_TRUE(areApart());
+    run.screen("frmLoans")->parentWidget()->move(0, 0);
+    run.screen("frmPersDet")->parentWidget()->move(0, 0);
+    run.menu("mnuLoansCalcTB");
+    EXPECT_TRUE(areApart());
 
     run.menu("mnuPrep"); // with a third screen nothing moves any more
-    const QPoint before = placeOf(run, "frmLoans");
     run.screen("frmLoans")->parentWidget()->move(7, 7);
     run.menu("mnuLoansCalcTB");
     EXPECT_EQ(placeOf(run, "frmLoans"), QPoint(7, 7));
-    EXPECT_NE(before, QPoint(7, 7));
-}
-
-TEST(Toolbar, APopUpsChoiceCascadesToo) {
-    RunningProgram run;
-    run.menu("mnuPersDet");
-    run.menu("mnuLoansCalcTB");
-    EXPECT_NE(placeOf(run, "frmPersDet"), placeOf(run, "frmLoans"));
 }
 
 TEST(Toolbar, IsOffWhileBrowseOrSaveAsIsOpenWhateverRoadTheyClose) {
-    struct Road {
-        const char* item;
-        const char* screen;
-        std::function<void(RunningProgram&)> close;
+    const auto cancels = [](RunningProgram& run) { run.click("cmdCancel"); };
+    const auto closes = [](RunningProgram& run) { run.front()->parentWidget()->close(); };
+    const auto picks = [](RunningProgram& run) {
+        run.enter("txtSearch", "Botha");
+        run.key(Qt::Key_Return);
     };
-    const std::vector<Road> roads{
-        {"mnuBrowse", "frmBrowse", [](RunningProgram& run) { run.click("cmdCancel"); }},
-        {"mnuBrowse", "frmBrowse", [](RunningProgram& run) { run.front()->parentWidget()->close(); }},
+    const std::tuple<const char*, const char*, std::function<void(RunningProgram&)>> roads[] = {
+        {"mnuBrowse", "frmBrowse", cancels},
+        {"mnuBrowse", "frmBrowse", closes},
         {"mnuBrowse", "frmBrowse", [](RunningProgram& run) { run.menu("mnuNewFile"); }},
-        {"mnuBrowse", "frmBrowse",
-         [](RunningProgram& run) {
-             run.enter("txtSearch", "Botha");
-             run.key(Qt::Key_Return);
-         }},
-        {"mnuSaveAs", "frmSaveFileAs", [](RunningProgram& run) { run.click("cmdCancel"); }},
-        {"mnuSaveAs", "frmSaveFileAs", [](RunningProgram& run) { run.front()->parentWidget()->close(); }},
+        {"mnuBrowse", "frmBrowse", picks},
+        {"mnuSaveAs", "frmSaveFileAs", cancels},
+        {"mnuSaveAs", "frmSaveFileAs", closes},
         {"mnuSaveAs", "frmSaveFileAs", [](RunningProgram& run) { run.click("cmdOK"); }},
     };
     RunningProgram run;
     run.saveClient("Botha");
-    for (const Road& road : roads) {
-        run.menu(road.item);
-        ASSERT_TRUE(run.isOpen(road.screen));
+    for (const auto& [item, screen, close] : roads) {
+        SCOPED_TRACE(item);
+        run.menu(item);
+        ASSERT_TRUE(run.isOpen(screen));
         for (QAction* action : toolbar(run)->actions())
-            EXPECT_FALSE(toolbar(run)->widgetForAction(action)->isEnabled()) << road.item;
+            EXPECT_FALSE(toolbar(run)->widgetForAction(action)->isEnabled());
         EXPECT_EQ(toolbar(run)->actions().front()->toolTip(), "New: not while Browse or Save As is open");
         EXPECT_TRUE(run.window().findChild<QAction*>("mnuSave")->isEnabled());
-        road.close(run);
+        close(run);
         RunningProgram::settle();
-        EXPECT_FALSE(run.isOpen(road.screen));
-        EXPECT_TRUE(toolbar(run)->isEnabled()) << road.item << " " << (&road - roads.data());
+        EXPECT_FALSE(run.isOpen(screen));
+        EXPECT_TRUE(toolbar(run)->isEnabled());
         EXPECT_EQ(toolbar(run)->actions().front()->toolTip(), "New (Ctrl+N)");
     }
-}
-
-TEST(Toolbar, StaysOffUntilTheLastOfTwoScreensThatWantItOffIsGone) {
-    RunningProgram run;
     run.menu("mnuBrowse");
     run.menu("mnuSaveAs");
     run.click("cmdCancel");
-    EXPECT_FALSE(toolbar(run)->isEnabled());
+    EXPECT_FALSE(toolbar(run)->isEnabled()) << "until the last of the two is gone";
     run.screen("frmBrowse")->drop();
     EXPECT_TRUE(toolbar(run)->isEnabled());
 }
@@ -186,47 +173,38 @@ TEST(Menu, ViewToolbarKeepsItsCheckMarkTrue) {
     run.enter("numIntRate", "6");
 }
 
-TEST(Menu, CascadeAndArrangeIcons) {
+TEST(Menu, ArrangeIconsSetsThemSideBySideAtTheFoot) {
     RunningProgram run;
-    run.menu("mnuPersDet");
-    run.menu("mnuLoansCalc");
-    run.menu("mnuCascade");
-    EXPECT_NE(placeOf(run, "frmPersDet"), placeOf(run, "frmLoans"));
-    for (const char* name : {"frmPersDet", "frmLoans"})
-        run.screen(name)->parentWidget()->showMinimized();
+    std::vector<QWidget*> icons;
+    for (const char* item : {"mnuPersDet", "mnuLoansCalc"}) {
+        run.menu(item);
+        icons.push_back(run.front()->parentWidget());
+    }
+    for (QWidget* icon : icons)
+        icon->showMinimized();
     RunningProgram::settle();
-    for (const char* name : {"frmPersDet", "frmLoans"})
-        run.screen(name)->parentWidget()->move(30, 10);
+    for (QWidget* icon : icons)
+        icon->move(30, 10);
     run.menu("mnuIcon");
-    const QWidget* area = run.screen("frmLoans")->parentWidget()->parentWidget();
-    const QRect one = run.screen("frmPersDet")->parentWidget()->geometry();
-    const QRect two = run.screen("frmLoans")->parentWidget()->geometry();
-    EXPECT_FALSE(one.intersects(two));
-    EXPECT_EQ(std::min(one.left(), two.left()), 0);
-    for (const QRect& icon : {one, two})
-        EXPECT_EQ(icon.bottom(), area->height() - 1);
+    EXPECT_FALSE(icons[0]->geometry().intersects(icons[1]->geometry()));
+    EXPECT_EQ(std::min(icons[0]->x(), icons[1]->x()), 0);
+    for (const QWidget* icon : icons)
+        EXPECT_EQ(icon->geometry().bottom(), icon->parentWidget()->height() - 1);
 }
 
-TEST(Menu, CalculatorSaysSoWhenNoneIsInstalled) {
+TEST(Menu, CalculatorLecturesAndAbout) {
     RunningProgram run;
     run.menu("mnuCalculator");
     EXPECT_EQ(run.desk.programsStarted, 1);
     run.desk.programStarts = false;
-    run.desk.expect(Answer::ok);
-    run.menu("mnuCalculator");
-    EXPECT_EQ(run.desk.last().text, "The Microsoft Calculator is not installed or in the Windows directory");
-}
-
-TEST(Menu, HelpLecturesAndAbout) {
-    RunningProgram run;
-    run.menu("mnuContents");
-    EXPECT_TRUE(run.isOpen("frmBrowser"));
-    run.screen("frmBrowser")->parentWidget()->showMaximized(); // lends the main window its title
+    EXPECT_EQ(run.asked("mnuCalculator", Answer::ok).text,
+              "The Microsoft Calculator is not installed or in the Windows directory");
     run.menu("mnuVideoLectures");
     EXPECT_EQ(run.desk.opened.size(), 1);
-    run.desk.expect(Answer::ok);
-    run.menu("mnuAbout");
-    EXPECT_TRUE(run.desk.last().text.endsWith(" Version : 1.00.000")) << run.desk.last().text.toStdString();
+    run.menu("mnuContents");
+    run.screen("frmBrowser")->parentWidget()->showMaximized(); // lends the main window its title
+    const QString about = run.asked("mnuAbout", Answer::ok).text;
+    EXPECT_TRUE(about.endsWith(" Version : 1.00.000")) << about.toStdString();
 }
 
 TEST(Menu, AnotherClientDatabaseIsTheOneOfEveryScreen) {

@@ -81,6 +81,10 @@ public:
         action->trigger();
         settle();
     }
+    /// Triggers a menu item that asks one thing, answered so; gives the box.
+    screenkit::TestDesk::Box asked(const QString& name, screenkit::Answer answer) {
+        return desk.asked(answer, [&] { menu(name); });
+    }
     /// An open screen; fails the test if it is not open.
     screenkit::Screen* screen(const QString& name) {
         auto* open = qobject_cast<screenkit::Screen*>(window().screen(name));

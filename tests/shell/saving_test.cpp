@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "shell/running_program.h"
 
 /// What the user is asked when the file is no longer as the program left it.
@@ -22,11 +20,8 @@ protected:
 TEST_F(Saving, OffersSaveAsWhereTheFileHoldsAStranger) {
     meanwhile("UPDATE PersDetails SET Name='Ms T Nkosi', BirthDate=25569, Description='of another'");
     for (const Answer answer : {Answer::no, Answer::yes}) {
-        run.desk.expect(answer);
-        run.menu("mnuSave");
-        EXPECT_TRUE(run.desk.last().text.startsWith("Client 1 in the file is now Ms T Nkosi (born 01/01/1970) and no "
-                                                    "longer Botha."))
-            << run.desk.last().text.toStdString();
+        const QString asks = run.asked("mnuSave", answer).text;
+        EXPECT_TRUE(asks.startsWith("Client 1 in the file is now Ms T Nkosi (born 01/01/1970) and no longer Botha."));
         EXPECT_EQ(description(), "of another");
         EXPECT_EQ(run.isOpen("frmSaveFileAs"), answer == Answer::yes);
     }
@@ -37,9 +32,7 @@ TEST_F(Saving, OffersSaveAsWhereTheFileHoldsAStranger) {
 
 TEST_F(Saving, AsksBeforeItWritesOverAnotherProgramsChanges) {
     meanwhile("UPDATE PersDetails SET Description='typed there'");
-    run.desk.expect(Answer::no);
-    run.menu("mnuSave");
-    EXPECT_EQ(run.desk.last().defaultAnswer, Answer::no);
+    EXPECT_EQ(run.asked("mnuSave", Answer::no).defaultAnswer, Answer::no);
     EXPECT_EQ(description(), "typed there");
     EXPECT_EQ(run.shown("txtDescription"), "typed here");
     run.desk.expect(Answer::yes); // to the save that New asks about

@@ -4,7 +4,6 @@
 #include <QProcess>
 #include <QScreen>
 #include <csignal>
-#include <gtest/gtest.h>
 #include <sys/wait.h>
 
 #include "reports/report.h"
@@ -30,22 +29,11 @@ TEST(Start, FirstRunMakesTheClientFileAndStandsIdle) {
 TEST(Start, SecondInstanceIsRefusedBeforeAnyFileIsTouched) {
     RunningProgram first;
     RunningProgram second(false);
-    second.desk.expect(screenkit::Answer::ok);
-    EXPECT_FALSE(second.start());
+    const auto box = second.desk.told([&] { EXPECT_FALSE(second.start()); });
     EXPECT_TRUE(second.program.refused());
-    EXPECT_EQ(second.desk.last().title, "Marlowbeck Currently Loaded!!!!!");
+    EXPECT_EQ(box.title, "Marlowbeck Currently Loaded!!!!!");
     EXPECT_FALSE(fs::exists(second.folder / "DataPath.txt"));
     EXPECT_FALSE(fs::exists(second.folder / "Data.Mdb"));
-}
-
-TEST(Start, MissingSettingsEndItWithABoxThatNamesTheFile) {
-    RunningProgram run(false);
-    fs::remove(run.folder / "Default.Mdb");
-    run.desk.expect(screenkit::Answer::ok);
-    EXPECT_FALSE(run.start());
-    EXPECT_EQ(run.desk.last().title, "Marlowbeck");
-    EXPECT_TRUE(run.desk.last().text.contains("Default.Mdb"));
-    EXPECT_TRUE(run.desk.last().text.contains("3024"));
 }
 
 TEST(Start, WindowHasItsCaptionSizeAndPlace) {
@@ -57,43 +45,54 @@ TEST(Start, WindowHasItsCaptionSizeAndPlace) {
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
+using shelltest::ProgramFolder;
+using storetest::put;
+
+/// What is done to a program folder that has been started once, and what the box then names.
 struct Fault {
-    const char* what;
-    std::function<void(const shelltest::ProgramFolder&)> make;
     const char* file;
+    std::function<void(const ProgramFolder&, std::unique_ptr<store::Database>& other)> make;
     const char* number;
 };
 
 const std::vector<Fault> faults{
-    {"client file is a letter",
-     [](const auto& folder) { storetest::put(folder / "Data.Mdb", "Dear Sir, thank you for your letter of today."); },
-     "Data.Mdb", "3343"},
-    {"client file is empty", [](const auto& folder) { storetest::put(folder / "Data.Mdb", ""); }, "Data.Mdb", "3343"},
-    {"share is not mounted",
-     [](const auto& folder) {
-         storetest::put(folder / "DataPath.txt", "\"" + (folder / "share/clients/Data.Mdb").string() + "\"\r\n");
+    {"Data.Mdb", [](const auto& folder, auto&) { put(folder / "Data.Mdb", "Dear Sir, thank you for your letter."); },
+     "3343"},
+    {"Data.Mdb", [](const auto& folder, auto&) { put(folder / "Data.Mdb", ""); }, "3343"},
+    {"share/Data.Mdb", // a network drive that is not mounted
+     [](const auto& folder, auto&) { put(folder / "DataPath.txt", (folder / "share/Data.Mdb").string()); }, "3044"},
+    {"Default.Mdb", [](const auto& folder, auto&) { fs::remove(folder / "Default.Mdb"); }, "3024"},
+    {"Print.mdb", // before the first client is saved
+     [](const auto& folder, auto&) {
+         fs::remove(folder / "Print.mdb");
+         fs::remove(folder / "Data.Mdb");
      },
-     "share/clients/Data.Mdb", "3044"},
-    {"settings are missing", [](const auto& folder) { fs::remove(folder / "Default.Mdb"); }, "Default.Mdb", "3024"},
-    {"report rows are missing", [](const auto& folder) { fs::remove(folder / "Print.mdb"); }, "Print.mdb", "3024"},
+     "3024"},
+    {"Data.Mdb", // another program is at it
+     [](const auto& folder, auto& other) {
+         other = std::make_unique<store::Database>(folder / "Data.Mdb");
+         other->execute("BEGIN EXCLUSIVE");
+     },
+     "3356"},
 };
 
 TEST(Start, EndsWithABoxThatNamesTheFileAndTheError) {
+    const storetest::Folder earlier;
+    fs::copy_file(RunningProgram().folder / "Data.Mdb", earlier / "Data.Mdb");
     for (const Fault& fault : faults) {
+        SCOPED_TRACE(testing::Message() << fault.file << ' ' << fault.number);
         RunningProgram run(false);
-        fault.make(run.folder);
+        fs::copy_file(earlier / "Data.Mdb", run.folder / "Data.Mdb");
+        std::unique_ptr<store::Database> other;
+        fault.make(run.folder, other);
         const std::string before = storetest::bytesOf(run.folder / "Data.Mdb");
-        run.desk.expect(screenkit::Answer::ok);
-        EXPECT_FALSE(run.start()) << fault.what;
+        const auto box = run.desk.told([&] { EXPECT_FALSE(run.start()); });
         EXPECT_FALSE(run.program.refused());
-        EXPECT_EQ(run.desk.last().title, "Marlowbeck");
-        EXPECT_EQ(run.desk.last().style, screenkit::BoxStyle::critical);
-        EXPECT_TRUE(run.desk.last().text.contains(fault.file)) << run.desk.last().text.toStdString();
-        EXPECT_TRUE(run.desk.last().text.endsWith(QString("(%1)").arg(fault.number)))
-            << run.desk.last().text.toStdString();
-        if (!before.empty()) {
-            EXPECT_EQ(storetest::bytesOf(run.folder / "Data.Mdb"), before) << fault.what;
-        }
+        EXPECT_EQ(box.title, "Marlowbeck");
+        EXPECT_EQ(box.style, screenkit::BoxStyle::critical);
+        EXPECT_TRUE(box.text.contains(fault.file)) << box.text.toStdString();
+        EXPECT_TRUE(box.text.endsWith(QString("(%1)").arg(fault.number))) << box.text.toStdString();
+        EXPECT_TRUE(before.empty() || storetest::bytesOf(run.folder / "Data.Mdb") == before);
         EXPECT_FALSE(fs::exists(run.folder / "share"));
     }
 }
@@ -135,34 +134,14 @@ TEST(Start, YesterdaysProgramFolderRunsEveryReportOfToday) {
 }
 
 TEST(Start, ACopyOfTheProgramFolderSaysWhoseClientsItOpens) {
-    const shelltest::ProgramFolder original;
+    const ProgramFolder original;
     RunningProgram copy(false);
-    {
-        RunningProgram earlier;
-        for (const auto& file : {original / "Data.Mdb", copy.folder / "Data.Mdb"})
-            fs::copy_file(earlier.folder / "Data.Mdb", file);
-    }
-    storetest::put(copy.folder / "DataPath.txt", "\"" + (original / "Data.Mdb").string() + "\"\r\n");
-    copy.desk.expect(screenkit::Answer::ok);
-    EXPECT_TRUE(copy.start());
+    fs::copy_file(RunningProgram().folder / "Data.Mdb", original / "Data.Mdb");
+    fs::copy_file(original / "Data.Mdb", copy.folder / "Data.Mdb");
+    put(copy.folder / "DataPath.txt", "\"" + (original / "Data.Mdb").string() + "\"\r\n");
+    const auto box = copy.desk.told([&] { EXPECT_TRUE(copy.start()); });
     for (const auto& file : {original / "Data.Mdb", copy.folder / "Data.Mdb"})
-        EXPECT_TRUE(copy.desk.last().text.contains(QString::fromStdString(file.string())));
-}
-
-TEST(Start, AClientFileLockedByAnotherProgramIsNamedAndLeftAlone) {
-    RunningProgram run(false);
-    {
-        RunningProgram earlier(false);
-        earlier.start();
-        fs::copy_file(earlier.folder / "Data.Mdb", run.folder / "Data.Mdb");
-    }
-    store::Database other(run.folder / "Data.Mdb");
-    other.execute("BEGIN EXCLUSIVE");
-    run.desk.expect(screenkit::Answer::ok);
-    EXPECT_FALSE(run.start());
-    EXPECT_TRUE(run.desk.last().text.contains("Data.Mdb"));
-    EXPECT_TRUE(run.desk.last().text.endsWith("(3356)")) << run.desk.last().text.toStdString();
-    other.execute("ROLLBACK");
+        EXPECT_TRUE(box.text.contains(QString::fromStdString(file.string())));
 }
 
 struct Ended {
