@@ -4,10 +4,7 @@ using namespace reporttest;
 
 namespace {
 
-class Engine : public ReportTest {
-protected:
-    QString printedText() { return runTool("pdftotext", {"-layout", printed, "-"}); }
-};
+class Engine : public ReportTest {};
 
 /// Tells how many copies it was printing when a page ended.
 class CountingPrinter : public QPrinter {
@@ -58,16 +55,14 @@ TEST_F(Engine, EachFailureShowsOneBoxThatNamesTheFileAndTheProgramGoesOn) {
     };
     for (const auto& failure : failures)
         for (const Destination destination : {Destination::preview, Destination::printer}) {
-            desk.expectBoxes(1);
             if (failure.withoutPrintMdb) fs::rename(print, folder / "away");
             engine.CopiesToPrinter = 7;
-            EXPECT_FALSE(engine.run(failure.definition, "Title", destination)) << failure.definition;
+            const auto box = desk.told([&] { EXPECT_FALSE(engine.run(failure.definition, "Title", destination)); });
             if (failure.withoutPrintMdb) fs::rename(folder / "away", print);
-            ASSERT_EQ(desk.boxes.size(), 1u) << failure.definition;
-            EXPECT_EQ(desk.boxes[0].style, screenkit::BoxStyle::critical);
-            EXPECT_EQ(desk.boxes[0].title, "Marlowbeck");
-            EXPECT_TRUE(desk.boxes[0].text.contains(failure.names)) << desk.boxes[0].text.toStdString();
-            EXPECT_TRUE(desk.boxes[0].text.endsWith(failure.number)) << desk.boxes[0].text.toStdString();
+            EXPECT_EQ(box.style, screenkit::BoxStyle::critical);
+            EXPECT_EQ(box.title, "Marlowbeck");
+            EXPECT_TRUE(box.text.contains(failure.names)) << box.text.toStdString();
+            EXPECT_TRUE(box.text.endsWith(failure.number)) << box.text.toStdString();
             EXPECT_EQ(engine.CopiesToPrinter, 1);
             EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
         }
@@ -90,9 +85,8 @@ TEST_F(Engine, APreviewKeepsTheRowsOfItsOwnRun) {
     EXPECT_EQ(windows[0]->windowTitle(), "Personal Details ");           // its last blank too
     EXPECT_EQ(windows[1]->windowTitle(), "Monthly repayment of a loan"); // none given: its own, not the one before
     for (auto* window : windows) {
-        EXPECT_TRUE(window->isWindow());
-        EXPECT_FALSE(window->isModal());
         EXPECT_EQ(window->parentWidget(), nullptr);
+        EXPECT_FALSE(window->isModal());
     }
     windows[0]->close();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -104,14 +98,14 @@ TEST_F(Engine, PrintsOnTheSessionsPrinter) {
     feedAmortisation(100);
     EXPECT_TRUE(engine.run("LonrepaA.rpt", "Title", Destination::printer));
     EXPECT_TRUE(engine.previews().empty());
-    const QStringList onPaper = printedText().split('\f', Qt::SkipEmptyParts);
+    const QStringList onPaper = textOfPdf(printed).split('\f', Qt::SkipEmptyParts);
     const QStringList inPdf = pages("LonrepaA.rpt");
     ASSERT_EQ(onPaper.size(), inPdf.size());
     for (int page = 0; page < inPdf.size(); ++page) // paper breaks where the PDF does
         EXPECT_EQ(onPaper[page].simplified(), inPdf[page].simplified());
 
     // Printer Setup's choice holds for what is printed later.
-    const QString other = QString::fromStdString((folder / "other.pdf").string());
+    const QString other = pathOf("other.pdf");
     desk.printDialog = [&](QPrinter& printer) {
         printer.setOutputFileName(other);
         return true;
@@ -125,24 +119,13 @@ TEST_F(Engine, PrintsOnTheSessionsPrinter) {
 
 TEST_F(Engine, WithoutAPrinterAWarningSaysSoAndViewingWorks) {
     feedLoan();
+    const auto prints = [this] { EXPECT_FALSE(engine.run("Lonrepa.rpt", "Title", Destination::printer)); };
+    printed = pathOf("no such folder/x.pdf"); // a printer that cannot start
+    EXPECT_EQ(desk.told(prints).style, screenkit::BoxStyle::critical);
     desk.printTo.clear();
-    desk.expectBoxes(2);
-    EXPECT_FALSE(engine.run("Lonrepa.rpt", "Title", Destination::printer));
-    engine.setUpPrinter();
-    ASSERT_EQ(desk.boxes.size(), 2u);
-    for (const auto& box : desk.boxes) {
+    for (const auto& box : {desk.told(prints), desk.told([this] { engine.setUpPrinter(); })}) {
         EXPECT_EQ(box.style, screenkit::BoxStyle::warning);
         EXPECT_TRUE(box.text.contains("No printer is installed"));
     }
     EXPECT_TRUE(engine.run("Lonrepa.rpt", "Title", Destination::preview));
-    EXPECT_EQ(desk.boxes.size(), 2u);
-}
-
-TEST_F(Engine, APrinterThatCannotStartIsTold) {
-    feedLoan();
-    printed = QString::fromStdString((folder / "no such folder/x.pdf").string());
-    desk.expectBoxes(1);
-    EXPECT_FALSE(engine.run("Lonrepa.rpt", "Title", Destination::printer));
-    ASSERT_EQ(desk.boxes.size(), 1u);
-    EXPECT_EQ(desk.boxes[0].style, screenkit::BoxStyle::critical);
 }

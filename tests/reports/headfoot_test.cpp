@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "shell/running_program.h"
 
 namespace {
@@ -26,10 +24,21 @@ TEST_F(HeadFoot, ShowsTheStoredLinesAndClosesWithoutAQuestion) {
     QStringList notes;
     for (auto* label : run.front()->findChildren<QLabel*>())
         notes << label->text();
-    EXPECT_TRUE(notes.contains("These four lines will apear on all printouts as a Header."));
-    EXPECT_TRUE(notes.contains("These four lines will apear on all printouts as a Footer."));
+    for (const char* part : {"Header", "Footer"})
+        EXPECT_TRUE(notes.contains(QString("These four lines will apear on all printouts as a %1.").arg(part)));
     run.click("cmdOk");
     EXPECT_FALSE(run.isOpen("frmHeadFoot"));
+    // nor do the close button and New ask, which drop what was typed
+    for (const auto& close : {std::function([this] { run.front()->parentWidget()->close(); }),
+                              std::function([this] { run.menu("mnuNewFile"); })}) {
+        run.menu("mnuPrep");
+        run.type("sitxEdit1(0)", "Botha");
+        close();
+        RunningProgram::settle();
+        EXPECT_FALSE(run.isOpen("frmHeadFoot"));
+        EXPECT_EQ(run.inClients(lines), shipped);
+    }
+    EXPECT_TRUE(run.desk.boxes.empty());
 }
 
 TEST_F(HeadFoot, YesStoresAllEightLinesInBothDatabases) {
@@ -38,11 +47,10 @@ TEST_F(HeadFoot, YesStoresAllEightLinesInBothDatabases) {
     run.type("sitxEdit1(3)", "O'Brien's \"best\"");
     run.type("sitxEdit2(3)", QString::fromStdString(longest + "more"));
     EXPECT_EQ(run.shown("sitxEdit2(3)").toStdString(), longest);
-    run.desk.expect(Answer::yes);
-    run.click("cmdOk");
-    EXPECT_EQ(run.desk.last().text, "Changes have been made to the Header/Footer. Do you want to save them. ?");
-    EXPECT_EQ(run.desk.last().title, "Header/Footer Changes !");
-    EXPECT_EQ(run.desk.last().buttons, Buttons::yesNoCancel);
+    const auto box = run.desk.asked(Answer::yes, [this] { run.click("cmdOk"); });
+    EXPECT_EQ(box.text, "Changes have been made to the Header/Footer. Do you want to save them. ?");
+    EXPECT_EQ(box.title, "Header/Footer Changes !");
+    EXPECT_EQ(box.buttons, Buttons::yesNoCancel);
     EXPECT_FALSE(run.isOpen("frmHeadFoot"));
     const std::string stored = "Botha & Seun <b>|||O'Brien's \"best\"|This report was prepared in accordance with "
                                "|information supplied by the undersigned client.||" +
@@ -53,8 +61,11 @@ TEST_F(HeadFoot, YesStoresAllEightLinesInBothDatabases) {
     EXPECT_EQ(run.record().ClientChanged, 0); // the practice's lines, not the client's
 }
 
-TEST_F(HeadFoot, NoWarnsAndKeepsTheStoredLines) {
-    run.type("sitxEdit1(0)", "Botha");
+TEST_F(HeadFoot, CancelStaysOnTheFirstLineAndNoWarnsAndKeepsTheStoredLines) {
+    run.type("sitxEdit2(2)", "Botha");
+    run.desk.asked(Answer::cancel, [this] { run.click("cmdOk"); });
+    EXPECT_EQ(run.focused(), "sitxEdit1(0)");
+    EXPECT_EQ(run.shown("sitxEdit2(2)"), "Botha");
     run.desk.expect(Answer::no);
     run.desk.expect(Answer::ok);
     run.click("cmdOk");
@@ -65,27 +76,7 @@ TEST_F(HeadFoot, NoWarnsAndKeepsTheStoredLines) {
     EXPECT_EQ(run.inClients(lines), shipped);
     EXPECT_EQ(run.inPrint(lines), shipped);
     run.menu("mnuPrep");
-    EXPECT_EQ(run.shown("sitxEdit1(0)"), "");
-}
-
-TEST_F(HeadFoot, CancelStaysOnTheFirstLine) {
-    run.type("sitxEdit2(2)", "Botha");
-    run.desk.expect(Answer::cancel);
-    run.click("cmdOk");
-    EXPECT_EQ(run.focused(), "sitxEdit1(0)");
-    EXPECT_EQ(run.shown("sitxEdit2(2)"), "Botha");
-    EXPECT_EQ(run.inClients(lines), shipped);
-    run.front()->parentWidget()->close(); // the close button drops the lines without a question
-    RunningProgram::settle();
-    EXPECT_FALSE(run.isOpen("frmHeadFoot"));
-    EXPECT_EQ(run.inClients(lines), shipped);
-}
-
-TEST_F(HeadFoot, NewClosesItWithoutAQuestion) {
-    run.type("sitxEdit1(0)", "Botha");
-    run.menu("mnuNewFile");
-    EXPECT_FALSE(run.isOpen("frmHeadFoot"));
-    EXPECT_TRUE(run.desk.boxes.empty());
+    EXPECT_EQ(run.shown("sitxEdit2(2)"), "");
 }
 
 TEST_F(HeadFoot, AFailureInTheReportRowsKeepsTheClientFilesLines) {

@@ -25,13 +25,6 @@ class ReportDesk : public screenkit::TestDesk {
 public:
     std::function<bool(QPrinter&)> printDialog;
     bool choosePrinter(QPrinter& printer) override { return printDialog && printDialog(printer); }
-
-    /// The next boxes are answered OK; they are kept from here on.
-    void expectBoxes(int count) {
-        boxes.clear();
-        for (int box = 0; box < count; ++box)
-            expect(screenkit::Answer::ok);
-    }
 };
 
 inline QString runTool(const QString& program, const QStringList& arguments, const QByteArray& input = {}) {
@@ -48,11 +41,18 @@ inline QString runTool(const QString& program, const QStringList& arguments, con
 }
 
 /// The text of a PDF, a form feed after each page. `-layout` keeps what stands on one line on one line.
+inline QString textOfPdf(const QString& file) { return runTool("pdftotext", {"-layout", file, "-"}); }
 inline QString textOfPdf(const QByteArray& pdf) {
     const storetest::Folder folder;
-    const fs::path file = folder / "read.pdf";
-    storetest::put(file, pdf.toStdString());
-    return runTool("pdftotext", {"-layout", QString::fromStdString(file.string()), "-"});
+    storetest::put(folder / "read.pdf", pdf.toStdString());
+    return textOfPdf(QString::fromStdString((folder / "read.pdf").string()));
+}
+/// Each of these words is there, and each of those is not.
+inline void expectWords(const QString& text, const QStringList& there, const QStringList& absent = {}) {
+    for (const QString& words : there)
+        EXPECT_TRUE(text.contains(words)) << words.toStdString() << " is not in\n" << text.toStdString();
+    for (const QString& words : absent)
+        EXPECT_FALSE(text.contains(words)) << words.toStdString() << " is in\n" << text.toStdString();
 }
 inline QStringList pagesOfPdf(const QByteArray& pdf) { return textOfPdf(pdf).split('\f', Qt::SkipEmptyParts); }
 
@@ -107,6 +107,7 @@ protected:
         all.commit();
     }
 
+    QString pathOf(const std::string& name) const { return QString::fromStdString((folder / name).string()); }
     QStringList pages(const QString& definition) { return pagesOfPdf(engine.pdf(definition)); }
     QString text(const QString& definition) { return textOfPdf(engine.pdf(definition)); }
 
@@ -114,7 +115,7 @@ protected:
     storetest::Folder folder;
     fs::path print = folder / "Print.mdb";
     ReportDesk desk;
-    QString printed = QString::fromStdString((folder / "printed.pdf").string());
+    QString printed = pathOf("printed.pdf");
     reports::Engine engine{desk, folder.path(), [this] {
                                auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
                                printer->setOutputFormat(QPrinter::PdfFormat);
