@@ -14,6 +14,8 @@ namespace {
 using namespace look;
 
 constexpr double thinLine = points(1); ///< the height of the text that must follow a table
+/// Word processors round the height of each row to a unit of theirs: over a page this comes together.
+constexpr double roundedRows = points(2.5);
 
 QStringList headerLinesOf(const Content& content) {
     QStringList lines = content.headerLines;
@@ -149,7 +151,7 @@ QByteArray pageLayout() {
     const QString around = R"(<style:%1-style><style:header-footer-properties fo:min-height="0pt" fo:margin-%2="%3" )"
                            R"(style:dynamic-spacing="false"/></style:%1-style>)";
     layout += around.arg("header", "bottom", odtLength(belowHead - headerGap - thinLine));
-    layout += around.arg("footer", "top", odtLength(aboveFooter));
+    layout += around.arg("footer", "top", odtLength(aboveFooter - roundedRows));
     return layout.toUtf8() + "</style:page-layout>\n";
 }
 
