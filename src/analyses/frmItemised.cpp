@@ -171,7 +171,7 @@ void ItemisedScreen::showTotal() {
 void ItemisedScreen::take() {
     const ItemLine& taken = *m_open;
     takeItems(m_work.record, taken, itemRows(taken, m_grid->rows()));
-    m_changedFlag = 1;
+    markChanged();
     closePanel();
     refresh(taken);
     for (Field* field : m_shown[taken.index].fields)

@@ -34,6 +34,8 @@ protected:
     /// Sets pictures and locks from the flags. Call it in `filled()`.
     void refreshItemised();
 
+    /// Marks the client as changed: the file does not have what the record now holds.
+    void markChanged() { m_changedFlag = 1; }
     /// Prints the lists in use as a report of their own; nothing if there are none.
     void printItems(screenkit::Destination destination);
 

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <iterator>
 
+#include "analyses/frmNADeath.h"
+#include "analyses/frmNADisability.h"
 #include "analyses/frmNARA.h"
 #include "calculators/frmLoans.h"
 #include "client/frmPersDet.h"
@@ -29,6 +31,8 @@ constexpr ScreenEntry entries[] = {
     {"frmSaveFileAs", build<datastore::frmSaveFileAs>, "Saving"},
     {"frmPersDet", build<client::frmPersDet>, "Recording a client"},
     {"frmPolInvest", build<client::frmPolInvest>, "Policies and investments"},
+    {"frmNADeath", build<analyses::frmNADeath>, "The death and disability needs analyses"},
+    {"frmNADisability", build<analyses::frmNADisability>, "The death and disability needs analyses"},
     {"frmNARA", build<analyses::frmNARA>, "The retirement needs analysis"},
     {"frmLoans", build<calculators::frmLoans>, "The loan calculator"},
     {"frmHeadFoot", build<reports::frmHeadFoot>, "Your header and footer lines"},

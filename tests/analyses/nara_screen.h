@@ -12,29 +12,9 @@ namespace naratest {
 using screenkit::Answer;
 using shelltest::RunningProgram;
 
-/// The retirement analysis in front, on a client of 45 (the desk's day is in November 2026).
-class NARA : public testing::Test {
+/// A needs analysis in the running program.
+class NeedsTest : public testing::Test {
 protected:
-    NARA() {
-        run.record().client.Name = "Ms T. Ṱhoho-Nḓou";
-        run.record().client.BirthDate = *base::dayNumber(1981, 3, 15);
-        run.record().policies[0].RBMonAvaible = 1000;
-        run.record().policies[0].RBEMV = 300000.9;
-        run.record().policies[0].RBEMVAge = 65;
-    }
-    void open() { run.menu("mnuNARA"); }
-    void openFilled() {
-        open();
-        run.type("numAgeOfRetirement", "65");
-        run.type("numMonIncPD", "10000");
-        run.type("numCoverReq", "20");
-        run.type("numInflationRate", "5");
-        run.type("numBankInvRate", "8");
-        run.type("numASS(0)", "1500000");
-        run.type("numLIB(4)", "250000");
-    }
-    assessment::NARetirement& needs() { return run.record().retirement; }
-    std::int16_t& changed() { return run.record().changed.NARAChanged; }
     QLabel* captionOf(const QString& field) {
         for (auto* label : run.front()->findChildren<QLabel*>())
             if (label->buddy() == run.control(field)) return label;
@@ -59,6 +39,31 @@ protected:
         return rows;
     }
     RunningProgram run;
+};
+
+/// The retirement analysis in front, on a client of 45 (the desk's day is in November 2026).
+class NARA : public NeedsTest {
+protected:
+    NARA() {
+        run.record().client.Name = "Ms T. Ṱhoho-Nḓou";
+        run.record().client.BirthDate = *base::dayNumber(1981, 3, 15);
+        run.record().policies[0].RBMonAvaible = 1000;
+        run.record().policies[0].RBEMV = 300000.9;
+        run.record().policies[0].RBEMVAge = 65;
+    }
+    void open() { run.menu("mnuNARA"); }
+    void openFilled() {
+        open();
+        run.type("numAgeOfRetirement", "65");
+        run.type("numMonIncPD", "10000");
+        run.type("numCoverReq", "20");
+        run.type("numInflationRate", "5");
+        run.type("numBankInvRate", "8");
+        run.type("numASS(0)", "1500000");
+        run.type("numLIB(4)", "250000");
+    }
+    assessment::NARetirement& needs() { return run.record().retirement; }
+    std::int16_t& changed() { return run.record().changed.NARAChanged; }
 };
 
 } // namespace naratest

@@ -40,6 +40,9 @@ const std::vector<Place> places{
     {"mnuNARA", ""},
     {"mnuNARA", "cmdPrint"},
     {"mnuNARA", "cmdItemise(11)"},
+    {"mnuNADeath", ""},
+    {"mnuNADeath", "cmdPrint"},
+    {"mnuNADisability", ""},
     {"mnuQuickTax", ""},
     {"mnuQuickTax", "cmdPrint"},
     {"mnuPAYE", ""},
@@ -153,10 +156,13 @@ TEST_P(Keyboard, EachEntryHasALabelAndAScreenReaderSaysEachControlInWholeWords) 
 }
 
 /// The captions whose letters were settled long before the menu's: the only ones that may keep a letter from it.
-const std::set<std::string> shadowing{"frmLoans &Fin. charges", "frmLoans &Annual Amort.", "frmLoans &Print",
-                                      "frmNARA &Amortisation",  "frmNARA &Print",          "frmKwikTax &Print",
-                                      "frmMonthly &Print",      "frmLoans C&ancel",        "frmNARA C&ancel",
-                                      "frmPersDet C&ancel",     "frmPolInvest C&ancel"};
+const std::set<std::string> shadowing{
+    "frmLoans &Fin. charges", "frmLoans &Annual Amort.", "frmLoans &Print",
+    "frmNARA &Amortisation",  "frmNARA &Print",          "frmKwikTax &Print",
+    "frmMonthly &Print",      "frmLoans C&ancel",        "frmNARA C&ancel",
+    "frmPersDet C&ancel",     "frmPolInvest C&ancel",    "frmNADeath &Amortisation",
+    "frmNADeath &Print",      "frmNADeath C&ancel",      "frmNADisability &Amortisation",
+    "frmNADisability &Print"};
 
 /// The letters in use, each with the captions that hold it.
 std::map<QKeySequence, QStringList> lettersOf(const QWidget* scope) {

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "analyses/death.h"
+#include "analyses/frmCover.h"
+
+namespace analyses {
+
+/// The death needs analysis: how long the capital that the client leaves carries the family's income, and what more
+/// cover it takes.
+class frmNADeath : public CoverScreen {
+    Q_OBJECT
+public:
+    explicit frmNADeath(screenkit::Workplace& workplace);
+
+protected:
+    void prepare() override { prepareDeath(m_work.record); }
+    NeedsAnalysis analyse() override { return analysed(m_work.record.death, NADeathCalc); }
+    NeedsReport feed(const NeedsAnalysis& analysis, const NeedsReportOptions& options) override;
+};
+
+} // namespace analyses
