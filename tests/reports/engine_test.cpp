@@ -59,8 +59,6 @@ TEST_F(Engine, EachFailureShowsOneBoxThatNamesTheFileAndTheProgramGoesOn) {
             engine.CopiesToPrinter = 7;
             const auto box = desk.told([&] { EXPECT_FALSE(engine.run(failure.definition, "Title", destination)); });
             if (failure.withoutPrintMdb) fs::rename(folder / "away", print);
-            EXPECT_EQ(box.style, screenkit::BoxStyle::critical);
-            EXPECT_EQ(box.title, "Marlowbeck");
             EXPECT_TRUE(box.text.contains(failure.names)) << box.text.toStdString();
             EXPECT_TRUE(box.text.endsWith(failure.number)) << box.text.toStdString();
             EXPECT_EQ(engine.CopiesToPrinter, 1);

@@ -210,8 +210,6 @@ TEST_F(Export, AFailedWriteShowsABoxAndLeavesTheOldFileWhole) {
     storetest::put(folder / "out/kept.html", "old");
     const auto numberOf = [this](const char* name) {
         const auto box = desk.told([&] { EXPECT_FALSE(engine.previews().front()->exportTo(pathOf(name))); });
-        EXPECT_EQ(box.style, screenkit::BoxStyle::critical);
-        EXPECT_EQ(box.title, "Marlowbeck");
         EXPECT_TRUE(box.text.contains(QFileInfo(name).fileName())) << box.text.toStdString();
         return box.text.section('(', -1);
     };

@@ -170,6 +170,7 @@ protected:
         return front->findChild<T*>(name);
     }
     std::string text(const char* field) { return get<QLineEdit>(field)->text().toStdString(); }
+    bool isSeenWhole(const char* name) { return get(name)->visibleRegion().boundingRect().size() == get(name)->size(); }
     static std::string selected() {
         auto* line = qobject_cast<QLineEdit*>(QApplication::focusWidget());
         return line != nullptr ? line->selectedText().toStdString() : std::string();

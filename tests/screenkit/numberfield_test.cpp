@@ -24,13 +24,11 @@ struct NumberFieldTest : KitTest {
 TEST_F(NumberFieldTest, whatIsTypedOrPastedIsReadAndShownGroupedWithoutTheSystemsLocale) {
     const std::tuple<const char*, const char*, double, const char*> cases[] = {
         {"numAmount", "1234,5", 1234.5, "1 234.50"},
-        {"numAmount", "1,250,000", 1250000, "1 250 000.00"},
         {"numAmount", "R 1 250 000,50", 1250000.5, "1 250 000.50"},
         {"numAmount", "=1000*12", 12000, "12 000.00"},
         {"numAmount", "", 0, "0.00"},
         {"numAmount", "123456789012345678901234", 123456789012345678901234.0, "123 456 789 012 345 685 803 008.00"},
         {"numMonths", "3.5", 4, "4"}, // a count is rounded half to even
-        {"numMonths", "12,5", 12, "12"},
         {"numRate", "12.3456", static_cast<double>(12.3456F), "12.346"},
         {"numRate", "6,125%", 6.125, "6.125"}, // three places: the comma parts no thousands
         {"numShares", "2147483647", 2147483647, "2 147 483 647"},
@@ -94,8 +92,6 @@ TEST_F(NumberFieldTest, whatCannotBeReadIsRefusedAloudAndKeptUntilItIsMended) {
         go("txtName");
     }
     EXPECT_GT(desk.bells, 0);
-    EXPECT_EQ(kept("numAmount"), 7);
-
     enter("numAmount", "12x");
     act("@cmdCancel"); // the way out stays open, and what was refused doesn't come back
     refresh();
@@ -232,45 +228,39 @@ TEST_F(KitTest, enteringAFieldSelectsAllOfItWithoutSwallowingQuickTyping) {
 }
 
 TEST_F(KitTest, resultsAndLockedFieldsHaveTheirOwnShadesInAnyTheme) {
+    auto* total = get<NumberField>("numTotal");
     const QPalette before = QApplication::palette();
     QPalette dark;
     dark.setColor(QPalette::Base, QColor(30, 30, 30));
     dark.setColor(QPalette::Text, Qt::white);
-    QApplication::setPalette(dark);
-    settle();
-    auto* total = get<NumberField>("numTotal");
-    const auto has = [](QWidget* widget, const QColor& colour) {
-        const QImage image = widget->grab().toImage();
-        return image.pixelColor(image.width() / 8, image.height() / 2) == colour;
+    const auto paper = [total] {
+        const QImage image = total->grab().toImage();
+        return image.pixelColor(image.width() / 8, image.height() / 2);
     };
-    EXPECT_TRUE(has(total, QColor("#ffff00")));
-    EXPECT_EQ(total->palette().color(QPalette::Text), QColor(Qt::black));
-    EXPECT_TRUE(has(get("numShares"), QColor(30, 30, 30)));
-    EXPECT_EQ(get("numShares")->palette().color(QPalette::Text), QColor(Qt::white));
-
-    click("numTotal");
-    type("9");
-    EXPECT_EQ(places.total, 1234.5);
-    go("numRate");
-    EXPECT_EQ(after("Tab"), "dtDay");
-
-    total->setResult(false); // the unknown moved to another field
-    go("numRate");
-    EXPECT_EQ(after("Tab"), "numTotal");
-    EXPECT_TRUE(has(total, QColor(30, 30, 30)));
-
-    total->setLocked(true); // it shows the total of a list now: no result, and no entry either
+    const auto expectStop = [this, total](bool stops, const QColor& ink) {
+        EXPECT_EQ(total->palette().color(QPalette::Text), ink);
+        go("numRate");
+        EXPECT_EQ(after("Tab"), stops ? "numTotal" : "dtDay");
+    };
     for (const QPalette& theme : {dark, before}) {
         QApplication::setPalette(theme);
+        total->setResult(true);
         settle();
+        EXPECT_EQ(paper(), QColor("#ffff00"));
+        expectStop(false, Qt::black);
+        click("numTotal");
+        type("9");
+        EXPECT_EQ(places.total, 1234.5);
+        total->setResult(false); // the unknown moved to another field
+        EXPECT_EQ(paper(), theme.base().color());
+        expectStop(true, theme.text().color());
+        total->setLocked(true); // it shows the total of a list now: no result, and no entry either
         for (const QColor& other : {QColor("#ffff00"), theme.base().color(), theme.window().color()})
-            EXPECT_FALSE(has(total, other)) << other.name().toStdString();
-        EXPECT_EQ(total->palette().color(QPalette::Text), theme.text().color());
-        go("numRate");
-        EXPECT_EQ(after("Tab"), "dtDay");
+            EXPECT_NE(paper(), other);
+        expectStop(false, theme.text().color());
+        total->setLocked(false);
+        EXPECT_EQ(paper(), theme.base().color());
     }
-    total->setLocked(false);
-    EXPECT_TRUE(has(total, before.base().color()));
 }
 
 TEST(Bound, aFigureStaysWithinItsWidthAndIsAlwaysANumber) {

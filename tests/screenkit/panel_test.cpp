@@ -31,11 +31,9 @@ TEST_F(PanelTest, whatLiesBelowIsOutOfReach) {
     EXPECT_EQ(screen->runs + screen->cancels + screen->edits, 0);
     EXPECT_EQ(changed(), 0);
 
-    key(Qt::Key_Escape);
+    EXPECT_EQ(after("Esc"), "cmdPrint") << "the focus comes back to where it was";
     EXPECT_FALSE(screen->print->isVisible());
-    EXPECT_EQ(focus(), "cmdPrint") << "the focus comes back to where it was";
-    EXPECT_TRUE(get("numAmount")->isEnabled());
-    key(Qt::Key_R, Qt::AltModifier);
+    act("Alt+R");
     EXPECT_EQ(screen->runs, 1);
 }
 
@@ -74,12 +72,10 @@ TEST_F(PanelTest, eachWayToPrintGoesWhereItSaysWhileTheUserIsTold) {
         EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
         EXPECT_EQ(focus(), "cmdPrint");
     }
-    openPrint();
-    click("Check3");
+    went.clear();
+    act("@cmdPrint @Check3 @cmdPrintCancel");
     EXPECT_EQ(places.withNotes, 1);
     EXPECT_EQ(changed(), 0) << "how to print is no fact about the client";
-    went.clear();
-    click("cmdPrintCancel");
     EXPECT_TRUE(went.empty());
 }
 

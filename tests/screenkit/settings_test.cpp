@@ -59,7 +59,6 @@ struct SettingsTest : KitTest {
         shown->open();
         settle();
     }
-    bool isSeenWhole(const char* name) { return get(name)->visibleRegion().boundingRect().size() == get(name)->size(); }
     SettingsScreen* shown = bring(new SettingsScreen(bench.workplace), {0, 0, 500, 420});
 };
 

@@ -39,14 +39,6 @@ TEST(Close, WarnsOfUnsavedChangesWithoutOfferingToSave) {
     EXPECT_EQ(run.inClients("SELECT count(*) FROM [Data]"), "0");
 }
 
-TEST(Close, WaitsForAFieldThatIsWrong) {
-    RunningProgram run;
-    run.menu("mnuLoansCalc");
-    run.enter("numIntRate", "51");
-    EXPECT_EQ(run.desk.told([&] { run.window().close(); }).title, "Incorrect Interest Rate!");
-    EXPECT_TRUE(run.window().isVisible());
-}
-
 // Each of these screens once asked the main window for something on its way out, when that was gone already.
 TEST(Close, EndsCleanlyWithAnyScreenOpen) {
     for (const char* item : {"mnuBrowse", "mnuSaveAs", "mnuPersDet", "mnuPolInvests", "mnuNARA", "mnuLoansCalc",
