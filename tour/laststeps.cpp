@@ -19,6 +19,12 @@ Seen look(Hands& hands) {
     hands.menu({"mnuCalc", "mnuNARA"});
     hands.expectFront("frmNARA");
     seen.retirement = shownOn(hands.front());
+    hands.menu({"mnuCalc", "mnuNADeath"});
+    hands.expectFront("frmNADeath");
+    seen.death = shownOn(hands.front());
+    hands.menu({"mnuCalc", "mnuNADisability"});
+    hands.expectFront("frmNADisability");
+    seen.disability = shownOn(hands.front());
     hands.menu({"mnuFile", "mnuPrep"});
     hands.expectFront("frmHeadFoot");
     seen.practice = shownOn(hands.front());
@@ -57,6 +63,8 @@ void compare(Hands& hands, const Seen& before) {
     checkSame(before.personalDetails, now.personalDetails, "personal details on screen");
     checkSame(before.loan, now.loan, "loan on screen");
     checkSame(before.retirement, now.retirement, "retirement analysis on screen");
+    checkSame(before.death, now.death, "death analysis on screen");
+    checkSame(before.disability, now.disability, "disability analysis on screen");
     for (const char* sentence : {"txtAns1", "txtAns2"})
         say("  " + now.retirement[sentence]);
     checkSame(before.practice, now.practice, "header and footer lines on screen");

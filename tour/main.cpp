@@ -88,6 +88,8 @@ void wholeCase() {
         tour::recordRetirement(hands);
         tour::showRetirementYears(hands);
         tour::exportRetirementReports(hands);
+        tour::needsOnDeath(hands);
+        tour::needsOnDisability(hands);
         tour::taxAMonth(hands);
         tour::taxAYear(hands);
         tour::save(hands);
@@ -105,6 +107,7 @@ void anotherLook(const QString& name) {
         tour::findClient(hands);
         tour::picture(&hands.window(), "client-" + name);
         tour::showLoan(hands, "loan-" + name);
+        tour::showNeeds(hands, name);
     });
 }
 

@@ -8,7 +8,7 @@ namespace tour {
 
 /// What the screens showed when the client was saved.
 struct Seen {
-    Figures personalDetails, loan, retirement, practice, stored;
+    Figures personalDetails, loan, retirement, death, disability, practice, stored;
 };
 
 // The first session, from an empty program folder.
@@ -26,6 +26,8 @@ void recordRetirement(Hands& hands);
 double enterPolicies(Hands& hands);
 void showRetirementYears(Hands& hands);
 void exportRetirementReports(Hands& hands);
+void needsOnDeath(Hands& hands);
+void needsOnDisability(Hands& hands);
 void taxAMonth(Hands& hands);
 void taxAYear(Hands& hands);
 void save(Hands& hands);
@@ -38,5 +40,8 @@ void compare(Hands& hands, const Seen& before);
 
 /// Shows the client's loan again, for a picture with another palette or scale.
 void showLoan(Hands& hands, const QString& pictureName);
+
+/// The client's needs on death and disability once more, the same way.
+void showNeeds(Hands& hands, const QString& look);
 
 } // namespace tour
