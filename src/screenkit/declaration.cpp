@@ -144,6 +144,7 @@ QLineEdit* Screen::shown(const QString& name, int characters) {
     line->setObjectName(name);
     line->setMinimumWidth(look::fieldSize(line, characters).width());
     look::setShown(line);
+    connect(line, &QLineEdit::textChanged, line, [line] { line->setCursorPosition(0); }); // a long name from its start
     return line;
 }
 

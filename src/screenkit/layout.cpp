@@ -43,17 +43,31 @@ QLabel* buddyLabel(const QString& text, QWidget* field) {
     return label;
 }
 
+bool growsSideways(const QWidget* control) {
+    return (control->sizePolicy().horizontalPolicy() & QSizePolicy::ExpandFlag) != 0;
+}
+
+/// Asks the parts one by one: a layout asked itself would keep the sizes that they have before they are in a window.
+bool takesAllRoom(const Item& item) {
+    if (item.layout == nullptr) return item.widget == nullptr || growsSideways(item.widget);
+    for (int i = 0; i < item.layout->count(); ++i) {
+        QLayoutItem* part = item.layout->itemAt(i);
+        if (part->spacerItem() != nullptr || (part->widget() != nullptr && growsSideways(part->widget())) ||
+            (part->layout() != nullptr && takesAllRoom(Item(part->layout()))))
+            return true;
+    }
+    return false;
+}
+
 QLayout* withUnit(const FormRow& row) {
     auto* cell = new QHBoxLayout;
-    const bool grows = row.field.widget == nullptr ||
-                       (row.field.widget->sizePolicy().horizontalPolicy() & QSizePolicy::ExpandFlag) != 0;
     add(cell, Item(row.field));
     if (!row.unit.isEmpty()) {
         auto* unit = new QLabel(row.unit);
-        if (row.field.widget != nullptr) unit->setBuddy(row.field.widget);
+        if (QWidget* field = firstWidget(row.field)) unit->setBuddy(field);
         cell->addWidget(unit);
     }
-    if (!grows) cell->addStretch(1);
+    if (!takesAllRoom(row.field)) cell->addStretch(1);
     return cell;
 }
 
@@ -69,10 +83,6 @@ QList<QWidget*> controlsOf(const Item& cell) {
             controls << part->widget();
     }
     return controls;
-}
-
-bool growsSideways(const QWidget* control) {
-    return (control->sizePolicy().horizontalPolicy() & QSizePolicy::ExpandFlag) != 0;
 }
 
 void nameCell(const QList<QWidget*>& controls, const QString& rowHead, const QString& columnHead) {
