@@ -211,7 +211,7 @@ void frmLoans::print(Destination destination) {
     if (!complete(loan)) return focusLater(m_ok);
     const LoanReportOptions wanted{charged(), m_includeAmort == 1, m_amortOption == 1};
     feedLoanReport(m_work.paths.PrintDbPath, m_work.record.client.Name, loan, wanted);
-    const LoanReport report = loanReport(loan, wanted);
+    const datastore::Printout report = loanReport(loan, wanted);
     m_work.reports.run(QString::fromStdString(report.definition), QString::fromStdString(report.title), destination);
 }
 

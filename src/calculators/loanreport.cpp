@@ -5,7 +5,6 @@
 
 #include "calculators/amortisation.h"
 #include "calculators/loans.h"
-#include "datastore/printfeed.h"
 
 namespace calculators {
 
@@ -41,7 +40,7 @@ std::vector<datastore::Row> amortRows(const std::vector<AmortisationRow>& table)
 
 } // namespace
 
-LoanReport loanReport(const assessment::Loans& loan, const LoanReportOptions& options) {
+datastore::Printout loanReport(const assessment::Loans& loan, const LoanReportOptions& options) {
     const auto mode = loanMode(loan.Heading).value_or(LoanMode::MonthlyRepayment);
     const ModeReport& report = reports[static_cast<std::size_t>(mode)];
     const std::string suffix = options.amortised ? "A" : "";

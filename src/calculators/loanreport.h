@@ -4,6 +4,7 @@
 #include <string>
 
 #include "assessment/assessment.h"
+#include "datastore/printfeed.h"
 
 namespace calculators {
 
@@ -14,14 +15,8 @@ struct LoanReportOptions {
     bool monthly = false;   ///< ... by month rather than by year
 };
 
-/// The report definition and the window title for a loan's report.
-struct LoanReport {
-    std::string definition;
-    std::string title;
-};
-
 /// Chosen by the loan's mode. Without a table the title is that of the annual one; there is no title of its own.
-LoanReport loanReport(const assessment::Loans& loan, const LoanReportOptions& options);
+datastore::Printout loanReport(const assessment::Loans& loan, const LoanReportOptions& options);
 
 /// Writes the client's loan, and its table if asked for, into Print.mdb. If it throws store::Error, nothing is written.
 void feedLoanReport(const std::filesystem::path& printDbPath, const std::string& client, const assessment::Loans& loan,

@@ -12,6 +12,12 @@
 
 namespace datastore {
 
+/// The report definition that a printout uses, as the report engine takes it, and the title of its window.
+struct Printout {
+    std::string definition;
+    std::string title;
+};
+
 /// Passes a screen's figures to its report: rows for the tables of Print.mdb, all of them or none.
 ///
 ///     PrintFeed feed(printPath, record.client.Name);
