@@ -6,8 +6,12 @@ namespace analyses {
 
 using namespace screenkit;
 
-const NumberKind coverPeriod = whole.from(0, "The minimum Period is 0 years", "Incorrect Period!")
-                                   .upTo(mostYears, "The Maximum Period is 50 years", "Incorrect Period!");
+NumberKind periodUpTo(int most) {
+    return whole.from(0, "The minimum Period is 0 years", "Incorrect Period!")
+        .upTo(most, QString("The Maximum Period is %1 years").arg(most), "Incorrect Period!");
+}
+
+const NumberKind coverPeriod = periodUpTo(mostYears);
 const NumberKind inflation = percent.between(
     -5, highestInflation, "The range for the Inflation Rate is between -5% and 30%", "Incorrect Inflation Rate!");
 const NumberKind bankRate =

@@ -47,7 +47,7 @@ bool growsSideways(const QWidget* control) {
     return (control->sizePolicy().horizontalPolicy() & QSizePolicy::ExpandFlag) != 0;
 }
 
-/// Asks the parts one by one: a layout asked itself would keep the sizes that they have before they are in a window.
+/// Looks at the parts one by one: a layout that is asked itself keeps the sizes they have before the window is shown.
 bool takesAllRoom(const Item& item) {
     if (item.layout == nullptr) return item.widget == nullptr || growsSideways(item.widget);
     for (int i = 0; i < item.layout->count(); ++i) {

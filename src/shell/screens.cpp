@@ -5,7 +5,10 @@
 
 #include "analyses/frmNADeath.h"
 #include "analyses/frmNADisability.h"
+#include "analyses/frmNAEd.h"
 #include "analyses/frmNARA.h"
+#include "calculators/frmInflation.h"
+#include "calculators/frmLifeOfCap.h"
 #include "calculators/frmLoans.h"
 #include "client/frmPersDet.h"
 #include "client/frmPolInvest.h"
@@ -34,6 +37,9 @@ constexpr ScreenEntry entries[] = {
     {"frmNADeath", build<analyses::frmNADeath>, "The death and disability needs analyses"},
     {"frmNADisability", build<analyses::frmNADisability>, "The death and disability needs analyses"},
     {"frmNARA", build<analyses::frmNARA>, "The retirement needs analysis"},
+    {"frmNAEd", build<analyses::frmNAEd>, "The education needs analysis"},
+    {"frmInflation", build<calculators::frmInflation>, "Inflation"},
+    {"frmLifeOfCap", build<calculators::frmLifeOfCap>, "Life of capital"},
     {"frmLoans", build<calculators::frmLoans>, "The loan calculator"},
     {"frmHeadFoot", build<reports::frmHeadFoot>, "Your header and footer lines"},
     {"frmGraph", build<reports::frmGraph>, "Graphs"},

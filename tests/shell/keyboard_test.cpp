@@ -43,6 +43,12 @@ const std::vector<Place> places{
     {"mnuNADeath", ""},
     {"mnuNADeath", "cmdPrint"},
     {"mnuNADisability", ""},
+    {"mnuNAEd", ""},
+    {"mnuNAEd", "cmdPrint"},
+    {"mnuInflation", ""},
+    {"mnuInflation", "cmdPrint"},
+    {"mnuLifeOfCap", ""},
+    {"mnuLifeOfCap", "cmdPrint"},
     {"mnuQuickTax", ""},
     {"mnuQuickTax", "cmdPrint"},
     {"mnuPAYE", ""},
@@ -162,7 +168,9 @@ const std::set<std::string> shadowing{
     "frmMonthly &Print",      "frmLoans C&ancel",        "frmNARA C&ancel",
     "frmPersDet C&ancel",     "frmPolInvest C&ancel",    "frmNADeath &Amortisation",
     "frmNADeath &Print",      "frmNADeath C&ancel",      "frmNADisability &Amortisation",
-    "frmNADisability &Print"};
+    "frmNADisability &Print", "frmNAEd &Print",          "frmNAEd C&ancel",
+    "frmInflation &Print",    "frmInflation C&ancel",    "frmLifeOfCap &Print",
+    "frmLifeOfCap C&ancel"};
 
 /// The letters in use, each with the captions that hold it.
 std::map<QKeySequence, QStringList> lettersOf(const QWidget* scope) {
