@@ -15,18 +15,19 @@ TEST(Day, NumbersCountFromTheEndOf1899) {
 }
 
 TEST(Day, ReadsADateAsTyped) {
-    const struct {
-        const char *typed, *meant;
-    } cases[] = {{"1/3/2026", "01/03/2026"},    {" 01-03-26 ", "01/03/2026"}, {"1.3.2026", "01/03/2026"},
-                 {"28021966", "28/02/1966"},    {"280266", "28/02/1966"},     {"28 2 1966", "28/02/1966"},
-                 {"28 / 2 - 66", "28/02/1966"}, {"1966-02-28", "28/02/1966"}, {"1966/2/28", "28/02/1966"},
-                 {"28/2", "28/02/2026"},        {"28 2", "28/02/2026"},       {"5/6/30", "05/06/1930"},
-                 {"5/6/29", "05/06/2029"},      {"290224", "29/02/2024"}};
-    for (const auto& c : cases) {
-        const auto day = base::parseDate(c.typed, 2026);
-        ASSERT_TRUE(day) << c.typed;
-        EXPECT_EQ(base::formatDate(*day), c.meant) << c.typed;
-    }
+    struct Case {
+        const char* meant;
+        std::vector<const char*> typed;
+    };
+    for (const auto& [meant, all] :
+         {Case{"01/03/2026", {"1/3/2026", " 01-03-26 ", "1.3.2026"}},
+          {"28/02/1966", {"28021966", "280266", "28 2 1966", "28 / 2 - 66", "1966-02-28", "1966/2/28"}},
+          {"28/02/2026", {"28/2", "28 2"}},
+          {"05/06/1930", {"5/6/30"}},
+          {"05/06/2029", {"5/6/29"}},
+          {"29/02/2024", {"290224"}}})
+        for (const char* typed : all)
+            EXPECT_EQ(base::formatDate(base::parseDate(typed, 2026).value_or(0)), meant) << typed;
     EXPECT_FALSE(base::parseDate("28/2")) << "no year";
     for (const char* wrong :
          {"", "13/13/2026", "3/2026", "2026/31/01", "1/2/203", "31/4/2026", "a/b/c", "1/3/26/", "29/2", "/1/3", "1//3",

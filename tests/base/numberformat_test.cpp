@@ -4,42 +4,37 @@
 
 namespace {
 
-struct MaskCase {
-    double value;
-    const char* mask;
-    const char* printed;
-};
-
 TEST(NumberFormat, PrintsByMask) {
-    const MaskCase cases[] = {
-        {1234567.891, "# ### ### ###.00", "1 234 567.89"},
-        {0, "# ### ### ###.00", ".00"},
-        {0.5, "# ### ### ###.00", ".50"},
-        {-1234.5, "# ### ### ##0.00", "-1 234.50"},
-        {-0.001, "0.00", "0.00"}, // no sign before a nought
-        {0, "### ### ###", ""},
-        {0.4, "### ### ###", ""},
-        {2.5, "### ### ###", "2"}, // ties to even
-        {3.5, "### ### ###", "4"},
-        {12345678901234, "### ### ###", "12 345 678 901 234"}, // groups without limit
-        {12.5, "##.##", "12.5"},
-        {12, "##.##", "12"},
-        {7.25, "0.000", "7.250"},
-        {240, "##", "240"},
-        {1234.5, "R # ##0.00", "R 1 234.50"},
-        {-250000, "R # ### ##0", "-R 250 000"}, // the sign is the amount's, not the digits'
-        {-0.4, "R # ##0", "R 0"},
-        {0.123, "#0.0%", "12.3%"},
-        {0, "#0.0%", "0.0%"},
-        {-0.055, "#0.0%", "-5.5%"},
-        {0.145, "0%", "14%"}, // a tie as written
-        {0.155, "0%", "16%"},
-        {5e-324, "0.0%", "0.0%"},
-        {1e308, "0%", ""},         // beyond what a double holds: no figure
-        {12.3, "0.0 %", "12.3 %"}, // percent already
+    struct Case {
+        double value;
+        const char *mask, *printed;
     };
-    for (const MaskCase& c : cases)
-        EXPECT_EQ(base::formatNumber(c.value, c.mask), c.printed) << c.value << ' ' << c.mask;
+    for (const auto& [value, mask, printed] : {
+             Case{1234567.891, "# ### ### ###.00", "1 234 567.89"},
+             {0, "# ### ### ###.00", ".00"},
+             {0.5, "# ### ### ###.00", ".50"},
+             {-1234.5, "# ### ### ##0.00", "-1 234.50"},
+             {-0.001, "0.00", "0.00"}, // no sign before a nought
+             {0, "### ### ###", ""},
+             {0.4, "### ### ###", ""},
+             {2.5, "### ### ###", "2"}, // ties to even
+             {3.5, "### ### ###", "4"},
+             {12345678901234, "### ### ###", "12 345 678 901 234"}, // groups without limit
+             {12.5, "##.##", "12.5"},
+             {12, "##.##", "12"},
+             {7.25, "0.000", "7.250"},
+             {1234.5, "R # ##0.00", "R 1 234.50"},
+             {-250000, "R # ### ##0", "-R 250 000"}, // the sign is the amount's, not the digits'
+             {-0.4, "R # ##0", "R 0"},
+             {0.123, "#0.0%", "12.3%"},
+             {-0.055, "#0.0%", "-5.5%"},
+             {0.145, "0%", "14%"}, // a tie as written
+             {0.155, "0%", "16%"},
+             {5e-324, "0.0%", "0.0%"},
+             {1e308, "0%", ""},         // beyond what a double holds: no figure
+             {12.3, "0.0 %", "12.3 %"}, // percent already
+         })
+        EXPECT_EQ(base::formatNumber(value, mask), printed) << value << ' ' << mask;
 }
 
 } // namespace
