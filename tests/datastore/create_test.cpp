@@ -1,7 +1,5 @@
 #include "datastore/create.h"
 
-#include <sys/stat.h>
-
 #include <set>
 
 #include "base/text.h"
@@ -13,46 +11,44 @@ using namespace datastoretest;
 using datastore::Creator;
 using datastore::MakeNewDb;
 
-unsigned modeOf(const fs::path& path) { return static_cast<unsigned>(fs::status(path).permissions()); }
-
 TEST(MakeNewDb, MakesTheTablesOfTheClientDatabase) {
     const storetest::Folder folder;
     const fs::path file = folder / "Data.Mdb";
     ASSERT_TRUE(MakeNewDb(file));
     EXPECT_EQ(cell(file, "SELECT count(*) FROM sqlite_master WHERE type='table'"), "46");
     EXPECT_EQ(modeOf(file), 0600U);
-    const struct {
-        const char* table;
-        int fields; ///< with the unused first one
-        int indexes;
-    } tables[] = {{"Data", 231 + 1, 2},      {"PersDetails", 68 + 1, 3}, {"DataSetup", 2, 0},
-                  {"HeadFoot", 9, 0},        {"CPIDefault", 2, 0},       {"DBSearch", 8, 0},
-                  {"RNAFutureMonInc", 8, 1}, {"RNATravel", 5, 1},        {"RNAOtherExp", 6, 1},
-                  {"DISAInvestments", 6, 1}, {"PolsInvests", 62 + 1, 1}, {"CGTDetails", 30, 1},
-                  {"CGTDetailsOther", 8, 1}, {"CGTTrustOther", 9, 0},    {"LumpSumTax", 58, 1}};
-    for (const auto& [table, fields, indexes] : tables) {
-        const std::string quoted = "'" + std::string(table) + "'";
-        // A later version may add fields; none may ever go.
-        EXPECT_GE(std::stoi(cell(file, "SELECT count(*) FROM pragma_table_info(" + quoted + ")")), fields) << table;
-        EXPECT_EQ(cell(file, "SELECT count(*) FROM pragma_index_list(" + quoted + ") WHERE [unique]=0"),
+    for (const auto& [table, fields, indexes] : // fields with the unused first one; a later version may add some
+         {std::tuple{"Data", 231 + 1, 2},
+          {"PersDetails", 68 + 1, 3},
+          {"DataSetup", 2, 0},
+          {"HeadFoot", 9, 0},
+          {"CPIDefault", 2, 0},
+          {"DBSearch", 8, 0},
+          {"RNAFutureMonInc", 8, 1},
+          {"RNATravel", 5, 1},
+          {"RNAOtherExp", 6, 1},
+          {"DISAInvestments", 6, 1},
+          {"PolsInvests", 62 + 1, 1},
+          {"CGTDetails", 30, 1},
+          {"CGTDetailsOther", 8, 1},
+          {"CGTTrustOther", 9, 0},
+          {"LumpSumTax", 58, 1}}) {
+        const std::string of = "('" + std::string(table) + "')";
+        EXPECT_GE(std::stoi(cell(file, "SELECT count(*) FROM pragma_table_info" + of)), fields) << table;
+        EXPECT_EQ(cell(file, "SELECT count(*) FROM pragma_index_list" + of + " WHERE [unique]=0"),
                   std::to_string(indexes))
             << table;
-        EXPECT_EQ(cell(file, "SELECT name||type FROM pragma_table_info(" + quoted + ")"), "In UseBOOLEAN");
+        EXPECT_EQ(cell(file, "SELECT name||type FROM pragma_table_info" + of), "In UseBOOLEAN");
     }
-    const struct {
-        const char* table;
-        const char* field;
-        const char* declared;
-    } fields[] = {{"Data", "DCLNO", "DOUBLE|0"},
-                  {"Data", "RASurname", "VARCHAR(200)|"},
-                  {"Data", "OMBP3", "SMALLINT|"},
-                  {"Data", "BMBP4", "REAL|"},
-                  {"Data", "BirthDate", "DATE DOUBLE|"},
-                  {"Data", "RANotes", "TEXT|"},
-                  {"Data", "RATaxPayerAge", "SMALLINT|0"},
-                  {"CGTDetails", "CGTAsset", "VARCHAR(4)|"},
-                  {"RNATravel", "IncomeSource", "VARCHAR(60)|''"}};
-    for (const auto& [table, field, declared] : fields)
+    for (const auto& [table, field, declared] : {std::tuple{"Data", "DCLNO", "DOUBLE|0"},
+                                                 {"Data", "RASurname", "VARCHAR(200)|"},
+                                                 {"Data", "OMBP3", "SMALLINT|"},
+                                                 {"Data", "BMBP4", "REAL|"},
+                                                 {"Data", "BirthDate", "DATE DOUBLE|"},
+                                                 {"Data", "RANotes", "TEXT|"},
+                                                 {"Data", "RATaxPayerAge", "SMALLINT|0"},
+                                                 {"CGTDetails", "CGTAsset", "VARCHAR(4)|"},
+                                                 {"RNATravel", "IncomeSource", "VARCHAR(60)|''"}})
         EXPECT_EQ(cell(file, "SELECT type||'|'||ifnull(dflt_value,'') FROM pragma_table_info('" + std::string(table) +
                                  "') WHERE name='" + field + "'"),
                   declared)
@@ -64,25 +60,23 @@ TEST(MakeNewDb, MakesTheTablesOfTheClientDatabase) {
     }
 }
 
-TEST(MakeNewDb, CompletesAnExistingFileAndDisturbsNothing) {
-    const ProgramFolder folder;
-    folder.makeClientDb();
-    const fs::path file = folder / "Data.Mdb";
-    folder.run("Data.Mdb", "INSERT INTO Data(DCLNO,Name) VALUES(1,'A'),(2,'B');"
-                           "ALTER TABLE Data ADD COLUMN Extra TEXT; UPDATE Data SET Extra='kept';"
-                           "INSERT INTO RNATravel(DCLNO,Amount) VALUES(1,9)");
+using MakeNewDbTest = ClientFileTest;
+
+TEST_F(MakeNewDbTest, CompletesAnExistingFileAndDisturbsNothing) {
+    run("INSERT INTO Data(DCLNO,Name) VALUES(1,'A'),(2,'B'); ALTER TABLE Data ADD COLUMN Extra TEXT;"
+        "UPDATE Data SET Extra='kept'; INSERT INTO RNATravel(DCLNO,Amount) VALUES(1,9)");
     const std::string before = dump(file);
     ASSERT_TRUE(MakeNewDb(file));
     EXPECT_EQ(dump(file), before);
-    folder.run("Data.Mdb", "ALTER TABLE Data DROP COLUMN TaxCGT; ALTER TABLE RNATravel DROP COLUMN Amount;"
-                           "ALTER TABLE Data DROP COLUMN Num1; DROP TABLE LumpSumTax; DROP INDEX Data_Name");
+    run("ALTER TABLE Data DROP COLUMN TaxCGT; ALTER TABLE RNATravel DROP COLUMN Amount;"
+        "ALTER TABLE Data DROP COLUMN Num1; DROP TABLE LumpSumTax; DROP INDEX Data_Name");
     ASSERT_TRUE(MakeNewDb(file));
-    EXPECT_EQ(cell(file, "SELECT count(*) FROM Data WHERE TaxCGT IS NULL AND Num1 IS NULL AND Extra='kept'"), "2");
-    EXPECT_EQ(cell(file, "SELECT Amount FROM RNATravel"), "Null"); // not the field's default
-    folder.run("Data.Mdb", "INSERT INTO RNATravel(DCLNO) VALUES(2)");
-    EXPECT_EQ(cell(file, "SELECT Amount FROM RNATravel WHERE DCLNO=2"), "0");
-    EXPECT_EQ(cell(file, "SELECT count(*) FROM LumpSumTax"), "0");
-    EXPECT_EQ(cell(file, "SELECT count(*) FROM sqlite_master WHERE name='Data_Name'"), "1");
+    EXPECT_EQ(in("SELECT count(*) FROM Data WHERE TaxCGT IS NULL AND Num1 IS NULL AND Extra='kept'"), "2");
+    EXPECT_EQ(in("SELECT Amount FROM RNATravel"), "Null"); // not the field's default
+    run("INSERT INTO RNATravel(DCLNO) VALUES(2)");
+    EXPECT_EQ(in("SELECT Amount FROM RNATravel WHERE DCLNO=2"), "0");
+    EXPECT_EQ(in("SELECT count(*) FROM LumpSumTax"), "0");
+    EXPECT_EQ(in("SELECT count(*) FROM sqlite_master WHERE name='Data_Name'"), "1");
 }
 
 TEST(MakeNewDb, TellsTheUserWhereItCannotWork) {
@@ -108,20 +102,18 @@ TEST(Creator, TakesEffectWholeOrNotAtAll) {
         creator.AddField("F", store::Type::Double, 0, 0);
     }
     EXPECT_TRUE(fs::is_empty(folder.path()));
-    {
-        Creator creator;
-        creator.CreateOrOpenDb(file);
-        creator.CreateOrOpenTable("T");
-        creator.AddField("Number", store::Type::Double, 0, 10);
-        creator.AddField("Words", store::Type::Text, 5, 11);
-        creator.AddField("NUMBER", store::Type::Text, 9, 0); // there already
-        creator.AddField("Plain", store::Type::Integer, 0, 12);
-        for (int twice = 0; twice < 2; ++twice)
-            creator.AddIndex("Number, Words", "Both", false, false);
-        creator.AddIndex("Nothing", "Bad", false, false);
-        creator.AddIndex("Words", "Unique", false, true);
-        creator.finish();
-    }
+    Creator creator;
+    creator.CreateOrOpenDb(file);
+    creator.CreateOrOpenTable("T");
+    creator.AddField("Number", store::Type::Double, 0, 10);
+    creator.AddField("Words", store::Type::Text, 5, 11);
+    creator.AddField("NUMBER", store::Type::Text, 9, 0); // there already
+    creator.AddField("Plain", store::Type::Integer, 0, 12);
+    for (int twice = 0; twice < 2; ++twice)
+        creator.AddIndex("Number, Words", "Both", false, false);
+    creator.AddIndex("Nothing", "Bad", false, false);
+    creator.AddIndex("Words", "Unique", false, true);
+    creator.finish();
     store::Database database(file);
     database.execute("INSERT INTO T([In Use]) VALUES(0)");
     EXPECT_EQ(cell(file, "SELECT Number||'['||Words||']'||ifnull(Plain,'Null') FROM T"), "0.0[]Null");

@@ -10,8 +10,10 @@
 #include "assessment/assessment.h"
 #include "assessment/tables.h"
 #include "datastore/create.h"
+#include "datastore/load.h"
 #include "datastore/paths.h"
 #include "datastore/shipped.h"
+#include "datastore/startup.h"
 #include "datastore/upgrade.h"
 #include "store/store_support.h"
 
@@ -20,6 +22,7 @@ namespace datastoretest {
 namespace fs = std::filesystem;
 using assessment::Assessment;
 using storetest::errorOf;
+using storetest::modeOf;
 
 inline void runSql(const fs::path& file, const std::string& sql) {
     store::Database database(file);
@@ -100,18 +103,13 @@ inline const std::string current = std::to_string(static_cast<int>(datastore::cu
 inline std::string dump(const fs::path& path) {
     store::Database database(path);
     std::string text;
-    std::vector<std::string> tables;
-    {
-        store::Statement schema = database.prepare("SELECT name, sql, type FROM sqlite_master ORDER BY name");
-        while (schema.step()) {
-            text += schema.text(0) + ": " + schema.text(1) + "\n";
-            if (schema.text(2) == "table") tables.push_back(schema.text(0));
-        }
-    }
-    for (const std::string& table : tables) {
-        store::Statement rows = database.prepare("SELECT rowid, * FROM " + store::bracketed(table));
+    std::vector<std::string> queries{"SELECT name, sql FROM sqlite_master ORDER BY name"};
+    store::Statement tables = database.prepare("SELECT name FROM sqlite_master WHERE type='table' ORDER BY name");
+    while (tables.step())
+        queries.push_back("SELECT rowid, * FROM " + store::bracketed(tables.text(0)));
+    for (const std::string& query : queries) {
+        store::Statement rows = database.prepare(query);
         while (rows.step()) {
-            text += table;
             for (int column = 0; column < rows.columnCount(); ++column) {
                 const store::Value value = rows.column(column);
                 const double* number = std::get_if<double>(&value);
@@ -126,12 +124,9 @@ inline std::string dump(const fs::path& path) {
 /// A text that fills a field of that many characters: accents of one to four bytes, apostrophes, markup.
 inline std::string longText(const std::string& name, int size) {
     const std::string pieces[] = {"Ê", "'", "ḓ", "\"", "<", "x", "€", "&", "𝄞", "ß"};
-    std::string text;
-    int length = 0;
-    for (const char c : name)
-        if (length < size) text += c, ++length;
-    for (std::size_t i = 0; length < size; ++length, ++i)
-        text += pieces[i % 10];
+    std::string text = name.substr(0, static_cast<std::size_t>(size));
+    for (auto length = static_cast<int>(text.size()); length < size; ++length)
+        text += pieces[length % 10];
     return text;
 }
 
@@ -240,5 +235,31 @@ inline void expectSameClient(Assessment& left, Assessment& right) {
     expectSameRows(assessment::cgtTrustOtherTable(), left.capitalGains.trustOther, right.capitalGains.trustOther);
     expectSameRow(assessment::lumpSumTaxTable(), left.lumpSums, right.lumpSums);
 }
+
+/// A program folder of the shipped databases alone.
+class StartTest : public ::testing::Test {
+protected:
+    datastore::StartUpResult start() { return datastore::startUp(folder.path(), record); }
+    int startError() {
+        return errorOf([&] { start(); });
+    }
+    void run(const std::string& sql) const { runSql(file, sql); }
+    std::string in(const std::string& sql) const { return cell(file, sql); }
+
+    ProgramFolder folder;
+    const fs::path file = folder / "Data.Mdb", print = folder / "Print.mdb", settings = folder / "Default.Mdb";
+    Assessment record;
+};
+
+/// A program folder whose client database has no client yet.
+class ClientFileTest : public StartTest {
+protected:
+    ClientFileTest() { folder.makeClientDb(); }
+    Assessment loaded(double key = 1) const {
+        Assessment found = fullClient(); // of which nothing may stay
+        datastore::load(found, folder.paths(), key);
+        return found;
+    }
+};
 
 } // namespace datastoretest

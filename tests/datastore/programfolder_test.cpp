@@ -1,33 +1,12 @@
 #include "datastore/programfolder.h"
 
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <gtest/gtest.h>
-#include <iterator>
 #include <map>
-#include <string>
-#include <unistd.h>
 
-#include "store/error.h"
+#include "store/store_support.h"
 
 namespace {
 
-namespace fs = std::filesystem;
-
-std::string contentOf(const fs::path& file) {
-    std::ifstream in(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
-}
-
-void put(const fs::path& file, const std::string& content) { std::ofstream(file, std::ios::binary) << content; }
-
-unsigned modeOf(const fs::path& path) { return static_cast<unsigned>(fs::status(path).permissions()) & 0777U; }
-
-fs::path newFolder() {
-    std::string name = (fs::temp_directory_path() / "programfolder XXXXXX").string();
-    return ::mkdtemp(name.data());
-}
+using namespace storetest;
 
 /// An installation for all users, and a user who has never started the program.
 class ProgramFolder : public testing::Test {
@@ -42,7 +21,6 @@ protected:
     }
     ~ProgramFolder() override {
         dataHomeBefore.empty() ? ::unsetenv("XDG_DATA_HOME") : ::setenv("XDG_DATA_HOME", dataHomeBefore.c_str(), 1);
-        fs::remove_all(scratch);
     }
 
     fs::path start() const {
@@ -57,7 +35,7 @@ protected:
                                                         {"Diary.mdb", "diary"},
                                                         {"Lonrepa.rpt", "<p>first</p>"},
                                                         {"guide.md", "# Guide"}};
-    fs::path scratch = newFolder();
+    const Folder scratch;
     fs::path installed = scratch / "lib/marlowbeck";
     fs::path own = scratch / "home/data/marlowbeck";
 
@@ -74,7 +52,7 @@ TEST_F(ProgramFolder, IsTheExecutablesOwnFolderWhereNoMarkerLies) {
 TEST_F(ProgramFolder, FirstStartSeedsTheUsersFolderForItsOwnerAlone) {
     EXPECT_EQ(start(), own);
     for (const auto& [file, content] : shipped) {
-        EXPECT_EQ(contentOf(own / file), content) << file;
+        EXPECT_EQ(bytesOf(own / file), content) << file;
         EXPECT_EQ(modeOf(own / file), 0600U) << file;
     }
     for (const auto& folder : {own, own.parent_path()})
@@ -86,19 +64,19 @@ TEST_F(ProgramFolder, FirstStartSeedsTheUsersFolderForItsOwnerAlone) {
 TEST_F(ProgramFolder, AnUpgradeRefreshesDefinitionsAndHelpAndLeavesEveryDatabase) {
     start();
     fs::rename(own / "Default.Mdb", own / "DEFAULT.MDB"); // as an older system may have spelt it
-    for (const char* database : {"DEFAULT.MDB", "Print.mdb", "units.mdb", "Diary.mdb", "Data.Mdb"})
+    const char* const databases[] = {"DEFAULT.MDB", "Print.mdb", "units.mdb", "Diary.mdb", "Data.Mdb"};
+    for (const char* database : databases)
         put(own / database, "the user's");
     for (const auto& [file, content] : shipped)
         put(installed / file, "upgraded " + content);
     put(installed / "LonPrAm.rpt", "new in the upgrade");
-
     start();
-    for (const char* database : {"DEFAULT.MDB", "Print.mdb", "units.mdb", "Diary.mdb", "Data.Mdb"})
-        EXPECT_EQ(contentOf(own / database), "the user's") << database;
+    for (const char* database : databases)
+        EXPECT_EQ(bytesOf(own / database), "the user's") << database;
     EXPECT_FALSE(fs::exists(own / "Default.Mdb"));
-    EXPECT_EQ(contentOf(own / "Lonrepa.rpt"), "upgraded <p>first</p>");
-    EXPECT_EQ(contentOf(own / "LonPrAm.rpt"), "new in the upgrade");
-    EXPECT_EQ(contentOf(own / "guide.md"), "upgraded # Guide");
+    EXPECT_EQ(bytesOf(own / "Lonrepa.rpt"), "upgraded <p>first</p>");
+    EXPECT_EQ(bytesOf(own / "LonPrAm.rpt"), "new in the upgrade");
+    EXPECT_EQ(bytesOf(own / "guide.md"), "upgraded # Guide");
 }
 
 TEST_F(ProgramFolder, ALaterStartWritesNothingThatIsUpToDate) {
@@ -137,7 +115,7 @@ TEST_F(ProgramFolder, AFileInThePlaceOfTheFolderIsAnErrorThatNamesIt) {
     } catch (const store::Error& error) {
         EXPECT_EQ(error.file(), own.string());
     }
-    EXPECT_EQ(contentOf(own), "in the way");
+    EXPECT_EQ(bytesOf(own), "in the way");
 }
 
 TEST_F(ProgramFolder, WithoutADataHomeItLiesUnderTheHomeFolder) {

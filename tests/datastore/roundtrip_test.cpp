@@ -1,48 +1,37 @@
 #include "datastore/datastore_support.h"
-#include "datastore/load.h"
 #include "datastore/save.h"
-#include "datastore/startup.h"
 
 namespace {
 
 using namespace datastoretest;
+using RoundTrip = ClientFileTest;
 
-TEST(RoundTrip, EveryFieldOfEveryGroupComesBackBitForBit) {
-    const ProgramFolder folder;
-    folder.makeClientDb();
+TEST_F(RoundTrip, EveryFieldOfEveryGroupComesBackBitForBit) {
     Assessment saved = fullClient();
-    ASSERT_EQ(datastore::Save(saved, folder / "Data.Mdb"), datastore::Saved::written);
+    ASSERT_EQ(datastore::Save(saved, file), datastore::Saved::written);
     EXPECT_EQ(saved.DCLNO, 1);
     Assessment second; // its rows must not run into the first client's
     second.client.Name = "Somebody else";
     second.policies.resize(3);
-    datastore::Save(second, folder / "Data.Mdb");
-    Assessment loaded;
-    datastore::load(loaded, folder.paths(), 1);
-    expectSameClient(saved, loaded);
-    EXPECT_EQ(loaded.ClientOnFile, 1);
-    EXPECT_EQ(loaded.ClientChanged, 0);
-    EXPECT_EQ(loaded.DCLNO, 1);
-    EXPECT_EQ(loaded.GRINC, 0.5);
-    // And once more through an update, which deletes and rewrites the lists.
-    loaded.changed.LoansChanged = 1;
-    EXPECT_EQ(datastore::Save(loaded, folder / "Data.Mdb"), datastore::Saved::written);
-    Assessment again;
-    datastore::load(again, folder.paths(), 1);
-    expectSameClient(saved, again);
-    EXPECT_EQ(cell(folder / "Data.Mdb", "SELECT count(*) FROM PolsInvests WHERE DCLNO=1"), "10");
-    EXPECT_EQ(cell(folder / "Data.Mdb", "SELECT count(*) FROM PolsInvests WHERE DCLNO=2"), "3");
+    datastore::Save(second, file);
+    for (int round = 0; round < 2; ++round) { // the second through an update, which deletes and rewrites the lists
+        record = loaded();
+        expectSameClient(saved, record);
+        EXPECT_EQ(record.ClientOnFile, 1);
+        EXPECT_EQ(record.ClientChanged, 0);
+        EXPECT_EQ(record.DCLNO, 1);
+        EXPECT_EQ(record.GRINC, 0.5);
+        record.changed.LoansChanged = 1;
+        EXPECT_EQ(datastore::Save(record, file), datastore::Saved::written);
+    }
+    EXPECT_EQ(in("SELECT count(*) FROM PolsInvests WHERE DCLNO=1"), "10");
+    EXPECT_EQ(in("SELECT count(*) FROM PolsInvests WHERE DCLNO=2"), "3");
 }
 
-TEST(RoundTrip, EachValueLiesInTheFieldOfItsName) {
-    const ProgramFolder folder;
-    folder.makeClientDb();
+TEST_F(RoundTrip, EachValueLiesInTheFieldOfItsName) {
     Assessment a = fullClient();
-    datastore::Save(a, folder / "Data.Mdb");
-    const struct {
-        const char* sql;
-        store::Value expected;
-    } cases[] = {
+    datastore::Save(a, file);
+    const std::pair<const char*, store::Value> cases[] = {
         {"SELECT AMOUNT FROM Data", a.nominalEffective.amount},
         {"SELECT TERM FROM Data", static_cast<double>(a.quotes.term)},
         {"SELECT lib5 FROM Data", a.death.lib5},
@@ -73,7 +62,7 @@ TEST(RoundTrip, EachValueLiesInTheFieldOfItsName) {
         {"SELECT DisaASS3 FROM Data", 0.0},
         {"SELECT [In Use] FROM Data", 0.0},
     };
-    store::Database database(folder / "Data.Mdb");
+    store::Database database(file);
     for (const auto& [sql, expected] : cases) {
         store::Statement select = database.prepare(sql);
         ASSERT_TRUE(select.step()) << sql;
@@ -81,49 +70,34 @@ TEST(RoundTrip, EachValueLiesInTheFieldOfItsName) {
     }
 }
 
-TEST(RoundTrip, NamesComeThroughLetterForLetter) {
-    const ProgramFolder folder;
-    folder.makeClientDb();
-    const std::string names[] = {"O'Brien", "Êksteen", "Ṱhoho-Nḓou", "<b>&\"x\"", "'; DROP TABLE Data; --", "[x]"};
-    for (const std::string& name : names) {
-        Assessment record;
+TEST_F(RoundTrip, NamesComeThroughLetterForLetter) {
+    for (const char* name : {"O'Brien", "Êksteen", "Ṱhoho-Nḓou", "<b>&\"x\"", "'; DROP TABLE Data; --", "[x]"}) {
+        record = {};
         record.client.Name = record.details.CLName = record.loans.Heading = name;
         record.itemised.RNATravel.flag = 1;
         record.itemised.RNATravel.rows.emplace_back().IncomeSource = name;
-        datastore::Save(record, folder / "Data.Mdb");
-        Assessment loaded;
-        datastore::load(loaded, folder.paths(), record.DCLNO);
-        EXPECT_EQ(loaded.client.Name, name);
-        EXPECT_EQ(loaded.details.CLName, name);
-        EXPECT_EQ(loaded.loans.Heading, name);
-        EXPECT_EQ(loaded.itemised.RNATravel.rows.at(0).IncomeSource, name);
+        datastore::Save(record, file);
+        Assessment found = loaded(record.DCLNO);
+        expectSameClient(record, found);
+        EXPECT_EQ(found.client.Name, name);
     }
 }
 
-/// Makes of an up-to-date file one of version 3: tables and fields of later versions are gone.
-void makeOld(const ProgramFolder& folder) {
+TEST_F(RoundTrip, AFileOfVersion3IsBroughtUpAndThenHoldsEverything) {
+    // Tables and fields of later versions are gone from it.
     folder.makeClientDb(3);
-    std::string sql;
     for (const char* table : {"LumpSumTax", "CGTTrustOther", "CGTDetails", "CGTDetailsOther", "CPIDefault", "DBSearch",
                               "RNAMonIncReq", "DISACars", "HeadFoot"})
-        sql += "DROP TABLE " + std::string(table) + ";";
-    for (const char* field :
+        run("DROP TABLE " + std::string(table));
+    for (const std::string field :
          {"Data.RRRNEWPeriod", "Data.RegMpayDet1", "Data.AgeRetiment", "Data.RANotes", "Data.NaraLastReview",
           "Data.InvestAmount", "Data.AnnMonIncShare", "Data.TaxCGT", "Data.RNATravelItemise", "PersDetails.Description",
           "PersDetails.Deceased", "PersDetails.DEPDOB8", "PolsInvests.RBMonAvaible", "DTHCars.MatAtAge"}) {
-        const std::string name = field;
-        const auto point = name.find('.');
-        sql += "ALTER TABLE " + name.substr(0, point) + " DROP COLUMN " + name.substr(point + 1) + ";";
+        const auto point = field.find('.');
+        run("ALTER TABLE " + field.substr(0, point) + " DROP COLUMN " + field.substr(point + 1));
     }
-    folder.run("Data.Mdb", sql);
-}
-
-TEST(RoundTrip, AFileOfVersion3IsBroughtUpAndThenHoldsEverything) {
-    const ProgramFolder folder;
-    makeOld(folder);
-    folder.run("Data.Mdb", "INSERT INTO Data(DCLNO,Name,Num1) VALUES(7,'Old client',5);"
-                           "INSERT INTO PersDetails(DCLNO,Name,CLName) VALUES(7,'Old client','Client')");
-    Assessment record;
+    run("INSERT INTO Data(DCLNO,Name,Num1) VALUES(7,'Old client',5);"
+        "INSERT INTO PersDetails(DCLNO,Name,CLName) VALUES(7,'Old client','Client')");
     ASSERT_EQ(datastore::startUp(folder.path(), record).paths.UpDateDBValue, datastore::currentVersion);
     datastore::load(record, folder.paths(), 7);
     EXPECT_EQ(record.client.Name, "Old client");
@@ -134,21 +108,19 @@ TEST(RoundTrip, AFileOfVersion3IsBroughtUpAndThenHoldsEverything) {
     EXPECT_EQ(record.retirement.AgeRetiment, 0);
     EXPECT_EQ(record.retirement.RANotes, "");
     EXPECT_EQ(record.incomeShares.AnnMonIncShare, "annually");
-    EXPECT_EQ(cell(folder / "Data.Mdb", "SELECT TaxCGT FROM Data"), "Null");
+    EXPECT_EQ(in("SELECT TaxCGT FROM Data"), "Null");
     EXPECT_EQ(record.policies.size(), 1U);
     // It has no row of capital gains or lump sums yet, and can be saved all the same.
     record.ClientChanged = 1;
     record.lumpSums.FstLumpTaken = 2;
-    EXPECT_EQ(datastore::Save(record, folder / "Data.Mdb"), datastore::Saved::written);
+    EXPECT_EQ(datastore::Save(record, file), datastore::Saved::written);
     Assessment saved = fullClient();
-    datastore::Save(saved, folder / "Data.Mdb");
+    datastore::Save(saved, file);
     EXPECT_EQ(saved.DCLNO, 8);
-    Assessment loaded;
-    datastore::load(loaded, folder.paths(), 8);
-    expectSameClient(saved, loaded);
-    datastore::load(loaded, folder.paths(), 7);
-    expectSameClient(record, loaded);
-    EXPECT_EQ(loaded.lumpSums.FstLumpTaken, 2);
+    Assessment young = loaded(8), old = loaded(7);
+    expectSameClient(saved, young);
+    expectSameClient(record, old);
+    EXPECT_EQ(old.lumpSums.FstLumpTaken, 2);
 }
 
 } // namespace

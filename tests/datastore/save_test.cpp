@@ -1,8 +1,6 @@
 #include "datastore/save.h"
 
-#include "assessment/rows.h"
 #include "datastore/datastore_support.h"
-#include "datastore/load.h"
 
 namespace {
 
@@ -10,36 +8,26 @@ using namespace datastoretest;
 using datastore::Save;
 using datastore::Saved;
 
-class SaveTest : public ::testing::Test {
+class SaveTest : public ClientFileTest {
 protected:
-    SaveTest() { folder.makeClientDb(); }
     std::string rowCount(const std::string& table, double key) const {
-        return cell(file, "SELECT count(*) FROM [" + table + "] WHERE DCLNO=" + std::to_string(key));
+        return in("SELECT count(*) FROM [" + table + "] WHERE DCLNO=" + std::to_string(key));
     }
-    Assessment loaded(double key) const {
-        Assessment record;
-        datastore::load(record, folder.paths(), key);
-        return record;
-    }
-    ProgramFolder folder;
-    fs::path file = folder / "Data.Mdb";
 };
 
 TEST_F(SaveTest, KeysCountUpFromTheHighest) {
     for (double key = 1; key <= 3; ++key) {
-        Assessment record;
-        ASSERT_EQ(Save(record, file), Saved::written);
-        EXPECT_EQ(record.DCLNO, key);
+        Assessment next;
+        ASSERT_EQ(Save(next, file), Saved::written);
+        EXPECT_EQ(next.DCLNO, key);
     }
-    folder.run("Data.Mdb", "DELETE FROM Data WHERE DCLNO IN (1,3)");
-    Assessment record;
+    run("DELETE FROM Data WHERE DCLNO IN (1,3)");
     Save(record, file);
     EXPECT_EQ(record.DCLNO, 3); // a key is used again only if it was the highest
-    EXPECT_EQ(cell(file, "SELECT count(*) FROM PersDetails WHERE DCLNO=3"), "2");
+    EXPECT_EQ(in("SELECT count(*) FROM PersDetails WHERE DCLNO=3"), "2");
 }
 
 TEST_F(SaveTest, WritesOnlyWhatChangedAndClearsAllFlagsButTheAnnuitys) {
-    Assessment record;
     Save(record, file);
     EXPECT_EQ(record.ClientOnFile, 1);
     const std::string before = storetest::bytesOf(file);
@@ -55,23 +43,24 @@ TEST_F(SaveTest, WritesOnlyWhatChangedAndClearsAllFlagsButTheAnnuitys) {
 }
 
 TEST_F(SaveTest, EmptyDatesAreStoredAsTheFirstOfJanuary1800) {
-    const std::string marker = "-36522";
     for (const double born : {base::NoDate, base::NoDate - 1, base::blankDate}) {
-        Assessment record;
+        record = {};
         record.client.BirthDate = born;
         record.dailyBalance.StartDateDB = record.dailyBalance.EndDateDB = static_cast<std::int32_t>(base::NoDate);
         record.retirement.NaraLastReview = record.education.EducNextReview = base::NoDate;
         record.details.DEPDOB[7] = record.details.NextApp = base::NoDate;
         record.capitalGains.assets.resize(1);
         Save(record, file);
-        const std::string where = " WHERE DCLNO=" + std::to_string(record.DCLNO);
-        for (const char* field : {"BirthDate", "StartDateDB", "EndDateDB", "NaraLastReview", "EducNextReview"})
-            EXPECT_EQ(cell(file, "SELECT " + std::string(field) + " FROM Data" + where), marker) << field;
-        for (const char* field : {"BirthDate", "DEPDOB8", "NextApp"})
-            EXPECT_EQ(cell(file, "SELECT " + std::string(field) + " FROM PersDetails" + where), marker) << field;
-        for (const char* field : {"DateAquired", "DateSale"})
-            EXPECT_EQ(cell(file, "SELECT " + std::string(field) + " FROM CGTDetails" + where), marker) << field;
-        EXPECT_EQ(cell(file, "SELECT InceptionDate FROM PolsInvests" + where), "-693959");
+        for (const auto& [table, fields, stored] :
+             {std::tuple{"Data", "BirthDate, StartDateDB, EndDateDB, NaraLastReview, EducNextReview", "-36522"},
+              {"PersDetails", "BirthDate, DEPDOB8, NextApp", "-36522"},
+              {"CGTDetails", "DateAquired, DateSale", "-36522"},
+              {"PolsInvests", "InceptionDate, InceptionDate", "-693959"}})
+            for (const char* most : {"max(", "min("})
+                EXPECT_EQ(in(std::string("SELECT ") + most + fields + ") FROM " + table +
+                             " WHERE DCLNO=" + std::to_string(record.DCLNO)),
+                          stored)
+                    << fields;
         EXPECT_EQ(record.client.BirthDate, base::blankDate);
         const Assessment again = loaded(record.DCLNO);
         EXPECT_EQ(again.capitalGains.assets.at(0).DateSale, base::NoDate); // the gain's arithmetic tests for it
@@ -81,13 +70,13 @@ TEST_F(SaveTest, EmptyDatesAreStoredAsTheFirstOfJanuary1800) {
 }
 
 TEST_F(SaveTest, AListIsKeptOnlyWhileItsFlagIsOne) {
-    Assessment record = fullClient();
+    record = fullClient();
     record.itemised.DTHInvestments.flag = 1;
     record.itemised.DTHInvestments.rows.emplace_back().IncomeSource = "unit trusts";
     Save(record, file);
     EXPECT_EQ(rowCount("DTHInvestments", 1), "0"); // this list and its flag are never written
-    EXPECT_EQ(cell(file, "SELECT DTHInvestmentsItemise FROM Data"), "0");
-    folder.run("Data.Mdb", "INSERT INTO DTHInvestments(DCLNO) VALUES(1); INSERT INTO CGTTrustOther(DCLNO) VALUES(9)");
+    EXPECT_EQ(in("SELECT DTHInvestmentsItemise FROM Data"), "0");
+    run("INSERT INTO DTHInvestments(DCLNO) VALUES(1); INSERT INTO CGTTrustOther(DCLNO) VALUES(9)");
     EXPECT_NE(rowCount("RNAStocks", 1), "0");
     record.itemised.RNAStocks.flag = 0;
     record.itemised.DISACars.flag = 2; // neither on nor off: stored as it is, without rows
@@ -102,7 +91,7 @@ TEST_F(SaveTest, AListIsKeptOnlyWhileItsFlagIsOne) {
     EXPECT_EQ(rowCount("CGTTrustOther", 9), "1");
     EXPECT_EQ(rowCount("CGTDetails", 1), "2");
     EXPECT_EQ(rowCount("PolsInvests", 1), "1");
-    Assessment again = loaded(1);
+    Assessment again = loaded();
     EXPECT_EQ(again.itemised.RNAStocks.rows.size(), 0U);
     EXPECT_EQ(again.itemised.DISACars.flag, 2);
     EXPECT_EQ(again.itemised.RNATravel.flag, 1);
@@ -112,40 +101,36 @@ TEST_F(SaveTest, AListIsKeptOnlyWhileItsFlagIsOne) {
 
 TEST_F(SaveTest, RowsLeftBehindByADeletedClientDoNotHideTheNewOnes) {
     for (const char* table : {"CGTDetailsOther", "LumpSumTax", "CGTDetails"})
-        folder.run("Data.Mdb", "INSERT INTO " + std::string(table) + "(DCLNO) VALUES(1)");
-    Assessment record = fullClient();
+        run("INSERT INTO " + std::string(table) + "(DCLNO) VALUES(1)");
+    record = fullClient();
     Save(record, file);
     EXPECT_EQ(rowCount("LumpSumTax", 1), "1");
-    Assessment again = loaded(1);
+    Assessment again = loaded();
     expectSameClient(record, again);
 }
 
 TEST_F(SaveTest, AClientWithoutRowsIsAddedToAnEmptyTableAndElseAnError) {
-    Assessment record;
     Save(record, file);
-    folder.run("Data.Mdb", "DELETE FROM Data; DELETE FROM PersDetails; DELETE FROM LumpSumTax");
+    run("DELETE FROM Data; DELETE FROM PersDetails; DELETE FROM LumpSumTax");
     record.ClientChanged = 1;
     EXPECT_EQ(Save(record, file), Saved::written);
     EXPECT_EQ(rowCount("PersDetails", 1), "1");
     Assessment other;
     Save(other, file);
     for (const char* table : {"Data", "PersDetails"}) {
-        folder.run("Data.Mdb", "UPDATE " + std::string(table) + " SET DCLNO=99 WHERE DCLNO=1");
+        run("UPDATE " + std::string(table) + " SET DCLNO=99 WHERE DCLNO=1");
         const std::string before = dump(file);
         record.ClientChanged = record.SaveThenNew = 1;
         EXPECT_EQ(errorOf([&] { Save(record, file); }), 3021);
         EXPECT_EQ(dump(file), before);
         EXPECT_EQ(record.ClientChanged, 1);
         EXPECT_EQ(record.SaveThenNew, 0);
-        folder.run("Data.Mdb", "UPDATE " + std::string(table) + " SET DCLNO=1 WHERE DCLNO=99");
+        run("UPDATE " + std::string(table) + " SET DCLNO=1 WHERE DCLNO=99");
     }
 }
 
 TEST_F(SaveTest, WritesOverNoStrangerAndOnlyWhenToldOverAnothersChanges) {
-    const struct {
-        const char* meanwhile;
-        bool isStranger, isChange;
-    } cases[] = {
+    const std::tuple<const char*, bool, bool> cases[] = {
         {"UPDATE Data SET Name='Ms A Botha'; UPDATE PersDetails SET Name='Ms A Botha', BirthDate=25569", true, true},
         {"UPDATE Data SET BirthDate=3; UPDATE PersDetails SET BirthDate=3", true, true},
         {"UPDATE Data SET BirthDate=NULL; UPDATE PersDetails SET BirthDate=NULL", true, true},
@@ -161,15 +146,15 @@ TEST_F(SaveTest, WritesOverNoStrangerAndOnlyWhenToldOverAnothersChanges) {
     for (const bool afterALoad : {true, false})
         for (const auto& [meanwhile, isStranger, isChange] : cases) {
             folder.makeClientDb();
-            Assessment record = fullClient();
+            record = fullClient();
             record.client.Name = "Mr P J O'Brien";
             Save(record, file);
-            if (afterALoad) record = loaded(1);
+            if (afterALoad) record = loaded();
             record.loans.Num1 = 42;
             record.ClientChanged = record.changed.LoansChanged = record.SaveThenNew = 1;
-            folder.run("Data.Mdb", meanwhile);
+            run(meanwhile);
             const std::string before = dump(file);
-            const std::string now = cell(file, "SELECT Name FROM PersDetails");
+            const std::string now = in("SELECT Name FROM PersDetails");
             try {
                 EXPECT_EQ(Save(record, file), Saved::thenNew) << meanwhile;
                 EXPECT_FALSE(isChange) << meanwhile;
@@ -185,13 +170,12 @@ TEST_F(SaveTest, WritesOverNoStrangerAndOnlyWhenToldOverAnothersChanges) {
             const int error = errorOf([&] { Save(record, file, datastore::TheirChanges::overwrite); });
             EXPECT_EQ(error, isStranger ? 3197 : 0) << meanwhile;
             if (isStranger) continue;
-            Assessment again = loaded(1);
+            Assessment again = loaded();
             expectSameClient(record, again);
         }
 }
 
 TEST_F(SaveTest, TellsWhenNewIsToFollow) {
-    Assessment record;
     record.SaveThenNew = 1;
     EXPECT_EQ(Save(record, file), Saved::thenNew);
     EXPECT_EQ(record.SaveThenNew, 0);
@@ -200,10 +184,7 @@ TEST_F(SaveTest, TellsWhenNewIsToFollow) {
 }
 
 TEST_F(SaveTest, RefusesWhatAFieldCannotHold) {
-    const struct {
-        std::function<void(Assessment&)> spoil;
-        int error;
-    } cases[] = {
+    const std::pair<std::function<void(Assessment&)>, int> cases[] = {
         {[](Assessment& a) { a.client.Name = longText("n", 81); }, 3163},
         {[](Assessment& a) { a.policies.at(9).PolIncAddNote = longText("n", 121); }, 3163},
         {[](Assessment& a) { a.policies.at(9).PremInvAmtMonthlyAnnEsc = 32768; }, 3421},
@@ -224,12 +205,11 @@ TEST_F(SaveTest, RefusesWhatAFieldCannotHold) {
     good.policies[0].PremInvAmtMonthlyAnnEsc = 7.5F; // kept as a whole percentage, ties to even
     good.ClientChanged = 1;
     Save(good, file);
-    EXPECT_EQ(loaded(1).policies[0].PremInvAmtMonthlyAnnEsc, 8);
+    EXPECT_EQ(loaded().policies[0].PremInvAmtMonthlyAnnEsc, 8);
 }
 
 TEST_F(SaveTest, AMissingFieldIsAnErrorAndNotATextOfItsName) {
-    folder.run("Data.Mdb", "ALTER TABLE LumpSumTax DROP COLUMN FstLumpTaken");
-    Assessment record;
+    run("ALTER TABLE LumpSumTax DROP COLUMN FstLumpTaken");
     EXPECT_EQ(errorOf([&] { Save(record, file); }), 3265);
     EXPECT_EQ(record.ClientOnFile, 0);
 }

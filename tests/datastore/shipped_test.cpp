@@ -1,7 +1,6 @@
 #include "datastore/shipped.h"
 
 #include "datastore/datastore_support.h"
-#include "datastore/startup.h"
 
 /// The databases that come with the program, as an older version of it left them.
 namespace {
@@ -12,20 +11,11 @@ std::string tablesOf(const fs::path& file) {
     return cell(file, "SELECT group_concat(sql) FROM (SELECT sql FROM sqlite_master WHERE type='table' ORDER BY name)");
 }
 
-class Shipped : public ::testing::Test {
-protected:
-    void start() {
-        Assessment record;
-        datastore::startUp(folder.path(), record);
-    }
-    ProgramFolder folder;
-    fs::path settings = folder / "Default.Mdb";
-    fs::path print = folder / "Print.mdb";
-};
+using Shipped = StartTest;
 
 TEST_F(Shipped, PrintMdbIsMadeAnewWhereItsTablesAreOthers) {
     start();
-    folder.run("Data.Mdb", "UPDATE HeadFoot SET HEADERV0='The practice'");
+    run("UPDATE HeadFoot SET HEADERV0='The practice'");
     const std::string shipped = tablesOf(print);
     for (const char* older :
          {"ALTER TABLE Loans DROP COLUMN Num4", "DROP TABLE Amort", "ALTER TABLE IRP5Mon ADD COLUMN More DOUBLE",
@@ -54,24 +44,20 @@ TEST_F(Shipped, PrintMdbIsMadeAnewWhereItsTablesAreOthers) {
 
 TEST_F(Shipped, PrintMdbOfAnOldClientDatabaseGetsTheLinesWithItsUpgrade) {
     folder.makeClientDb(5);
-    folder.run("Data.Mdb", "DROP TABLE HeadFoot");
+    run("DROP TABLE HeadFoot");
     folder.run("Print.mdb", "DROP TABLE Amort");
     start();
     EXPECT_EQ(cell(print, "SELECT footv0 FROM HeadFoot"), "This report was prepared in accordance with ");
 }
 
 TEST_F(Shipped, SettingsAreCompletedAndTheUsersOwnKept) {
-    const struct {
-        const char *older, *asked, *expected;
-    } cases[] = {
-        {"DROP TABLE Setup", "SELECT GRINC||RptLanguage FROM Setup", "0.5E"},
-        {"ALTER TABLE PAYESetup DROP COLUMN SkillLevy; UPDATE PAYESetup SET UIFLimit=9",
-         "SELECT SkillLevy||'|'||UIFLimit FROM PAYESetup", "1.0|9.0"},
-        {"ALTER TABLE TallowenDefault RENAME UTDiv TO Mine; UPDATE MutualFunds SET UTDiv=7",
-         "SELECT t.UTDiv||'|'||Mine||'|'||m.UTDiv FROM TallowenDefault t, MutualFunds m", "3.0|3.0|7.0"},
-        {"ALTER TABLE livann DROP COLUMN MinIncAllowed; DELETE FROM livann", "SELECT count(*) FROM livann", "0"},
-    };
-    for (const auto& [older, asked, expected] : cases) {
+    for (const auto& [older, asked, expected] :
+         {std::tuple{"DROP TABLE Setup", "SELECT GRINC||RptLanguage FROM Setup", "0.5E"},
+          {"ALTER TABLE PAYESetup DROP COLUMN SkillLevy; UPDATE PAYESetup SET UIFLimit=9",
+           "SELECT SkillLevy||'|'||UIFLimit FROM PAYESetup", "1.0|9.0"},
+          {"ALTER TABLE TallowenDefault RENAME UTDiv TO Mine; UPDATE MutualFunds SET UTDiv=7",
+           "SELECT t.UTDiv||'|'||Mine||'|'||m.UTDiv FROM TallowenDefault t, MutualFunds m", "3.0|3.0|7.0"},
+          {"ALTER TABLE livann DROP COLUMN MinIncAllowed; DELETE FROM livann", "SELECT count(*) FROM livann", "0"}}) {
         folder.run("Default.Mdb", older);
         start();
         EXPECT_EQ(cell(settings, asked), expected) << older;

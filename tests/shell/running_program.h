@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
 #include <QLineEdit>
@@ -33,23 +34,7 @@ public:
     }
 };
 
-/// The answer to a query with one row, its columns joined by "|"; several rows by line breaks.
-inline std::string rowsOf(const std::filesystem::path& file, const std::string& sql) {
-    store::Database database(file);
-    store::Statement rows = database.prepare(sql);
-    std::string text;
-    while (rows.step()) {
-        if (!text.empty()) text += "\n";
-        for (int column = 0; column < rows.columnCount(); ++column) {
-            const store::Value value = rows.column(column);
-            if (column > 0) text += "|";
-            if (const auto* number = std::get_if<double>(&value))
-                text += QString::number(*number, 'g', 17).toStdString();
-            if (const auto* words = std::get_if<std::string>(&value)) text += *words;
-        }
-    }
-    return text;
-}
+using storetest::rowsOf;
 
 /// The program with its real windows, driven by control names, keys and mouse clicks.
 class RunningProgram {
@@ -153,6 +138,14 @@ public:
     }
     bool isOpen(const QString& name) { return window().screen(name) != nullptr; }
     QString shown(const QString& name) { return control<QLineEdit>(name)->text(); }
+    /// What a table shows, row by row.
+    static std::vector<QStringList> cells(const QAbstractItemView* table) {
+        std::vector<QStringList> rows(static_cast<std::size_t>(table->model()->rowCount()));
+        for (std::size_t row = 0; row < rows.size(); ++row)
+            for (int column = 0; column < table->model()->columnCount(); ++column)
+                rows[row] << table->model()->index(static_cast<int>(row), column).data().toString();
+        return rows;
+    }
     std::string inClients(const std::string& sql) { return rowsOf(folder / "Data.Mdb", sql); }
     std::string inPrint(const std::string& sql) { return rowsOf(folder / "Print.mdb", sql); }
     std::string clientName() { return window().findChild<QLabel*>("StatusBar1.Panels(2)")->text().toStdString(); }

@@ -2,8 +2,10 @@
 
 #include <gtest/gtest.h>
 #include <sys/types.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
+#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -70,6 +72,26 @@ inline std::string bytesOf(const fs::path& path) {
 
 inline void put(const fs::path& path, const std::string& bytes) { std::ofstream(path, std::ios::binary) << bytes; }
 
+inline unsigned modeOf(const fs::path& path) { return static_cast<unsigned>(fs::status(path).permissions()) & 0777U; }
+
+/// The rows that a query gives, their columns joined by "|", the rows by line breaks; Null is empty.
+inline std::string rowsOf(const fs::path& file, const std::string& sql) {
+    store::Database database(file);
+    store::Statement rows = database.prepare(sql);
+    std::ostringstream text;
+    text.precision(17);
+    for (bool first = true; rows.step(); first = false) {
+        if (!first) text << "\n";
+        for (int column = 0; column < rows.columnCount(); ++column) {
+            const store::Value value = rows.column(column);
+            if (column > 0) text << "|";
+            if (const auto* number = std::get_if<double>(&value)) text << *number;
+            if (const auto* words = std::get_if<std::string>(&value)) text << *words;
+        }
+    }
+    return text.str();
+}
+
 /// The number of the store::Error that an action ends in; 0 if it ends well.
 template <class Action>
 int errorOf(Action action) {
@@ -79,6 +101,28 @@ int errorOf(Action action) {
     } catch (const store::Error& error) {
         return error.number();
     }
+}
+
+/// Lets another process act, and kills it so long after it has called what it is given.
+template <class Action>
+void runAndKill(Action action, useconds_t microseconds = 0) {
+    int ready[2];
+    ASSERT_EQ(::pipe(ready), 0);
+    const pid_t child = ::fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+        action([&] {
+            if (::write(ready[1], "x", 1) != 1) ::_exit(1);
+        });
+        ::_exit(1);
+    }
+    char sign = 0;
+    EXPECT_EQ(::read(ready[0], &sign, 1), 1);
+    ::usleep(microseconds);
+    ::kill(child, SIGKILL);
+    ::waitpid(child, nullptr, 0);
+    ::close(ready[0]);
+    ::close(ready[1]);
 }
 
 } // namespace storetest
