@@ -89,29 +89,14 @@ TEST_F(Browse, ShowsTheFirstEntryButChoosesNone) {
     run.key(Qt::Key_Down); // the first, not the second
     EXPECT_EQ(run.shown("txtName"), "  <b>&\"x\"");
     run.key(Qt::Key_Down);
-    EXPECT_EQ(run.shown("txtName"), "Mev  Êksteen");
-    EXPECT_EQ(run.shown("txtDescription"), "met at the church");
-    EXPECT_EQ(run.shown("dtBirthDate"), "31/12/1899");
+    run.expectShown("txtName Mev  Êksteen, txtDescription met at the church, dtBirthDate 31/12/1899");
     run.key(Qt::Key_Return);
     EXPECT_EQ(run.record().details.CLName, accents);
 }
 
-TEST_F(Browse, EachNameComesBackLetterForLetter) {
-    for (const Client& client : clients) {
-        if (!run.isOpen("frmBrowse")) run.menu("mnuBrowse");
-        load(client.surname);
-        ASSERT_FALSE(run.isOpen("frmBrowse")) << client.surname;
-        if (std::string(client.surname) == "eksteen") continue; // its namesake comes first
-        EXPECT_EQ(run.shown("txtCLName").toStdString(), client.surname);
-        EXPECT_EQ(run.clientName(), std::string(client.title) + "  " + client.surname);
-        EXPECT_EQ(run.front()->objectName(), "frmPersDet");
-    }
-}
-
 TEST_F(Browse, AClickShowsAndADoubleClickLoads) {
     QTest::mouseClick(list()->viewport(), Qt::LeftButton, {}, placeOf(3));
-    EXPECT_EQ(run.shown("txtName"), "Mr  O'Brien");
-    EXPECT_EQ(run.shown("dtBirthDate"), "17/03/1960");
+    run.expectShown("txtName Mr  O'Brien, dtBirthDate 17/03/1960");
     QTest::mouseClick(list()->viewport(), Qt::LeftButton, {}, placeOf(4));
     QTest::mouseDClick(list()->viewport(), Qt::LeftButton, {}, placeOf(4));
     RunningProgram::settle();
@@ -159,26 +144,21 @@ TEST_F(Browse, AClientThatVanishedLeavesABlankRecordAndTheList) {
 }
 
 TEST_F(Browse, HeadsSortTheColumnsAndTheChosenClientStaysChosen) {
-    search("ndou");
-    search("");
     run.key(Qt::Key_Down);
     run.key(Qt::Key_End);
-    EXPECT_EQ(run.shown("txtName"), "Prof  Ṱhoho-Nḓou");
     const auto* heads = list()->horizontalHeader();
     const QPoint born(heads->sectionViewportPosition(3) + 9, heads->height() / 2);
-    QTest::mouseClick(heads->viewport(), Qt::LeftButton, {}, born);
-    EXPECT_EQ(column(0), "<b>&\"x\"|eksteen|Ṱhoho-Nḓou|Êksteen|O'Brien");
-    QTest::mouseClick(heads->viewport(), Qt::LeftButton, {}, born);
-    EXPECT_EQ(column(0), "O'Brien|Êksteen|<b>&\"x\"|eksteen|Ṱhoho-Nḓou");
-    EXPECT_EQ(run.shown("txtName"), "Prof  Ṱhoho-Nḓou");
+    for (const char* order :
+         {"<b>&\"x\"|eksteen|Ṱhoho-Nḓou|Êksteen|O'Brien", "O'Brien|Êksteen|<b>&\"x\"|eksteen|Ṱhoho-Nḓou"}) {
+        QTest::mouseClick(heads->viewport(), Qt::LeftButton, {}, born);
+        EXPECT_EQ(column(0), order);
+        EXPECT_EQ(run.shown("txtName"), "Prof  Ṱhoho-Nḓou");
+    }
     run.inClients(
         "UPDATE [PersDetails] SET [ReviewDate]=CASE [DCLNO] WHEN 1 THEN 46200 WHEN 2 THEN NULL ELSE -36522 END");
     run.key(Qt::Key_F5);
     EXPECT_EQ(column(4), "||||27/06/2026") << "no date is shown as none";
     EXPECT_EQ(run.shown("txtName"), "Prof  Ṱhoho-Nḓou") << "the list was read again";
-    run.control("txtSearch")->setFocus();
-    run.key(Qt::Key_1, Qt::ControlModifier);
-    EXPECT_EQ(column(0), "<b>&\"x\"|Êksteen|eksteen|O'Brien|Ṱhoho-Nḓou");
     run.click("cmdOK");
     EXPECT_EQ(run.record().details.CLName, hooks);
 }
@@ -206,26 +186,10 @@ TEST_F(Browse, EditsMadeBehindItAreAskedAboutAtTheLoad) {
     load(oBrien);
     EXPECT_EQ(run.inClients("SELECT [Num1] FROM [Data] WHERE [DCLNO]=6"), "7000");
     EXPECT_EQ(run.record().details.CLName, oBrien);
-}
-
-TEST_F(Browse, AFailedLoadLeavesTheClientOnTheScreens) {
-    load(oBrien);
-    borrow(5000);
-    run.menu("mnuSave");
-    run.menu("mnuBrowse");
-    search(hooks);
-    store::Database other(run.folder / "Data.Mdb");
-    other.execute("BEGIN EXCLUSIVE");
-    run.desk.expect(Answer::ok);
-    run.key(Qt::Key_Return);
-    EXPECT_TRUE(run.desk.last().text.contains("Another program is using the database."));
-    EXPECT_EQ(run.record().details.CLName, oBrien);
-    EXPECT_EQ(run.record().loans.Num1, 5000);
-    EXPECT_EQ(run.clientName(), "Mr  O'Brien");
-    EXPECT_EQ(list()->model()->rowCount(), 1) << "the list stands as it was";
-    other.execute("ROLLBACK");
-    run.key(Qt::Key_Return);
-    EXPECT_EQ(run.record().details.CLName, hooks);
+    EXPECT_EQ(run.record().loans.Num1, 0);
+    EXPECT_EQ(run.window().screens().size(), 1); // the client's screens are closed
+    assessment::CheckChanges(run.record());
+    EXPECT_EQ(run.record().ClientChanged, 0);
 }
 
 TEST_F(Browse, AListThatCouldNotBeReadSaysWhyAndFillsWhenItComesToTheFront) {
@@ -263,17 +227,6 @@ TEST_F(Browse, AListThatCouldNotBeReadSaysWhyAndFillsWhenItComesToTheFront) {
     EXPECT_TRUE(why().startsWith("There are no clients in this file yet.")) << why().toStdString();
     list()->setFocus();
     run.key(Qt::Key_C, Qt::ControlModifier);
-}
-
-TEST_F(Browse, ALoadClosesTheClientsScreensAndShowsEveryFieldAfresh) {
-    borrow(5000);
-    run.desk.expect(Answer::no);
-    run.menu("mnuBrowse");
-    load(oBrien);
-    EXPECT_EQ(run.window().screens().size(), 1);
-    EXPECT_EQ(run.record().loans.Num1, 0);
-    assessment::CheckChanges(run.record());
-    EXPECT_EQ(run.record().ClientChanged, 0);
 }
 
 TEST(BrowsePrompt, GuardsUnsavedChanges) {

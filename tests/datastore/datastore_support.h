@@ -172,68 +172,59 @@ private:
     int m_next = 0;
 };
 
+/// Calls `use` with each row that comes back from the file, and its table before it.
+template <class Use>
+void eachRow(Assessment& record, Use use) {
+    const auto each = [&](const auto& table, auto& rows) {
+        for (auto& row : rows)
+            use(table, row);
+    };
+    assessment::CapitalGains& gains = record.capitalGains;
+    use(assessment::dataTable(), record);
+    use(assessment::persDetailsTable(), record);
+    use(assessment::cgtDetailsOtherTable(), gains);
+    use(assessment::lumpSumTaxTable(), record.lumpSums);
+    each(assessment::polsInvestsTable(), record.policies);
+    each(assessment::cgtDetailsTable(), gains.assets);
+    each(assessment::cgtTrustOtherTable(), gains.trustOther);
+    for (const assessment::ItemTable& line : assessment::itemTables())
+        if (line.table != nullptr && line.isKept) each(*line.table, line.list(record.itemised).rows);
+}
+
 /// A client with a value in every field of every group, its own in each: ten policies, five assets, all lists.
 inline Assessment fullClient() {
     Assessment record;
-    Filler filler;
-    filler.fill(assessment::dataTable(), record);
-    filler.fill(assessment::persDetailsTable(), record);
-    std::size_t length = 0;
-    for (const assessment::ItemTable& line : assessment::itemTables()) {
-        if (line.table == nullptr || !line.isKept) continue;
-        assessment::ItemList& list = line.list(record.itemised);
-        list.flag = 1;
-        list.rows.resize(1 + length++ % 4);
-        for (auto& row : list.rows)
-            filler.fill(*line.table, row);
-    }
     record.policies.resize(10);
-    for (auto& policy : record.policies)
-        filler.fill(assessment::polsInvestsTable(), policy);
-    assessment::CapitalGains& gains = record.capitalGains;
-    gains.assets.resize(5);
-    for (std::size_t i = 0; i < gains.assets.size(); ++i) {
-        filler.fill(assessment::cgtDetailsTable(), gains.assets[i]);
-        gains.assets[i].CGTAssetNum = static_cast<std::int16_t>(i + 1);
-    }
-    filler.fill(assessment::cgtDetailsOtherTable(), gains);
-    gains.ItemiseAdditCapGain = 1;
-    gains.trustOther.resize(3);
-    for (auto& row : gains.trustOther)
-        filler.fill(assessment::cgtTrustOtherTable(), row);
-    filler.fill(assessment::lumpSumTaxTable(), record.lumpSums);
+    record.capitalGains.assets.resize(5);
+    record.capitalGains.trustOther.resize(3);
+    std::size_t length = 0;
+    for (const assessment::ItemTable& line : assessment::itemTables())
+        if (line.table != nullptr && line.isKept) line.list(record.itemised).rows.resize(1 + length++ % 4);
+    Filler filler;
+    eachRow(record, [&](const auto& table, auto& row) { filler.fill(table, row); });
+    record.capitalGains.ItemiseAdditCapGain = 1;
+    for (const assessment::ItemTable& line : assessment::itemTables())
+        if (line.table != nullptr && line.isKept) line.list(record.itemised).flag = 1;
+    for (std::int16_t number = 0; auto& asset : record.capitalGains.assets)
+        asset.CGTAssetNum = ++number;
     return record;
-}
-
-template <class Row>
-void expectSameRow(const assessment::FieldTable<Row>& table, Row& left, Row& right) {
-    for (const assessment::FieldLine& line : table.fields()) {
-        if (line.at == nullptr || line.rule == assessment::Rule::writtenOnly) continue;
-        const store::Value a = assessment::valueAt(line.at(&left));
-        const store::Value b = assessment::valueAt(line.at(&right));
-        EXPECT_EQ(a, b) << table.name() << "." << line.name;
-    }
-}
-
-template <class Row>
-void expectSameRows(const assessment::FieldTable<Row>& table, std::vector<Row>& left, std::vector<Row>& right) {
-    ASSERT_EQ(left.size(), right.size()) << table.name();
-    for (std::size_t i = 0; i < left.size(); ++i)
-        expectSameRow(table, left[i], right[i]);
 }
 
 /// Every field of every group that comes back from the file.
 inline void expectSameClient(Assessment& left, Assessment& right) {
-    expectSameRow(assessment::dataTable(), left, right);
-    expectSameRow(assessment::persDetailsTable(), left, right);
-    for (const assessment::ItemTable& line : assessment::itemTables())
-        if (line.table != nullptr && line.isKept)
-            expectSameRows(*line.table, line.list(left.itemised).rows, line.list(right.itemised).rows);
-    expectSameRows(assessment::polsInvestsTable(), left.policies, right.policies);
-    expectSameRows(assessment::cgtDetailsTable(), left.capitalGains.assets, right.capitalGains.assets);
-    expectSameRow(assessment::cgtDetailsOtherTable(), left.capitalGains, right.capitalGains);
-    expectSameRows(assessment::cgtTrustOtherTable(), left.capitalGains.trustOther, right.capitalGains.trustOther);
-    expectSameRow(assessment::lumpSumTaxTable(), left.lumpSums, right.lumpSums);
+    const auto valuesOf = [](Assessment& record) {
+        std::vector<std::pair<std::string, store::Value>> values;
+        eachRow(record, [&](const auto& table, auto& row) {
+            for (const assessment::FieldLine& line : table.fields())
+                if (line.at != nullptr && line.rule != assessment::Rule::writtenOnly)
+                    values.emplace_back(table.name() + "." + line.name, assessment::valueAt(line.at(&row)));
+        });
+        return values;
+    };
+    const auto a = valuesOf(left), b = valuesOf(right);
+    ASSERT_EQ(a.size(), b.size());
+    for (std::size_t i = 0; i < a.size(); ++i)
+        EXPECT_EQ(a[i], b[i]);
 }
 
 /// A program folder of the shipped databases alone.

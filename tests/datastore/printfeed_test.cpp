@@ -54,16 +54,15 @@ TEST_F(Feed, FailsWithTableAndFieldInTheMessageAndChangesNothing) {
                           {"Loans", {"Heading", "sixsix"}, 3163, "Heading"},
                           {"Loans", {"Num1", "text"}, 3421, "Num1"},
                           {"Loans", {"Whole", 40000}, 3421, "Whole"}}) {
-        try {
+        const auto error = caughtFrom([&] {
             PrintFeed feed(path, "A. Client");
             feed.replace("Amort", {{"Year", 1}});
             feed.replace(c.table, {c.field});
             feed.commit();
-            ADD_FAILURE() << c.named;
-        } catch (const store::Error& error) {
-            EXPECT_EQ(error.number(), c.number);
-            EXPECT_NE(error.message().find(c.named), std::string::npos) << error.message();
-        }
+        });
+        ASSERT_TRUE(error) << c.named;
+        EXPECT_EQ(error->number(), c.number);
+        EXPECT_NE(error->message().find(c.named), std::string::npos) << error->message();
     }
     EXPECT_EQ(rows("Loans"), "|1||\n|2||");
     EXPECT_EQ(rows("Amort"), "");

@@ -93,13 +93,10 @@ TEST_F(ProgramFolder, AMissingInstalledDatabaseIsAnErrorThatNamesIt) {
     for (const std::string name : {"Default.Mdb", "Print.mdb", "units.mdb", "Diary.mdb"}) {
         fs::remove_all(own);
         fs::rename(installed / name, installed / "away");
-        try {
-            start();
-            ADD_FAILURE() << "started without " << name;
-        } catch (const store::Error& error) {
-            EXPECT_TRUE(error.is(store::Number::fileNotFound53)) << error.message();
-            EXPECT_NE(error.file().find(name), std::string::npos) << error.message();
-        }
+        const auto error = caughtFrom([&] { start(); });
+        ASSERT_TRUE(error) << "started without " << name;
+        EXPECT_TRUE(error->is(store::Number::fileNotFound53)) << error->message();
+        EXPECT_NE(error->file().find(name), std::string::npos) << error->message();
         EXPECT_FALSE(fs::exists(own / name));
         fs::rename(installed / "away", installed / name);
     }
@@ -109,12 +106,9 @@ TEST_F(ProgramFolder, AMissingInstalledDatabaseIsAnErrorThatNamesIt) {
 TEST_F(ProgramFolder, AFileInThePlaceOfTheFolderIsAnErrorThatNamesIt) {
     fs::create_directories(own.parent_path());
     put(own, "in the way");
-    try {
-        start();
-        ADD_FAILURE() << "seeded into a file";
-    } catch (const store::Error& error) {
-        EXPECT_EQ(error.file(), own.string());
-    }
+    const auto error = caughtFrom([&] { start(); });
+    ASSERT_TRUE(error) << "seeded into a file";
+    EXPECT_EQ(error->file(), own.string());
     EXPECT_EQ(bytesOf(own), "in the way");
 }
 

@@ -208,10 +208,4 @@ TEST_F(SaveTest, RefusesWhatAFieldCannotHold) {
     EXPECT_EQ(loaded().policies[0].PremInvAmtMonthlyAnnEsc, 8);
 }
 
-TEST_F(SaveTest, AMissingFieldIsAnErrorAndNotATextOfItsName) {
-    run("ALTER TABLE LumpSumTax DROP COLUMN FstLumpTaken");
-    EXPECT_EQ(errorOf([&] { Save(record, file); }), 3265);
-    EXPECT_EQ(record.ClientOnFile, 0);
-}
-
 } // namespace

@@ -120,6 +120,16 @@ public:
         QTest::keyClick(control<QWidget>(name), Qt::Key_Tab);
         settle();
     }
+    /// Several fields one after the other, each with its text: "numComm 1000, silgEdit12 5".
+    void typeAll(const QString& entries) {
+        for (const QString& entry : entries.split(", "))
+            type(entry.section(' ', 0, 0), entry.section(' ', 1));
+    }
+    /// What fields show, written as in `typeAll`.
+    void expectShown(const QString& entries) {
+        for (const QString& entry : entries.split(", "))
+            EXPECT_EQ(shown(entry.section(' ', 0, 0)), entry.section(' ', 1)) << entry.section(' ', 0, 0).toStdString();
+    }
     void click(const QString& name) {
         auto* button = control<QAbstractButton>(name);
         turnTo(button);
@@ -150,6 +160,12 @@ public:
     std::string inPrint(const std::string& sql) { return rowsOf(folder / "Print.mdb", sql); }
     std::string clientName() { return window().findChild<QLabel*>("StatusBar1.Panels(2)")->text().toStdString(); }
 
+    /// Finds a client in the list and loads him.
+    void loadClient(const QString& words) {
+        menu("mnuBrowse");
+        enter("txtSearch", words);
+        key(Qt::Key_Return);
+    }
     /// Records a client with nothing but a name, and saves it.
     void saveClient(const QString& surname) {
         menu("mnuNewFile");

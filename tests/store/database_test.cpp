@@ -2,9 +2,7 @@
 
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 
-#include <csignal>
 #include <limits>
 
 #include "store/store_support.h"
@@ -62,23 +60,15 @@ TEST_F(DatabaseFile, ItsStateTellsEveryWritingAndReplacement) {
 TEST_F(DatabaseFile, FaultsAtOpeningHaveTheirNumbersAndLeaveTheFileAlone) {
     const std::string whole = bytesOf(made());
     Database(folder / "Data.Mdb").execute("CREATE TABLE Big (A TEXT)");
-    const struct {
-        const char* name;
-        std::string bytes;
-        int number;
-    } cases[] = {
-        {"empty.mdb", "", 3343},
-        {"one.mdb", "S", 3343},
-        {"text.mdb", std::string(5000, 'x'), 3343},
-        {"head.mdb", whole.substr(0, 60), 3343},
-        {"cut.mdb", whole.substr(0, 4096), 3049},
-        {"page.mdb", whole.substr(0, whole.size() - 100), 3049},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.name);
-        put(folder / c.name, c.bytes);
-        EXPECT_EQ(opening(folder / c.name), c.number);
-        EXPECT_EQ(bytesOf(folder / c.name), c.bytes);
+    for (const auto& [bytes, error] : {std::pair{std::string(), 3343},
+                                       {"S", 3343},
+                                       {std::string(5000, 'x'), 3343},
+                                       {whole.substr(0, 60), 3343},
+                                       {whole.substr(0, 4096), 3049},
+                                       {whole.substr(0, whole.size() - 100), 3049}}) {
+        put(folder / "text.mdb", bytes);
+        EXPECT_EQ(opening(folder / "text.mdb"), error) << bytes.size();
+        EXPECT_EQ(bytesOf(folder / "text.mdb"), bytes) << bytes.size();
     }
     EXPECT_EQ(opening(folder / "none.mdb"), 3024);
     EXPECT_EQ(opening(folder / "no folder/Data.Mdb"), 3044);
@@ -133,9 +123,7 @@ TEST_F(DatabaseFile, SecondConnectionKeepsTheLocksOfTheFirst) {
 
 TEST_F(DatabaseFile, IsCreatedForItsOwnerAloneAndNeverTwice) {
     Database::create(folder / "New.Mdb");
-    struct stat info {};
-    ASSERT_EQ(::stat((folder / "New.Mdb").c_str(), &info), 0);
-    EXPECT_EQ(info.st_mode & 0777U, 0600U);
+    EXPECT_EQ(modeOf(folder / "New.Mdb"), 0600U);
     EXPECT_EQ(opening(folder / "New.Mdb"), 0);
     EXPECT_EQ(errorOf([&] { Database::create(folder / "new.mdb"); }), 3204); // the name counts without case
     EXPECT_EQ(errorOf([&] { Database::create(folder / "none/New.Mdb"); }), 3044);
@@ -144,22 +132,16 @@ TEST_F(DatabaseFile, IsCreatedForItsOwnerAloneAndNeverTwice) {
 
 TEST_F(DatabaseFile, StatementsFailWithTheNumberOfTheirCause) {
     Database database(made());
-    const struct {
-        const char* sql;
-        int number;
-    } cases[] = {
-        {"SELECT 1 FROM Nowhere", 3078},
-        {"SELECT [Num9] FROM Loans", 3265},
-        {"SELECT \"Num9\" FROM Loans", 3265}, // not the text "Num9"
-        {"INSERT INTO Loans (Num9) VALUES (1)", 3265},
-        {"CREATE TABLE LOANS (A)", 3010},
-        {"CREATE INDEX I ON Loans (Num1); CREATE INDEX I ON Loans (Num1)", 3284},
-        {"ALTER TABLE Loans ADD COLUMN NUM1 DOUBLE", 3191},
-        {"PRAGMA max_page_count=1; CREATE TABLE T (A)", 3026},
-        {"SELEKT", 3000},
-    };
-    for (const auto& c : cases)
-        EXPECT_EQ(errorOf([&] { database.execute(c.sql); }), c.number) << c.sql;
+    for (const auto& [sql, error] : {std::pair{"SELECT 1 FROM Nowhere", 3078},
+                                     {"SELECT [Num9] FROM Loans", 3265},
+                                     {"SELECT \"Num9\" FROM Loans", 3265}, // not the text "Num9"
+                                     {"INSERT INTO Loans (Num9) VALUES (1)", 3265},
+                                     {"CREATE TABLE LOANS (A)", 3010},
+                                     {"CREATE INDEX I ON Loans (Num1); CREATE INDEX I ON Loans (Num1)", 3284},
+                                     {"ALTER TABLE Loans ADD COLUMN NUM1 DOUBLE", 3191},
+                                     {"PRAGMA max_page_count=1; CREATE TABLE T (A)", 3026},
+                                     {"SELEKT", 3000}})
+        EXPECT_EQ(errorOf([&] { database.execute(sql); }), error) << sql;
     EXPECT_EQ(errorOf([&] { database.prepare("SELECT \"Num9\" FROM Loans"); }), 3265);
     EXPECT_EQ(errorOf([&] { database.prepare("SELECT 1 FROM Nowhere"); }), 3078);
     EXPECT_EQ(errorOf([&] { database.prepare("SELECT 1").bind(2, 1.0); }), 3000);
@@ -224,25 +206,16 @@ TEST_F(DatabaseFile, TransactionIsUndoneUnlessCommitted) {
 
 TEST_F(DatabaseFile, KilledInTheMiddleOfAWriteIsTheOldOneWhole) {
     const fs::path path = made();
-    int ready[2];
-    ASSERT_EQ(::pipe(ready), 0);
-    const pid_t child = ::fork();
-    if (child == 0) {
+    runAndKill([&](auto ready) {
         Database database(path);
         Transaction transaction(database);
         // A cache of one page makes it write to the file before the commit.
         database.execute("PRAGMA cache_size=1; UPDATE Loans SET Num1 = 99; CREATE TABLE Big (A TEXT);"
                          "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 500)"
                          "INSERT INTO Big SELECT hex(zeroblob(1000)) FROM n");
-        if (::write(ready[1], "x", 1) == 1) ::pause();
-        ::_exit(1);
-    }
-    char sign = 0;
-    ASSERT_EQ(::read(ready[0], &sign, 1), 1);
-    ::kill(child, SIGKILL);
-    ::waitpid(child, nullptr, 0);
-    ::close(ready[0]);
-    ::close(ready[1]);
+        ready();
+        ::pause();
+    });
     ASSERT_TRUE(fs::exists(path.string() + "-journal"));
     EXPECT_EQ(number(path, "SELECT Num1 FROM Loans"), 1);
     EXPECT_FALSE(Database(path).hasTable("Big"));
@@ -250,13 +223,9 @@ TEST_F(DatabaseFile, KilledInTheMiddleOfAWriteIsTheOldOneWhole) {
 }
 
 TEST_F(DatabaseFile, MessageNamesFileReasonAdviceAndNumber) {
-    try {
-        Database database(folder / "Data.Mdb");
-        FAIL();
-    } catch (const store::Error& error) {
-        EXPECT_EQ(error.message(),
-                  (folder / "Data.Mdb").string() + "\n" + error.why() + "\n" + error.advice() + "\nError (3024)");
-        EXPECT_FALSE(error.why().empty());
-        EXPECT_FALSE(error.advice().empty());
-    }
+    const auto error = caughtFrom([&] { Database database(folder / "Data.Mdb"); });
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->message(),
+              (folder / "Data.Mdb").string() + "\n" + error->why() + "\n" + error->advice() + "\nError (3024)");
+    EXPECT_FALSE(error->why().empty() || error->advice().empty());
 }

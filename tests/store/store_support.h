@@ -9,6 +9,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <optional>
 #include <sstream>
 #include <string>
 
@@ -92,15 +93,22 @@ inline std::string rowsOf(const fs::path& file, const std::string& sql) {
     return text.str();
 }
 
-/// The number of the store::Error that an action ends in; 0 if it ends well.
+/// The store::Error that an action ends in, if it does.
 template <class Action>
-int errorOf(Action action) {
+std::optional<store::Error> caughtFrom(Action action) {
     try {
         action();
-        return 0;
+        return {};
     } catch (const store::Error& error) {
-        return error.number();
+        return error;
     }
+}
+
+/// Its number; 0 if the action ends well.
+template <class Action>
+int errorOf(Action action) {
+    const auto error = caughtFrom(action);
+    return error ? error->number() : 0;
 }
 
 /// Lets another process act, and kills it so long after it has called what it is given.
