@@ -10,11 +10,8 @@ constexpr double today = 46349; // 23 November 2026
 TEST(IDNumber, IsCheckedOfferedAndComparedAndOthersPass) {
     const char* const wrong = "The check digit does not fit: please compare the ID number.";
     const char* const noDate = "The ID number does not begin with a date of birth.";
-    struct Case {
-        const char *number, *birth, *remark, *offered;
-    };
-    for (const Case& c : {
-             Case{"8001015009087", "01/01/1980", "", ""},
+    for (const auto& [number, birth, remark, offered] : {
+             std::tuple{"8001015009087", "01/01/1980", "", ""},
              {" 800101 5009 087 ", "01/01/1980", "", ""},
              {"8001015009087", "", "Born on 01/01/1980 by the ID number.", "01/01/1980"},
              {"8001015009087", "02/01/1980", "By the ID number the date of birth is 01/01/1980.", ""},
@@ -32,9 +29,9 @@ TEST(IDNumber, IsCheckedOfferedAndComparedAndOthersPass) {
              {"A001015009087", "02/01/1980", "", ""},
              {"", "", "", ""},
          }) {
-        const auto check = client::checkIDNumber(c.number, base::parseDate(c.birth).value_or(base::NoDate), today);
-        EXPECT_EQ(check.remark, c.remark) << c.number;
-        EXPECT_EQ(check.offered, base::parseDate(c.offered)) << c.number;
+        const auto check = client::checkIDNumber(number, base::parseDate(birth).value_or(base::NoDate), today);
+        EXPECT_EQ(check.remark, remark) << number;
+        EXPECT_EQ(check.offered, base::parseDate(offered)) << number;
     }
 }
 

@@ -1,11 +1,8 @@
-#include <gtest/gtest.h>
-
 #include <QLabel>
 #include <QRadioButton>
 #include <sstream>
 
 #include "assessment/tables.h"
-#include "reports/export.h"
 #include "reports/previewwindow.h"
 #include "reports/report.h"
 #include "shell/running_program.h"
@@ -16,8 +13,7 @@ using screenkit::Answer;
 using shelltest::RunningProgram;
 
 struct Control {
-    std::string name;
-    std::string field;
+    std::string name, field;
 };
 
 std::vector<Control> textControls() {
@@ -45,87 +41,78 @@ std::vector<Control> dateControls() {
     return all;
 }
 
-const assessment::FieldLine& line(const Control& control) {
-    return *assessment::persDetailsTable().field(control.field);
+/// A text of its own for each, as long as the field takes.
+QString textFor(const Control& control) {
+    const assessment::FieldLine& line = *assessment::persDetailsTable().field(control.field);
+    return (QString::fromStdString(control.field).right(8) + "ê").leftJustified(line.kind.declared.size, 'x', true);
 }
 
-store::Value inRecord(RunningProgram& run, const Control& control) {
-    return assessment::valueAt(line(control).at(&run.record()));
-}
+/// The screen in front, on a new client.
+class PersDet : public testing::Test {
+protected:
+    PersDet() { run.menu("mnuNewFile"); }
+    store::Value inRecord(const Control& control) {
+        return assessment::valueAt(assessment::persDetailsTable().field(control.field)->at(&run.record()));
+    }
+    QString shown(const Control& control) {
+        auto* widget = run.control<QWidget>(QString::fromStdString(control.name), "frmPersDet");
+        if (auto* memo = qobject_cast<QPlainTextEdit*>(widget)) return memo->toPlainText();
+        return qobject_cast<QLineEdit*>(widget)->text();
+    }
+    std::string printed(const std::string& field) { return run.inPrint("SELECT [" + field + "] FROM [PersDetails]"); }
+    void print(bool withNotes) {
+        run.click("cmdPrint");
+        EXPECT_TRUE(run.control("fraPrint")->isVisible());
+        if (withNotes) run.click("Check3");
+        run.click("cmdVR");
+        EXPECT_FALSE(run.control("fraPrint")->isVisible());
+    }
+    assessment::PersonalDetails& details() { return run.record().details; }
+    RunningProgram run;
+};
 
-QString textFor(const Control& control) { return QString::fromStdString(control.field).right(8) + "ê"; }
-
-QString textOf(RunningProgram& run, const Control& control) {
-    auto* widget = run.control<QWidget>(QString::fromStdString(control.name), "frmPersDet");
-    if (auto* memo = qobject_cast<QPlainTextEdit*>(widget)) return memo->toPlainText();
-    return qobject_cast<QLineEdit*>(widget)->text();
-}
-
-/// Types something of its own into every text and date control. Returns the dates typed, by control.
-std::vector<std::pair<Control, double>> typeAll(RunningProgram& run) {
+TEST_F(PersDet, EveryControlHoldsItsFieldOnScreenInTheRecordTheReportAndTheFile) {
+    EXPECT_EQ(run.front()->windowTitle(), "Personal details :");
     for (const Control& control : textControls())
-        run.type(QString::fromStdString(control.name), textFor(control));
+        run.type(QString::fromStdString(control.name), textFor(control) + "yz"); // for which there is no room
     std::vector<std::pair<Control, double>> dates;
-    double day = 36526; // 1 January 2000
     for (const Control& control : dateControls()) {
+        const double day = 36526 + 400 * static_cast<double>(dates.size()); // from 1 January 2000 on
         run.type(QString::fromStdString(control.name), QString::fromStdString(base::formatDate(day)));
         dates.emplace_back(control, day);
-        day += 400;
     }
-    return dates;
-}
-
-void choose(RunningProgram& run, const QString& option) {
-    auto* button = run.control<QRadioButton>(option);
-    RunningProgram::turnTo(button);
-    QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(8, button->height() / 2));
-}
-
-TEST(PersDet, EveryControlHoldsItsFieldOnScreenInTheRecordAndInTheFile) {
-    RunningProgram run;
-    run.menu("mnuNewFile");
-    EXPECT_EQ(run.front()->windowTitle(), "Personal details :");
-    const auto dates = typeAll(run);
+    run.click("optSMaritalStat(4)");
+    run.click("optCSmoker(2)");
     for (const Control& control : textControls())
-        EXPECT_EQ(inRecord(run, control), store::Value(textFor(control).toStdString())) << control.name;
+        EXPECT_EQ(inRecord(control), store::Value(textFor(control).toStdString())) << control.name;
     for (const auto& [control, day] : dates)
-        EXPECT_EQ(inRecord(run, control), store::Value(day)) << control.name;
+        EXPECT_EQ(inRecord(control), store::Value(day)) << control.name;
     EXPECT_EQ(run.record().changed.PersDetChanged, 1);
 
     run.menu("mnuSave");
     run.menu("mnuNewFile");
     for (const Control& control : textControls())
-        EXPECT_EQ(textOf(run, control), "") << control.name;
-    run.menu("mnuBrowse");
-    run.enter("txtSearch", "name");
-    run.key(Qt::Key_Return);
+        EXPECT_EQ(shown(control), "") << control.name;
+    run.loadClient("name");
     for (const Control& control : textControls())
-        EXPECT_EQ(textOf(run, control), textFor(control)) << control.name;
+        EXPECT_EQ(shown(control), textFor(control)) << control.name;
     for (const auto& [control, day] : dates)
-        EXPECT_EQ(textOf(run, control).toStdString(), base::formatDate(day)) << control.name;
+        EXPECT_EQ(shown(control).toStdString(), base::formatDate(day)) << control.name;
     EXPECT_EQ(run.record().changed.PersDetChanged, 0);
+
+    print(true);
+    for (const Control& control : textControls())
+        EXPECT_EQ(printed(control.field), textFor(control).toStdString()) << control.field;
+    for (const auto& [control, day] : dates)
+        EXPECT_EQ(printed(control.field), base::formatDate(day)) << control.field;
+    EXPECT_EQ(run.inPrint("SELECT [Name],[CMaritalStat],[SMaritalStat],[CSmoker],[SSmoker] FROM [PersDetails]"),
+              run.record().client.Name + "|Widow/er|Married COP|Never smoked|Smoker");
+    ASSERT_EQ(run.program.reports().previews().size(), 1u);
+    EXPECT_EQ(run.program.reports().previews()[0]->windowTitle(), "Personal Details ");
+    EXPECT_EQ(run.program.reports().previews()[0]->report().content.title, "Personal details");
 }
 
-TEST(PersDet, NoControlTakesMoreThanItsFieldHolds) {
-    RunningProgram run;
-    run.menu("mnuNewFile");
-    for (const Control& control : textControls()) {
-        if (control.name == "txtMemo") continue;
-        const int size = line(control).kind.declared.size;
-        run.type(QString::fromStdString(control.name), QString(size, 'x') + "yz");
-        EXPECT_EQ(inRecord(run, control), store::Value(std::string(static_cast<std::size_t>(size), 'x')))
-            << control.name;
-    }
-    auto* memo = run.control<QPlainTextEdit>("txtMemo");
-    RunningProgram::turnTo(memo);
-    memo->insertPlainText(QString(1999, 'x'));
-    run.keys(memo, "yz");
-    EXPECT_EQ(run.record().details.Comments, std::string(1999, 'x') + "y");
-}
-
-TEST(PersDet, TheNameStandsInTheStatusBarAtEachKey) {
-    RunningProgram run;
-    run.menu("mnuNewFile");
+TEST_F(PersDet, TheNameStandsInTheStatusBarAtEachKey) {
     run.enter("txtCLName", "");
     const std::string surname = "O'Br";
     for (std::size_t i = 0; i < surname.size(); ++i) {
@@ -141,88 +128,51 @@ TEST(PersDet, TheNameStandsInTheStatusBarAtEachKey) {
     EXPECT_EQ(run.clientName(), "Mr P J <b>&\"x\"");
 }
 
-TEST(PersDet, OptionsKeepTheirIndexAndStartAsTheRecordDoes) {
+TEST_F(PersDet, OptionsKeepTheirIndexAndStartAsTheRecordDoes) {
     const QStringList marital{"Single", "Widow/er", "M. ANC with Accrual", "M. ANC w/out Accrual", "Married COP"};
     const QStringList smoker{"Smoker", "Not smoked for 2 years", "Never smoked"};
+    using Details = assessment::PersonalDetails;
     struct Group {
-        const char* name;
+        QString name;
         const QStringList& captions;
-        std::int16_t assessment::PersonalDetails::*place;
+        std::int16_t Details::*place;
         int atFirst;
     };
-    using Details = assessment::PersonalDetails;
-    const std::vector<Group> groups{{"optCMaritalStat", marital, &Details::CMaritalStat, 1},
-                                    {"optSMaritalStat", marital, &Details::SMaritalStat, 0},
-                                    {"optCSmoker", smoker, &Details::CSmoker, 0},
-                                    {"optSSmoker", smoker, &Details::SSmoker, 0}};
-    RunningProgram run;
-    run.menu("mnuNewFile");
-    for (const Group& group : groups) {
-        for (int i = 0; i < group.captions.size(); ++i) {
-            const QString name = QString("%1(%2)").arg(group.name).arg(i);
-            EXPECT_EQ(run.control<QRadioButton>(name)->text(), group.captions[i]);
-            EXPECT_EQ(run.control<QRadioButton>(name)->isChecked(), i == group.atFirst) << name.toStdString();
+    for (const auto& [group, captions, place, atFirst] : {Group{"optCMaritalStat", marital, &Details::CMaritalStat, 1},
+                                                          {"optSMaritalStat", marital, &Details::SMaritalStat, 0},
+                                                          {"optCSmoker", smoker, &Details::CSmoker, 0},
+                                                          {"optSSmoker", smoker, &Details::SSmoker, 0}}) {
+        const auto option = [&](qsizetype index) { return QString("%1(%2)").arg(group).arg(index); };
+        for (int i = 0; i < captions.size(); ++i) {
+            EXPECT_EQ(run.control<QRadioButton>(option(i))->text(), captions[i]);
+            EXPECT_EQ(run.control<QRadioButton>(option(i))->isChecked(), i == atFirst) << option(i).toStdString();
         }
-        EXPECT_EQ(run.front()->findChild<QRadioButton*>(QString("%1(%2)").arg(group.name).arg(group.captions.size())),
-                  nullptr);
-        for (int i = static_cast<int>(group.captions.size()) - 1; i >= 0; --i) {
-            choose(run, QString("%1(%2)").arg(group.name).arg(i));
-            EXPECT_EQ(run.record().details.*group.place, i) << group.name;
+        EXPECT_EQ(run.front()->findChild<QRadioButton*>(option(captions.size())), nullptr);
+        for (auto i = captions.size() - 1; i >= 0; --i) {
+            run.click(option(i));
+            EXPECT_EQ(details().*place, i) << group.toStdString();
         }
     }
     EXPECT_TRUE(run.control<QRadioButton>("optActiveClientOther")->isChecked());
     EXPECT_EQ(run.control<QRadioButton>("optActiveClientOther")->text(), "Active client");
-    choose(run, "optDeceased");
-    EXPECT_EQ(run.record().details.Deceased, 1);
-    choose(run, "optActiveClientOther");
-    EXPECT_EQ(run.record().details.Deceased, 0);
+    run.click("optDeceased");
+    EXPECT_EQ(details().Deceased, 1);
+    run.click("optActiveClientOther");
+    EXPECT_EQ(details().Deceased, 0);
     EXPECT_EQ(run.record().changed.PersDetChanged, 1);
 }
 
-TEST(PersDet, CopiesThePostalAddressToTheResidentialOne) {
-    RunningProgram run;
-    run.menu("mnuNewFile");
-    run.type("txtPAdd1", "Posbus 12");
-    run.type("txtPAdd2", "Ermelo");
-    run.type("txtResAdd3", "what stood there");
-    run.type("txtZipCode", "2350");
+TEST_F(PersDet, CopiesThePostalAddressToTheResidentialOne) {
+    run.typeAll("txtPAdd1 Posbus 12, txtPAdd2 Ermelo, txtResAdd3 what stood there, txtZipCode 2350");
     auto* copy = run.control<QAbstractButton>("cmdCopyPtoR");
     EXPECT_EQ(copy->text().remove('&'), "Copy Postal Address to Residential Address :");
     run.click("cmdCopyPtoR");
     EXPECT_EQ(run.shown("txtResAdd1"), "Posbus 12");
-    EXPECT_EQ(run.record().details.ResAdd2, "Ermelo");
-    EXPECT_EQ(run.record().details.ResAdd3, "");
+    EXPECT_EQ(details().ResAdd2, "Ermelo");
+    EXPECT_EQ(details().ResAdd3, "");
 }
 
-std::string printed(RunningProgram& run, const std::string& field) {
-    return run.inPrint("SELECT [" + field + "] FROM [PersDetails]");
-}
-
-TEST(PersDetReport, FeedsOneRowWithEveryField) {
-    RunningProgram run;
-    run.menu("mnuNewFile");
-    const auto dates = typeAll(run);
-    choose(run, "optSMaritalStat(4)");
-    choose(run, "optCSmoker(2)");
-    run.click("cmdPrint");
-    EXPECT_TRUE(run.control("fraPrint")->isVisible());
-    run.click("Check3");
-    run.click("cmdVR");
-    EXPECT_FALSE(run.control("fraPrint")->isVisible());
-    for (const Control& control : textControls())
-        EXPECT_EQ(printed(run, control.field), textFor(control).toStdString()) << control.field;
-    for (const auto& [control, day] : dates)
-        EXPECT_EQ(printed(run, control.field), base::formatDate(day)) << control.field;
-    EXPECT_EQ(run.inPrint("SELECT [Name],[CMaritalStat],[SMaritalStat],[CSmoker],[SSmoker] FROM [PersDetails]"),
-              "CTitleê CInitê CLNameê|Widow/er|Married COP|Never smoked|Smoker");
-    ASSERT_EQ(run.program.reports().previews().size(), 1u);
-    EXPECT_EQ(run.program.reports().previews()[0]->windowTitle(), "Personal Details ");
-    EXPECT_EQ(run.program.reports().previews()[0]->report().content.title, "Personal details");
-}
-
-TEST(PersDet, ADateOfBirthThatIsHardlyOneIsAskedAboutOnceAndTaken) {
-    RunningProgram run;
-    run.menu("mnuNewFile");
+TEST_F(PersDet, ADateOfBirthThatIsHardlyOneIsAskedAboutOnceAndTaken) {
     for (const char* name : {"dtCDOB", "dtSDOB", "dtDepDOB8"})
         for (const auto& [typed, remark] :
              {std::pair{"05/03/28", "Born in the future ?"}, {"01/01/1900", "More than 120 years old ?"}}) {
@@ -239,47 +189,36 @@ TEST(PersDet, ADateOfBirthThatIsHardlyOneIsAskedAboutOnceAndTaken) {
     EXPECT_EQ(run.desk.boxes.size(), 6u);
 }
 
-TEST(PersDet, AnIDNumberOffersItsDateOfBirthAndSaysWhereTheTwoDiffer) {
-    RunningProgram run;
-    run.menu("mnuNewFile");
-    struct Person {
-        const char *number, *birth, *remark, *take;
-    };
-    for (const Person& who : {Person{"txtIDNum", "dtCDOB", "lblCIDRemark", "cmdCUseIDDate"},
-                              {"txtSSinNum", "dtSDOB", "lblSIDRemark", "cmdSUseIDDate"}}) {
-        auto* remark = run.control<QLabel>(who.remark);
-        auto* take = run.control<QAbstractButton>(who.take);
-        run.type(who.number, "8001015009087");
+TEST_F(PersDet, AnIDNumberOffersItsDateOfBirthAndSaysWhereTheTwoDiffer) {
+    for (const auto& [number, birth, said, button] : {std::tuple{"txtIDNum", "dtCDOB", "lblCIDRemark", "cmdCUseIDDate"},
+                                                      {"txtSSinNum", "dtSDOB", "lblSIDRemark", "cmdSUseIDDate"}}) {
+        auto* remark = run.control<QLabel>(said);
+        auto* take = run.control<QAbstractButton>(button);
+        run.type(number, "8001015009087");
         EXPECT_EQ(remark->text(), "Born on 01/01/1980 by the ID number.");
-        EXPECT_EQ(run.control<QLineEdit>(who.number)->accessibleDescription(), remark->text());
-        run.click(who.take);
-        EXPECT_EQ(run.shown(who.birth), "01/01/1980");
+        EXPECT_EQ(run.control<QLineEdit>(number)->accessibleDescription(), remark->text());
+        run.click(button);
+        EXPECT_EQ(run.shown(birth), "01/01/1980");
         EXPECT_FALSE(remark->isVisible() || take->isVisible());
-        run.type(who.birth, "02/01/1980");
+        run.type(birth, "02/01/1980");
         EXPECT_EQ(remark->text(), "By the ID number the date of birth is 01/01/1980.");
         EXPECT_TRUE(remark->isVisible() && !take->isVisible());
-        run.type(who.number, "another country's");
+        run.type(number, "another country's");
         EXPECT_FALSE(remark->isVisible());
     }
     EXPECT_EQ(run.record().client.BirthDate, 29222);
-    EXPECT_EQ(run.record().details.SDOB, 29222);
+    EXPECT_EQ(details().SDOB, 29222);
 }
 
-TEST(PersDetReport, PrintsABlankForNoDateAndNoNotesUnlessAskedFor) {
-    RunningProgram run;
-    run.menu("mnuNewFile");
+TEST_F(PersDet, PrintsABlankForNoDateAndNoNotesUnlessAskedFor) {
     run.type("txtMemo", "confidential");
     run.desk.expect(Answer::ok);
     run.type("dtSDOB", "02/01/1800"); // fills a control and prints as none
-    run.click("cmdPrint");
-    run.click("cmdVR");
-    EXPECT_EQ(printed(run, "Comments"), "");
+    print(false);
+    EXPECT_EQ(printed("Comments"), "");
     for (const Control& control : dateControls())
-        EXPECT_EQ(printed(run, control.field), " ") << control.field;
-
-    run.click("cmdPrint");
-    run.click("Check3");
-    run.click("cmdVR");
+        EXPECT_EQ(printed(control.field), " ") << control.field;
+    print(true);
     EXPECT_EQ(run.inPrint("SELECT count(*), [Comments] FROM [PersDetails]"), "1|confidential");
     EXPECT_EQ(run.record().changed.PersDetChanged, 1);
 }
