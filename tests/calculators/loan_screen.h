@@ -1,7 +1,5 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <QLabel>
 #include <QRadioButton>
 #include <QTableView>
@@ -23,11 +21,7 @@ class LoanScreen : public testing::Test {
 protected:
     LoanScreen() { run.menu("mnuLoansCalc"); }
 
-    void pick(int mode) {
-        auto* option = run.control<QRadioButton>(QString("optLoanCalc(%1)").arg(mode));
-        QTest::mouseClick(option, Qt::LeftButton, {}, QPoint(8, option->height() / 2));
-        RunningProgram::settle();
-    }
+    void pick(int mode) { run.click(QString("optLoanCalc(%1)").arg(mode)); }
     /// Principal, period, rate and repayment as typed; what the mode works out is left alone.
     void typeLoan(int mode, const QStringList& figures) {
         pick(mode);
@@ -46,21 +40,14 @@ protected:
         run.menu("mnuLoansCalc");
     }
     bool visible(const char* name) { return run.control(name)->isVisible(); }
-    QStringList heads() {
-        auto* model = run.control<QTableView>("grdPayments")->model();
+    QTableView* grid() { return run.control<QTableView>("grdPayments"); }
+    std::vector<QStringList> rows() { return RunningProgram::cells(grid()); }
+    QString heads() {
         QStringList all;
-        for (int column = 0; column < model->columnCount(); ++column)
-            all << model->headerData(column, Qt::Horizontal).toString();
-        return all;
+        for (int column = 0; column < grid()->model()->columnCount(); ++column)
+            all << grid()->model()->headerData(column, Qt::Horizontal).toString();
+        return all.join(", ");
     }
-    QStringList gridRow(int row) {
-        auto* model = run.control<QTableView>("grdPayments")->model();
-        QStringList cells;
-        for (int column = 0; column < model->columnCount(); ++column)
-            cells << model->index(row, column).data().toString();
-        return cells;
-    }
-    int gridRows() { return run.control<QTableView>("grdPayments")->model()->rowCount(); }
 
     RunningProgram run;
 };

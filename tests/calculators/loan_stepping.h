@@ -1,6 +1,6 @@
 #pragma once
 
-#include "assessment/assessment.h"
+#include "calculators/loans.h"
 
 #include <cmath>
 #include <vector>
@@ -10,17 +10,8 @@ namespace stepping {
 
 using assessment::Loans;
 
-inline void RPAYMENT(Loans& loan) {
-    const double r = loan.Num3 / 12 / 100;
-    const bool solvable = loan.Num1 != 0 && loan.Num2 != 0 && loan.Num3 != 0;
-    loan.Num4 = solvable ? (r * loan.Num1) / (1 - std::pow(1 + r, -loan.Num2)) : 0;
-}
-
-inline void PAMOUNT(Loans& loan) {
-    const double r = loan.Num3 / 12 / 100;
-    const bool solvable = loan.Num2 != 0 && loan.Num3 != 0 && loan.Num4 != 0;
-    loan.Num1 = solvable ? (1 - std::pow(1 + r, -loan.Num2)) * loan.Num4 / r : 0;
-}
+using calculators::PAMOUNT;
+using calculators::RPAYMENT;
 
 /// False if the cents don't clear the loan within `mostCents`.
 inline bool PER(Loans& loan, long mostCents) {

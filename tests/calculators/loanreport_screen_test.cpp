@@ -25,25 +25,25 @@ protected:
 TEST_F(LoanReport, EveryModeHasItsDefinitionsAndTitles) {
     struct Mode {
         QStringList typed;
-        const char *title, *annual, *monthly;
+        QString title, annual, monthly; ///< its own title, and those of the windows of its tables
     };
     const std::vector<Mode> all{
         {{"100000", "25", "12", ""},
-         "Monthly repayment of a loan",
-         "Annual repayment of Loan with Amortisation",
-         "Annual repayment of Loan with Monthly Amortisation"},
+         "Monthly repayment",
+         "Annual repayment of Loan with",
+         "Annual repayment of Loan with Monthly"},
         {{"", "25", "12", "4540"},
-         "Principal amount of a loan",
-         "Principal calculation of Loan with Annual Amortisation",
-         "Principal calculation of Loan with Monthly Amortisation"},
+         "Principal amount",
+         "Principal calculation of Loan with Annual",
+         "Principal calculation of Loan with Monthly"},
         {{"100000", "", "12", "4540"},
-         "Repayment period of a loan",
-         "Repayment period calculation of Loan with Annual Amortisation",
-         "Repayment period calculation of Loan with Monthly Amortisation"},
+         "Repayment period",
+         "Repayment period calculation of Loan with Annual",
+         "Repayment period calculation of Loan with Monthly"},
         {{"100000", "25", "", "4540"},
-         "Interest rate of a loan",
-         "Interest rate calculation of Loan with Annual Amortisation",
-         "Interest rate calculation of Loan with Monthly Amortisation"},
+         "Interest rate",
+         "Interest rate calculation of Loan with Annual",
+         "Interest rate calculation of Loan with Monthly"},
     };
     for (int mode = 0; mode < 4; ++mode) {
         const Mode& expected = all[static_cast<std::size_t>(mode)];
@@ -53,10 +53,10 @@ TEST_F(LoanReport, EveryModeHasItsDefinitionsAndTitles) {
             for (const bool monthly : {false, true}) {
                 openPanel(amortised, monthly);
                 run.click("cmdVR");
-                const QString title = QString(expected.title) + (amortised ? " with amortisation" : "");
-                EXPECT_EQ(lastPreview().report().content.title, title);
+                EXPECT_EQ(lastPreview().report().content.title,
+                          expected.title + " of a loan" + (amortised ? " with amortisation" : ""));
                 EXPECT_EQ(lastPreview().windowTitle(),
-                          QString(amortised && monthly ? expected.monthly : expected.annual));
+                          (amortised && monthly ? expected.monthly : expected.annual) + " Amortisation");
                 EXPECT_FALSE(visible("fraPrint"));
                 EXPECT_EQ(run.inPrint("SELECT [Heading],[YearMon] FROM [Loans]"),
                           modes[mode].toStdString() + (!amortised ? "|"
@@ -70,7 +70,6 @@ TEST_F(LoanReport, EveryModeHasItsDefinitionsAndTitles) {
 }
 
 TEST_F(LoanReport, FeedsTheLoanItsChargesAndItsTable) {
-    const std::string row = "SELECT * FROM [Loans]";
     const std::string charges = "SELECT [FinText1],[FinText1A],round([FinNum1],2),[FinText2],round([FinNum2],2) "
                                 "FROM [Loans]";
     const std::string table = "SELECT [Year],round([Capital],2),round([Interest],2),round([Required],2) FROM [Amort]";
@@ -94,7 +93,6 @@ TEST_F(LoanReport, FeedsTheLoanItsChargesAndItsTable) {
     openPanel(false, false); // the table of before is left as it was
     run.click("cmdVR");
     EXPECT_EQ(run.inPrint("SELECT count(*) FROM [Amort]"), "25");
-    EXPECT_FALSE(run.inPrint(row).empty());
     QTest::keyClick(run.program.reports().previews().back(), Qt::Key_F1);
     EXPECT_EQ(run.front()->objectName(), "frmBrowser");
 }

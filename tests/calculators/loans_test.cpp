@@ -22,10 +22,6 @@ using calculators::LoanCalc;
 constexpr double infinite = std::numeric_limits<double>::infinity();
 constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
-Loans loan(const char* heading, double principal, double months, double rate, double repayment) {
-    return {heading, principal, months, rate, repayment};
-}
-
 std::uint64_t bits(double x) { return std::isnan(x) ? ~std::uint64_t{0} : std::bit_cast<std::uint64_t>(x); }
 
 testing::AssertionResult sameBits(const Loans& a, const Loans& b) {
@@ -53,34 +49,30 @@ private:
 };
 
 TEST(Loans, SolvesEachUnknown) {
-    struct Case {
-        const char* heading;
-        double principal, months, rate, repayment;
-        double solved; // the field that the heading names, to a cent or a hundredth
+    // The loan, and the figure that its heading names to a cent or a hundredth. The repayment of 100 000 over 20 years
+    // at 12 % is 1 101.086..., as any repayment table has it.
+    const std::pair<Loans, double> cases[] = {
+        {{"Monthly repayment", 100000, 240, 12, 0}, 1101.09},
+        {{" monthly REPAYMENT ", 1000000, 360, 9.75, 0}, 8591.54}, // a heading of an old file: case and blanks aside
+        {{"Monthly repayment", 100000, 1, 12, 0}, 101000},
+        {{"Principal amount", 0, 240, 12, 1101.09}, 100000.35},
+        {{"Repayment period", 100000, 0, 12, 1101.09}, 240},
+        {{"Repayment period", 100000, 0, 12, 1101.10}, 239}, // with its cent off it still clears within the 240th
+        {{"Interest rate", 100000, 240, 0, 1101.09}, 12},
+        {{"Interest rate", 100000, 240, 0, 1101.08}, 11.99}, // truncates: 11.9999 is not 12
+        {{"Interest rate", 100000, 240, 0, 416.66}, 0},      // less than principal / period
+        {{"Monthly repayment", -1000, 12, 12, 0}, -88.85},   // only an exact 0 is refused
     };
-    // the repayment of 100 000 over 20 years at 12 % is 1 101.086..., as any repayment table has it
-    const Case cases[] = {
-        {"Monthly repayment", 100000, 240, 12, 0, 1101.09},
-        {" monthly REPAYMENT ", 1000000, 360, 9.75, 0, 8591.54}, // a heading of an old file: case and blanks aside
-        {"Monthly repayment", 100000, 1, 12, 0, 101000},
-        {"Principal amount", 0, 240, 12, 1101.09, 100000.35},
-        {"Repayment period", 100000, 0, 12, 1101.09, 240},
-        {"Repayment period", 100000, 0, 12, 1101.10, 239}, // with its cent off it still clears within the 240th
-        {"Interest rate", 100000, 240, 0, 1101.09, 12},
-        {"Interest rate", 100000, 240, 0, 1101.08, 11.99}, // truncates: 11.9999 is not 12
-        {"Interest rate", 100000, 240, 0, 416.66, 0},      // less than principal / period
-        {"Monthly repayment", -1000, 12, 12, 0, -88.85},   // only an exact 0 is refused
-    };
-    for (const Case& c : cases) {
-        Loans l = loan(c.heading, c.principal, c.months, c.rate, c.repayment);
+    for (const auto& [given, figure] : cases) {
+        Loans l = given;
         EXPECT_EQ(LoanAnswer::solved, LoanCalc(l));
         const double solved[] = {l.Num4, l.Num1, l.Num2, l.Num3};
-        EXPECT_NEAR(solved[static_cast<int>(*calculators::loanMode(c.heading))], c.solved, 0.00501)
-            << c.heading << " " << c.principal << " " << c.repayment;
+        EXPECT_NEAR(solved[static_cast<int>(*calculators::loanMode(l.Heading))], figure, 0.00501)
+            << given.Heading << " " << given.Num1 << " " << given.Num4;
     }
-    Loans strange = loan("Something else", 100000, 240, 12, 7);
+    Loans strange{"Something else", 100000, 240, 12, 7};
     EXPECT_EQ(LoanAnswer::solved, LoanCalc(strange));
-    EXPECT_TRUE(sameBits(strange, loan("", 100000, 240, 12, 7)));
+    EXPECT_TRUE(sameBits(strange, Loans{"", 100000, 240, 12, 7}));
 }
 
 TEST(Loans, AnInputAtZeroGivesZero) {
@@ -99,60 +91,43 @@ TEST(Loans, AnInputAtZeroGivesZero) {
 
 TEST(Loans, NoAnswerThatIsNotFiniteIsKept) {
     for (const double rate : {1e-13, 1e-300}) {
-        Loans l = loan("Monthly repayment", 100000, 240, rate, 777); // a month's interest is lost beside the 1
+        Loans l{"Monthly repayment", 100000, 240, rate, 777}; // a month's interest is lost beside the 1
         EXPECT_EQ(LoanCalc(l), LoanAnswer::notFinite);
-        EXPECT_TRUE(sameBits(l, loan("", 100000, 240, rate, 0))) << rate;
+        EXPECT_TRUE(sameBits(l, Loans{"", 100000, 240, rate, 0})) << rate;
     }
-    Loans worthless = loan("Principal amount", 777, 600, -1199.9999, 1e300);
+    Loans worthless{"Principal amount", 777, 600, -1199.9999, 1e300};
     EXPECT_EQ(LoanCalc(worthless), LoanAnswer::notFinite);
-    EXPECT_TRUE(sameBits(worthless, loan("", 0, 600, -1199.9999, 1e300)));
+    EXPECT_TRUE(sameBits(worthless, Loans{"", 0, 600, -1199.9999, 1e300}));
 }
 
 TEST(Loans, ThePeriodTakesACentOffFirst) {
-    struct Case {
-        double principal, rate, repayment, months, raised;
-    };
-    // repayments to the cent: the cent search ends at the first that clears the loan in the months found
-    const Case cases[] = {
-        {100000, 12, 1101.09, 240, 1101.09}, // the 20-year repayment comes back as typed
-        {100000, 12, 1101.05, 240, 1101.09}, // too little for 240 months, too much for 241: raised to clear in 240
-        {100000, 12, 101000.00, 1, 101000.00},
-        {100000, 12, 999.99, 0, 999.98},       // less than the interest: never clears, and the cent stays off
-        {100000, 12, 1002.56, 0, 1002.55},     // the repayment of 600 months: less a cent it needs the 601st
-        {100000, 12, 101000.02, 0, 101000.01}, // clears in less than a month, which no number of cents mends
-    };
-    for (const Case& c : cases) {
-        Loans l = loan("Repayment period", c.principal, 77, c.rate, c.repayment);
+    // Repayments to the cent: the cent search ends at the first that clears the loan in the months found.
+    for (const auto& [repayment, months, raised] : {
+             std::array{1101.09, 240., 1101.09}, // the 20-year repayment comes back as typed
+             {1101.05, 240, 1101.09},            // too little for 240 months, too much for 241: raised to clear in 240
+             {101000.00, 1, 101000.00},          //
+             {999.99, 0, 999.98},                // less than the interest: never clears, and the cent stays off
+             {1002.56, 0, 1002.55},              // the repayment of 600 months: less a cent it needs the 601st
+             {101000.02, 0, 101000.01},          // clears in less than a month, which no number of cents mends
+         }) {
+        Loans l{"Repayment period", 100000, 77, 12, repayment};
         EXPECT_EQ(LoanAnswer::solved, LoanCalc(l));
-        EXPECT_EQ(l.Num2, c.months) << c.repayment;
-        EXPECT_NEAR(l.Num4, c.raised, 1e-9) << c.repayment;
-        EXPECT_EQ(l.Num1, c.principal);
-    }
-}
-
-TEST(Loans, AFitToTheLastDigitIsNotRaised) {
-    // principals made from the repayment: the discounted amount meets them exactly and the search stops there
-    Clients clients;
-    for (int i = 0; i < 300; ++i) {
-        const double repayment = clients.money(10, 100000), rate = clients.rate();
-        const int months = clients.whole(1, 600);
-        Loans l = loan("", calculators::principalFor(repayment, months, rate), 0, rate, repayment);
-        Loans stepped = l;
-        calculators::PER(l);
-        ASSERT_TRUE(stepping::PER(stepped, 1000000));
-        EXPECT_TRUE(sameBits(l, stepped));
-        EXPECT_EQ(l.Num4, repayment);
+        EXPECT_EQ(l.Num2, months) << repayment;
+        EXPECT_NEAR(l.Num4, raised, 1e-9) << repayment;
+        EXPECT_EQ(l.Num1, 100000);
     }
 }
 
 TEST(Loans, ThePeriodIsThatOfSteppingBitForBit) {
     Clients clients;
     int solved = 0;
-    for (int i = 0; i < 3000; ++i) {
+    for (int i = 0; i < 1500; ++i) {
         const double rate = clients.rate(), months = clients.whole(2, 600);
         const double principal = clients.money(1, 1e12 * months / 600);
         const double repayment = calculators::repaymentFor(principal, months, rate) + clients.between(-2, 2);
-        Loans l = loan("Repayment period", principal, 0, rate, std::floor(repayment * 100) / 100);
+        Loans l{"Repayment period", principal, 0, rate, std::floor(repayment * 100) / 100};
+        // Every fourth principal is made from the repayment: it is met to the last digit, and nothing is raised.
+        if (i % 4 == 0) l.Num1 = calculators::principalFor(l.Num4 - 0.01, months, rate);
         Loans stepped = l;
         stepped.Num4 -= 0.01;
         LoanCalc(l);
@@ -160,7 +135,7 @@ TEST(Loans, ThePeriodIsThatOfSteppingBitForBit) {
         ++solved;
         EXPECT_TRUE(sameBits(l, stepped)) << principal << " " << rate << " " << repayment;
     }
-    EXPECT_GT(solved, 1500);
+    EXPECT_GT(solved, 800);
 }
 
 TEST(Loans, MillionsOfCentsAreCountedAsIfAdded) {
@@ -184,11 +159,11 @@ TEST(Loans, MillionsOfCentsAreCountedAsIfAdded) {
 
 TEST(Loans, TheRateIsThatOfSteppingBitForBit) {
     Clients clients;
-    for (int i = 0; i < 4000; ++i) {
+    for (int i = 0; i < 1500; ++i) {
         const double principal = clients.money(0.01, 1e12), months = clients.whole(1, 600);
         // every third is on the grid itself, the others anywhere up to a rate of ten thousand percent
         const double rate = i % 3 == 0 ? clients.whole(1, 5000) / 100.0 : std::exp(clients.between(-6, 9.2));
-        Loans l = loan("Interest rate", principal, months, 0, calculators::repaymentFor(principal, months, rate));
+        Loans l{"Interest rate", principal, months, 0, calculators::repaymentFor(principal, months, rate)};
         if (i % 3 == 2) l.Num4 = std::floor(l.Num4 * 100) / 100;
         Loans stepped = l;
         ASSERT_TRUE(stepping::Rate(stepped));
@@ -247,7 +222,7 @@ TEST(Loans, AnOldFilesRateEndsWhereTheSteppingEnds) {
 TEST(Loans, AmortisationIsThatOfSteppingBitForBit) {
     Clients clients;
     for (int i = 0; i < 300; ++i) {
-        Loans l = loan("", clients.money(1, 1e12), i < 40 ? i : clients.whole(1, 1000), clients.rate(), 0);
+        Loans l{"", clients.money(1, 1e12), i < 40 ? i : clients.whole(1, 1000) * 1.0, clients.rate(), 0};
         calculators::RPAYMENT(l);
         l.Num4 += clients.between(-1, 1); // as when the period was solved: not the repayment of the formula
         const auto table = calculators::CalcAnnAmort(l);
@@ -268,42 +243,18 @@ TEST(Loans, AmortisationIsThatOfSteppingBitForBit) {
 }
 
 TEST(Loans, AmortisationRows) {
-    struct Case {
-        double months;
-        int monthRows, yearRows, shape, wholeYears;
-    };
-    const Case cases[] = {
+    // months; then rows of months and of years, the shape, and whole years
+    const std::tuple<double, int, int, int, int> cases[] = {
         {240, 240, 20, 1, 20}, {25, 25, 3, 2, 2},        {12, 12, 1, 1, 1},        {5, 5, 1, 2, 0},
         {0, 0, 0, 1, 0},       {1200, 1000, 84, 2, 83},  {-7, 0, 0, 1, 0},         {24.5, 24, 2, 1, 2},
         {25.5, 26, 3, 2, 2},   {1e300, 1000, 84, 2, 83}, {notANumber, 0, 0, 1, 0}, {infinite, 1000, 84, 2, 83},
     };
-    for (const Case& c : cases) {
-        const auto table = calculators::annualAmortisation(100000, c.months, 12, 5000);
-        EXPECT_EQ(calculators::monthRows(calculators::monthlyAmortisation(100000, c.months, 12)).size(), c.monthRows);
-        EXPECT_EQ(calculators::yearRows(table).size(), c.yearRows) << c.months;
-        EXPECT_EQ(table.AmortShape, c.shape) << c.months;
-        EXPECT_EQ(table.AmortYears, c.wholeYears) << c.months;
-    }
-}
-
-TEST(Loans, AmortisationEndsAtNothing) {
-    Clients clients;
-    for (int i = 0; i < 200; ++i) {
-        Loans l = loan("", clients.money(1000, 1e8), clients.whole(1, 600), clients.rate(), 0);
-        calculators::RPAYMENT(l);
-        const auto months = calculators::monthRows(calculators::monthlyAmortisation(l.Num1, l.Num2, l.Num3));
-        double capital = 0, interest = 0;
-        for (const auto& row : months) {
-            EXPECT_GE(row.balance, 0); // also where the last falls a hair below nothing
-            capital += row.capital;
-            interest += row.interest;
-        }
-        EXPECT_NEAR(months.back().balance / l.Num1, 0, 1e-9);
-        EXPECT_NEAR(capital / l.Num1, 1, 1e-9);
-        EXPECT_NEAR(interest, calculators::totalInterest(l), 1e-8 * calculators::totalRepayments(l));
-        const auto years = calculators::yearRows(calculators::CalcAnnAmort(l));
-        EXPECT_EQ(years.back().balance, months.back().balance);
-        EXPECT_EQ(years.front().balance, months[std::min<std::size_t>(12, months.size()) - 1].balance);
+    for (const auto& [months, monthRows, yearRows, shape, wholeYears] : cases) {
+        const auto table = calculators::annualAmortisation(100000, months, 12, 5000);
+        EXPECT_EQ(calculators::monthRows(calculators::monthlyAmortisation(100000, months, 12)).size(), monthRows);
+        EXPECT_EQ(calculators::yearRows(table).size(), yearRows) << months;
+        EXPECT_EQ(table.AmortShape, shape) << months;
+        EXPECT_EQ(table.AmortYears, wholeYears) << months;
     }
 }
 
