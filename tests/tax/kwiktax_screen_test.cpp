@@ -91,20 +91,18 @@ TEST_F(QuickTaxScreen, EscapeGivesTheFieldLastEnteredItsValueBack) {
 }
 
 TEST_F(QuickTaxScreen, EnterCalculatesFromEveryFieldAndTakesWhatIsTyped) {
-    const struct {
-        const char *typed, *income, *total;
-    } cases[] = {{"237 101", "237 101.00", "42 678.18"}, // 2027: still in the first bracket
-                 {"245101", "245 101.00", "44 118.26"},
-                 {"", "0.00", "0.00"},
-                 {"   ", "0.00", "0.00"},
-                 {"99999999999", "99 999 999 999.00", "44 999 820 968.55"}};
-    for (const auto& c : cases) {
-        run.enter(edit(0), c.typed);
+    for (const auto& [typed, income, total] :
+         {std::tuple{"237 101", "237 101.00", "42 678.18"}, // 2027: still in the first bracket
+          {"245101", "245 101.00", "44 118.26"},
+          {"", "0.00", "0.00"},
+          {"   ", "0.00", "0.00"},
+          {"99999999999", "99 999 999 999.00", "44 999 820 968.55"}}) {
+        run.enter(edit(0), typed);
         run.key(Qt::Key_Return);
-        EXPECT_EQ(answers()[3], c.total) << c.typed;
+        EXPECT_EQ(answers()[3], total) << typed;
         EXPECT_EQ(run.focused(), edit(0));
         run.key(Qt::Key_Tab);
-        EXPECT_EQ(run.shown(edit(0)), c.income);
+        EXPECT_EQ(run.shown(edit(0)), income);
     }
     type(1, "65");
     run.key(Qt::Key_Return);

@@ -53,46 +53,40 @@ TEST(MonthlyTax, WithholdsTheMonthsShareOfTheYear) {
 }
 
 TEST(MonthlyTax, APartOfAMonthIsRaisedToTheYearAndBack) {
-    const struct {
-        double salary, start, end, tax;
-    } cases[] = {
-        {10000, day(2026, 3, 1), day(2026, 3, 15), 1114.3951613}, // 248 000: 44 872 less 17 235; 15 days of 31
-        {1000, day(2026, 3, 1), day(2026, 3, 1), 160.9596774},    // 372 000: 77 112 less 17 235
-        {28000, day(2027, 2, 1), day(2027, 2, 28), 4315.6206897}, // 348 000: 70 872 less 17 235; 28 days of 29
-        {20000, day(2026, 4, 1), day(2026, 4, 30), 2163.75},
-    };
-    for (const auto& c : cases)
-        EXPECT_NEAR(worked({.age = 40, .salary = c.salary, .startDate = c.start, .endDate = c.end}).taxLiability, c.tax,
-                    1e-6);
+    for (const auto& [salary, start, end, tax] : {
+             std::array{10000., day(2026, 3, 1), day(2026, 3, 15),
+                        1114.3951613},                                 // 248 000: 44 872 less 17 235; 15 of 31
+             {1000, day(2026, 3, 1), day(2026, 3, 1), 160.9596774},    // 372 000: 77 112 less 17 235
+             {28000, day(2027, 2, 1), day(2027, 2, 28), 4315.6206897}, // 348 000: 70 872 less 17 235; 28 days of 29
+             {20000, day(2026, 4, 1), day(2026, 4, 30), 2163.75},
+         })
+        EXPECT_NEAR(worked({.age = 40, .salary = salary, .startDate = start, .endDate = end}).taxLiability, tax, 1e-6);
 }
 
 TEST(MonthlyTax, CreditsForTheMedicalScheme) {
-    const struct {
-        std::int16_t age, persons;
-        double employer, employee; ///< contributions
-        double forPersons, forContributions;
-    } cases[] = {
+    // age, persons, what employer and employee contribute; then the credit for persons and that for contributions
+    const std::tuple<std::int16_t, std::int16_t, double, double, double, double> cases[] = {
         {40, 2, 0, 0, 0, 0},
         {40, 0, 1000, 0, 0, 0},
-        {40, 1, 1000, 0, 376, 0}, //
+        {40, 1, 1000, 0, 376, 0},
         {40, 2, 0, 1000, 752, 0},
         {40, 3, 500, 0, 1006, 0},
-        {40, 4, 500, 0, 1260, 0},           //
+        {40, 4, 500, 0, 1260, 0},
         {64, 2, 4000, 2000, 752, 0},        // from 65 on
         {65, 2, 4000, 2000, 752, 1246.752}, // (6 000 - 2 256) at 0.333
         {65, 2, 2256, 0, 752, 0},
         {65, 2, 1000, 0, 752, 0},
         {65, 0, 4000, 2000, 0, 0},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(testing::Message() << c.age << " " << c.persons << " " << c.employer);
-        MonthlyInputs month{
-            .age = c.age, .salary = 50000, .employerMedical = c.employer, .employeeMedical = c.employee};
-        month.medAidBens = c.persons;
+    for (const auto& [age, persons, employer, employee, forPersons, forContributions] : cases) {
+        SCOPED_TRACE(testing::Message() << age << " " << persons << " " << employer);
+        MonthlyInputs month{.age = age, .salary = 50000};
+        month.employerMedical = employer, month.employeeMedical = employee;
+        month.medAidBens = persons;
         MonthlyTax result = worked(month);
-        EXPECT_EQ(result.beneficiaryCredit, c.forPersons);
-        EXPECT_NEAR(result.contributionCredit, c.forContributions, 1e-9);
-        EXPECT_NEAR(result.totalTaxDeduction, result.taxLiability - c.forPersons - c.forContributions, 1e-9);
+        EXPECT_EQ(result.beneficiaryCredit, forPersons);
+        EXPECT_NEAR(result.contributionCredit, forContributions, 1e-9);
+        EXPECT_NEAR(result.totalTaxDeduction, result.taxLiability - forPersons - forContributions, 1e-9);
         month.salary = 1000;
         EXPECT_EQ(worked(month).totalTaxDeduction, 0) << "credits are never paid out";
     }
@@ -115,10 +109,7 @@ TEST(MonthlyTax, MonthsHaveTheirLengthAndFebruaryAlways29) {
 }
 
 TEST(MonthlyTax, DatesAreComparedByMonthAndDay) {
-    const struct {
-        double start, end;
-        DateFault fault;
-    } cases[] = {
+    const std::tuple<double, double, DateFault> cases[] = {
         {day(2026, 3, 1), day(2026, 3, 31), DateFault::none},
         {day(2026, 3, 31), day(2026, 3, 31), DateFault::none},
         {day(2026, 3, 1), day(2027, 3, 31), DateFault::none}, // the year has never been looked at
@@ -129,8 +120,8 @@ TEST(MonthlyTax, DatesAreComparedByMonthAndDay) {
         {day(2026, 3, 1), base::NoDate, DateFault::noEnd},
         {day(2026, 3, 1), base::blankDate, DateFault::noEnd},
     };
-    for (const auto& c : cases)
-        EXPECT_EQ(dateFault({.startDate = c.start, .endDate = c.end}), c.fault) << c.start << " " << c.end;
+    for (const auto& [start, end, fault] : cases)
+        EXPECT_EQ(dateFault({.startDate = start, .endDate = end}), fault) << start << " " << end;
 }
 
 } // namespace

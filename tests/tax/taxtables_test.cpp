@@ -62,30 +62,27 @@ TEST(TaxTables, TaxNeverFallsAsIncomeRises) {
 
 // The pairings of scale and rebates that practices know, odd ones too.
 TEST(TaxTables, EachConsumerHasItsScaleAndRebates) {
-    const struct {
-        const TaxRules& rules;
-        double taxOn300000, under65, from65, from75;
-    } consumers[] = {
+    // tax on 300 000; rebates under 65, from 65 and from 75 on
+    const std::tuple<const TaxRules&, double, double, double, double> consumers[] = {
         {quickTaxFebruary2026, 59032, 17235, 26679, 29824},      {quickTaxFebruary2027, 58392, 17820, 27585, 30834},
         {monthlyTaxRules, 58392, 17235, 26679, 29824},           {retirementFundingRules, 58392, 17820, 27585, 30834},
         {investmentComparisonRules, 58392, 17235, 27000, 30249},
     };
-    for (const auto& consumer : consumers) {
-        EXPECT_EQ(taxOn(consumer.rules.scale, 300000).tax, consumer.taxOn300000);
-        for (const double age : {-1.0, 0.0, 64.0, 64.999})
-            EXPECT_EQ(totalRebates(consumer.rules, age), consumer.under65) << age;
-        for (const double age : {65.0, 74.0, 74.999})
-            EXPECT_EQ(totalRebates(consumer.rules, age), consumer.from65) << age;
-        for (const double age : {75.0, 120.0})
-            EXPECT_EQ(totalRebates(consumer.rules, age), consumer.from75) << age;
+    for (const auto& [rules, tax, under65, from65, from75] : consumers) {
+        EXPECT_EQ(taxOn(rules.scale, 300000).tax, tax);
+        for (const auto& [age, rebates] : {std::pair{-1.0, under65},
+                                           {64.999, under65},
+                                           {65.0, from65},
+                                           {74.999, from65},
+                                           {75.0, from75},
+                                           {120.0, from75}})
+            EXPECT_EQ(totalRebates(rules, age), rebates) << age;
     }
 }
 
 TEST(QuickTax, TaxesAnIncomeInItsYear) {
-    const struct {
-        double year, income, age;
-        double total, rebates, commitment, before, after; // rates to six places
-    } cases[] = {
+    // year, income, age; then total tax, rebates, commitment, and the average rates before and after to six places
+    const std::array<double, 8> cases[] = {
         {0, 237100, 40, 42678, 17235, 25443, 18, 10.730915},
         {0, 237101, 40, 42678.26, 17235, 25443.26, 18.000034, 10.730980},
         {1, 0, 0, 0, 17820, 0, 18, 0},          // no income: the rate that the first rand would bear
@@ -96,17 +93,17 @@ TEST(QuickTax, TaxesAnIncomeInItsYear) {
         {7, 500000, 65, 116237, 27585, 88652, 23.2474, 17.7304}, // a year that an old file holds
         {1, 99999999999, 64, 44999820968.55, 17820, 44999803148.55, 44.999821, 44.999803},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(std::to_string(c.income) + " in " + std::to_string(c.year));
-        assessment::KwikTax client{c.income, c.age, c.year};
+    for (const auto& [year, income, age, total, rebates, commitment, before, after] : cases) {
+        SCOPED_TRACE(std::to_string(income) + " in " + std::to_string(year));
+        assessment::KwikTax client{income, age, year};
         const QuickTax result = quickTax(client);
-        EXPECT_NEAR(result.TotalTax, c.total, 1e-4);
-        EXPECT_EQ(result.TotalRebates, c.rebates);
-        EXPECT_NEAR(result.TaxCommitment, c.commitment, 1e-4);
-        EXPECT_NEAR(result.AverageBefore, c.before, 1e-6);
-        EXPECT_NEAR(result.AverageAfter, c.after, 1e-6);
+        EXPECT_NEAR(result.TotalTax, total, 1e-4);
+        EXPECT_EQ(result.TotalRebates, rebates);
+        EXPECT_NEAR(result.TaxCommitment, commitment, 1e-4);
+        EXPECT_NEAR(result.AverageBefore, before, 1e-6);
+        EXPECT_NEAR(result.AverageAfter, after, 1e-6);
         EXPECT_EQ(client.LastScaleTax, result.TotalTax);
-        EXPECT_EQ(client.Salary, c.income);
+        EXPECT_EQ(client.Salary, income);
     }
 }
 
