@@ -1,19 +1,17 @@
 #include "analyses/itemise.h"
 
-#include <gmock/gmock.h>
-
 #include <set>
 
-#include "analyses/frmItemised.h"
 #include "analyses/itemisereport.h"
+#include "analyses/nara_screen.h"
 #include "reports/report_support.h"
-#include "screenkit/kit_screen.h"
 
 using namespace analyses;
 using assessment::Analysis;
 using assessment::Assessment;
 using assessment::ItemRow;
-using testing::ElementsAre;
+using naratest::NARA;
+using screenkit::Answer;
 
 namespace {
 
@@ -47,12 +45,7 @@ TEST(Itemise, EveryListThatAnAnalysisReadsHasItsLineAndItsOwnAmount) {
 // Where a list's sum goes is seen nowhere but in the wrong figure of a report.
 TEST(Itemise, EachSumGoesIntoItsOwnLine) {
     Assessment a;
-    const struct {
-        Analysis analysis;
-        const char *flag, *title;
-        double& amount;
-        const char* lastHead;
-    } lines[] = {
+    const std::tuple<Analysis, const char*, const char*, double&, const char*> lines[] = {
         {Analysis::retirement, "RNABussSaleItemise", "Business Sale", a.retirement.ANSLAss3, "Amount"},
         {Analysis::retirement, "RNAOtherCapItemise", "Other Capital", a.retirement.ANSLAss5, "Amount"},
         {Analysis::retirement, "RNAOtherExpItemise", "Other Expenses", a.retirement.ANSLLib5, "At Age"},
@@ -62,12 +55,12 @@ TEST(Itemise, EachSumGoesIntoItsOwnLine) {
         {Analysis::disability, "DISAOtherCapItemise", "Other Capital", a.disability.DisaASS6, "At Year"},
         {Analysis::disability, "DISAEstateDutyItemise", "Conversion costs etc.", a.disability.Disalib4, "At Year"}};
     double expected = 0;
-    for (const auto& each : lines) {
-        const ItemLine& line = lineOf(each.analysis, each.flag);
-        EXPECT_EQ(line.title, each.title);
-        EXPECT_STREQ(line.columns().back().head, each.lastHead);
+    for (const auto& [analysis, flag, title, amount, lastHead] : lines) {
+        const ItemLine& line = lineOf(analysis, flag);
+        EXPECT_EQ(line.title, title);
+        EXPECT_STREQ(line.columns().back().head, lastHead);
         takeItems(a, line, {capital("", expected += 1000.5), {}, capital("", 0.25)});
-        EXPECT_EQ(each.amount, expected + 0.25);
+        EXPECT_EQ(amount, expected + 0.25);
         EXPECT_EQ(line.list(a).flag, 1);
         EXPECT_EQ(line.list(a).rows.size(), 3U) << "blank rows are kept";
     }
@@ -86,11 +79,7 @@ TEST(Itemise, AListThatSumsToNothingUnlocksItsLine) {
 }
 
 TEST(Itemise, TheIncomeRequiredIsThatOfTheFirstStartFromRetirementOn) {
-    const struct {
-        const char* what;
-        std::vector<ItemRow> rows;
-        double incomePD, coverYears;
-    } cases[] = {
+    const std::tuple<const char*, std::vector<ItemRow>, double, double> cases[] = {
         {"two from retirement, one later", {income(100, 65, 75), income(20, 65, 80), income(7, 70, 85)}, 120, 20},
         {"none exactly then: all that start later", {income(100, 66, 75), income(20, 70, 90)}, 120, 24},
         {"earlier ones count nothing, but for the period", {income(100, 60, 75), income(20, 65, 70)}, 20, 15},
@@ -104,191 +93,122 @@ TEST(Itemise, TheIncomeRequiredIsThatOfTheFirstStartFromRetirementOn) {
          9},
         {"in sum nothing: what was typed stays", {income(0, 65, 99)}, 1234, 17},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.what);
+    for (const auto& [what, rows, incomePD, coverYears] : cases) {
+        SCOPED_TRACE(what);
         Assessment a;
         a.retirement.AgeRetiment = 65;
         a.retirement.IncomePD = 1234;
         a.retirement.CoverYears = 17;
-        takeItems(a, lineOf(Analysis::retirement, "RNAMonIncReqItemise"), c.rows);
-        EXPECT_EQ(a.retirement.IncomePD, c.incomePD);
-        EXPECT_EQ(a.retirement.CoverYears, c.coverYears);
+        takeItems(a, lineOf(Analysis::retirement, "RNAMonIncReqItemise"), rows);
+        EXPECT_EQ(a.retirement.IncomePD, incomePD);
+        EXPECT_EQ(a.retirement.CoverYears, coverYears);
     }
 }
 
-namespace {
-
-/// An analysis with a line of each kind.
-class LinesScreen : public ItemisedScreen {
-public:
-    explicit LinesScreen(screenkit::Workplace& work)
-        : ItemisedScreen(work, "frmLines", "Lines", work.record.changed.NARAChanged, Analysis::retirement) {
-        auto* property = number("numProperty", work.record.retirement.ANSLAss1, screenkit::money);
-        body(screenkit::column({property, screenkit::row({itemiseButton(11), itemiseButton(1), itemiseButton(10)})}));
-        locks(1, {property});
-    }
-    std::vector<std::string> log;
-
-protected:
-    void filled() override { refreshItemised(); }
-    void itemsTaken(const ItemLine& line) override { log.push_back(line.title); }
-    void recalculate() override { log.emplace_back("recalculated"); }
-};
-
-struct ItemisedPanel : screenkit::KitTest {
-    ItemisedPanel() : lines(new LinesScreen(bench.workplace)), linesChild(area.addSubWindow(lines)) {
-        linesChild->setGeometry(0, 0, 900, 600);
-        linesChild->show();
-        area.setActiveSubWindow(linesChild);
-        lines->activate();
-        settle();
-    }
-    ~ItemisedPanel() override {
-        if (lines != nullptr) lines->drop();
-    }
-    template <class T = QWidget>
-    T* the(const char* name) {
-        return lines->findChild<T*>(name);
-    }
-    void open(int index) { click(the(("cmdItemise(" + std::to_string(index) + ")").c_str())); }
-    bool isOpen() { return the("fraItemise") != nullptr && the("fraItemise")->isVisible(); }
-    std::string shown(const char* field) { return the<QLineEdit>(field)->text().toStdString(); }
-
-    QPointer<LinesScreen> lines;
-    QPointer<QMdiSubWindow> linesChild;
-    assessment::ItemList& property = bench.record.itemised.RNARealEst;
-    std::int16_t& naraChanged = bench.record.changed.NARAChanged;
-};
-
-} // namespace
-
-TEST_F(ItemisedPanel, aListIsTypedTakenAndLocksItsLine) {
-    const qint64 picture = the<QPushButton>("cmdItemise(1)")->icon().cacheKey();
-    open(1);
-    type("Farm");
-    key(Qt::Key_Tab);
-    type("1 200 000");
-    key(Qt::Key_Tab);
-    type("Shop");
-    key(Qt::Key_Tab);
-    type("34.5");
-    EXPECT_EQ(shown("numItemiseTotal"), "1 200 000");
-    EXPECT_EQ(naraChanged, 0) << "a copy is no change of the client";
-    area.setActiveSubWindow(child); // to another screen and back
-    settle();
-    area.setActiveSubWindow(linesChild);
-    lines->activate();
-    settle();
+TEST_F(NARA, AListIsTypedTakenAndLocksItsLine) {
+    assessment::ItemList& property = run.record().itemised.RNARealEst;
+    open();
+    const auto picture = [&] { return run.control<QAbstractButton>("cmdItemise(1)")->icon().cacheKey(); };
+    const qint64 unused = picture();
+    openList(1);
+    typeCells({"Farm", "1 200 000", "Shop"});
+    typeCells({"34.5"}, {});
+    run.expectShown("numItemiseTotal 1 200 000");
+    EXPECT_EQ(changed(), 0) << "a copy is no change of the client";
+    run.menu("mnuPersDet"); // to another screen and back
+    open();
     EXPECT_EQ(focus(), "grdItemise");
-    key(Qt::Key_Return, Qt::ControlModifier);
-    EXPECT_FALSE(isOpen());
+    run.key(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_FALSE(isListOpen());
     EXPECT_EQ(focus(), "cmdItemise(1)");
     ASSERT_EQ(property.rows.size(), 2U);
     EXPECT_EQ(property.rows[1].IncomeSource, "Shop");
-    EXPECT_EQ(bench.record.retirement.ANSLAss1, 1200034.5);
-    EXPECT_EQ(naraChanged, 1);
-    EXPECT_THAT(lines->log, ElementsAre("Real Estate", "recalculated"));
-    EXPECT_EQ(shown("numProperty"), "1 200 034.50");
-    EXPECT_TRUE(the<QLineEdit>("numProperty")->isReadOnly());
-    EXPECT_NE(the<QPushButton>("cmdItemise(1)")->icon().cacheKey(), picture);
-    EXPECT_EQ(the("cmdItemise(1)")->accessibleName(), "Itemise Real Estate");
+    EXPECT_EQ(needs().ANSLAss1, 1200034.5);
+    EXPECT_EQ(changed(), 1);
+    EXPECT_TRUE(run.control<QLineEdit>("numASS(0)")->isReadOnly());
+    run.expectShown("numTOTASS 1 200 034"); // it was worked out again
+    EXPECT_NE(picture(), unused);
+    EXPECT_EQ(run.control("cmdItemise(1)")->accessibleName(), "Itemise Real Estate");
 
-    open(1); // and out of use again
+    openList(1); // and out of use again
     for (int i = 0; i < 2; ++i)
-        key(Qt::Key_Delete, Qt::ControlModifier);
-    click(the("cmdOKItemise"));
+        run.key(Qt::Key_Delete, Qt::ControlModifier);
+    run.click("cmdOKItemise");
     EXPECT_EQ(property.flag, 0);
     EXPECT_EQ(property.rows.size(), 1U);
-    EXPECT_FALSE(the<QLineEdit>("numProperty")->isReadOnly());
-    EXPECT_EQ(shown("numProperty"), "0.00");
+    EXPECT_FALSE(run.control<QLineEdit>("numASS(0)")->isReadOnly());
 }
 
-TEST_F(ItemisedPanel, everyCellHasItsLimitAndWords) {
-    const struct {
-        int index, column;
-        const char *good, *bad, *told;
-    } cells[] = {
-        {1, 0, "x", nullptr, "A maximum of only 60 characters can be accepted !"},
-        {1, 1, "99999999", "100000000", "Only a value between 0 and 99 999 999 can be entered!"},
-        {11, 2, "30", "30.01", "Only a value between 0% and 30% can be entered!"},
-        {11, 4, "999", "-1", "Only a value between 0 and 999 can be entered!"},
-        {10, 2, "999", "1000", "Only a value between 0 and 999 can be entered!"},
-    };
-    for (const auto& cell : cells) {
-        SCOPED_TRACE(testing::Message() << cell.index << " column " << cell.column);
-        open(cell.index);
-        auto* grid = the<screenkit::EditGrid>("grdItemise");
-        const std::string good = cell.bad != nullptr ? cell.good : std::string(60, 'x');
-        for (const std::string& typed : {good, cell.bad != nullptr ? cell.bad : good + "y"}) {
-            grid->setCurrentIndex(grid->model()->index(0, cell.column));
+TEST_F(NARA, EveryCellOfAListHasItsLimitAndWords) {
+    open();
+    const std::string sixty(60, 'x'), more = sixty + "y";
+    for (const auto& [list, column, good, bad, told] :
+         {std::tuple{1, 0, sixty, more, "A maximum of only 60 characters can be accepted !"},
+          {1, 1, "99999999", "100000000", "Only a value between 0 and 99 999 999 can be entered!"},
+          {11, 2, "30", "30.01", "Only a value between 0% and 30% can be entered!"},
+          {11, 4, "999", "-1", "Only a value between 0 and 999 can be entered!"},
+          {10, 2, "999", "1000", "Only a value between 0 and 999 can be entered!"}}) {
+        SCOPED_TRACE(testing::Message() << list << " column " << column);
+        openList(list);
+        auto* grid = run.control<screenkit::EditGrid>("grdItemise");
+        for (const std::string& typed : {good, bad}) {
+            grid->setCurrentIndex(grid->model()->index(0, column));
             grid->setFocus();
-            if (typed != good) desk.expect(screenkit::Answer::ok);
-            type(QString::fromStdString(typed));
-            key(Qt::Key_Tab);
+            if (typed == bad) run.desk.expect(Answer::ok);
+            typeCells({QString::fromStdString(typed)});
         }
-        EXPECT_EQ(desk.last().text, cell.told);
+        EXPECT_EQ(run.desk.last().text, told);
         EXPECT_EQ(focus(), "grdItemiseCell");
-        desk.expect(screenkit::Answer::no);
-        click(the("cmdGridClose"));
-        EXPECT_FALSE(isOpen());
+        run.desk.expect(Answer::no);
+        run.click("cmdGridClose");
+        EXPECT_FALSE(isListOpen());
     }
 }
 
-TEST_F(ItemisedPanel, closingAsksOnlyAboutAChangedList) {
-    using screenkit::Answer;
-    property = {1, {capital("Farm", 10.125)}};
-    const struct {
-        const char* what;
-        std::function<void()> act;
-    } ways[] = {{"button", [this] { click(the("cmdGridClose")); }},
-                {"Escape", [this] { key(Qt::Key_Escape); }},
-                {"the client is to be saved or replaced", [this] { lines->commitPendingEdits(); }}};
-    const struct {
-        const char* what;
-        std::vector<const char*> typed; ///< into the first cells
-        std::optional<Answer> answer;
-        double afterwards;
-    } cases[] = {{"nothing typed", {}, {}, 10.125},
-                 {"typed as it was", {"Farm"}, {}, 10.125},
-                 {"Cancel stays", {"Farm", "20"}, Answer::cancel, 10.125},
-                 {"No drops", {"Farm", "20"}, Answer::no, 10.125},
-                 {"Yes takes", {"Farm", "20"}, Answer::yes, 20}};
-    for (const auto& c : cases)
-        for (const auto& way : ways) {
-            SCOPED_TRACE(testing::Message() << c.what << " by " << way.what);
+TEST_F(NARA, ClosingAListAsksOnlyAboutAChangedOne) {
+    assessment::ItemList& property = run.record().itemised.RNARealEst = {1, {capital("Farm", 10.125)}};
+    open();
+    screenkit::Screen* screen = run.front();
+    const std::function<void()> ways[] = {[&] { run.click("cmdGridClose"); }, [&] { run.key(Qt::Key_Escape); },
+                                          [&] { screen->commitPendingEdits(); }}; // as before a save
+    const std::tuple<const char*, QStringList, std::optional<Answer>, double> cases[] = {
+        {"nothing typed", {}, {}, 10.125},
+        {"typed as it was", {"Farm"}, {}, 10.125},
+        {"Cancel stays", {"Farm", "20"}, Answer::cancel, 10.125},
+        {"No drops", {"Farm", "20"}, Answer::no, 10.125},
+        {"Yes takes", {"Farm", "20"}, Answer::yes, 20}};
+    for (const auto& [what, typed, answer, afterwards] : cases)
+        for (const auto& close : ways) {
+            SCOPED_TRACE(testing::Message() << what << " by way " << &close - ways);
             property.rows[0].Amount = 10.125;
-            open(1);
-            for (const char* cell : c.typed) {
-                type(cell);
-                key(cell == c.typed.back() ? Qt::Key_Escape : Qt::Key_Tab);
-            }
-            if (c.answer) desk.expect(*c.answer);
-            way.act();
-            EXPECT_TRUE(!c.answer || desk.last().text == "The list has been changed. Do you want to keep the changes?");
-            EXPECT_EQ(property.rows[0].Amount, c.afterwards);
-            EXPECT_TRUE(isOpen() || c.answer != Answer::cancel);
-            EXPECT_TRUE(!isOpen() || c.answer != Answer::yes);
-            lines->clientReplaced(); // the list is the old client's: dropped without asking
-            EXPECT_FALSE(isOpen());
+            openList(1);
+            typeCells(typed.mid(0, typed.size() - 1));
+            typeCells(typed.mid(typed.size() - 1), Qt::Key_Escape);
+            if (answer) run.desk.expect(*answer);
+            close();
+            EXPECT_TRUE(!answer ||
+                        run.desk.last().text == "The list has been changed. Do you want to keep the changes?");
+            EXPECT_EQ(property.rows[0].Amount, afterwards);
+            EXPECT_TRUE(isListOpen() || answer != Answer::cancel);
+            EXPECT_TRUE(!isListOpen() || answer != Answer::yes);
+            screen->clientReplaced(); // the list is the old client's: dropped without asking
+            EXPECT_FALSE(isListOpen());
         }
-    open(1);
-    key(Qt::Key_Tab);
-    type("-1");
-    desk.expect(Answer::yes); // to a cell that can't stand
-    desk.expect(Answer::ok);
-    click(the("cmdGridClose"));
+    openList(1);
+    run.key(Qt::Key_Tab);
+    typeCells({"-1"}, {});
+    run.desk.expect(Answer::yes); // to a cell that can't stand
+    run.desk.expect(Answer::ok);
+    run.click("cmdGridClose");
     EXPECT_EQ(focus(), "grdItemiseCell");
-    type("5");
-    desk.expect(Answer::cancel);
-    linesChild->close();
-    EXPECT_TRUE(linesChild->isVisible());
-    delete lines; // in mid-edit
-    EXPECT_EQ(property.rows[0].Amount, 20);
+    typeCells({"5"}, {});
+    run.desk.expect(Answer::cancel);
+    screen->parentWidget()->close();
+    EXPECT_TRUE(screen->isVisible());
+    EXPECT_EQ(property.rows[0].Amount, 20); // and the program ends in mid-edit
 }
 
-namespace {
-class ItemisedReport : public reporttest::ReportTest {};
-} // namespace
+using ItemisedReport = reporttest::ReportTest;
 
 TEST_F(ItemisedReport, listsPrintWithTheirHeadsOnEveryPage) {
     Assessment a;

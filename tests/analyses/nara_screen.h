@@ -1,7 +1,5 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <QLabel>
 #include <QTableView>
 
@@ -20,24 +18,28 @@ protected:
             if (label->buddy() == run.control(field)) return label;
         return nullptr;
     }
-    /// Fills a list from its first cell on, row after row, and takes it.
-    void itemise(int index, const QStringList& cells) {
-        run.click(QString("cmdItemise(%1)").arg(index));
+    QString focus() { return RunningProgram::focused(); }
+    void openList(int index) { run.click(QString("cmdItemise(%1)").arg(index)); }
+    bool isListOpen() {
+        auto* panel = run.front()->findChild<QWidget*>("fraItemise");
+        return panel != nullptr && panel->isVisible();
+    }
+    /// Types into a list's cells, from the current one on, and ends each by a key, if one is given.
+    void typeCells(const QStringList& cells, std::optional<Qt::Key> end = Qt::Key_Tab) {
         for (const QString& cell : cells) {
             for (const QChar letter : cell) // the first one opens the cell
                 RunningProgram::keys(QApplication::focusWidget(), QString(letter));
-            run.key(Qt::Key_Tab);
+            if (end) run.key(*end);
         }
+    }
+    /// Fills a list from its first cell on, row after row, and takes it.
+    void itemise(int index, const QStringList& cells) {
+        openList(index);
+        typeCells(cells);
         run.click("cmdOKItemise");
     }
-    std::vector<QStringList> gridRows() {
-        auto* model = run.control<QTableView>("grdPayments")->model();
-        std::vector<QStringList> rows(static_cast<std::size_t>(model->rowCount()));
-        for (int row = 0; row < model->rowCount(); ++row)
-            for (int column = 0; column < model->columnCount(); ++column)
-                rows[static_cast<std::size_t>(row)] << model->index(row, column).data().toString();
-        return rows;
-    }
+    std::vector<QStringList> gridRows() { return RunningProgram::cells(run.control<QTableView>("grdPayments")); }
+
     RunningProgram run;
 };
 
@@ -54,13 +56,8 @@ protected:
     void open() { run.menu("mnuNARA"); }
     void openFilled() {
         open();
-        run.type("numAgeOfRetirement", "65");
-        run.type("numMonIncPD", "10000");
-        run.type("numCoverReq", "20");
-        run.type("numInflationRate", "5");
-        run.type("numBankInvRate", "8");
-        run.type("numASS(0)", "1500000");
-        run.type("numLIB(4)", "250000");
+        run.typeAll("numAgeOfRetirement 65, numMonIncPD 10000, numCoverReq 20, numInflationRate 5, numBankInvRate 8, "
+                    "numASS(0) 1500000, numLIB(4) 250000");
     }
     assessment::NARetirement& needs() { return run.record().retirement; }
     std::int16_t& changed() { return run.record().changed.NARAChanged; }

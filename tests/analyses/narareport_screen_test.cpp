@@ -10,12 +10,7 @@ using namespace naratest;
 
 TEST_F(NARA, EveryControlHoldsItsFieldAndThatItsPlaceInTheReport) {
     using N = assessment::NARetirement;
-    struct Control {
-        const char *name, *typed;
-        double N::*field;
-        double value;
-    };
-    const Control controls[] = {
+    const std::tuple<const char*, const char*, double N::*, double> controls[] = {
         {"numCurrentAge", "46", &N::CurrAge, 46},
         {"numAgeOfRetirement", "63", &N::AgeRetiment, 63},
         {"numMonIncPD", "10001", &N::IncomePD, 10001},
@@ -37,16 +32,13 @@ TEST_F(NARA, EveryControlHoldsItsFieldAndThatItsPlaceInTheReport) {
     run.record().client.IDNumber = "8103155009087";
     run.record().policies[0].RBEMVAge = 60;
     open();
-    for (const Control& control : controls)
-        run.type(control.name, control.typed);
+    for (const auto& [name, typed, field, value] : controls)
+        run.type(name, typed);
     run.type("txtNote", "Sells the practice");
-    for (const Control& control : controls)
-        EXPECT_EQ(needs().*control.field, control.value) << control.name;
+    for (const auto& [name, typed, field, value] : controls)
+        EXPECT_EQ(needs().*field, value) << name;
     EXPECT_EQ(needs().RANotes, "Sells the practice");
-    EXPECT_EQ(run.shown("txtIDNum"), "8103155009087");
-    EXPECT_EQ(run.shown("numYearsToRet"), "17");
-    EXPECT_EQ(run.shown("numASS(5)"), "1 535 372");
-    EXPECT_EQ(run.shown("numLIB(5)"), "198 775");
+    run.expectShown("txtIDNum 8103155009087, numYearsToRet 17, numASS(5) 1 535 372, numLIB(5) 198 775");
 
     run.click("cmdPrint");
     run.click("Check3");
@@ -96,9 +88,7 @@ TEST_F(NARA, PrintsTheReportsThatAreTickedAndLeavesNothingOver) {
                           "'9%'"),
               "House|900 000");
 
-    run.type("numLIB(4)", "5000000");
-    run.type("numMonIncPD", "50");
-    run.type("numAgeOfRetirement", "96");
+    run.typeAll("numLIB(4) 5000000, numMonIncPD 50, numAgeOfRetirement 96");
     run.click("cmdPrint"); // without notes and the rest
     for (const char* choice : {"Check1", "Check3", "Check4"})
         run.click(choice);

@@ -4,7 +4,6 @@
 #include <random>
 
 #include "assessment/assessment.h"
-#include "base/numberformat.h"
 #include "client/policyschedule.h"
 
 /// The retirement analysis one step after the other, each run worked out from nothing, to hold the fast one against.
@@ -21,8 +20,6 @@ struct Retirement {
     assessment::NARetirement& needs;
     double IncomeReqFV = 0, NetCapital = 0, CapitalSolved = 0;
     int YearsCovered = 0;
-    long runs = 0;
-    std::string txtAns1, txtAns2;
     double CapitalByYear[52] = {}, InterestByYear[52] = {}, RequiredByYear[52] = {}, MonthlyRequiredByYear[52] = {},
            AvailableByYear[52] = {};
 
@@ -37,24 +34,11 @@ struct Retirement {
         NetCapital = needs.ANSLAss1 + needs.ANSLAss2 + needs.ANSLAss3 + std::floor(needs.ANSLAss4) + needs.ANSLAss5 -
                      (needs.ANSLLib1 + needs.ANSLLib2 + needs.ANSLLib3 + needs.ANSLLib4 + needs.ANSLLib5);
         project();
-        const double first = NetCapital + AvailableByYear[1], year = 12 * IncomeReqFV;
-        if (IncomeReqFV > 0 && NetCapital > 0 && first <= year)
-            txtAns1 = "Funds available will provide income for less than 1 year.";
-        if (YearsCovered > 1 && first > year)
-            txtAns1 = "Funds available will provide income for " +
-                      std::to_string(YearsCovered > needs.CoverYears ? std::lrint(needs.CoverYears) : YearsCovered) +
-                      " year/s.";
-        if (YearsCovered == 1 && first > year) txtAns1 = "Funds available will provide income for less than 2 years.";
         const double kept = NetCapital;
         const int keptYears = YearsCovered;
         YearsCovered >= needs.CoverYears ? excess() : shortfall();
         NetCapital = kept;
         YearsCovered = keptYears;
-        const std::string off = base::formatNumber(std::fabs(NetCapital - CapitalSolved), "### ### ###");
-        if (YearsCovered >= needs.CoverYears && NetCapital - CapitalSolved > 100000)
-            txtAns2 = "(capital excess available of " + off + " detected)";
-        if (needs.CoverYears > 0 && YearsCovered < needs.CoverYears) txtAns2 = off + " additional cover required.";
-        if (IncomeReqFV < 0) txtAns1 = "Cannot process unless monthly Shortfall is real.";
     }
 
     void excess() {
@@ -90,7 +74,6 @@ struct Retirement {
     }
 
     void project() {
-        ++runs;
         double age = needs.AgeRetiment, expenses = 0;
         record.PolicyMonthlyIncome = std::nearbyint(record.PolicyMonthlyIncome);
         needs.IncomeRA = 0;
