@@ -7,7 +7,7 @@
 
 namespace bench {
 
-void tellAndLeave() {
+void reportMemoryAndExit() {
     std::ifstream status("/proc/self/status");
     std::string line;
     while (std::getline(status, line) && !line.starts_with("VmHWM:")) {

@@ -27,6 +27,6 @@ private:
 
 /// Writes the peak memory of this process (VmHWM, KiB) as one line to the standard output, which tells the bench that
 /// the window is painted, and ends the process at once.
-[[noreturn]] void tellAndLeave();
+[[noreturn]] void reportMemoryAndExit();
 
 } // namespace bench

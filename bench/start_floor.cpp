@@ -15,5 +15,5 @@ int main(int argc, char** argv) {
     bench::Painted painted;
     window.show();
     painted.wait();
-    bench::tellAndLeave();
+    bench::reportMemoryAndExit();
 }

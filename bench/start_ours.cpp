@@ -25,7 +25,7 @@ int main(int argc, char** argv) {
     QTimer::singleShot(0, &application, [&] {
         if (!program.MDIForm_Load()) std::_Exit(EXIT_FAILURE);
         painted.wait();
-        bench::tellAndLeave();
+        bench::reportMemoryAndExit();
     });
     return QApplication::exec();
 }

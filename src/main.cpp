@@ -17,7 +17,7 @@ namespace {
 
 constexpr const char* help = "Usage: marlowbeck [--help | --version]\n"
                              "Workstation for financial advisers. It needs a desktop to show its window on; its files "
-                             "lie in its program folder,\n"
+                             "are in its program folder,\n"
                              "as the guide (F1) explains.\n";
 
 /// Questions that need no window are answered without one.

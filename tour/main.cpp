@@ -34,7 +34,7 @@ void ended(int) {
 }
 
 /// The offscreen platform warns of each window manager feature that it lacks; these warnings are suppressed.
-void withoutPlatformsRegrets(QtMsgType, const QMessageLogContext&, const QString& message) {
+void hidePlatformWarnings(QtMsgType, const QMessageLogContext&, const QString& message) {
     if (!message.startsWith("This plugin does not support")) std::fprintf(stderr, "%s\n", message.toUtf8().constData());
 }
 
@@ -129,7 +129,7 @@ void startAgainAs(const QString& name) {
 int main(int argc, char** argv) try {
     std::signal(SIGALRM, ended);
     ::alarm(longestTour);
-    qInstallMessageHandler(withoutPlatformsRegrets);
+    qInstallMessageHandler(hidePlatformWarnings);
     const QString look = argc > 1 ? argv[1] : "";
     useOffscreen(look == large ? 2 : 1);
     QApplication application(argc, argv);

@@ -61,7 +61,7 @@ std::vector<FormRow> CoverScreen::moneyRows(const char* name, const QStringList&
         const QString field = QString("%1(%2)").arg(name).arg(line);
         const QString& caption = captions[static_cast<qsizetype>(line)];
         if (lists[line] == policies) {
-            m_derived.push_back(result(field, *places[line], wholeRand)); // always the schedule's
+            m_derived.push_back(result(field, *places[line], wholeRand)); // only the schedule of policies sets it
             rows.emplace_back(caption, row({m_derived.back(), policiesButton(policiesList), spring()}));
             continue;
         }

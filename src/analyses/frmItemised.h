@@ -34,7 +34,7 @@ protected:
     /// Sets pictures and locks from the flags. Call it in `filled()`.
     void refreshItemised();
 
-    /// Marks the client as changed: the file does not have what the record now holds.
+    /// Marks the client as changed, since the record differs from the file.
     void markChanged() { m_changedFlag = 1; }
     /// Prints the lists in use as a report of their own; nothing if there are none.
     void printItems(screenkit::Destination destination);

@@ -5,8 +5,8 @@
 
 namespace analyses {
 
-/// The death needs analysis: how long the capital that the client leaves carries the family's income, and what more
-/// cover it takes.
+/// The death needs analysis: how long the capital that the client leaves provides the family's income, and how much
+/// additional cover is required.
 class frmNADeath : public CoverScreen {
     Q_OBJECT
 public:

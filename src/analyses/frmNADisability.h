@@ -5,8 +5,8 @@
 
 namespace analyses {
 
-/// The disability needs analysis: how long the capital of a client who is disabled today carries his income, and what
-/// more cover it takes.
+/// The disability needs analysis: how long the capital of a client who is disabled today provides the required income,
+/// and how much additional cover is required.
 class frmNADisability : public CoverScreen {
     Q_OBJECT
 public:

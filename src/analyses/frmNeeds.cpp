@@ -84,7 +84,7 @@ Item NeedsScreen::resultsPage() {
     m_lasts = answerLine("txtAns1", 60);
     m_needed = answerLine("txtAns2", 60);
     m_lasts->setAccessibleName("How long the capital lasts");
-    m_needed->setAccessibleName("What more it takes");
+    m_needed->setAccessibleName("Additional cover or excess");
     for (QLineEdit* line : std::initializer_list<QLineEdit*>{m_required, m_available, m_difference, m_capital,
                                                              m_expenses, m_netWorth, m_lasts, m_needed})
         showsCalculated(line);

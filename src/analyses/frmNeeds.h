@@ -9,20 +9,20 @@ class QTabWidget;
 
 namespace analyses {
 
-/// Names and texts in which the screens of the three large analyses differ.
+/// Names and texts in which the screens of the three needs analyses differ.
 struct NeedsWords {
-    QString required, available, difference; ///< of the first month
+    QString required, available, difference; ///< captions for the first month
     QString capital, expenses, netWorth;
     QString capitalField = "numTotAss", expensesField = "numTotLib", netWorthField = "numNetCap";
     QString graphButton = "cmdESTGraph";
     using Yearly = reports::frmGraph::Yearly;
     void (reports::frmGraph::*graph)(Yearly capital, Yearly interest, Yearly available, Yearly required, int count);
-    QString yearHead = " Year "; ///< of the amortisation's first column
-    bool premium = false;        ///< has a place for the premium calculator, greyed out until that exists
+    QString yearHead = " Year "; ///< head of the amortisation's first column
+    bool premium = false;        ///< has a tick box for the premium calculator, disabled until that exists
 };
 
-/// A needs analysis with a capital that carries an income: what the screens of all three share. The results on the last
-/// page, the amortisation, the graph, and the panel that prints; a screen of its own adds the pages before the last.
+/// The common screen of the three needs analyses: the results on the last page, the amortisation, the graph and the
+/// print panel. A derived screen adds the pages before the last.
 class NeedsScreen : public ItemisedScreen {
     Q_OBJECT
 protected:
@@ -30,27 +30,28 @@ protected:
 
     NeedsScreen(screenkit::Workplace& workplace, const QString& name, const QString& caption, std::int16_t& changed,
                 assessment::Analysis analysis, NeedsWords words);
-    /// The body: these pages, the results behind them, and the buttons. To be called once.
+    /// Builds the body: these pages, the results after them, and the buttons. Call it once.
     void build(Pages pages);
 
     screenkit::NumberField* amount(const QString& name, double& place);
     /// Name, identity number and date of birth.
     std::vector<screenkit::FormRow> clientRows(const QString& birthField);
-    /// The dates of the last and the next review, which no calculation takes.
+    /// The dates of the last and the next review, which no calculation uses.
     std::vector<screenkit::FormRow> reviewRows(const QString& lastField, double& last, const QString& nextField,
                                                double& next);
     screenkit::Item notesLine(std::string& notes);
 
     /// Runs the analysis on the record.
     virtual NeedsAnalysis analyse() = 0;
-    /// Before Calculate runs the analysis: what a record from elsewhere may hold otherwise.
+    /// Called by Calculate before the analysis: corrects what an old file or another program may have left in the
+    /// record.
     virtual void putRight() {}
-    /// Shows again what an analysis may have corrected.
+    /// Shows figures again that an analysis may have corrected.
     virtual void showCorrected() = 0;
-    /// Fills the report's tables; gives what it runs under.
+    /// Writes the report's tables; returns its definition and title.
     virtual NeedsReport feed(const NeedsAnalysis& analysis, const NeedsReportOptions& options) = 0;
-    /// Runs an analysis that writes into a group; marks the client changed if it did, since the file does not hold
-    /// that.
+    /// Runs an analysis that may write into a group; if it did, marks the client as changed, since the file has other
+    /// figures.
     template <class Group>
     NeedsAnalysis analysed(const Group& group, NeedsAnalysis (*calculation)(assessment::Assessment&)) {
         const Group before = group;

@@ -105,7 +105,7 @@ AmountReading readNumber(std::string_view digits, std::string_view typed, int pl
     const bool hasDigit = std::any_of(digits.begin(), digits.end(), isDigit);
     if (!hasDigit || !std::all_of(digits.begin(), digits.end(), isPartOfNumber)) {
         if (hasDigit && digits.find_first_of("+-*/()") != std::string_view::npos)
-            return refused("To work out a sum, put = in front of it.");
+            return refused("To calculate a sum, type = in front of it.");
         return refused(quoted(typed) + " can't be read as a figure.");
     }
     const auto figure = magnitude(digits, places);
@@ -138,7 +138,7 @@ public:
 
     AmountReading workOut() {
         const double figure = sum();
-        if (!m_rest.empty()) stop(quoted(m_typed) + " can't be worked out.");
+        if (!m_rest.empty()) stop(quoted(m_typed) + " can't be calculated.");
         if (!m_why.empty()) return refused(m_why);
         return {figure == 0 ? 0 : figure, {}};
     }
@@ -186,7 +186,7 @@ private:
         if (!m_rest.empty() && isRand(m_rest.front())) m_rest.remove_prefix(1);
         const auto end = std::find_if_not(m_rest.begin(), m_rest.end(), isPartOfNumber);
         const std::string_view digits(m_rest.begin(), end);
-        if (digits.empty()) return stop(quoted(m_typed) + " can't be worked out.");
+        if (digits.empty()) return stop(quoted(m_typed) + " can't be calculated.");
         m_rest.remove_prefix(digits.size());
         const AmountReading reading = readNumber(digits, digits, m_places);
         return reading.figure ? *reading.figure : stop(reading.why.substr(0, reading.why.find('\n')));
@@ -203,7 +203,7 @@ AmountReading readAmount(std::string_view typed, int places) {
     const std::string_view bare = withoutEnds(typed);
     if (bare.size() > longestText) return refused("The text is too long for a figure.");
     if (bare.find_first_of("\t\r\n") != std::string_view::npos)
-        return refused("These are several figures, and one goes here.");
+        return refused("This field takes one figure, not several.");
     const std::string text = plain(bare);
     if (text.empty()) return {0.0, {}};
     if (text.front() == '=') return Sum(std::string_view(text).substr(1), bare, places).workOut();

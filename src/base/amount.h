@@ -23,7 +23,7 @@ struct AmountReading {
 /// - A single comma separates thousands if one to three digits (other than a lone 0) stand before it and three after
 ///   it, and the field shows fewer than three places: "6,000" rand is 6000, "6,125" percent is 6.125.
 /// - Any other comma is the decimal sign, and so is every single point: "12,5", "0,125", "1.250" is 1.25.
-/// - Text that begins with = is a sum of + - * / and brackets, worked out in double without any rounding.
+/// - Text that begins with = is a sum of + - * / and brackets, calculated in double without any rounding.
 ///
 /// Refused, since the meaning is not certain: thousands that are not in threes ("1.2.3"), several lines or cells,
 /// letters ("1e6" too), an operator without =, % in a sum, division by 0, and a text of more than 200 characters.

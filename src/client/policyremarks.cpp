@@ -10,16 +10,16 @@ namespace {
 using assessment::Policy;
 
 // Short, to fit beside the values in the space that the fields leave.
-constexpr const char* noAge = "Counts nothing: no age";
-constexpr const char* noTick = "Counts nothing: no tick";
-constexpr const char* reportsOnly = "Counts nothing: reports only";
+constexpr const char* noAge = "Not counted: no age";
+constexpr const char* noTick = "Not counted: no tick";
+constexpr const char* reportsOnly = "Not counted: reports only";
 
 std::string atAge(double age) { return "Counts at " + base::formatNumber(age, "0") + ", after retirement"; }
 
 std::string onDeathBenefit(const Policy& policy) {
-    if (policy.DeathBenPerson != 0 && policy.DeathBenPerson != 1) return "Counts nothing: not for estate or spouse";
+    if (policy.DeathBenPerson != 0 && policy.DeathBenPerson != 1) return "Not counted: not for estate or spouse";
     if (!(policy.DeathBen - (policy.DeathBenAmtCeded + policy.DeathBenLoanAgainst) > 0))
-        return "Counts nothing: all ceded or lent against";
+        return "Not counted: all ceded or lent against";
     return {};
 }
 
@@ -27,7 +27,7 @@ std::string onCashValue(const Policy& policy, double retirement) {
     if (policy.DeathBenUseCashAtRet != 1) return noTick;
     if (policy.DeathBenCashValAge <= 0) return noAge;
     if (policy.DeathBenCashValAge > retirement) return atAge(policy.DeathBenCashValAge);
-    if (!(policy.DeathBen - policy.DeathBenCashVal > 0)) return "Counts nothing: not below the death benefit";
+    if (!(policy.DeathBen - policy.DeathBenCashVal > 0)) return "Not counted: not below the death benefit";
     return {};
 }
 
@@ -64,7 +64,7 @@ std::vector<PolicyRemark> policyRemarks(const Policy& policy, double ageOfRetire
     add("EndowEMV", policy.EndowEMV, onEndowment(policy, ageOfRetirement));
     add("InvBensCurVal", policy.InvBensCurVal, takenOnDisability ? "" : "No tick: counts on death only");
     add("InvBensCurValLoanAgainst", policy.InvBensCurValLoanAgainst,
-        takenOnDisability ? "" : "Loan counts nothing: no tick");
+        takenOnDisability ? "" : "Loan not counted: no tick");
     add("InvBensMatValLS", policy.InvBensMatValLS, policy.InvBensTakeFinValAtRet == 1 ? "" : noTick);
     return remarks;
 }

@@ -91,7 +91,7 @@ double shownMonthlyOnDeath(const assessment::Assessment& record) {
 }
 
 /// Sets a flag on or off; it stays unchanged if neither is asked for.
-void follow(std::int16_t& flag, bool on, bool off) {
+void setFlag(std::int16_t& flag, bool on, bool off) {
     if (on) flag = 1;
     if (!on && off) flag = 0;
 }
@@ -141,9 +141,9 @@ std::vector<ValuesAtRetirement> CalculatePolInv(assessment::Assessment& record) 
     }
     assessment::Itemised& flags = record.itemised;
     flags.RNAPoliciesItemise = atRetirement ? 1 : 0;
-    follow(flags.DTHLifeAssItemise, death > 0 || deathMonthly > 0, death == 0 && deathMonthly == 0);
-    follow(flags.DISALifeAssItemise, disability > 0 || disabilityMonthly > 0,
-           !(disability > 0) && disabilityMonthly == 0);
+    setFlag(flags.DTHLifeAssItemise, death > 0 || deathMonthly > 0, death == 0 && deathMonthly == 0);
+    setFlag(flags.DISALifeAssItemise, disability > 0 || disabilityMonthly > 0,
+            !(disability > 0) && disabilityMonthly == 0);
     flags.NARAPolicyIncomeItemise = pensions > 0 ? 1 : 0;
     base::keepFinite(record.PolicyMonthlyIncome, pensions);
     base::keepFinite(record.death.ANSAss5, std::floor(death));

@@ -57,7 +57,7 @@ std::vector<ClientLine> readRows(store::Statement rows) {
 bool isBetween(char c) { return std::string_view(" -/.()+").find(c) != std::string_view::npos; }
 
 /// Removes what stands between the digits of a number or the letters of initials.
-std::string closedUp(std::string_view text) {
+std::string withoutSeparators(std::string_view text) {
     std::string closed;
     std::ranges::copy_if(text, std::back_inserter(closed), [](char c) { return !isBetween(c); });
     return closed;
@@ -65,7 +65,7 @@ std::string closedUp(std::string_view text) {
 
 bool holds(const std::string& text, const std::string& word) {
     if (text.find(word) != std::string::npos) return true;
-    const std::string closed = closedUp(word);
+    const std::string closed = withoutSeparators(word);
     return !closed.empty() && closed.size() < word.size() && text.find(closed) != std::string::npos;
 }
 
@@ -117,7 +117,8 @@ ClientSearch::ClientSearch(const std::vector<ClientLine>& clients) {
     m_texts.reserve(clients.size());
     for (const ClientLine& client : clients)
         m_texts.push_back(base::folded(client.CLName + '\n' + client.Name + '\n' + client.Description + '\n' +
-                                       client.address + '\n' + client.numbers + '\n' + closedUp(client.numbers)));
+                                       client.address + '\n' + client.numbers + '\n' +
+                                       withoutSeparators(client.numbers)));
 }
 
 std::vector<std::size_t> ClientSearch::find(std::string_view words) const {

@@ -137,11 +137,11 @@ void ClientsScreen::take(std::vector<ClientLine> clients) {
 
 void ClientsScreen::sayWhyEmpty() {
     if (!m_trouble.isEmpty())
-        m_list->setEmptyText(tr("The clients could not be read.\n%1\n\nF5 reads them again.").arg(m_trouble));
+        m_list->setEmptyText(tr("The clients could not be read.\n%1\n\nPress F5 to try again.").arg(m_trouble));
     else if (m_clients.empty())
-        m_list->setEmptyText(tr("There are no clients in this file yet. File, New File records the first."));
+        m_list->setEmptyText(tr("There are no clients in this file yet. Choose File, New File to record the first."));
     else
-        m_list->setEmptyText(tr("No client has all of these words. Escape clears the search."));
+        m_list->setEmptyText(tr("No client has all of these words. Press Escape to clear the search."));
 }
 
 // ---- picking

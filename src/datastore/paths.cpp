@@ -46,9 +46,9 @@ std::optional<std::string> readLocation(const fs::path& programFolder) {
     try {
         return store::readFile(file);
     } catch (const store::Error& error) {
-        throw store::Error(error.kind(), error.file(), "The file that tells where your clients lie cannot be read.",
+        throw store::Error(error.kind(), error.file(), "The file with the path of your clients cannot be read.",
                            "Allow {name} in the folder {folder} to be read (its properties, \"Permissions\"), or, if "
-                           "your clients lie in that folder, remove {name}. Then start again.");
+                           "your clients are in that folder, delete {name}. Then start again.");
     }
 }
 
@@ -106,20 +106,18 @@ std::optional<std::string> parseDataPath(std::string_view text) {
 
 void requireUsableName(const fs::path& programFolder) {
     if (isUsable(programFolder / "Data.Mdb")) return;
-    throw store::Error(
-        store::Number::pathAccess, programFolder.string(),
-        "The name of the program folder, or of one that it lies in, has a quotation mark, a backslash or "
-        "a line break in it, so that the program would not find your clients again.",
-        "Nothing was written. Rename that folder, or move the program to another, and start again.");
+    throw store::Error(store::Number::pathAccess, programFolder.string(),
+                       "The path of the program folder contains a quotation mark, a backslash or a line break, so that "
+                       "the program would not find your clients again.",
+                       "Nothing was written. Rename that folder, or move the program to another one, and start again.");
 }
 
 void writeDataPath(const fs::path& programFolder, const fs::path& dataDbPath) {
     if (!isUsable(dataDbPath))
-        throw store::Error(
-            store::Number::pathAccess, dataDbPath.string(),
-            "The name of this file or of its folder has a quotation mark, a backslash or a line break in "
-            "it, which DataPath.txt cannot hold.",
-            "Rename the file or the folder, then try again.");
+        throw store::Error(store::Number::pathAccess, dataDbPath.string(),
+                           "The path of this file contains a quotation mark, a backslash or a line break, which "
+                           "DataPath.txt cannot hold.",
+                           "Rename the file or the folder, then try again.");
     std::string text = "\"" + dataDbPath.string() + "\"\r\n";
     if (!isSame(dataDbPath.parent_path(), programFolder)) text += "\"" + programFolder.string() + "\"\r\n";
     store::writeFile(programFolder / locationFile, text);
@@ -137,8 +135,8 @@ std::string copiedFolderNotice(const Paths& paths) {
     const fs::path own = ownDataDb(paths.programFolder);
     if (!isThere(own) || isSame(own, paths.DataDbPath) || !isWrittenForAnother(paths)) return {};
     return "The clients that you see are those of\n" + paths.DataDbPath.string() + "\nas DataPath.txt says.\n\n" +
-           "This folder has a client file of its own as well:\n" + own.string() +
-           "\nIt looks as if the folder had been copied from elsewhere. To work with its own file, close Marlowbeck, "
+           "This folder also has a client file of its own:\n" + own.string() +
+           "\nThis folder seems to be a copy of another one. To work with its own file, close Marlowbeck, "
            "delete DataPath.txt in the folder\n" +
            paths.programFolder.string() + "\nand start again.";
 }

@@ -45,7 +45,7 @@ void makePrivateFolder(const fs::path& folder) {
     if (::mkdir(folder.c_str(), 0700) == 0 || (errno == EEXIST && fs::is_directory(folder, ignored))) return;
     const bool denied = errno == EACCES || errno == EPERM || errno == EROFS;
     throw store::Error(denied ? store::Number::permissionDenied : store::Number::pathNotFound, folder.string(),
-                       std::string("This folder for your databases cannot be made: ") + std::strerror(errno) + ".");
+                       std::string("This folder for your databases cannot be created: ") + std::strerror(errno) + ".");
 }
 
 void seedDatabase(const fs::path& installed, const fs::path& folder) {
@@ -60,14 +60,14 @@ void refresh(const fs::path& installed, const fs::path& folder) {
 }
 
 /// True for report definitions and help pages, which every upgrade replaces.
-bool isThePackages(const fs::path& file) { return file.extension() == ".rpt" || file.extension() == ".md"; }
+bool belongsToPackage(const fs::path& file) { return file.extension() == ".rpt" || file.extension() == ".md"; }
 
 void seed(const fs::path& installed, const fs::path& folder) {
     makePrivateFolder(folder);
     for (const char* database : databases)
         seedDatabase(installed / database, folder);
     for (const auto& entry : fs::directory_iterator(installed))
-        if (isThePackages(entry.path())) refresh(entry.path(), folder);
+        if (belongsToPackage(entry.path())) refresh(entry.path(), folder);
 }
 
 } // namespace

@@ -69,7 +69,7 @@ private:
             if (!rowid && assessment::firstRow(m_database, table))
                 throw store::Error(store::Number::noCurrentRecord, m_database.path().string(),
                                    "The client is no longer in the table " + table.name() + ".",
-                                   "Use Save As to save the client anew.");
+                                   "Use Save As to save the client as a new one.");
         }
         put(table, m_record, rowid);
     }

@@ -16,7 +16,7 @@ store::Statement firstRow(store::Database& database, std::string_view table) {
 
 [[noreturn]] void emptyTable(const store::Database& database, std::string_view table) {
     throw store::Error(store::Number::noCurrentRecord, database.path().string(),
-                       "The table \"" + std::string(table) + "\" must have a row and is empty.");
+                       "The table \"" + std::string(table) + "\" is empty, but must have a row.");
 }
 
 /// Writes the fields into the first row; false if there is no row.
@@ -47,8 +47,8 @@ void SettingsRow::refuse(store::Number number, std::string_view field, const std
     throw store::Error(number, m_file,
                        "The field \"" + std::string(field) + "\" of the table \"" + m_table + "\" " + why,
                        "Close Marlowbeck and copy {name} from your last backup into the folder {folder}. Without a "
-                       "backup move {name} away from there and install Marlowbeck again: the settings are then those "
-                       "that it comes with, and clients are kept.");
+                       "backup, move {name} to another folder and install Marlowbeck again: you then have its original "
+                       "settings, and your clients are kept.");
 }
 
 double SettingsRow::number(std::string_view field) const {

@@ -34,7 +34,7 @@ bool isMissing(const fs::path& path) {
 }
 
 /// Advice for a missing folder. The start ends there, so the user can only correct the path by hand.
-std::string wayToThePath(const Paths& paths) {
+std::string adviceOnPath(const Paths& paths) {
     std::string advice = "Check that the disk or network share with the folder {folder} is connected, and that "
                          "DataPath.txt in the folder " +
                          paths.programFolder.string() + " names the right file, then start again.";
@@ -55,7 +55,7 @@ void provideClientDb(const Paths& paths, const Notice& notice) {
         if (!fs::exists(path, ignored) && isMissing(path)) createClientDb(path, notice);
     } catch (const store::Error& error) {
         if (!error.is(store::Number::badPath)) throw;
-        throw store::Error(error.kind(), error.file(), error.why(), wayToThePath(paths));
+        throw store::Error(error.kind(), error.file(), error.why(), adviceOnPath(paths));
     }
 }
 

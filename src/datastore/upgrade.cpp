@@ -60,7 +60,7 @@ store::Value versionCell(store::Database& database) {
         store::Statement select = database.prepare("SELECT [UpDateDB] FROM [DataSetup] ORDER BY rowid LIMIT 1");
         if (!select.step())
             throw store::Error(store::Number::noCurrentRecord, database.path().string(),
-                               "The file does not tell its version.");
+                               "The file does not contain its version.");
         return select.column(0);
     } catch (const store::Error& error) {
         if (!error.is(store::Number::noSuchTableInQuery)) throw;
@@ -74,7 +74,7 @@ double readVersion(store::Database& database) {
     const store::Value cell = versionCell(database);
     if (const double* version = std::get_if<double>(&cell)) return *version;
     throw store::Error(store::isNull(cell) ? store::Number::null : store::Number::wrongType, database.path().string(),
-                       "The file does not tell its version.");
+                       "The file does not contain its version.");
 }
 
 void UpgradeHeadFoot(store::Database& database) {

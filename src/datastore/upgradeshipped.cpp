@@ -25,7 +25,7 @@ std::ptrdiff_t tablesOf(std::string_view source) {
 
 /// True if a database has exactly the tables of its source. SQLite keeps each definition letter for letter, so it can
 /// be looked up in the source; an added or dropped column changes its text.
-bool isOf(store::Database& database, std::string_view source) {
+bool matchesSource(store::Database& database, std::string_view source) {
     store::Statement tables = database.prepare("SELECT sql FROM sqlite_master WHERE type='table'");
     std::ptrdiff_t count = 0;
     for (; tables.step(); ++count)
@@ -36,7 +36,7 @@ bool isOf(store::Database& database, std::string_view source) {
 bool isUpToDate(const fs::path& printDbPath) {
     try {
         store::Database print(printDbPath);
-        return isOf(print, printSource());
+        return matchesSource(print, printSource());
     } catch (const store::Error& error) {
         if (error.is(store::Number::fileNotFound)) return true;
         if (error.is(store::Number::notADatabase) || error.is(store::Number::corrupt)) return false;
@@ -119,7 +119,7 @@ void renewPrintDb(store::Database& clients, const fs::path& printDbPath) {
 }
 
 void completeSettings(store::Database& settings) {
-    if (isOf(settings, defaultSource())) return;
+    if (matchesSource(settings, defaultSource())) return;
     store::Database shipped{store::InMemory()};
     shipped.execute(defaultSource());
     store::Transaction transaction(settings);

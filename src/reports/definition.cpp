@@ -83,7 +83,7 @@ private:
     void startElement() {
         const QString name = m_xml.name().toString();
         if (!knownElements().contains(name))
-            failAt(m_name, m_xml.lineNumber(), QString("A report knows no <%1>.").arg(name));
+            failAt(m_name, m_xml.lineNumber(), QString("<%1> is not allowed in a report.").arg(name));
         Node element = node(Node::Kind::element, name);
         for (const QXmlStreamAttribute& attribute : m_xml.attributes())
             element.attributes.insert(attribute.name().toString(), attribute.value().toString());
@@ -111,7 +111,7 @@ private:
             if (start < 0) return;
             line += QStringView(text).mid(from, start - from).count('\n');
             const qsizetype end = text.indexOf("}}", start);
-            if (end < 0) failAt(m_name, line, "A field is opened with {{ and never closed with }}.");
+            if (end < 0) failAt(m_name, line, "A field is opened with {{ but not closed with }}.");
             readTag(text.mid(start + 2, end - start - 2), line);
             line += QStringView(text).mid(start, end - start).count('\n');
             from = end + 2;
@@ -153,7 +153,7 @@ private:
     void closeSection(const QString& name, qint64 line) {
         const Node& section = *m_open.back();
         if (section.kind == Node::Kind::element || section.kind == Node::Kind::text)
-            failAt(m_name, line, QString("{{/%1}} closes no section that is open here.").arg(name));
+            failAt(m_name, line, QString("{{/%1}} has no open section to close here.").arg(name));
         if (section.name.compare(name, Qt::CaseInsensitive) != 0) failUnclosed();
         m_open.pop_back();
     }
@@ -161,7 +161,7 @@ private:
     void addField(const QString& tag, qint64 line) {
         const qsizetype colon = tag.indexOf(':');
         Node field = node(Node::Kind::field, tag.left(colon < 0 ? tag.size() : colon).trimmed());
-        if (field.name.isEmpty()) failAt(m_name, line, "A field without a name.");
+        if (field.name.isEmpty()) failAt(m_name, line, "A field has no name.");
         if (colon >= 0) field.mask = tag.mid(colon + 1);
         field.line = line;
         m_open.back()->children.push_back(std::move(field));
@@ -212,7 +212,7 @@ void Reader::addPiece(const QString& name, qint64 line) {
     if (!std::filesystem::exists(piece))
         failAt(m_name, line, QString("There is no piece \"%1\": %2.rpt is missing beside it.").arg(name, name));
     if (m_openFiles.contains(QString::fromStdString(piece.string())))
-        failAt(m_name, line, QString("The piece \"%1\" holds itself.").arg(name));
+        failAt(m_name, line, QString("The piece \"%1\" includes itself.").arg(name));
     Node root = Reader(piece, m_openFiles).read();
     for (Node& child : printedNodes(root))
         m_open.back()->children.push_back(std::move(child));
@@ -222,7 +222,7 @@ void Reader::addPiece(const QString& name, qint64 line) {
 
 void failAt(const QString& file, qint64 line, const QString& why, store::Number number) {
     throw store::Error(number, file.toStdString(), QString("Line %1: %2").arg(line).arg(why).toStdString(),
-                       "Put the report definition right, or install the program again.");
+                       "Correct the report definition, or install the program again.");
 }
 
 Definition readDefinition(const std::filesystem::path& file) {

@@ -60,11 +60,11 @@ Align alignment(const Node& node, Align otherwise) {
     if (align == "left") return Align::left;
     if (align == "right") return Align::right;
     if (align == "center") return Align::centre;
-    failAt(node.file, node.line, QString("\"%1\" is no alignment: left, center or right.").arg(align));
+    failAt(node.file, node.line, QString("\"%1\" is not an alignment: use left, center or right.").arg(align));
 }
 
 /// Shares that add up to 1; columns without a width divide what is left.
-std::vector<double> evened(std::vector<double> widths, std::size_t count) {
+std::vector<double> completeShares(std::vector<double> widths, std::size_t count) {
     widths.resize(count, 0);
     double given = 0;
     for (const double width : widths)
@@ -179,7 +179,7 @@ private:
 
     Block block(const Node& node, const Scope& scope) const {
         Block made;
-        if (node.kind != Node::Kind::element) failAt(node.file, node.line, "Text must stand in a paragraph or a cell.");
+        if (node.kind != Node::Kind::element) failAt(node.file, node.line, "Text must be in a paragraph or a cell.");
         if (node.name == "div") {
             fillColumns(made, node, scope);
         } else {
@@ -199,20 +199,20 @@ private:
         if (styled == "p.answer") return Block::Kind::answer;
         if (styled == "p.note") return Block::Kind::note;
         if (styled == "hr") return Block::Kind::rule;
-        failAt(node.file, node.line, QString("<%1> has no place here.").arg(styled));
+        failAt(node.file, node.line, QString("<%1> is not allowed here.").arg(styled));
     }
 
     void fillColumns(Block& made, const Node& node, const Scope& scope) const {
         made.kind = Block::Kind::columns;
         visit(node.children, scope, [&](const Node& child, const Scope& at) {
             if (child.kind == Node::Kind::text && child.name.trimmed().isEmpty()) return;
-            if (child.name != "div") failAt(child.file, child.line, "A row of columns holds nothing but <div>.");
+            if (child.name != "div") failAt(child.file, child.line, "A row of columns may contain only <div>.");
             std::vector<Block> column = flow(child.children, at);
             if (column.empty()) return; // the other columns get its space
             made.widths.push_back(share(child));
             made.columns.push_back(std::move(column));
         });
-        made.widths = evened(made.widths, made.columns.size());
+        made.widths = completeShares(made.widths, made.columns.size());
     }
 
     /// One table, or several if rows of the body begin another.
@@ -258,24 +258,24 @@ private:
                     for (const Row& row : *rows)
                         count = std::max(count, row.cells.size());
             for (Table& table : tables)
-                table.widths = evened(widths, count);
+                table.widths = completeShares(widths, count);
             return std::move(tables);
         }
     };
 
     void addRow(std::vector<Row>& rows, const Node& node, const Scope& scope, const std::vector<Align>& aligns) const {
-        if (node.name != "tr") failAt(node.file, node.line, "A table holds nothing but rows.");
+        if (node.name != "tr") failAt(node.file, node.line, "A table may contain only rows.");
         Row& row = rows.emplace_back();
         const QString role = node.attribute("class");
         row.result = role == "result";
         row.total = role == "total";
         if (!role.isEmpty() && !row.result && !row.total)
-            failAt(node.file, node.line, QString("\"%1\" is no class of a row: result or total.").arg(role));
+            failAt(node.file, node.line, QString("\"%1\" is not a class of a row: use result or total.").arg(role));
         std::size_t column = 0;
         visit(node.children, scope, [&](const Node& child, const Scope& at) {
             if (child.kind == Node::Kind::text && child.name.trimmed().isEmpty()) return;
             if (child.name != "td" && child.name != "th")
-                failAt(child.file, child.line, "A row holds nothing but cells.");
+                failAt(child.file, child.line, "A row may contain only cells.");
             row.cells.push_back(cell(child, at, column < aligns.size() ? aligns[column] : Align::left));
             column += static_cast<std::size_t>(row.cells.back().columns);
         });
@@ -342,7 +342,7 @@ private:
                 addRuns(made, child.children, at, run);
                 return;
             } else {
-                failAt(child.file, child.line, QString("<%1> cannot stand in a line of text.").arg(child.name));
+                failAt(child.file, child.line, QString("<%1> is not allowed in a line of text.").arg(child.name));
             }
             if (run.text.isEmpty()) return;
             const bool sameFace = !made.empty() && made.back().bold == run.bold && made.back().italic == run.italic;

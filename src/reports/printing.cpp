@@ -91,7 +91,7 @@ bool PrinterSession::send(const Report& report) {
         }
         if (!painter.end() || printer().printerState() == QPrinter::Error)
             throw store::Error(store::Number::deviceError, printer().printerName().toStdString(),
-                               "The printer broke off.", "Check the printer and try again.");
+                               "The printer stopped before the end.", "Check the printer and try again.");
     });
 }
 

@@ -60,7 +60,7 @@ DateField::DateField(const QString& name, Bound<double> place, Desk& desk, DateK
         m_kind.noDate.text = tr("The date entered is in the wrong format\nPlease use the dd/mm/yyyy format.");
     m_kind.noDate.rings = true;
     setPlaceholderText("dd/mm/yyyy");
-    setToolTip(tr("T is today, + and - a day on and back, F4 the calendar"));
+    setToolTip(tr("T enters today, + and - move by a day, F4 opens a calendar"));
     QAction* calendar = addAction(icon("calendar"), TrailingPosition);
     calendar->setText(tr("Calendar"));
     connect(calendar, &QAction::triggered, this, &DateField::showCalendar);

@@ -54,8 +54,8 @@ void Grid::setSortable(bool sortable) {
     horizontalHeader()->setSectionsClickable(sortable);
     horizontalHeader()->setSortIndicatorShown(sortable);
     markHead(-1, Qt::AscendingOrder);
-    horizontalHeader()->setToolTip(sortable ? tr("A click sorts by this column, a second one the other way round. By "
-                                                 "the keyboard: Ctrl+1 for the first column, and so on.")
+    horizontalHeader()->setToolTip(sortable ? tr("Click to sort by this column, again to reverse the order. By "
+                                                 "keyboard: Ctrl+1 for the first column, and so on.")
                                             : QString());
 }
 

@@ -196,7 +196,7 @@ void setStale(QLineEdit* result, bool stale) {
     QFont font = result->font();
     font.setItalic(stale);
     result->setFont(font);
-    say(result, stale ? QObject::tr("Out of date: Calculate works it out again") : QString());
+    say(result, stale ? QObject::tr("Out of date: press Calculate") : QString());
 }
 
 void setMarked(QLineEdit* field, const QString& why) {

@@ -50,7 +50,7 @@ void frmBrowser::buildSearch() {
     m_search->setObjectName("txtSearch");
     m_search->setClearButtonEnabled(true);
     m_search->setMinimumWidth(look::fieldSize(m_search, 30).width());
-    m_search->setToolTip(tr("Enter: the next place, Shift+Enter: the one before, Escape: clear"));
+    m_search->setToolTip(tr("Enter: next match, Shift+Enter: previous match, Escape: clear"));
     m_search->installEventFilter(this);
     m_found->setObjectName("lblFound");
     connect(m_search, &QLineEdit::textChanged, this, &frmBrowser::search);

@@ -62,7 +62,7 @@ MDIForm1::MDIForm1(assessment::Assessment& record, datastore::Paths& paths, scre
     connect(m_area, &QMdiArea::subWindowActivated, this, &MDIForm1::activated);
     reports.setHelp([this] {
         openGuide("Reports and export");
-        activateWindow(); // the preview lies before the main window
+        activateWindow(); // the preview is in front of the main window
     });
     connect(qApp, &QGuiApplication::commitDataRequest, this, &MDIForm1::sessionEnds, Qt::DirectConnection);
 }

@@ -120,7 +120,7 @@ void MDIForm1::openRecent(const RecentClient& client) {
             : tr("Client %1 is no longer in the file.").arg(client.DCLNO);
     m_work.desk.tell(BoxStyle::information,
                      tr("%1 was not opened.\n%2\nThe File menu no longer lists this client; Browse Files finds every "
-                        "client that the file holds.")
+                        "client in the file.")
                          .arg(client.name, change),
                      "Marlowbeck");
 }

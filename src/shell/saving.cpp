@@ -29,8 +29,8 @@ void offerSaveAs(Workplace& work, const store::Error& error) {
 
 /// Yes loses what another person has entered, so it is never the default button.
 bool mayOverwrite(Workplace& work, const store::Error& error) {
-    const QString question = QObject::tr("Do you want to save what is on your screen over those changes ? "
-                                         "To keep both answer No and use Save As.");
+    const QString question =
+        QObject::tr("Do you want to overwrite those changes with your own ? To keep both, answer No and use Save As.");
     return isAgreedTo(work, error, question, "Client Changed in the File !", Answer::no);
 }
 

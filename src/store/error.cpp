@@ -18,15 +18,15 @@ struct Usual {
 // The advice must be right both if the program goes on and if it ends after this message.
 constexpr const char* copyBackup =
     "Close Marlowbeck, rename {name} in the folder {folder}, copy {name} from your last backup there, and start again. "
-    "Keep the renamed file: it may be of use to whoever helps you.";
+    "Keep the renamed file: it may help to recover your data.";
 constexpr const char* reinstall =
     "The file {name} may be of another version. Install Marlowbeck again; clients and settings are kept.";
 constexpr const char* makeRoom =
     "Delete what you no longer need from the disk that holds the folder {folder}, or empty "
-    "the waste basket, then try again. What was on the disk before is unchanged.";
+    "the waste basket, then try again. The files on the disk are unchanged.";
 constexpr const char* askOwner =
     "Allow the file {name} and the folder {folder} to be read and written (their "
-    "properties, \"Permissions\"), or ask whoever looks after this computer, then try again.";
+    "properties, \"Permissions\"), or ask the person who looks after this computer, then try again.";
 constexpr const char* checkPath =
     "Check that the disk or network share with the folder {folder} is connected, and that "
     "DataPath.txt in the program folder names the right file, then try again.";
@@ -34,8 +34,8 @@ constexpr const char* report = "Try again. If it happens a second time, note wha
 
 constexpr Usual usual[] = {
     {Number::fileNotFound53, "The file was not found.",
-     "Check its name and its folder, then try again. A file that belongs to Marlowbeck comes back when it is installed "
-     "again."},
+     "Check its name and its folder, then try again. If it belongs to Marlowbeck, install Marlowbeck again to restore "
+     "it."},
     {Number::deviceError, "The disk could not be read or written.",
      "Check that the disk or network share with the folder {folder} is connected and has room, then try again."},
     {Number::fileExists58, "There is a file of this name already.", "Choose another name, or move that file away."},
@@ -49,23 +49,23 @@ constexpr Usual usual[] = {
      "Check that the disk or network share is connected and that the name of the folder {folder} is right."},
     {Number::null, "A field that must have a value is empty.", copyBackup},
     {Number::invalidFileFormat, "The file is not what the program expects.", reinstall},
-    {Number::reserved, "The database could not do what was asked of it.", report},
+    {Number::reserved, "The database could not carry out the operation.", report},
     {Number::tableExists, "The table exists already.", "Nothing was changed; the table can be used as it is."},
     {Number::noSuchTable, "A table that the program needs is missing in this file.", reinstall},
     {Number::noCurrentRecord, "A table that must have a row is empty.", copyBackup},
     {Number::fileNotFound, "The database was not found.",
      "Check that the disk or network share with the folder {folder} is connected. If the file is lost, copy {name} "
      "from "
-     "your last backup into that folder, then try again; what belongs to Marlowbeck itself, such as Default.Mdb and "
-     "Print.mdb, also comes back when it is installed again."},
-    {Number::diskFull, "The disk is full, or the database may grow no further.", makeRoom},
+     "your last backup into that folder, then try again; you can also restore Marlowbeck's own files, such as "
+     "Default.Mdb and Print.mdb, by installing it again."},
+    {Number::diskFull, "The disk is full, or the database cannot grow any further.", makeRoom},
     {Number::readOnly, "The database is read-only, so nothing can be saved in it.",
      "Allow {name} in the folder {folder} to be written (its properties, \"Permissions\"), then try again."},
     {Number::badPath, "The folder of the database was not found.", checkPath},
-    {Number::corrupt, "The database is damaged or was cut short.", copyBackup},
+    {Number::corrupt, "The database is damaged or incomplete.", copyBackup},
     {Number::heldByAnother, "Another program is using the database.",
      "Close the other program, or wait until it is done, and try again. Nothing was changed."},
-    {Number::cannotOpen, "The database, or the folder that it lies in, cannot be opened for this.", askOwner},
+    {Number::cannotOpen, "The database or its folder cannot be opened.", askOwner},
     {Number::noSuchTableInQuery, "A table that the program needs is missing in this file.", reinstall},
     {Number::textTooLong, "The field is too small to accept the amount of data you attempted to add.",
      "Shorten the text and try again."},
@@ -78,8 +78,7 @@ constexpr Usual usual[] = {
     {Number::noSuchField, "A field that the program needs is missing in this file.", reinstall},
     {Number::indexExists, "The index exists already.", "Nothing was changed; the index can be used as it is."},
     {Number::notADatabase, "This file is not a database.", copyBackup},
-    {Number::wrongType, "A value does not fit the kind of field that it is meant for.",
-     "Check the figures on the screen and try again."},
+    {Number::wrongType, "A value does not fit its field.", "Check the figures on the screen and try again."},
 };
 
 const Usual& usualFor(Number number) {

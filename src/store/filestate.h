@@ -5,7 +5,7 @@
 namespace store {
 
 /// Shows whether a database file was written to or replaced since it was examined: its place on the disk, its time and
-/// size, and the change counter that each writer raises in its header. A default one stands for no file and equals no
+/// size, and the change counter that each writer raises in its header. A default one means no file and equals no
 /// examined state.
 struct FileState {
     std::uint64_t device = 0;

@@ -32,9 +32,9 @@ std::string quoted(std::string_view field) { return "\"" + std::string(field) + 
 
 double storedNumber(double number, Type type, std::string_view file, std::string_view field) {
     if (!std::isfinite(number))
-        wrongType(file, field, " was given a result that is no number.",
-                  "Nothing was saved. Open the screen that works this figure out, change what it is worked out from, "
-                  "calculate and save again.");
+        wrongType(file, field, " was given a result that is not a number.",
+                  "Nothing was saved. Open the screen that calculates this figure, change its inputs, calculate and "
+                  "save again.");
     switch (type) {
     case Type::Boolean: return number != 0 ? 1 : 0;
     case Type::Integer: {

@@ -12,40 +12,40 @@ using assessment::Policy;
 
 struct Case {
     Policy policy;
-    std::string remarks; ///< column and text, joined
+    std::string remarks; ///< column and text
 };
 
-// Of a client who retires at 60.
+// For a client who retires at 60.
 const Case cases[] = {
     {{}, ""},
     {{.DeathBen = 100}, ""},
     {{.DeathBen = 100, .DeathBenPerson = 1}, ""},
-    {{.DeathBen = 100, .DeathBenPerson = 3}, "DeathBen Counts nothing: not for estate or spouse"},
-    {{.DeathBen = 100, .DeathBenAmtCeded = 100}, "DeathBen Counts nothing: all ceded or lent against"},
+    {{.DeathBen = 100, .DeathBenPerson = 3}, "DeathBen Not counted: not for estate or spouse"},
+    {{.DeathBen = 100, .DeathBenAmtCeded = 100}, "DeathBen Not counted: all ceded or lent against"},
     {{.DeathBen = 100, .DeathBenLoanAgainst = 39.99, .DeathBenAmtCeded = 60}, ""},
     {{.DeathBenSurrVal = 1, .TraumlLumpSum = 2, .TraumMonthly = 3},
-     "DeathBenSurrVal Counts nothing: reports only|TraumlLumpSum Counts nothing: reports only|"
-     "TraumMonthly Counts nothing: reports only"},
+     "DeathBenSurrVal Not counted: reports only|TraumlLumpSum Not counted: reports only|"
+     "TraumMonthly Not counted: reports only"},
     {{.DeathBenMonthly = 1, .DeathBenYears = 1, .IncProMonthly = 1},
      "IncProMonthly 0 years: counts in the first year only"},
     {{.DeathBenMonthly = 1, .DisabilMonthly = 1, .RBMonAvaible = 1},
      "DeathBenMonthly 0 years: counts in the first year only"},
-    {{.DeathBen = 100, .DeathBenCashVal = 50, .DeathBenCashValAge = 55}, "DeathBenCashVal Counts nothing: no tick"},
-    {{.DeathBen = 100, .DeathBenCashVal = 50, .DeathBenUseCashAtRet = 1}, "DeathBenCashVal Counts nothing: no age"},
+    {{.DeathBen = 100, .DeathBenCashVal = 50, .DeathBenCashValAge = 55}, "DeathBenCashVal Not counted: no tick"},
+    {{.DeathBen = 100, .DeathBenCashVal = 50, .DeathBenUseCashAtRet = 1}, "DeathBenCashVal Not counted: no age"},
     {{.DeathBen = 50, .DeathBenCashVal = 50, .DeathBenCashValAge = 60, .DeathBenUseCashAtRet = 1},
-     "DeathBenCashVal Counts nothing: not below the death benefit"},
+     "DeathBenCashVal Not counted: not below the death benefit"},
     {{.DeathBen = 51, .DeathBenCashVal = 50, .DeathBenCashValAge = 60, .DeathBenUseCashAtRet = 1}, ""},
     {{.DeathBenCashVal = 50, .DeathBenCashValAge = 61, .DeathBenUseCashAtRet = 1},
      "DeathBenCashVal Counts at 61, after retirement"},
     {{.RBEMV = 1, .RBPenLump = 1, .RBPenLumpAge = 60, .RBProvFLump = 1, .RBProvFLumpAge = 65},
-     "RBEMV Counts nothing: no age|RBProvFLump Counts at 65, after retirement"},
-    {{.EndowEMV = 1, .UseEndowEMVAtRet = 1}, "EndowEMV Counts nothing: no age"},
-    {{.EndowEMV = 1, .EndowEMVAge = 60}, "EndowEMV Counts nothing: no tick"},
+     "RBEMV Not counted: no age|RBProvFLump Counts at 65, after retirement"},
+    {{.EndowEMV = 1, .UseEndowEMVAtRet = 1}, "EndowEMV Not counted: no age"},
+    {{.EndowEMV = 1, .EndowEMVAge = 60}, "EndowEMV Not counted: no tick"},
     {{.EndowEMV = 1, .EndowEMVAge = 70}, "EndowEMV Counts at 70, after retirement"},
-    {{.InvBensMatValLS = 1, .InvBensMatValLSAtAge = 50}, "InvBensMatValLS Counts nothing: no tick"},
+    {{.InvBensMatValLS = 1, .InvBensMatValLSAtAge = 50}, "InvBensMatValLS Not counted: no tick"},
     {{.InvBensTakeFinValAtRet = 1, .InvBensMatValLS = 1}, ""},
     {{.InvBensCurVal = 2, .InvBensCurValLoanAgainst = 1},
-     "InvBensCurVal No tick: counts on death only|InvBensCurValLoanAgainst Loan counts nothing: no tick"},
+     "InvBensCurVal No tick: counts on death only|InvBensCurValLoanAgainst Loan not counted: no tick"},
     {{.InvBensCurVal = 2, .InvBensCurValLoanAgainst = 1, .InvBensTakeAtDisa = 1}, ""},
 };
 
@@ -56,7 +56,8 @@ TEST(PolicyRemarks, SayOfEachValueWhatTheAnalysesMakeOfIt) {
         for (const client::PolicyRemark& remark : client::policyRemarks(policy, 60))
             said += (said.empty() ? "" : "|") + std::string(remark.column) + " " + remark.text;
         EXPECT_EQ(said, each.remarks);
-        // A value at retirement that the screen shows as 0 is explained, and one that counts is not called nothing.
+        // A value at retirement that the screen shows as 0 has an explanation, and a value that counts is never said
+        // not to.
         if (policy.RBPenLump == 0 &&
             policy.DeathBenCashVal + policy.RBEMV + policy.EndowEMV + policy.InvBensMatValLS > 0) {
             EXPECT_EQ(client::valuesAtRetirement(policy, 60).capital() > 0, said.empty()) << each.remarks;

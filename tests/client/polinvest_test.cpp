@@ -16,7 +16,7 @@ using assessment::Policy;
 using screenkit::Answer;
 using shelltest::RunningProgram;
 
-/// The screen in front, on a client with as many records, typed 1, 2, 3, ...
+/// The screen in front, for a client with this many records, whose types are 1, 2, 3, ...
 class PolInvest : public testing::Test {
 protected:
     void open(std::size_t records = 1) {
@@ -36,7 +36,7 @@ protected:
     RunningProgram run;
 };
 
-/// Ticks; paid up last, since it locks another.
+/// The tick boxes; paid up is last, since it locks other fields.
 const std::vector<std::string> ticks{"WoP",
                                      "PremInvAmtMonthlyCPI",
                                      "DeathBenUseCashAtRet",
@@ -45,7 +45,7 @@ const std::vector<std::string> ticks{"WoP",
                                      "InvBensTakeFinValAtRet",
                                      "PaidUp"};
 
-/// Walks the columns of the schedule: what each control is named, what is typed into it and what its record then holds.
+/// Goes through the columns of the schedule: the control's name, the text to type, and the record's value after that.
 struct Typed {
     const assessment::FieldLine* line;
     QString control, text;
@@ -81,7 +81,7 @@ TEST_F(PolInvest, EveryControlHoldsItsFieldOnScreenInTheRecordAndInTheFile) {
     EXPECT_EQ(changed(), 0);
     run.click("cmdAdd");
     EXPECT_EQ(RunningProgram::focused(), "txtPolInvType");
-    run.click("optDeathBen(3)"); // opens the text that goes with it
+    run.click("optDeathBen(3)"); // enables its text field
     auto controls = allControls();
     std::erase_if(controls,
                   [&](const Typed& each) { return run.front()->findChild<QWidget*>(each.control) == nullptr; });
@@ -98,7 +98,7 @@ TEST_F(PolInvest, EveryControlHoldsItsFieldOnScreenInTheRecordAndInTheFile) {
         EXPECT_EQ(held.DeathBenPerson, 3);
     };
     expectHeld(policy(2));
-    EXPECT_EQ(policy(1).PolInvType, "1"); // and nothing of it went into another record
+    EXPECT_EQ(policy(1).PolInvType, "1"); // no other record was changed
     EXPECT_EQ(policy(1).DeathBen + policy(1).InvBensMatValLSEscAt, 0);
     EXPECT_EQ(changed(), 1);
 
@@ -121,11 +121,11 @@ TEST_F(PolInvest, RecordsAreWalkedAddedAndDeletedInTheirOrder) {
         {"cmdForward", {}, "Num. 3 of 3", "1 2 3 ", true, false},
         {"cmdDelete", no, "Num. 3 of 3", "1 2 3 ", true, false},
         {"cmdBack", {}, "Num. 2 of 3", "1 2 3 ", true, true},
-        {"cmdDelete", yes, "Num. 2 of 2", "1 3 ", true, false}, // the record that takes its place
+        {"cmdDelete", yes, "Num. 2 of 2", "1 3 ", true, false}, // the record that follows the deleted one
         {"cmdDelete", yes, "Num. 1 of 1", "1 ", false, false},
         {"cmdAdd", {}, "Num. 2 of 2", "1  ", true, false},
         {"cmdDelete", yes, "Num. 1 of 1", "1 ", false, false},
-        {"cmdDelete", yes, "Num. 1 of 1", " ", false, false}, // the only one is blanked
+        {"cmdDelete", yes, "Num. 1 of 1", " ", false, false}, // a single record is blanked
     };
     open(3);
     EXPECT_EQ(run.front()->windowTitle(), "Policies & Investments. : Num. 1 of 3");
@@ -143,8 +143,8 @@ TEST_F(PolInvest, RecordsAreWalkedAddedAndDeletedInTheirOrder) {
     EXPECT_EQ(run.desk.last().defaultAnswer, Answer::no);
 }
 
-// Space pressed once too often at the end must not reach the button beside it, which adds a record.
-TEST_F(PolInvest, AtTheEndTheFocusGoesToTheWayBack) {
+// Pressing Space once too often at the end must not press the button beside it, which adds a record.
+TEST_F(PolInvest, AtTheEndTheFocusGoesToTheOppositeButton) {
     open(2);
     run.control("cmdForward")->setFocus(Qt::TabFocusReason);
     run.key(Qt::Key_Space);
@@ -170,7 +170,7 @@ TEST_F(PolInvest, LimitsHoldTheUserWithAMessageAndKeepWhatWasTyped) {
         EXPECT_EQ(run.record().CurPolicy, 1);
         run.type(control, allowed);
     }
-    run.type("numPremInvAmtMonthlyAnnEsc", "7.5"); // the file keeps whole percents: better seen now than after a load
+    run.type("numPremInvAmtMonthlyAnnEsc", "7.5"); // the file stores whole percents, so the screen shows one at once
     EXPECT_EQ(run.shown("numPremInvAmtMonthlyAnnEsc"), "8");
 }
 
@@ -208,13 +208,13 @@ TEST_F(PolInvest, CalculateFoldsTheScheduleAndSettlesALoanAgainstACession) {
     policy(2).InvBensMatValLSAtAge = 55;
     run.menu("mnuPolInvests");
     EXPECT_EQ(run.shown("numRBEMVAtRet"), "550.00"); // one year lies between 53 and 55
-    EXPECT_EQ(run.record().death.ANSAss5, 0);        // to look is not to change
+    EXPECT_EQ(run.record().death.ANSAss5, 0);        // looking at a record changes nothing
     EXPECT_EQ(changed(), 0);
     run.type("numRBEMV", "1000");
     EXPECT_EQ(run.shown("numRBEMVAtRet"), "1 100.00");
     run.click("cmdForward");
     run.expectShown("numRBEMVAtRet 0.00, numInvBensAtRet 300.75");
-    run.click("cmdCalculatePolInv"); // the conflict stands on another record
+    run.click("cmdCalculatePolInv"); // the conflict is on another record
     run.click("cmdBack");
     run.desk.expect(Answer::ok);
     run.click("cmdCalculatePolInv");
@@ -224,7 +224,7 @@ TEST_F(PolInvest, CalculateFoldsTheScheduleAndSettlesALoanAgainstACession) {
     EXPECT_EQ(run.record().death.ANSAss5, 1000);
     EXPECT_EQ(run.record().retirement.ANSLAss4, 1400);
     changed() = 0;
-    run.click("cmdCalculatePolInv"); // nothing new for the file
+    run.click("cmdCalculatePolInv"); // nothing changes in the record
     EXPECT_EQ(changed(), 0);
 }
 
@@ -281,16 +281,16 @@ TEST_F(PolInvest, AValueThatCountsNothingSaysSoBesideItAsItIsTyped) {
         return run.control<QLabel>(QString("lblRemark") + column)->text().toStdString();
     };
     run.type("numRBEMV", "1000");
-    EXPECT_EQ(remark("RBEMV"), "Counts nothing: no age");
-    EXPECT_EQ(run.control("numRBEMV")->accessibleDescription(), "Counts nothing: no age");
+    EXPECT_EQ(remark("RBEMV"), "Not counted: no age");
+    EXPECT_EQ(run.control("numRBEMV")->accessibleDescription(), "Not counted: no age");
     run.type("numRBEMVAge", "60");
     EXPECT_EQ(remark("RBEMV"), "");
     run.typeAll("numInvBensCurVal 5, numInvBensCurValLoanAgainst 2, numDeathBen 5");
-    EXPECT_EQ(remark("InvBensCurVal"), "No tick: counts on death only\nLoan counts nothing: no tick");
+    EXPECT_EQ(remark("InvBensCurVal"), "No tick: counts on death only\nLoan not counted: no tick");
     run.click("chkInvBensTakeAtDisa");
     EXPECT_EQ(remark("InvBensCurVal"), "");
     run.click("optDeathBen(2)");
-    EXPECT_EQ(remark("DeathBen"), "Counts nothing: not for estate or spouse");
+    EXPECT_EQ(remark("DeathBen"), "Not counted: not for estate or spouse");
     run.click("cmdForward");
     EXPECT_EQ(remark("DeathBen"), "");
 }
@@ -308,12 +308,12 @@ TEST_F(PolInvest, TheCPIIsStoredForThePracticeWhenConfirmed) {
         EXPECT_EQ(run.record().CPI, held);
         EXPECT_EQ(run.inClients(query), stored);
     }
-    EXPECT_EQ(changed(), 0); // it is the practice's, not the client's
+    EXPECT_EQ(changed(), 0); // the index is the practice's, not the client's
 }
 
 TEST_F(PolInvest, PersonalDetailsOpensItAndAFileOfBadFiguresIsShownAndLeft) {
     run.menu("mnuNewFile");
-    run.record().CurPolicy = 77; // beyond the list
+    run.record().CurPolicy = 77; // more than there are
     policy(1).DeathBenPerson = -5;
     policy(1).RBEMVAge = 32767;
     policy(1).DeathBenCashVal = 1e300;
@@ -323,7 +323,7 @@ TEST_F(PolInvest, PersonalDetailsOpensItAndAFileOfBadFiguresIsShownAndLeft) {
     for (int person = 0; person < 4; ++person)
         EXPECT_FALSE(run.control<QRadioButton>(QString("optDeathBen(%1)").arg(person))->isChecked());
     run.desk.expect(Answer::yes);
-    run.click("cmdDelete"); // no complaint about what is to go
+    run.click("cmdDelete"); // no message about the record being deleted
     EXPECT_EQ(policy(1).RBEMVAge, 0);
     run.click("cmdOK");
     EXPECT_FALSE(run.isOpen("frmPolInvest"));

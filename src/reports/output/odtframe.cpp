@@ -14,7 +14,7 @@ namespace {
 using namespace look;
 
 constexpr double thinLine = points(1); ///< the height of the text that must follow a table
-/// Word processors round the height of each row to a unit of theirs: over a page this comes together.
+/// Word processors round the height of each row to their own unit; this allows for the sum over a page.
 constexpr double roundedRows = points(2.5);
 
 QStringList headerLinesOf(const Content& content) {

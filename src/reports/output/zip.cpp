@@ -34,8 +34,8 @@ QByteArray zipped(const std::vector<ZipEntry>& entries) {
     if (archive != nullptr) whole = zipClose(archive, nullptr) == ZIP_OK && whole;
     QFile file(path);
     if (!whole || !file.open(QIODevice::ReadOnly))
-        throw store::Error(store::Number::deviceError, path.toStdString(), "The scratch file could not be written.",
-                           "Free some room on the disk that holds temporary files.");
+        throw store::Error(store::Number::deviceError, path.toStdString(), "A temporary file could not be written.",
+                           "Free some space on the disk that holds temporary files.");
     return file.readAll();
 }
 
