@@ -9,9 +9,9 @@
 int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
-    const QTemporaryDir settings; // what a test lets the program remember is not the user's
+    const QTemporaryDir settings; // keeps the tests away from the user's own settings
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settings.path());
-    screenkit::look::apply(application); // sizes and colours as the user has them, whichever test comes first
+    screenkit::look::apply(application); // the user's sizes and colours, whichever test runs first
     std::setlocale(LC_NUMERIC, "C");
     testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();

@@ -1,7 +1,7 @@
-// What nearly every test includes; parsed once.
+// Headers that nearly every test includes, parsed once.
 #pragma once
 #include "../cmake/screens_pch.h"
-// The rest stands behind it: the toolkit's headers are the larger part.
+// Qt's headers, the larger part, include the rest.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-// How a failing test shows Qt's values: as what they are, not as their bytes. Every test has it from the precompiled
-// header.
+// Makes a failing test print Qt's values as text, not as bytes. The precompiled header includes this file for every
+// test.
 #pragma once
 
 #include <QByteArray>

@@ -227,7 +227,7 @@ CREATE TABLE [IRP5IncDed] (
     [FstLumpTaken3] VARCHAR(255), [TaxDue] DOUBLE
 );
 
--- Gains and losses from trusts and other sources. All are texts, since a heading line stands first.
+-- Gains and losses from trusts and other sources. All are texts, since the first line is a heading.
 CREATE TABLE [CGTTrustOtherItemise] (
     [CGTNum] DOUBLE, [Source] VARCHAR(255), [COP Split] VARCHAR(255), [Base Cost] VARCHAR(255),
     [Proceeds] VARCHAR(255), [Amount] VARCHAR(255), [ExclCOPSplit] VARCHAR(255)

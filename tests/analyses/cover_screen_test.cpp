@@ -12,7 +12,7 @@ using namespace naratest;
 using assessment::Assessment;
 using assessment::ItemList;
 
-/// What tells the two screens apart.
+/// The differences between the two screens.
 struct Twin {
     const char *menu, *screen, *at;
     std::vector<double*> (*fields)(Assessment&); ///< in the order of `names`
@@ -21,11 +21,11 @@ struct Twin {
     analyses::NeedsAnalysis (*run)(Assessment&);
     std::vector<ItemList assessment::Itemised::*> lists; ///< in the order of `lockedBy`
     const char *tab, *assets, *liabilities, *fees;
-    const char *row, *firstRow; ///< what the report holds
+    const char *row, *firstRow; ///< content of the report
     const char *title, *amortisedTitle;
 };
 
-/// The entries, and last the two dates of review.
+/// The entries, ending with the two review dates.
 const std::vector<const char*> names{"numIncome", "numCoverPeriod", "numInflaGuard", "numInvestRate", "numMonIncAval",
                                      "numASS(0)", "numASS(1)",      "numASS(2)",     "numASS(4)",     "numLIB(0)",
                                      "numLIB(1)", "numLIB(2)",      "numLIB(3)",     "numLIB(4)"};
@@ -113,7 +113,7 @@ protected:
     std::int16_t& changed() { return run.record().changed.*twin.changed; }
 };
 
-TEST_P(CoverScreens, EveryControlHoldsItsFieldAndThatItsPlaceInTheReport) {
+TEST_P(CoverScreens, EveryControlHoldsItsFieldAndEveryFieldItsPlaceInTheReport) {
     open();
     EXPECT_EQ(run.shown("txtName"), "Ms T. Ṱhoho-Nḓou");
     EXPECT_EQ(run.shown("txtIDNum"), "8103155009087");
@@ -131,7 +131,7 @@ TEST_P(CoverScreens, EveryControlHoldsItsFieldAndThatItsPlaceInTheReport) {
     EXPECT_EQ(*fields[14], 46054);
     EXPECT_EQ(*fields[15], 46480);
     EXPECT_EQ(twin.notes(run.record()), "Sells the practice");
-    EXPECT_EQ(run.shown("numASS(3)"), screen == "death" ? "500 000" : "300 000"); // the cents are cut off
+    EXPECT_EQ(run.shown("numASS(3)"), screen == "death" ? "500 000" : "300 000"); // cents are dropped
 
     run.click("cmdPrint");
     run.click("Check3");
@@ -186,7 +186,7 @@ TEST_P(CoverScreens, ShowTheResultsTheTableAndTheGraphInTheirOwnWords) {
     const auto& graph = qobject_cast<reports::frmGraph*>(run.screen("frmGraph"))->graph();
     EXPECT_EQ(graph.title + graph.xTitle, "Illustration of Life of CapitalTERM OF COVER (years)");
     EXPECT_EQ(graph.points + 1, static_cast<int>(years.size()));
-    EXPECT_EQ(graph.series.at(2).values[0], 120012); // required before available in the legend
+    EXPECT_EQ(graph.series.at(2).values[0], 120012); // the legend has the required income first
 }
 
 TEST_P(CoverScreens, EachListLocksItsOwnLineAndThePoliciesAreOpened) {
@@ -195,7 +195,7 @@ TEST_P(CoverScreens, EachListLocksItsOwnLineAndThePoliciesAreOpened) {
         open();
         for (std::size_t line = 0; line < lockedBy.size(); ++line)
             EXPECT_EQ(run.control<QLineEdit>(lockedBy[line])->isReadOnly(), line == on) << lockedBy[line];
-        EXPECT_TRUE(run.control("cmdItemise(11)")->accessibleDescription() == "In use"); // the policies'
+        EXPECT_TRUE(run.control("cmdItemise(11)")->accessibleDescription() == "In use"); // the line of the policies
         run.click("cmdOK");
         (run.record().itemised.*twin.lists[on]).flag = 0;
     }
@@ -214,7 +214,7 @@ TEST_P(CoverScreens, ItemisedIncomesAreShownAtOnceAndPrinted) {
     itemise(9, {"Fees", "1200", "3"});
     EXPECT_EQ(run.shown("numLIB(3)"), "1 200");
     run.click("cmdPrint");
-    EXPECT_EQ(run.front()->findChild<QWidget*>("Check2"), nullptr); // no premium is solved for cover
+    EXPECT_EQ(run.front()->findChild<QWidget*>("Check2"), nullptr); // there is no premium for cover
     for (const char* choice : {"Check1", "Check4", "chkPolInvestSchudule"})
         run.click(choice);
     run.click("cmdVR");
@@ -243,7 +243,7 @@ TEST_P(CoverScreens, LimitsAreTheirFieldsOwn) {
         run.type(field, "5");
     }
     const auto fields = twin.fields(run.record());
-    *fields[2] = 31, *fields[3] = 51; // what another program left is put right without a word
+    *fields[2] = 31, *fields[3] = 51; // rates above their limits are silently reduced
     run.menu("mnuPersDet");
     open();
     EXPECT_EQ(run.shown("numInflaGuard") + run.shown("numInvestRate"), "30.00050.000");

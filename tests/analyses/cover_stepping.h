@@ -7,8 +7,8 @@
 #include "base/numberformat.h"
 #include "client/policyschedule.h"
 
-/// The death and the disability analysis one step after the other, each run worked out from nothing, to hold the fast
-/// ones against.
+/// A slow reference for the death and disability analyses: one step after the other, every run from the beginning. The
+/// fast ones must give the same.
 namespace stepping {
 
 using assessment::Assessment;
@@ -188,7 +188,8 @@ struct CoverSteps {
     }
 };
 
-/// A client as advisers have them, of every kind that the two analyses tell apart; small enough to be stepped to.
+/// A realistic client with every variant that the two analyses distinguish; the capital is small enough for plain
+/// steps.
 inline Assessment someInsured(std::mt19937_64& random) {
     const auto from = [&](double low, double high) { return std::uniform_real_distribution(low, high)(random); };
     const auto pick = [&](int low, int high) { return std::uniform_int_distribution(low, high)(random); };

@@ -42,7 +42,7 @@ TEST(Cover, FastSearchGivesTheAnswersOfPlainSteppingBitForBit) {
             shortfalls += fast.txtAns2.ends_with("required.");
         }
     EXPECT_GT(compared, 2000);
-    EXPECT_GT(excesses, 300); // both roads were taken
+    EXPECT_GT(excesses, 300); // searches in both directions
     EXPECT_GT(shortfalls, 300);
 }
 
@@ -58,7 +58,7 @@ Assessment insured(double income, double capital, double years, double available
     return client;
 }
 
-// Where the twins differ, they are meant to.
+// Every difference between death and disability is deliberate.
 TEST(Cover, SentencesToTheLetter) {
     struct Case {
         double income, capital, years, available;
@@ -69,26 +69,26 @@ TEST(Cover, SentencesToTheLetter) {
     const char* const four = "Funds available will provide income for 4 years.";
     const char* const five = "Funds available will provide income for 5 years.";
     const char* const none = "Funds available will provide income for 0 years.";
-    const char* const ninety = "90 000 additional cover required."; // ten years take 92 660
+    const char* const ninety = "90 000 additional cover required."; // exactly 92 660 for ten years
     const Case cases[] = {
         {1000, 0, 10, 0, underOne, "100 000 additional cover required.", "", "100 000 additional cover required."},
         {1000, 11999.5, 10, 0, underOne, ninety, underOne, ninety},
         {1000, 12000, 10, 0, underOne, ninety, underTwo, ninety}, // exactly a year's need
         {1000, 6000, 10, 500, underOne, "50 000 additional cover required.", underTwo,
-         "50 000 additional cover required."}, // an income of 500 never rises: half of it takes 46 330
+         "50 000 additional cover required."}, // an income of 500 stays constant: half of it needs 46 330
         {1000, 12000.5, 10, 0, underTwo, ninety, underTwo, ninety},
         {1000, 50000, 10, 0, four, "50 000 additional cover required.", four, "50 000 additional cover required."},
         {1000, 50000, 0, 0, none, "", none, "(capital excess available of 50 000 detected)"},
         {1000, 50001, 0, 0, none, "(capital excess available of 50 001 detected)", none,
          "(capital excess available of 50 001 detected)"},
         {1000, 150000, 5, 0, five, "(capital excess available of 90 000 detected)", five,
-         "(capital excess available of 90 000 detected)"}, // five years take 51 954
+         "(capital excess available of 90 000 detected)"}, // five years need 51 954
         {0, 0, 5, 0, "", "", five, ""},
         {-1000, -50000, 5, 0, "", "30 000 additional cover required.", "",
-         "30 000 additional cover required."}, // what comes in
+         "30 000 additional cover required."}, // the available income
         {1e9, 0, 50, 0, underOne, "219 071 110 000 additional cover required.", "",
          "219 071 110 000 additional cover required."},
-        {1e13, 0, 50, 0, underOne, "", "", ""}, // more than 10^15 rand
+        {1e13, 0, 50, 0, underOne, "", "", ""}, // needs more than 10^15 rand
     };
     for (const Case& line : cases) {
         SCOPED_TRACE(testing::Message() << line.income << " " << line.capital << " " << line.years);
@@ -113,16 +113,16 @@ TEST(Cover, PoliciesPayInTheFirstYearAndThenByTermAndFlag) {
     first.DeathBenMonthly = 1000, first.DeathBenMonEsc = 10, first.DeathBenYears = 2;
     first.DisabilMonthly = 1000, first.DisabilMonEscAt = 10; // has no term
     first.IncProMonthly = 500, first.IncProMonEscAt = 20, first.IncProYears = 2;
-    client.policies[1].DeathBenMonthly = 500.5; // a term of 0 pays in the first year alone
+    client.policies[1].DeathBenMonthly = 500.5; // a term of 0 pays in the first year only
     const NeedsAnalysis death = NADeathCalc(client), disability = NADisabilityCalc(client);
-    EXPECT_EQ(death.monthlyAvailable, 1500.5); // unlike retirement's not in whole rand
+    EXPECT_EQ(death.monthlyAvailable, 1500.5); // unlike retirement's, not rounded to whole rand
     expectYears(death.flows.AvailableByYear, {12 * 1500.5, 12 * 1100, 0, 0});
     EXPECT_EQ(disability.PolicyMonthlyIncome, 1500);
     expectYears(disability.flows.AvailableByYear, {12 * 1500, 12 * 1700, 12 * 1210, 12 * 1331});
     EXPECT_EQ(client.PolicyMonthlyIncome + client.retirement.IncomeRA, 0); // retirement's own figures
 
     client.policies[1] = {};
-    client.CurPolicy = 2; // the policy on screen decides the flag
+    client.CurPolicy = 2; // the flag depends on the policy on the screen
     expectYears(NADeathCalc(client).flows.AvailableByYear, {12000, 0, 0});
     EXPECT_EQ(client.itemised.DTHLifeAssItemise, 0);
     client.policies[0].DisabilMonthly = client.policies[0].IncProMonthly = 0;
@@ -140,8 +140,8 @@ TEST(Cover, OfANeedsListOnlyTheFirstRowBringsItsAmount) {
         std::vector<double> monthly;
     };
     for (const Case& line : {
-             // 3: the first row inflated twice; 4: at its 20 %; 5: none in force; 6: the last in force starts, so that
-             // inflation still counts; 7: the second row at its 5 %
+             // 3: first row, inflated twice; 4: its 20 %; 5: no row in force; 6: the last row in force starts, so
+             // inflation counts; 7: the second row's 5 %
              Case{{from(3, 4, 2000, 20), from(6, 7, 3000, 5), from(6, 6, 9999, 50)},
                   {1000, 1100, 2420, 2904, 3194.4, 3513.84, 3689.532}},
              Case{{from(2, 9, 2000, 20), from(2, 3, 500, 5)},
@@ -158,7 +158,7 @@ TEST(Cover, OfANeedsListOnlyTheFirstRowBringsItsAmount) {
 
 TEST(Cover, ListsFallDueInTheirYearsAndSalesEarnFromTheNextOneOn) {
     Assessment client = insured(1000, 100000, 10);
-    client.itemised.DTHCars = {1, {from(2, 0, 10000), from(1, 0, 7)}}; // the first year's stand in the plain sum alone
+    client.itemised.DTHCars = {1, {from(2, 0, 10000), from(1, 0, 7)}}; // year 1 counts in the plain sum only
     client.itemised.DTHCreditCard = {1, {from(3, 0, 500)}};
     client.itemised.DTHFutMonInc = {1, {from(0, 3, 300), from(2, 3, 100, 50), from(1, 1, 20)}};
     analyses::prepareDeath(client);
@@ -177,9 +177,9 @@ TEST(Cover, IncomeListsCountFromTheFirstYear) {
         double income, years;
     };
     for (const Case& line : {Case{{from(1, 20, 100), from(3, 25, 20)}, 100, 24},
-                             Case{{from(1, 20, 100)}, 100, 19}, // not 20: from the lowest to the highest
+                             Case{{from(1, 20, 100)}, 100, 19}, // 19, not 20: from the lowest to the highest
                              Case{{from(2, 5, 100), from(3, 4, 20)}, 120, 3}, Case{{from(9, 5, 100)}, 100, 0},
-                             Case{{from(1, 20, 0)}, 7777, 8}}) { // sums to nothing: what was typed stands
+                             Case{{from(1, 20, 0)}, 7777, 8}}) { // adds up to 0: the typed figures stay
         Assessment client = insured(7777, 0, 8, 7);
         for (const Analysis kind : {Analysis::death, Analysis::disability}) {
             takeItems(client, analyses::itemLines(kind)[0], line.required);
@@ -187,7 +187,7 @@ TEST(Cover, IncomeListsCountFromTheFirstYear) {
         }
         EXPECT_EQ(client.death.DeathMIAvail, 340);
         EXPECT_EQ(client.disability.DisaMIAvail, 340);
-        // A figure that another program left beside its list is put right before anything is worked out.
+        // A figure that contradicts its list, left by another program, is corrected before the calculation.
         for (double* figure : {&client.death.Income, &client.disability.MDisaDTS5})
             if (line.income != 7777) *figure = 1;
         EXPECT_EQ(analyses::runDeath(client).IncomeReqFV, line.income);
@@ -197,7 +197,7 @@ TEST(Cover, IncomeListsCountFromTheFirstYear) {
     }
 }
 
-TEST(Cover, DamagedFiguresNeitherCrashNorHoldUp) {
+TEST(Cover, DamagedFiguresNeitherCrashNorHang) {
     const double odd[] = {-1e300, -100, 0.5, 80, 1e18, 1e300, std::numeric_limits<double>::infinity()};
     using D = assessment::NADeath;
     using B = assessment::NADisability;
@@ -216,9 +216,9 @@ TEST(Cover, DamagedFiguresNeitherCrashNorHoldUp) {
             }
         }
     Assessment client = insured(1000, 5e5, 10);
-    client.death.Inflation = client.disability.MDisaDTS6 = 31; // corrected without a word
+    client.death.Inflation = client.disability.MDisaDTS6 = 31; // silently reduced to the limit
     client.death.InvestRate = client.disability.MDisaDTS7 = 51;
-    client.policies.resize(2); // a sum that no figure holds
+    client.policies.resize(2); // the sum overflows
     client.policies[0].InvBensCurVal = client.policies[1].InvBensCurVal = 1.7e308;
     client.policies[0].DisabilLumpSum = client.policies[1].DisabilLumpSum = 1.7e308;
     EXPECT_EQ(NADeathCalc(client).txtAns1, "   Error");

@@ -11,7 +11,7 @@ using analyses::EducationAnalysis;
 using analyses::NAEdCalc;
 using assessment::NAEducation;
 
-/// The analysis one step after the other, each run from nothing, to hold the fast search against.
+/// A slow reference for the analysis: one step after the other, every run from the beginning.
 struct Stepped {
     double FundsFV, CapitalTried = 0, solved = 0;
     int YearsCovered = 0;
@@ -76,7 +76,7 @@ TEST(Education, FastSearchGivesTheAnswersOfPlainSteppingBitForBit) {
     EXPECT_GT(searched, 2000);
 }
 
-TEST(Education, WhatItTakesToTheLetter) {
+TEST(Education, SentencesToTheLetter) {
     struct Case {
         NAEducation needs; // cost today, inflation, years to it, years of it, bank rate
         double atStart;
@@ -95,14 +95,14 @@ TEST(Education, WhatItTakesToTheLetter) {
         {{1000, 10, 2.5, 1, 0}, 1210, takes("1 300"), paper("1 300"), 2, 1},   // ties to even: two years
         {{1000, 10, 3.5, 1, 0}, 1464, takes("1 500"), paper("1 500"), 2, 1},
         {{1000, 99, 1, 1, 99}, 1300, takes("1 400"), paper("1 400"), 2, 1}, // 30 and 50 % at most
-        {{100, 0, 0, 1, 0}, 100, takes("200"), paper("200"), 2, 1},         // just enough for the year is not enough
+        {{100, 0, 0, 1, 0}, 100, takes("200"), paper("200"), 2, 1},         // exactly the year's cost is not enough
         {{0, 5, 3, 4, 5}, 0, takes("100"), paper("100"), 5, 4},
         {{0, 5, 3, 0, 5}, 0, "", "", 1, 0},
-        {{5000, 0, 0, 0, 0}, 5000, "", "", 1, 0},                              // nothing is asked for
-        {{1000, 0, 0, 80, 0}, 1000, takes("50 000"), paper("50 000"), 50, 50}, // a file's period
+        {{5000, 0, 0, 0, 0}, 5000, "", "", 1, 0},                              // no years asked for
+        {{1000, 0, 0, 80, 0}, 1000, takes("50 000"), paper("50 000"), 50, 50}, // a period from a file
         {{-1000.5, 0, 0, 4, 0}, -1001, negative, negative, 5, 4},
         {{1e14, 0, 0, 10, 0}, 1e14, takes("1 000 000 000 000 000"), paper("1 000 000 000 000 000"), 11, 10},
-        {{2e14, 0, 0, 10, 0}, 2e14, error, "", 1, 0}, // no capital up to 10^15 rand does
+        {{2e14, 0, 0, 10, 0}, 2e14, error, "", 1, 0}, // needs more than 10^15 rand
         {{1e308, 30, 25, 10, 0}, INFINITY, error, "", 1, 0},
     };
     for (Case c : cases) {

@@ -42,7 +42,7 @@ TEST(Itemise, EveryListThatAnAnalysisReadsHasItsLineAndItsOwnAmount) {
     }
 }
 
-// Where a list's sum goes is seen nowhere but in the wrong figure of a report.
+// A sum in the wrong line would show only as a wrong figure in a report.
 TEST(Itemise, EachSumGoesIntoItsOwnLine) {
     Assessment a;
     const std::tuple<Analysis, const char*, const char*, double&, const char*> lines[] = {
@@ -130,7 +130,7 @@ TEST_F(NARA, AListIsTypedTakenAndLocksItsLine) {
     EXPECT_NE(picture(), unused);
     EXPECT_EQ(run.control("cmdItemise(1)")->accessibleName(), "Itemise Real Estate");
 
-    openList(1); // and out of use again
+    openList(1); // and no longer in use
     for (int i = 0; i < 2; ++i)
         run.key(Qt::Key_Delete, Qt::ControlModifier);
     run.click("cmdOKItemise");
@@ -191,13 +191,13 @@ TEST_F(NARA, ClosingAListAsksOnlyAboutAChangedOne) {
             EXPECT_EQ(property.rows[0].Amount, afterwards);
             EXPECT_TRUE(isListOpen() || answer != Answer::cancel);
             EXPECT_TRUE(!isListOpen() || answer != Answer::yes);
-            screen->clientReplaced(); // the list is the old client's: dropped without asking
+            screen->clientReplaced(); // the list belongs to the old client: dropped without a question
             EXPECT_FALSE(isListOpen());
         }
     openList(1);
     run.key(Qt::Key_Tab);
     typeCells({"-1"}, {});
-    run.desk.expect(Answer::yes); // to a cell that can't stand
+    run.desk.expect(Answer::yes); // to the invalid cell
     run.desk.expect(Answer::ok);
     run.click("cmdGridClose");
     EXPECT_EQ(focus(), "grdItemiseCell");
@@ -224,7 +224,7 @@ TEST_F(ItemisedReport, listsPrintWithTheirHeadsOnEveryPage) {
     takeItems(a, lineOf(Analysis::death, "DTHCarsItemise"), {capital("Of another analysis", 5, 2)});
     EXPECT_TRUE(anyItemised(a, Analysis::retirement));
     EXPECT_FALSE(anyItemised(a, Analysis::disability));
-    for (int again = 0; again < 2; ++again) // nothing is left over from the printout before
+    for (int again = 0; again < 2; ++again) // nothing remains of the earlier printout
         feedItemised(print, a, Analysis::retirement);
 
     const QStringList sheets = pages("ItPrint.rpt");

@@ -27,12 +27,12 @@ protected:
     /// Types into a list's cells, from the current one on, and ends each by a key, if one is given.
     void typeCells(const QStringList& cells, std::optional<Qt::Key> end = Qt::Key_Tab) {
         for (const QString& cell : cells) {
-            for (const QChar letter : cell) // the first one opens the cell
+            for (const QChar letter : cell) // the first letter opens the cell
                 RunningProgram::keys(QApplication::focusWidget(), QString(letter));
             if (end) run.key(*end);
         }
     }
-    /// Fills a list from its first cell on, row after row, and takes it.
+    /// Fills a list row by row from its first cell and confirms it.
     void itemise(int index, const QStringList& cells) {
         openList(index);
         typeCells(cells);
@@ -43,7 +43,7 @@ protected:
     RunningProgram run;
 };
 
-/// The retirement analysis in front, on a client of 45 (the desk's day is in November 2026).
+/// The retirement analysis open for a client of 45 (the desk's date is in November 2026).
 class NARA : public NeedsTest {
 protected:
     NARA() {

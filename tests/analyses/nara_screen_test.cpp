@@ -11,7 +11,7 @@ TEST_F(NARA, OpeningShowsTheAnalysisAndMarksNothingChanged) {
     open();
     run.expectShown("txtName Ms T. Ṱhoho-Nḓou, dtBirthDate 15/03/1981, numCurrentAge 45");
     EXPECT_EQ(run.shown("numYearsToRet"), "10"); // 55 after a reset
-    EXPECT_EQ(run.shown("numASS(3)"), "0");      // the annuity pays after that
+    EXPECT_EQ(run.shown("numASS(3)"), "0");      // the annuity is paid later
     EXPECT_TRUE(run.control("lblShortfall")->isHidden());
     EXPECT_EQ(changed(), 0);
     run.click("cmdOK");
@@ -25,7 +25,7 @@ TEST_F(NARA, WorksThroughToTheSentences) {
     EXPECT_EQ(run.shown("numIncReqFV"), "26 533"); // 10 000 at 5 % over 20 years
     run.expectShown("numMonIncAvail 1 000, numMonShortFall 25 533");
     EXPECT_EQ(captionOf("numMonShortFall")->text(), "Monthly shortfall");
-    EXPECT_EQ(run.shown("numTOTASS"), "1 800 000"); // the annuity's cents are cut off
+    EXPECT_EQ(run.shown("numTOTASS"), "1 800 000"); // the annuity's cents are dropped
     EXPECT_EQ(run.shown("numNETCAP"), "1 550 000");
     EXPECT_FALSE(run.control("lblShortfall")->isVisible());
     run.expectShown(
@@ -37,12 +37,12 @@ TEST_F(NARA, WorksThroughToTheSentences) {
     EXPECT_EQ(run.shown("numNETCAP"), "200 000");
     EXPECT_TRUE(run.control("lblShortfall")->isVisibleTo(run.front()->findChild<QTabWidget*>()->widget(3)));
 
-    run.type("numMonIncPD", "100"); // needs less than the pension
+    run.type("numMonIncPD", "100"); // needs less than the pension pays
     run.click("cmdCalculate");
     EXPECT_EQ(captionOf("numMonShortFall")->text(), "Monthly excess");
     EXPECT_EQ(run.shown("numMonShortFall"), "735");
 
-    run.enter("dtBirthDate", "1/1/2000"); // and straight to the results: they are those of the new age
+    run.enter("dtBirthDate", "1/1/2000"); // then straight to the results, which use the new age
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_N, Qt::AltModifier);
     RunningProgram::settle();
     EXPECT_EQ(run.shown("numIncReqFV"), "670"); // over 39 years
@@ -60,8 +60,8 @@ TEST_F(NARA, AgesFollowEachOther) {
     run.type("dtBirthDate", "1/1/2000");
     run.expectShown("numCurrentAge 26, numYearsToRet 34");
     run.type("numAgeOfRetirement", "90");
-    EXPECT_EQ(run.shown("numYearsToRet"), "50"); // as far as an analysis looks
-    needs().YearsToRet = 3;                      // as an old file may have it
+    EXPECT_EQ(run.shown("numYearsToRet"), "50"); // the limit of an analysis
+    needs().YearsToRet = 3;                      // as in an old file
     run.click("cmdCalculate");
     EXPECT_EQ(run.shown("numYearsToRet"), "50");
 }
@@ -89,7 +89,7 @@ TEST_F(NARA, EveryLimitHasItsBoxAndKeepsTheFocus) {
         run.type(field, good);
     }
     EXPECT_EQ(needs().AgeRetiment, 45);
-    // What another program left is put right without a word.
+    // Rates above their limits, left by another program, are silently reduced.
     needs().InflationRA = 31, needs().BankInvestRate = 51;
     run.menu("mnuPersDet");
     open();
@@ -103,7 +103,7 @@ TEST_F(NARA, AnImpossibleBirthDateIsToldAndHoldsNobodyUp) {
         run.record().client.BirthDate = *base::parseDate(birth);
         open();
         EXPECT_EQ(run.shown("numCurrentAge"), age);
-        EXPECT_EQ(run.shown("numAgeOfRetirement"), "55"); // which such an age does not move
+        EXPECT_EQ(run.shown("numAgeOfRetirement"), "55"); // unchanged by an impossible age
         EXPECT_EQ(run.control<QLabel>("lblFaults")->text(), QString("Please check Current Age: ") + told);
         EXPECT_TRUE(run.control<QLabel>("lblFaults")->isVisible());
         run.click("cmdCalculate");
@@ -123,16 +123,16 @@ TEST_F(NARA, AgeTurnsWithTheDayAndRetirementWaitsForToday) {
         EXPECT_EQ(run.shown("numCurrentAge"), age);
         run.click("cmdOK");
     }
-    needs().AgeRetiment = 40; // as an old file has it
+    needs().AgeRetiment = 40; // as in an old file
     open();
     run.expectShown("numAgeOfRetirement 45, numYearsToRet 0");
 }
 
-TEST_F(NARA, AClientOnNoScreenIsAnalysedAsTheScreenShowsHim) {
+TEST_F(NARA, AClientOnNoScreenIsAnalysedAsOnTheScreen) {
     auto& list = run.record().itemised.RNAMonIncReq;
     list = {1, {{"Living", 9000, 5, 61, 85}, {"Travel", 2000, 0, 61, 70}}};
     needs().AgeRetiment = 61;
-    needs().InflationRA = 31; // more than is reckoned with
+    needs().InflationRA = 31; // above the limit
     needs().BankInvestRate = 9;
     needs().ANSLAss1 = 4e6, needs().ANSLLib2 = 250000;
     assessment::Assessment alone = run.record();
@@ -159,7 +159,7 @@ TEST_F(NARA, ItemisedNeedsSetIncomeAndPeriodAndFollowTheAge) {
     run.expectShown("numMonIncPD 10 000, numCoverReq 30");
     for (const char* name : {"numMonIncPD", "numCoverReq"})
         EXPECT_TRUE(run.control<QLineEdit>(name)->isReadOnly()) << name;
-    run.type("numAgeOfRetirement", "62"); // what starts later counts, since nothing starts then
+    run.type("numAgeOfRetirement", "62"); // no row starts then, so later ones count
     EXPECT_EQ(run.shown("numMonIncPD"), "10 000");
     run.type("numAgeOfRetirement", "60");
     EXPECT_EQ(run.shown("numMonIncPD"), "500");
@@ -185,7 +185,7 @@ TEST_F(NARA, EachListLocksItsOwnLine) {
     }
 }
 
-// What other programs, faults and hand-made files may leave in a client's rows.
+// Damage that other programs, faults and hand-made files may leave in a client's rows.
 TEST_F(NARA, ADamagedClientOpensCalculatesAndSavesUnharmed) {
     run.saveClient("Botha");
     run.inClients("UPDATE Data SET CoverYears = 80, BankInvestRate = -100, InflationRA = 'text', IncomePD = 1000, "

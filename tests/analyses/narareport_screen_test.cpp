@@ -8,7 +8,7 @@ namespace {
 
 using namespace naratest;
 
-TEST_F(NARA, EveryControlHoldsItsFieldAndThatItsPlaceInTheReport) {
+TEST_F(NARA, EveryControlHoldsItsFieldAndEveryFieldItsPlaceInTheReport) {
     using N = assessment::NARetirement;
     const std::tuple<const char*, const char*, double N::*, double> controls[] = {
         {"numCurrentAge", "46", &N::CurrAge, 46},
@@ -55,7 +55,7 @@ TEST_F(NARA, TableAndGraphShowTheYearsFromRetirement) {
     openFilled();
     run.click("cmdAmort");
     const auto rows = gridRows();
-    ASSERT_EQ(rows.size(), 6u); // five years covered and the one after
+    ASSERT_EQ(rows.size(), 6u); // five years covered, and the one after
     EXPECT_EQ(rows[0], QStringList({"65", "1 550 000", "124 000", "12 000", "318 396"}));
     EXPECT_EQ(rows[5][0], "70");
     run.click("cmdGridClose");
@@ -64,7 +64,7 @@ TEST_F(NARA, TableAndGraphShowTheYearsFromRetirement) {
     EXPECT_EQ(graph.title, "Illustration of Life of Capital for Retirement");
     ASSERT_EQ(graph.series.size(), 4u);
     EXPECT_EQ(graph.series[0].values.size(), 5u);
-    EXPECT_EQ(graph.series[2].values[0], 318396); // required before available in the legend
+    EXPECT_EQ(graph.series[2].values[0], 318396); // the legend has the required income first
     EXPECT_EQ(graph.series[3].values[0], 12000);
 }
 
@@ -89,7 +89,7 @@ TEST_F(NARA, PrintsTheReportsThatAreTickedAndLeavesNothingOver) {
               "House|900 000");
 
     run.typeAll("numLIB(4) 5000000, numMonIncPD 50, numAgeOfRetirement 96");
-    run.click("cmdPrint"); // without notes and the rest
+    run.click("cmdPrint"); // without notes and other options
     for (const char* choice : {"Check1", "Check3", "Check4"})
         run.click(choice);
     run.click("cmdVR");

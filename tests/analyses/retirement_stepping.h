@@ -6,7 +6,7 @@
 #include "assessment/assessment.h"
 #include "client/policyschedule.h"
 
-/// The retirement analysis one step after the other, each run worked out from nothing, to hold the fast one against.
+/// A slow reference for the retirement analysis: one step after the other, every run from the beginning.
 namespace stepping {
 
 using assessment::Assessment;
@@ -168,7 +168,7 @@ struct Retirement {
     }
 };
 
-/// A client as advisers have them, of every kind that the analysis tells apart; needs small enough to be stepped to.
+/// A realistic client with every variant that the analysis distinguishes; needs are small enough for plain steps.
 inline Assessment someClient(std::mt19937_64& random) {
     const auto from = [&](double low, double high) { return std::uniform_real_distribution(low, high)(random); };
     const auto pick = [&](int low, int high) { return std::uniform_int_distribution(low, high)(random); };

@@ -38,11 +38,11 @@ TEST(Retirement, FastSearchGivesTheAnswersOfPlainSteppingBitForBit) {
         shortfalls += fast.txtAns2.ends_with("required.");
     }
     EXPECT_GT(compared, 1300);
-    EXPECT_GT(excesses, 200); // both roads were taken
+    EXPECT_GT(excesses, 200); // searches in both directions
     EXPECT_GT(shortfalls, 200);
 }
 
-// A client who retires today: no years to inflate over, 5 % return, no inflation.
+// A client who retires today: no years of inflation before, 5 % return, no inflation after.
 Assessment retiredClient(double income, double capital, double years) {
     Assessment client;
     auto& needs = client.retirement;
@@ -59,10 +59,10 @@ TEST(Retirement, SentencesToTheLetter) {
     const char* const underTwo = "Funds available will provide income for less than 2 years.";
     // income, capital and years asked for; then the years covered and the two sentences
     const std::tuple<double, double, double, int, const char*, const char*> cases[] = {
-        {1000, 12000, 10, 1, underOne, "90 000 additional cover required."}, // ten years take 92 660
+        {1000, 12000, 10, 1, underOne, "90 000 additional cover required."}, // exactly 92 660 for ten years
         {1000, 12000.5, 10, 1, underTwo, "90 000 additional cover required."},
         {1000, 50000, 10, 4, "Funds available will provide income for 4 year/s.", "50 000 additional cover required."},
-        {1000, 50000, 0, 4, "Funds available will provide income for 0 year/s.", ""}, // 50 000 is no excess to tell of
+        {1000, 50000, 0, 4, "Funds available will provide income for 0 year/s.", ""}, // 50 000 is not mentioned
         {1000, 500000, 0, 50, "Funds available will provide income for 0 year/s.",
          "(capital excess available of 500 000 detected)"},
         {1000, 500000, 3.5, 50, "Funds available will provide income for 4 year/s.",
@@ -70,14 +70,14 @@ TEST(Retirement, SentencesToTheLetter) {
         {1000, 500000, 50, 50, "Funds available will provide income for 50 year/s.",
          "(capital excess available of 200 000 detected)"}, // 300 000 lasts 50 years, 200 000 doesn't
         {1000, 500000, 80, 50, "Funds available will provide income for 50 year/s.",
-         "(capital excess available of 200 000 detected)"}, // an old file's period
+         "(capital excess available of 200 000 detected)"}, // a period from an old file
         {1000, -50000, 5, 1, "", "110 000 additional cover required."},
         {1000.5, 100000, 1, 11, "Funds available will provide income for 1 year/s.",
          ""}, // 1 000 a month: 12 000 a year
         {0, 0, 5, 50, "", ""},
         {-1000, 0, 5, 50, "Cannot process unless monthly Shortfall is real.", ""},
         {1e9, 0, 50, 1, "", "219 071 110 000 additional cover required."},
-        {1e13, 0, 50, 1, "", ""}, // more than 10^15 rand
+        {1e13, 0, 50, 1, "", ""}, // needs more than 10^15 rand
     };
     for (const auto& [income, capital, years, covered, lasts, needed] : cases) {
         SCOPED_TRACE(testing::Message() << income << " " << capital << " " << years);
@@ -98,8 +98,9 @@ TEST(Retirement, TheFirstNeedStartsAYearEarlyAndOthersOnTime) {
     client.itemised.RNAMonIncReq.flag = 1;
     client.itemised.RNAMonIncReq.rows = {{"", 2000, 20, 67, 68, 0}, {"", 3000, 5, 70, 72, 0}, {"", 500, 8, 72, 80, 0}};
     const RetirementAnalysis analysis = NARACalc(client);
-    // 65: the plain figure inflated; 66: the first need of 67 (to 65) written back; 68 at 20 %; 69 at inflation;
-    // 70: 3000 inflated to 69; 71 at 5 %; 72: 500 inflated to 71, since the last row in force counts; then at 8 %
+    // 65: the plain figure, inflated; 66: the first need (of age 67, valued at 65), written back; 68 at 20 %; 69 at
+    // inflation; 70: 3000 inflated to 69; 71 at 5 %; 72: 500 inflated to 71, since the last row in force counts; then
+    // at 8 %
     const double inflation = 1.1;
     const double monthly[] = {1210,
                               2000 * std::pow(inflation, 2),
@@ -112,7 +113,7 @@ TEST(Retirement, TheFirstNeedStartsAYearEarlyAndOthersOnTime) {
                               500 * std::pow(inflation, 8) * 1.08};
     for (std::size_t year = 1; year <= std::size(monthly); ++year)
         EXPECT_NEAR(analysis.flows.MonthlyRequiredByYear[year], monthly[year - 1], 1e-9) << year;
-    // The year that was written back keeps what it was reckoned with: last year's need inflated.
+    // The yearly figure of the year written back still uses the earlier need: last year's, inflated.
     EXPECT_NEAR(analysis.flows.RequiredByYear[2], 12 * 1331, 1e-9);
 }
 
@@ -145,7 +146,7 @@ TEST(Retirement, TableAndGraphEndWithTheYearAfterTheLastOrTheYearsAskedFor) {
     }
 }
 
-// What tells death and disability from retirement stands in their rules alone.
+// The sentences of the three analyses differ only in their rules.
 TEST(Sentences, EachAnalysisHasItsOwnEdges) {
     using analyses::Prospect;
     const std::string less1 = "less than 1 year.", less2 = "less than 2 years.";
@@ -154,11 +155,11 @@ TEST(Sentences, EachAnalysisHasItsOwnEdges) {
         std::string retirement, death, disability;
     };
     for (const Case& c : {
-             Case{{1000, 0, 5000, 1, 10}, "", less1, ""},      // nothing is capital on death alone
+             Case{{1000, 0, 5000, 1, 10}, "", less1, ""},      // only on death does 0 count as capital
              {{1000, 7000, 5000, 1, 10}, less1, less1, less2}, // exactly a year's need
              {{1000, 7000, 5000.5, 1, 10}, less2, less2, less2},
              {{1000, 7000, 5000, 3, 10}, less1, less1, "3 years."},
-             {{1000, 90000, 0, 12, 10.5}, "10 year/s.", "10 years.", "10 years."}, // no more than was asked for
+             {{1000, 90000, 0, 12, 10.5}, "10 year/s.", "10 years.", "10 years."}, // never more than was asked for
              {{-1, -20, 0, 1, 10}, "real", "", ""},
              {{0, 0, 0, 50, 5}, "", "", "5 years."},
          }) {
@@ -184,10 +185,10 @@ TEST(CapitalSearch, AnswersWithTheStepThatDoesAndTheOneThatFails) {
     };
     const double none = -1;
     for (const Case& c : {Case{0, 1234567, {100000, 10000, 20, 1e15}, 1240000, 1230000},
-                          {500, 1234567, {10000, 0, 1, 1e15}, 1240500, 1230500}, // the coarse steps are all
+                          {500, 1234567, {10000, 0, 1, 1e15}, 1240500, 1230500}, // coarse steps only
                           {0, 12345, {100, 0, 1, 1e15}, 12400, 12300},
                           {0, 5e6, {100000, 10000, 20, 1e6}, none, 1.1e6},
-                          {0, 1e5, {100000, 30000, 2, 1e15}, 60000, 30000}}) { // passes that do not get there
+                          {0, 1e5, {100000, 30000, 2, 1e15}, 60000, 30000}}) { // too few passes
         const auto covers = [&](double capital) { return capital >= c.needed; };
         const auto up = analyses::searchUp(c.start, c.steps, covers);
         EXPECT_EQ(up.solved.value_or(none), c.solved) << c.needed;
@@ -197,13 +198,13 @@ TEST(CapitalSearch, AnswersWithTheStepThatDoesAndTheOneThatFails) {
         EXPECT_EQ(down.failed, c.needed - 0.5 * c.steps.coarse) << c.needed;
     }
     const auto bottom = analyses::searchDown(25000, {10000}, [](double) { return true; });
-    EXPECT_FALSE(bottom.solved || bottom.failed); // every capital does
+    EXPECT_FALSE(bottom.solved || bottom.failed); // every capital suffices
 }
 
 TEST(CapitalSearch, LeapsRoundAsSingleStepsDo) {
     const std::tuple<double, double, int> walks[] = {
         {0.1, 100000, 50000},     {-999999.37, 100000, 50000}, {1234567.89, -100000, 40},
-        {1e9 / 3, -10000, 70000}, {9e15 + 1, 100000, 3000},    {3e17, 100000, 3000}, // each step rounds there
+        {1e9 / 3, -10000, 70000}, {9e15 + 1, 100000, 3000},    {3e17, 100000, 3000}, // each step is rounded
         {4.5e18, -100000, 3000},  {-2e17 / 3, 10000, 3000},    {1e21, 100000, 5},
     };
     for (const auto& [start, step, steps] : walks) {

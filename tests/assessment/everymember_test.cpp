@@ -1,6 +1,6 @@
-// Every figure of the record is stored by one line of a field table, or is named here as a working value. Filling and
-// checking a record walk the same lines, so that neither can tell of a line that leads to another's place, or of a
-// member without a line.
+// Every figure of the record is stored by exactly one line of a field table, or is named here as a working value. The
+// other tests fill and check a record through the same lines, so they can't detect a line that leads to another
+// member's place, or a member without a line.
 #include <gtest/gtest.h>
 
 #include <array>
@@ -18,9 +18,9 @@ constexpr bool isArray = false;
 template <class T, std::size_t N>
 constexpr bool isArray<std::array<T, N>> = true;
 
-/// Where a member lies in the record, from its first byte.
+/// The position of a member in the record, in bytes.
 struct Member {
-    std::string owner; ///< its struct and its number there, from 1
+    std::string owner; ///< its struct, and its number there, from 1
     std::size_t at;
     std::size_t size;
 };
@@ -28,7 +28,7 @@ struct Member {
 template <class Struct>
 std::vector<Member> membersOf();
 
-/// Initialises a member of any type, and so learns its type: members are found without being named, new ones too.
+/// Initialises a member of any type and thereby learns the type: members, also new ones, are found without their names.
 struct Finder {
     std::vector<Member>* members = nullptr;
     std::size_t* end = nullptr;
@@ -73,7 +73,7 @@ std::vector<Member> membersOf() {
     return members;
 }
 
-/// The bytes of a record that something leads to.
+/// The bytes of a record that a line or a working value covers.
 template <class Record>
 class Reached {
 public:
@@ -94,7 +94,7 @@ public:
             if (line.at != nullptr)
                 std::visit([&](auto* place) { mark(*place, table.name() + "." + line.name); }, line.at(&row));
     }
-    /// Name, birth date and ID number stand in two tables.
+    /// Name, birth date and ID number are in two tables.
     void shareFromHere(bool may = true) { m_mayShare = may; }
 
     void expectAll() const {
@@ -138,7 +138,7 @@ TEST(EveryMember, OfTheRecordIsStoredByOneLineOrAWorkingValue) {
     for (const ItemTable& line : itemTables())
         if (line.list != nullptr) reached.mark(line.list(record.itemised).rows, line.flagField);
     const auto working = [&](const auto&... values) { (reached.mark(values, "working values"), ...); };
-    working(record.capitalGains.assets, record.capitalGains.trustOther, record.policies); // rows of their own
+    working(record.capitalGains.assets, record.capitalGains.trustOther, record.policies); // they have rows of their own
     working(record.CurPolicy, record.PolicyMonthlyIncome, record.tax.LastScaleTax, record.rrrOld.TotPremPaid);
     working(record.itemised.NARAPolicyIncomeItemise, record.itemised.DTHInvestments.flag,
             record.itemised.DISAInvestments.flag);

@@ -17,7 +17,7 @@ namespace {
 using assessment::Assessment;
 using assessment::FieldLine;
 
-/// What a slip of the key, a damaged file and another program may leave in a figure.
+/// An extreme figure, as a typing error, a damaged file or another program may leave it.
 double extreme(std::mt19937_64& random) {
     constexpr double figures[] = {0,    1e-300, 1e-23, 1e-13, 0.01,  1,       12,     65, 99,    240,   600,
                                   1e13, 1e24,   1e100, 1e307, 1e308, 1.7e308, -1e-13, -1, -1200, -1e24, -1.7e308};
@@ -46,7 +46,7 @@ void expectFinite(const Table& table, void* row, const std::string& what) {
     }
 }
 
-// One figure that is not finite would keep the client from ever being saved again.
+// A single figure that is not finite would keep the client from ever being saved.
 TEST(Finite, NoCalculationLeavesTheRecordAFigureThatNoFileTakes) {
     std::mt19937_64 random{8};
     for (int number = 0; number < 400 && !testing::Test::HasFailure(); ++number) {

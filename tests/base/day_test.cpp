@@ -32,10 +32,10 @@ TEST(Day, ReadsADateAsTyped) {
     for (const char* wrong :
          {"", "13/13/2026", "3/2026", "2026/31/01", "1/2/203", "31/4/2026", "a/b/c", "1/3/26/", "29/2", "/1/3", "1//3",
           "2802", "2802196", "19660228", "28021966/", "1/3/026", "001/3/26", "28 2 1966 1"})
-        EXPECT_FALSE(base::parseDate(wrong, 2026)) << wrong; // day and month are never swapped to make sense of it
+        EXPECT_FALSE(base::parseDate(wrong, 2026)) << wrong; // day and month are never swapped
 }
 
-TEST(Day, ReportsAndScreensDrawTheLineOfNoDateADayApart) {
+TEST(Day, ReportsAndScreensDifferByADayInWhatIsNoDate) {
     EXPECT_FALSE(base::isShownOnScreen(base::blankDate));
     EXPECT_FALSE(base::isShownOnScreen(base::NoDate));
     EXPECT_TRUE(base::isShownOnScreen(-36521));

@@ -14,7 +14,7 @@ TEST(NumberFormat, PrintsByMask) {
              {0, "# ### ### ###.00", ".00"},
              {0.5, "# ### ### ###.00", ".50"},
              {-1234.5, "# ### ### ##0.00", "-1 234.50"},
-             {-0.001, "0.00", "0.00"}, // no sign before a nought
+             {-0.001, "0.00", "0.00"}, // no sign before 0
              {0, "### ### ###", ""},
              {0.4, "### ### ###", ""},
              {2.5, "### ### ###", "2"}, // ties to even
@@ -24,15 +24,15 @@ TEST(NumberFormat, PrintsByMask) {
              {12, "##.##", "12"},
              {7.25, "0.000", "7.250"},
              {1234.5, "R # ##0.00", "R 1 234.50"},
-             {-250000, "R # ### ##0", "-R 250 000"}, // the sign is the amount's, not the digits'
+             {-250000, "R # ### ##0", "-R 250 000"}, // the sign comes before the R
              {-0.4, "R # ##0", "R 0"},
              {0.123, "#0.0%", "12.3%"},
              {-0.055, "#0.0%", "-5.5%"},
-             {0.145, "0%", "14%"}, // a tie as written
+             {0.145, "0%", "14%"}, // a tie in decimal digits
              {0.155, "0%", "16%"},
              {5e-324, "0.0%", "0.0%"},
-             {1e308, "0%", ""},         // beyond what a double holds: no figure
-             {12.3, "0.0 %", "12.3 %"}, // percent already
+             {1e308, "0%", ""},         // no figure, as it is too large for a double
+             {12.3, "0.0 %", "12.3 %"}, // already percent
          })
         EXPECT_EQ(base::formatNumber(value, mask), printed) << value << ' ' << mask;
 }

@@ -14,7 +14,7 @@ using shelltest::RunningProgram;
 
 inline const QStringList entries{"numPrinAmount", "numPeriod", "numIntRate", "numMonRePay"};
 inline const QStringList modes{"Monthly repayment", "Principal amount", "Repayment period", "Interest rate"};
-inline const std::vector<int> resultOf{3, 0, 1, 2}; // by mode, the entry that is worked out
+inline const std::vector<int> resultOf{3, 0, 1, 2}; // by mode, the entry that is solved
 
 /// The loan calculator, open in a running program.
 class LoanScreen : public testing::Test {
@@ -22,7 +22,7 @@ protected:
     LoanScreen() { run.menu("mnuLoansCalc"); }
 
     void pick(int mode) { run.click(QString("optLoanCalc(%1)").arg(mode)); }
-    /// Principal, period, rate and repayment as typed; what the mode works out is left alone.
+    /// Types principal, period, rate and repayment, except the one that the mode solves.
     void typeLoan(int mode, const QStringList& figures) {
         pick(mode);
         for (int i = 0; i < 4; ++i)

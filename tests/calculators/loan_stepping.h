@@ -5,7 +5,7 @@
 #include <cmath>
 #include <vector>
 
-/// The loan searches one step after the other, slow and plain, to hold the fast ones against.
+/// Slow references for the loan searches: one step after the other.
 namespace stepping {
 
 using assessment::Loans;
@@ -13,7 +13,7 @@ using assessment::Loans;
 using calculators::PAMOUNT;
 using calculators::RPAYMENT;
 
-/// False if the cents don't clear the loan within `mostCents`.
+/// False if `mostCents` cents do not clear the loan.
 inline bool PER(Loans& loan, long mostCents) {
     if (loan.Num1 == 0 || loan.Num3 == 0 || loan.Num4 == 0) {
         loan.Num2 = 0;
@@ -39,7 +39,7 @@ inline bool PER(Loans& loan, long mostCents) {
     return true;
 }
 
-/// False if the rate passes a million percent.
+/// False if the rate exceeds a million percent.
 inline bool Rate(Loans& loan) {
     loan.Num3 = 0;
     if (loan.Num1 == 0 || loan.Num2 == 0 || loan.Num4 == 0) return true;

@@ -74,7 +74,7 @@ TEST_F(LoanReport, FeedsTheLoanItsChargesAndItsTable) {
                                 "FROM [Loans]";
     const std::string table = "SELECT [Year],round([Capital],2),round([Interest],2),round([Required],2) FROM [Amort]";
     typeLoan(0, {"100000", "25", "12", ""});
-    openPanel(true, false); // Print works the loan out first
+    openPanel(true, false); // Print solves the loan first
     run.click("cmdVR");
     EXPECT_EQ(run.inPrint("SELECT [Num1],[Num2],[Num3],round([Num4],2) FROM [Loans]"),
               "100000|25|12|4540.6800000000003");
@@ -90,7 +90,7 @@ TEST_F(LoanReport, FeedsTheLoanItsChargesAndItsTable) {
     EXPECT_EQ(run.inPrint("SELECT count(*),min([Year]),max([Year]) FROM [Amort]"), "25|1|25");
     EXPECT_EQ(run.inPrint("SELECT count(*) FROM [Loans]"), "1");
 
-    openPanel(false, false); // the table of before is left as it was
+    openPanel(false, false); // the earlier table stays unchanged
     run.click("cmdVR");
     EXPECT_EQ(run.inPrint("SELECT count(*) FROM [Amort]"), "25");
     QTest::keyClick(run.program.reports().previews().back(), Qt::Key_F1);

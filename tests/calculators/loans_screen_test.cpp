@@ -53,7 +53,7 @@ TEST_F(LoanScreen, OpeningItChangesNoBitOfTheRecord) {
         reopen();
         EXPECT_EQ(loan, before) << loan.Heading;
         EXPECT_EQ(run.record().changed.LoansChanged, 0);
-        run.menu("mnuPersDet"); // there and back
+        run.menu("mnuPersDet"); // to another screen and back
         run.menu("mnuLoansCalc");
         EXPECT_EQ(loan, before) << loan.Heading;
         EXPECT_EQ(run.record().changed.LoansChanged, 0);
@@ -61,7 +61,7 @@ TEST_F(LoanScreen, OpeningItChangesNoBitOfTheRecord) {
 }
 
 TEST_F(LoanScreen, WhatAnOpeningShowsIsWhatItsTablesShow) {
-    run.record().loans = {"Monthly repayment", 100000, 24, 12, 0}; // saved before it was ever worked out
+    run.record().loans = {"Monthly repayment", 100000, 24, 12, 0}; // saved before it was ever solved
     reopen();
     EXPECT_EQ(run.shown("numMonRePay"), "4 707.35");
     run.click("cmdMonAmort");
@@ -114,7 +114,7 @@ TEST_F(LoanScreen, AnAnswerThatIsNotFiniteShowsAnErrorAndKeepsWhatWasTyped) {
     for (const char* result : {"numMonRePay", "numAns1"})
         EXPECT_EQ(run.shown(result), "   Error");
     EXPECT_EQ(run.record().loans, Loans(modes[0].toStdString(), 100000, 240, 1e-13, 0));
-    run.click("cmdMonAmort"); // and no table of it
+    run.click("cmdMonAmort"); // no table either
     EXPECT_EQ(run.focused(), "numPrinAmount");
     run.menu("mnuPersDet");
     run.type("txtCLName", "Botha");

@@ -34,7 +34,7 @@ testing::AssertionResult sameBits(const Loans& a, const Loans& b) {
     return testing::AssertionFailure() << text(a) << " is not " << text(b);
 }
 
-/// Loans as clients have them, and beyond: principals from cents to a million million, all rates and periods.
+/// Realistic loans and larger ones: principals from cents to a million million, all rates and periods.
 class Clients {
 public:
     double between(double low, double high) { return std::uniform_real_distribution(low, high)(m_random); }
@@ -53,11 +53,11 @@ TEST(Loans, SolvesEachUnknown) {
     // at 12 % is 1 101.086..., as any repayment table has it.
     const std::pair<Loans, double> cases[] = {
         {{"Monthly repayment", 100000, 240, 12, 0}, 1101.09},
-        {{" monthly REPAYMENT ", 1000000, 360, 9.75, 0}, 8591.54}, // a heading of an old file: case and blanks aside
+        {{" monthly REPAYMENT ", 1000000, 360, 9.75, 0}, 8591.54}, // an old file's heading: case and blanks are ignored
         {{"Monthly repayment", 100000, 1, 12, 0}, 101000},
         {{"Principal amount", 0, 240, 12, 1101.09}, 100000.35},
         {{"Repayment period", 100000, 0, 12, 1101.09}, 240},
-        {{"Repayment period", 100000, 0, 12, 1101.10}, 239}, // with its cent off it still clears within the 240th
+        {{"Repayment period", 100000, 0, 12, 1101.10}, 239}, // even a cent less clears it within the 240th month
         {{"Interest rate", 100000, 240, 0, 1101.09}, 12},
         {{"Interest rate", 100000, 240, 0, 1101.08}, 11.99}, // truncates: 11.9999 is not 12
         {{"Interest rate", 100000, 240, 0, 416.66}, 0},      // less than principal / period
@@ -81,7 +81,7 @@ TEST(Loans, AnInputAtZeroGivesZero) {
             constexpr std::size_t unknownOf[] = {3, 0, 1, 2};
             if (unknownOf[mode] == zero) continue;
             double num[] = {100000, 240, 12, 1101.09};
-            num[zero] = mode == 2 && zero == 3 ? 0.01 : 0; // the period takes a cent off first
+            num[zero] = mode == 2 && zero == 3 ? 0.01 : 0; // the search for the period subtracts a cent first
             Loans l{std::string(calculators::loanHeadings[mode]), num[0], num[1], num[2], num[3]};
             LoanCalc(l);
             const double solved[] = {l.Num1, l.Num2, l.Num3, l.Num4};
@@ -91,7 +91,7 @@ TEST(Loans, AnInputAtZeroGivesZero) {
 
 TEST(Loans, NoAnswerThatIsNotFiniteIsKept) {
     for (const double rate : {1e-13, 1e-300}) {
-        Loans l{"Monthly repayment", 100000, 240, rate, 777}; // a month's interest is lost beside the 1
+        Loans l{"Monthly repayment", 100000, 240, rate, 777}; // a month's interest is too small beside the 1
         EXPECT_EQ(LoanCalc(l), LoanAnswer::notFinite);
         EXPECT_TRUE(sameBits(l, Loans{"", 100000, 240, rate, 0})) << rate;
     }
@@ -103,12 +103,12 @@ TEST(Loans, NoAnswerThatIsNotFiniteIsKept) {
 TEST(Loans, ThePeriodTakesACentOffFirst) {
     // Repayments to the cent: the cent search ends at the first that clears the loan in the months found.
     for (const auto& [repayment, months, raised] : {
-             std::array{1101.09, 240., 1101.09}, // the 20-year repayment comes back as typed
-             {1101.05, 240, 1101.09},            // too little for 240 months, too much for 241: raised to clear in 240
-             {101000.00, 1, 101000.00},          //
-             {999.99, 0, 999.98},                // less than the interest: never clears, and the cent stays off
-             {1002.56, 0, 1002.55},              // the repayment of 600 months: less a cent it needs the 601st
-             {101000.02, 0, 101000.01},          // clears in less than a month, which no number of cents mends
+             std::array{1101.09, 240., 1101.09}, // the 20-year repayment is returned as typed
+             {1101.05, 240, 1101.09},   // too little for 240 months, more than 241 need: raised to clear in 240
+             {101000.00, 1, 101000.00}, //
+             {999.99, 0, 999.98},       // less than the interest: never clears, and stays a cent lower
+             {1002.56, 0, 1002.55},     // needs 600 months, with a cent less 601
+             {101000.02, 0, 101000.01}, // clears in less than a month: raising it does not help
          }) {
         Loans l{"Repayment period", 100000, 77, 12, repayment};
         EXPECT_EQ(LoanAnswer::solved, LoanCalc(l));
@@ -131,7 +131,7 @@ TEST(Loans, ThePeriodIsThatOfSteppingBitForBit) {
         Loans stepped = l;
         stepped.Num4 -= 0.01;
         LoanCalc(l);
-        if (!stepping::PER(stepped, 5000)) continue; // more cents than a test has time for
+        if (!stepping::PER(stepped, 5000)) continue; // too many cents for a test
         ++solved;
         EXPECT_TRUE(sameBits(l, stepped)) << principal << " " << rate << " " << repayment;
     }
@@ -139,7 +139,7 @@ TEST(Loans, ThePeriodIsThatOfSteppingBitForBit) {
 }
 
 TEST(Loans, MillionsOfCentsAreCountedAsIfAdded) {
-    // over several powers of two, from below nothing, and where a cent is but half a spacing of doubles
+    // over several powers of two, from below 0, and where a cent is only half the distance between doubles
     for (const double start : {0.0, 0.013, -3.7, -70000.0, 999.99, 1048575.98, 3e13, -3e13, 6.99e13, 1.2e14}) {
         double sum = start;
         for (int i = 0; i < 3000000; ++i) {
@@ -150,7 +150,7 @@ TEST(Loans, MillionsOfCentsAreCountedAsIfAdded) {
             EXPECT_EQ(bits(*found), bits(sum)) << start << " " << i;
         }
     }
-    // added one by one, this takes 41 000 039 101 cents and the best part of a minute
+    // adding cent by cent would take 41 000 039 101 additions, nearly a minute
     const auto found = calculators::periodFor(1e9, 12, 6e8);
     EXPECT_EQ(found.months, 1);
     EXPECT_EQ(found.repayment, 0x1.e19b040006776p+29); // 1010000000.0031574
@@ -161,7 +161,7 @@ TEST(Loans, TheRateIsThatOfSteppingBitForBit) {
     Clients clients;
     for (int i = 0; i < 1500; ++i) {
         const double principal = clients.money(0.01, 1e12), months = clients.whole(1, 600);
-        // every third is on the grid itself, the others anywhere up to a rate of ten thousand percent
+        // every third rate is exactly on the grid, the others anywhere up to ten thousand percent
         const double rate = i % 3 == 0 ? clients.whole(1, 5000) / 100.0 : std::exp(clients.between(-6, 9.2));
         Loans l{"Interest rate", principal, months, 0, calculators::repaymentFor(principal, months, rate)};
         if (i % 3 == 2) l.Num4 = std::floor(l.Num4 * 100) / 100;
@@ -175,7 +175,8 @@ TEST(Loans, TheRateIsThatOfSteppingBitForBit) {
     }
 }
 
-/// Every mix of figures that an old file may hold: what is known beside the principal and the repayment is `known`.
+/// All combinations of figures that an old file may hold; `known` gives the third figure besides principal and
+/// repayment.
 std::vector<Loans> oddLoans(const char* heading, const std::vector<double>& known,
                             const std::vector<double>& repayments) {
     std::vector<Loans> loans;
@@ -196,7 +197,7 @@ TEST(Loans, AnOldFilesPeriodEndsWhereTheSteppingEnds) {
         LoanCalc(l);
         if (stepping::PER(stepped, 2000)) {
             EXPECT_TRUE(sameBits(l, stepped));
-        } else if (l.Num2 == 0) { // no number of cents would do
+        } else if (l.Num2 == 0) { // no number of cents clears it
             EXPECT_EQ(bits(l.Num4), bits(repayment));
         } else {
             EXPECT_GE(calculators::principalFor(l.Num4, l.Num2, l.Num3), l.Num1);
@@ -224,7 +225,7 @@ TEST(Loans, AmortisationIsThatOfSteppingBitForBit) {
     for (int i = 0; i < 300; ++i) {
         Loans l{"", clients.money(1, 1e12), i < 40 ? i : clients.whole(1, 1000) * 1.0, clients.rate(), 0};
         calculators::RPAYMENT(l);
-        l.Num4 += clients.between(-1, 1); // as when the period was solved: not the repayment of the formula
+        l.Num4 += clients.between(-1, 1); // as after solving the period: not the formula's repayment
         const auto table = calculators::CalcAnnAmort(l);
         const auto stepped = stepping::CalcAnnAmort(l);
         const auto same = [](const std::vector<double>& expected, const auto& column) {
@@ -259,7 +260,8 @@ TEST(Loans, AmortisationRows) {
 }
 
 TEST(Loans, ThePartYearTakesWhatIsLeft) {
-    // 25 months at 12 %: the repayment is 4 540.675; 5 000 was agreed, and the last year's interest tells
+    // 25 months at 12 %: the formula's repayment is 4 540.675; 5 000 was agreed, which shows in the last year's
+    // interest
     const auto years = calculators::yearRows(calculators::annualAmortisation(100000, 25, 12, 5000));
     ASSERT_EQ(years.size(), 3U);
     EXPECT_EQ(years[2].number, 3);

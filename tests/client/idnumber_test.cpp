@@ -15,16 +15,16 @@ TEST(IDNumber, IsCheckedOfferedAndComparedAndOthersPass) {
              {" 800101 5009 087 ", "01/01/1980", "", ""},
              {"8001015009087", "", "Born on 01/01/1980 by the ID number.", "01/01/1980"},
              {"8001015009087", "02/01/1980", "By the ID number the date of birth is 01/01/1980.", ""},
-             {"8001015009078", "01/01/1980", wrong, ""}, // two digits changed places
-             {"8001015009088", "", wrong, ""},           // nothing is offered by it
+             {"8001015009078", "01/01/1980", wrong, ""}, // two digits swapped
+             {"8001015009088", "", wrong, ""},           // offers no date
              {"0002295000083", "", "Born on 29/02/2000 by the ID number.", "29/02/2000"},
              {"0002295000083", "29/02/2000", "", ""},
-             {"0102295000081", "", noDate, ""}, // 2001 and 1901 had no such day
+             {"0102295000081", "", noDate, ""}, // neither 2001 nor 1901 had such a day
              {"2611235000082", "", "Born on 23/11/2026 by the ID number.", "23/11/2026"},
-             {"2611245000080", "", "Born on 24/11/1926 by the ID number.", "24/11/1926"}, // tomorrow is too soon
-             {"0404045000084", "04/04/1904", "", ""},                                     // of 122, if so entered
+             {"2611245000080", "", "Born on 24/11/1926 by the ID number.", "24/11/1926"}, // the day after today
+             {"0404045000084", "04/04/1904", "", ""},                                     // aged 122, if so entered
              {"8013015009082", "01/03/1980", noDate, ""},
-             {"800101500908", "02/01/1980", "", ""}, // not all there yet
+             {"800101500908", "02/01/1980", "", ""}, // not complete yet
              {"80010150090877", "02/01/1980", "", ""},
              {"A001015009087", "02/01/1980", "", ""},
              {"", "", "", ""},
@@ -35,8 +35,8 @@ TEST(IDNumber, IsCheckedOfferedAndComparedAndOthersPass) {
     }
 }
 
-TEST(IDNumber, ADateThatIsHardlyOneOfBirthIsAskedAbout) {
-    const double years120 = 121 * 365.25 - 0.25; // the last day of being 120
+TEST(IDNumber, AnUnlikelyDateOfBirthGetsARemark) {
+    const double years120 = 121 * 365.25 - 0.25; // the last day at the age of 120
     EXPECT_EQ(client::birthRemark(today + 1, today), "Born in the future ?");
     EXPECT_EQ(client::birthRemark(today - years120, today), "");
     EXPECT_EQ(client::birthRemark(today - years120 - 1, today), "More than 120 years old ?");

@@ -213,7 +213,7 @@ TEST_F(PersDet, AnIDNumberOffersItsDateOfBirthAndSaysWhereTheTwoDiffer) {
 TEST_F(PersDet, PrintsABlankForNoDateAndNoNotesUnlessAskedFor) {
     run.type("txtMemo", "confidential");
     run.desk.expect(Answer::ok);
-    run.type("dtSDOB", "02/01/1800"); // fills a control and prints as none
+    run.type("dtSDOB", "02/01/1800"); // fills the field, but prints as a blank
     print(false);
     EXPECT_EQ(printed("Comments"), "");
     for (const Control& control : dateControls())

@@ -7,7 +7,7 @@ namespace {
 using assessment::Policy;
 using shelltest::RunningProgram;
 
-/// A client whose totals each have a figure of their own.
+/// A client whose totals are all different.
 void fillSchedule(assessment::Assessment& record) {
     record.client.Name = "Ms T. Ṱhoho-Nḓou";
     record.client.BirthDate = 25967;
@@ -49,7 +49,7 @@ TEST(PolicyReport, HeaderHoldsTheTotalsAndEachRecordItsRow) {
         {"[RetirementTotal],[CashValueTotal],[IncomeProTotal]", "20.5|19|17"},
         {"[MONLifeCoverTotal],[MONDisabilityTotal],[MONDreadTotal],[MONIncomeProTotal],[MONIncomeRBTotal]",
          "14|15|16|17|18"},
-        // Less what is ceded or lent, never below nothing; a person of no number receives none of it.
+        // Less what is ceded or lent, never below 0; a person without a number receives nothing.
         {"[DBenEstate],[DBenSpouse],[DBenCharity],[DBenOther]", "600|3000|400|100"},
         {"round([DBenSpousePerc] * 1000),[DBenTotal],[WorthTotal],[FilledPolicies],[NoPolicies]", "73171|4100|20.5|7|"},
         {"count(*),[PolIncAddNote]", "1|"},
@@ -62,19 +62,19 @@ TEST(PolicyReport, HeaderHoldsTheTotalsAndEachRecordItsRow) {
               "15/03/2023|Estate||7.25|\n |Other|Ṱhoho trust|0|\n |||0|");
     run.record().policies.resize(1);
     run.record().policies[0].DeathBen = 0;
-    client::feedPolicies(run.folder / "Print.mdb", run.record(), {true}); // nothing is left of the first
+    client::feedPolicies(run.folder / "Print.mdb", run.record(), {true}); // nothing remains of the first printout
     EXPECT_EQ(run.inPrint("SELECT [DBenSpousePerc],[PolIncAddNote] FROM PolsInvests"), "0|Note: confidential");
     EXPECT_EQ(run.inPrint("SELECT [PolIncNote],[PolIncAddNote] FROM PolsInvestsAmorts"), "|Note: confidential");
 }
 
-// Whoever adds up the printed column must come to the printed total, whatever the cents behind it.
+// The printed column must add up to the printed total, whatever the hidden cents.
 TEST(PolicyReport, TheSchedulesColumnAddsUpToItsTotal) {
     RunningProgram run;
     run.record().retirement.AgeRetiment = 65;
     Policy fund;
     fund.RBEMV = 1000;
     fund.RBEMVAge = 63;
-    fund.RBEMVEscFor = 0.1245F; // 1001.245: a fraction of a cent more than its cell shows
+    fund.RBEMVEscFor = 0.1245F; // 1001.245: a fraction of a cent more than the cell shows
     fund.PolOwner = "Ṅwali";
     fund.PremInvAmtMonthlyAnnEsc = 7;
     run.record().policies = {fund, Policy{}, fund, fund};
@@ -107,7 +107,7 @@ TEST(PolicyReport, ThePanelRunsWhatIsTicked) {
     run.record().policies[0].DeathBenCashVal = 0;
     run.click("cmdPrint");
     run.click("chkPolInvestList");
-    EXPECT_FALSE(run.control("cmdVR")->isEnabled()); // no report to run
+    EXPECT_FALSE(run.control("cmdVR")->isEnabled()); // no report is chosen
     EXPECT_FALSE(run.control("cmdPD")->isEnabled());
     run.click("chkPolInvestSchudule");
     run.click("chkPolInvestList");
@@ -117,7 +117,7 @@ TEST(PolicyReport, ThePanelRunsWhatIsTicked) {
     ASSERT_EQ(previews.size(), 2u);
     EXPECT_EQ(previews[0]->windowTitle(), "Policies & Investments Details");
     EXPECT_EQ(previews[1]->windowTitle(), "Policies & Investments Schedule");
-    EXPECT_EQ(run.record().death.ANSAss5, 3600); // folded into the analyses before printing
+    EXPECT_EQ(run.record().death.ANSAss5, 3600); // the analyses' totals are updated before printing
     const QString text = reporttest::textOfPdf(reports::toPdf(previews[0]->report())).simplified();
     for (const char* line :
          {"Ms T. Ṱhoho-Nḓou", "1 Whole life Rand", "Inception date 15/03/2023", "R/A maturity value 20.50 55 7.25 %",

@@ -117,7 +117,7 @@ TEST(PolicySchedule, RecordsAddUpAndAnEmptyScheduleGivesNothing) {
     EXPECT_EQ(values[0].monthlyIncome, 100);
     EXPECT_EQ(values[1].monthlyIncome, 0);
     EXPECT_EQ(values[2].monthlyIncome, 120);
-    EXPECT_EQ(client.death.ANSAss5, 1); // the sum is cut down, not its parts
+    EXPECT_EQ(client.death.ANSAss5, 1); // the sum is truncated, not its parts
 
     client.policies.clear();
     client.itemised.DTHLifeAssItemise = client.itemised.RNAPoliciesItemise = 1;

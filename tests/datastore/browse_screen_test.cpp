@@ -22,11 +22,11 @@ struct Client {
     const char* description;
 };
 
-// In the order of typing; none of the orders below follows from it.
+// In the order of entry; no sort order below equals it.
 const std::vector<Client> clients{
     {hooks, "Prof", "", "farm"},
     {oBrien, "Mr", "17/03/1960", "met at the show"},
-    {accents, "Mev", "31/12/1899", "met at the church"}, // day number 1: the first that a line shows
+    {accents, "Mev", "31/12/1899", "met at the church"}, // day number 1: the first date that a line shows
     {markup, "", "", ""},
     {"eksteen", "Mnr", "30/12/1899", "the second of that name"},
 };
@@ -38,7 +38,7 @@ protected:
             run.menu("mnuNewFile");
             run.type("txtCLName", client.surname);
             run.type("txtCTitle", client.title);
-            if (QString(client.born).endsWith("1899")) run.desk.expect(Answer::ok); // so old that it is asked about
+            if (QString(client.born).endsWith("1899")) run.desk.expect(Answer::ok); // asks about such an old date
             run.type("dtCDOB", client.born);
             run.type("txtDescription", client.description);
             run.menu("mnuSave");
@@ -80,7 +80,7 @@ TEST_F(Browse, ListsClientsBySurnameWithoutRegardToCaseAndAccents) {
 TEST_F(Browse, ShowsTheFirstEntryButChoosesNone) {
     EXPECT_EQ(run.shown("txtName"), "  <b>&\"x\"");
     EXPECT_FALSE(list()->selectionModel()->hasSelection());
-    for (int press = 1; press <= 2; ++press) { // also when the list has the focus already
+    for (int press = 1; press <= 2; ++press) { // also if the list already has the focus
         run.click("cmdOK");
         EXPECT_EQ(run.focused(), "List1");
         EXPECT_TRUE(run.isOpen("frmBrowse"));
@@ -116,7 +116,7 @@ TEST_F(Browse, TheSearchFieldNarrowsBySurnameNameAndDescription) {
         EXPECT_EQ(list()->model()->rowCount(), found) << text.toStdString();
     }
     search("nobody");
-    EXPECT_EQ(run.shown("txtName"), ""); // no client stands beside an empty list
+    EXPECT_EQ(run.shown("txtName"), ""); // no client is shown beside an empty list
     run.key(Qt::Key_Escape);
     EXPECT_EQ(run.shown("txtSearch"), "");
     EXPECT_EQ(list()->model()->rowCount(), 5);
@@ -179,7 +179,7 @@ TEST_F(Browse, EditsMadeBehindItAreAskedAboutAtTheLoad) {
     EXPECT_EQ(run.record().loans.Num1, 5000);
     run.click("cmdCancel");
 
-    run.desk.expect(Answer::no); // given up at the opening
+    run.desk.expect(Answer::no); // discarded when the list was opened
     run.menu("mnuBrowse");
     typeBehindIt(7000); // and then more typed
     run.desk.expect(Answer::yes);
@@ -231,7 +231,7 @@ TEST_F(Browse, AListThatCouldNotBeReadSaysWhyAndFillsWhenItComesToTheFront) {
 
 TEST(BrowsePrompt, GuardsUnsavedChanges) {
     RunningProgram run;
-    run.menu("mnuLoansCalc"); // a client without a name: Browse saves it all the same
+    run.menu("mnuLoansCalc"); // a client without a name: Browse saves it anyway
     run.type("numPrinAmount", "100000");
     run.desk.expect(Answer::cancel);
     run.menu("mnuRetrieve");

@@ -56,7 +56,7 @@ TEST(MakeNewDb, MakesTheTablesOfTheClientDatabase) {
     for (const assessment::TableDescription* table : assessment::clientTables()) {
         std::set<std::string> names;
         for (const auto& line : table->fields())
-            EXPECT_TRUE(names.insert(base::lowerAscii(line.name)).second) << line.name; // case tells no two apart
+            EXPECT_TRUE(names.insert(base::lowerAscii(line.name)).second) << line.name; // names differ not only in case
     }
 }
 
@@ -72,7 +72,7 @@ TEST_F(MakeNewDbTest, CompletesAnExistingFileAndDisturbsNothing) {
         "ALTER TABLE Data DROP COLUMN Num1; DROP TABLE LumpSumTax; DROP INDEX Data_Name");
     ASSERT_TRUE(MakeNewDb(file));
     EXPECT_EQ(in("SELECT count(*) FROM Data WHERE TaxCGT IS NULL AND Num1 IS NULL AND Extra='kept'"), "2");
-    EXPECT_EQ(in("SELECT Amount FROM RNATravel"), "Null"); // not the field's default
+    EXPECT_EQ(in("SELECT Amount FROM RNATravel"), "Null"); // not the default of the field
     run("INSERT INTO RNATravel(DCLNO) VALUES(2)");
     EXPECT_EQ(in("SELECT Amount FROM RNATravel WHERE DCLNO=2"), "0");
     EXPECT_EQ(in("SELECT count(*) FROM LumpSumTax"), "0");
@@ -107,7 +107,7 @@ TEST(Creator, TakesEffectWholeOrNotAtAll) {
     creator.CreateOrOpenTable("T");
     creator.AddField("Number", store::Type::Double, 0, 10);
     creator.AddField("Words", store::Type::Text, 5, 11);
-    creator.AddField("NUMBER", store::Type::Text, 9, 0); // there already
+    creator.AddField("NUMBER", store::Type::Text, 9, 0); // exists already
     creator.AddField("Plain", store::Type::Integer, 0, 12);
     for (int twice = 0; twice < 2; ++twice)
         creator.AddIndex("Number, Words", "Both", false, false);

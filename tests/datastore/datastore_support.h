@@ -31,7 +31,7 @@ inline void runSql(const fs::path& file, const std::string& sql) {
     transaction.commit();
 }
 
-/// The bytes of a database, made once: building one afresh for each test would take longer than the test.
+/// The bytes of a database, created only once: creating one for each test would take longer than the test.
 struct Template {
     explicit Template(const std::function<void(const fs::path&)>& make) {
         const storetest::Folder folder;
@@ -41,7 +41,7 @@ struct Template {
     std::string bytes;
 };
 
-/// A program folder with the shipped databases as far as a start needs them.
+/// A program folder with the shipped databases that a start needs.
 class ProgramFolder : public storetest::Folder {
 public:
     ProgramFolder() {
@@ -69,7 +69,7 @@ public:
                 path() / "Diary.mdb"};
     }
     void run(const std::string& name, const std::string& sql) const { runSql(path() / name, sql); }
-    /// The client database with all tables and no client, as a start leaves it.
+    /// Creates the client database with all tables and no client, as a start does.
     void makeClientDb(double version = datastore::currentVersion) const {
         static const Template clients([](const fs::path& file) {
             datastore::createClientDb(file);
@@ -81,7 +81,7 @@ public:
     }
 };
 
-/// One cell of the first row that a query gives, as text; "none" without a row.
+/// The first cell of a query's result as text; "none" without a row.
 inline std::string cell(const fs::path& path, const std::string& sql) {
     store::Database database(path);
     store::Statement select = database.prepare(sql);
@@ -99,7 +99,7 @@ inline std::string cell(const fs::path& path, const std::string& sql) {
 /// The version of an up-to-date client database as `cell` shows it.
 inline const std::string current = std::to_string(static_cast<int>(datastore::currentVersion));
 
-/// Every table's definition and rows, so that two states of a file can be compared.
+/// The definition and rows of every table, to compare two states of a file.
 inline std::string dump(const fs::path& path) {
     store::Database database(path);
     std::string text;
@@ -121,7 +121,7 @@ inline std::string dump(const fs::path& path) {
     return text;
 }
 
-/// A text that fills a field of that many characters: accents of one to four bytes, apostrophes, markup.
+/// A text that fills a field of this many characters, with characters of one to four bytes, apostrophes and markup.
 inline std::string longText(const std::string& name, int size) {
     const std::string pieces[] = {"Ê", "'", "ḓ", "\"", "<", "x", "€", "&", "𝄞", "ß"};
     std::string text = name.substr(0, static_cast<std::size_t>(size));
@@ -130,7 +130,7 @@ inline std::string longText(const std::string& name, int size) {
     return text;
 }
 
-/// Writes a value of its own into each field that comes back from the file, taking turns at the ends of its width.
+/// Writes a different value into each field that a load restores, including the limits of its type.
 class Filler {
 public:
     template <class Row>
@@ -191,7 +191,7 @@ void eachRow(Assessment& record, Use use) {
         if (line.table != nullptr && line.isKept) each(*line.table, line.list(record.itemised).rows);
 }
 
-/// A client with a value in every field of every group, its own in each: ten policies, five assets, all lists.
+/// A client with a different value in every field: ten policies, five assets, all lists.
 inline Assessment fullClient() {
     Assessment record;
     record.policies.resize(10);
@@ -210,7 +210,7 @@ inline Assessment fullClient() {
     return record;
 }
 
-/// Every field of every group that comes back from the file.
+/// Compares every field that a load restores.
 inline void expectSameClient(Assessment& left, Assessment& right) {
     const auto valuesOf = [](Assessment& record) {
         std::vector<std::pair<std::string, store::Value>> values;

@@ -58,7 +58,7 @@ TEST_F(LoadTest, ReadsAsManyRowsAsTheListCountsAndNeverThoseOfAnother) {
 
 TEST_F(LoadTest, WhatAFieldCannotBeReadsAsItsBlank) {
     EXPECT_EQ(in("SELECT RRR FROM Data"), "12");
-    EXPECT_EQ(loaded().rrrOld.RRR, 0); // stored, and dropped by every load
+    EXPECT_EQ(loaded().rrrOld.RRR, 0); // stored, but no load restores it
     run("UPDATE Data SET Num1=NULL, Num2='text', Heading=NULL, TERM=40000, OMBP3=7.5, CapAmount=1e300, "
         "BirthDate='text', StartDateDB=NULL, InvAmount=3e9, ConPeriod=2.5, Salary=9e999, IntComp=NULL;"
         "UPDATE CGTDetails SET SB750PortDed=NULL, ExclCOPSplit=NULL, DateSale=-700000, DateAquired=-36521;"

@@ -37,7 +37,7 @@ TEST_F(Feed, ReplacesWhatTheTableHeld) {
     feed.replace("Loans", {{"Num1", 3.5}});
     feed.replace("Amort", std::vector<Row>{});
     feed.commit();
-    EXPECT_EQ(rows("Loans"), "|3.5||"); // nothing of the printout before
+    EXPECT_EQ(rows("Loans"), "|3.5||"); // nothing remains of the earlier printout
     EXPECT_EQ(rows("Amort"), "");
 }
 

@@ -8,7 +8,7 @@ namespace {
 
 using namespace storetest;
 
-/// An installation for all users, and a user who has never started the program.
+/// An installation for all users, and a user who never started the program.
 class ProgramFolder : public testing::Test {
 protected:
     ProgramFolder() {
@@ -63,7 +63,7 @@ TEST_F(ProgramFolder, FirstStartSeedsTheUsersFolderForItsOwnerAlone) {
 
 TEST_F(ProgramFolder, AnUpgradeRefreshesDefinitionsAndHelpAndLeavesEveryDatabase) {
     start();
-    fs::rename(own / "Default.Mdb", own / "DEFAULT.MDB"); // as an older system may have spelt it
+    fs::rename(own / "Default.Mdb", own / "DEFAULT.MDB"); // an older system may have spelt it like this
     const char* const databases[] = {"DEFAULT.MDB", "Print.mdb", "units.mdb", "Diary.mdb", "Data.Mdb"};
     for (const char* database : databases)
         put(own / database, "the user's");

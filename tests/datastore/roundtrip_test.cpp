@@ -10,7 +10,7 @@ TEST_F(RoundTrip, EveryFieldOfEveryGroupComesBackBitForBit) {
     Assessment saved = fullClient();
     ASSERT_EQ(datastore::Save(saved, file), datastore::Saved::written);
     EXPECT_EQ(saved.DCLNO, 1);
-    Assessment second; // its rows must not run into the first client's
+    Assessment second; // its rows must not mix with the first client's
     second.client.Name = "Somebody else";
     second.policies.resize(3);
     datastore::Save(second, file);
@@ -89,7 +89,7 @@ TEST_F(RoundTrip, AFileOfVersion3IsBroughtUpAndThenHoldsEverything) {
     datastore::load(record, folder.paths(), 7);
     EXPECT_EQ(record.client.Name, "Old client");
     EXPECT_EQ(record.loans.Num1, 5);
-    // What the old file did not know, or left Null, is blank.
+    // Fields that the old file lacks or has as Null are blank.
     EXPECT_EQ(record.client.BirthDate, base::blankDate);
     EXPECT_EQ(record.retirement.NaraLastReview, base::blankDate);
     EXPECT_EQ(record.retirement.AgeRetiment, 0);
@@ -97,7 +97,7 @@ TEST_F(RoundTrip, AFileOfVersion3IsBroughtUpAndThenHoldsEverything) {
     EXPECT_EQ(record.incomeShares.AnnMonIncShare, "annually");
     EXPECT_EQ(in("SELECT TaxCGT FROM Data"), "Null");
     EXPECT_EQ(record.policies.size(), 1U);
-    // It has no row of capital gains or lump sums yet, and can be saved all the same.
+    // It has no row of capital gains or lump sums yet, but can be saved.
     record.ClientChanged = 1;
     record.lumpSums.FstLumpTaken = 2;
     EXPECT_EQ(datastore::Save(record, file), datastore::Saved::written);

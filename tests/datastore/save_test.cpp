@@ -23,7 +23,7 @@ TEST_F(SaveTest, KeysCountUpFromTheHighest) {
     }
     run("DELETE FROM Data WHERE DCLNO IN (1,3)");
     Save(record, file);
-    EXPECT_EQ(record.DCLNO, 3); // a key is used again only if it was the highest
+    EXPECT_EQ(record.DCLNO, 3); // a key is reused only if it was the highest
     EXPECT_EQ(in("SELECT count(*) FROM PersDetails WHERE DCLNO=3"), "2");
 }
 
@@ -38,7 +38,7 @@ TEST_F(SaveTest, WritesOnlyWhatChangedAndClearsAllFlagsButTheAnnuitys) {
     EXPECT_EQ(record.ClientChanged, 0);
     EXPECT_EQ(record.changed.LoansChanged + record.changed.SpareChanged, 0);
     EXPECT_EQ(record.changed.DDLivAnnChanged, 1);
-    EXPECT_EQ(Save(record, file), Saved::written); // so it is asked for, and saved, again
+    EXPECT_EQ(Save(record, file), Saved::written); // so the next save writes again
     EXPECT_EQ(rowCount("Data", 1), "1");
 }
 
@@ -74,12 +74,12 @@ TEST_F(SaveTest, AListIsKeptOnlyWhileItsFlagIsOne) {
     record.itemised.DTHInvestments.flag = 1;
     record.itemised.DTHInvestments.rows.emplace_back().IncomeSource = "unit trusts";
     Save(record, file);
-    EXPECT_EQ(rowCount("DTHInvestments", 1), "0"); // this list and its flag are never written
+    EXPECT_EQ(rowCount("DTHInvestments", 1), "0"); // this list and its flag are never stored
     EXPECT_EQ(in("SELECT DTHInvestmentsItemise FROM Data"), "0");
     run("INSERT INTO DTHInvestments(DCLNO) VALUES(1); INSERT INTO CGTTrustOther(DCLNO) VALUES(9)");
     EXPECT_NE(rowCount("RNAStocks", 1), "0");
     record.itemised.RNAStocks.flag = 0;
-    record.itemised.DISACars.flag = 2; // neither on nor off: stored as it is, without rows
+    record.itemised.DISACars.flag = 2; // neither on nor off: stored like that, without rows
     record.itemised.RNATravel.rows.clear();
     record.capitalGains.ItemiseAdditCapGain = 0;
     record.capitalGains.assets.resize(2);
@@ -202,7 +202,7 @@ TEST_F(SaveTest, RefusesWhatAFieldCannotHold) {
         EXPECT_EQ(dump(file), before);
         EXPECT_EQ(bad.ClientChanged, 1);
     }
-    good.policies[0].PremInvAmtMonthlyAnnEsc = 7.5F; // kept as a whole percentage, ties to even
+    good.policies[0].PremInvAmtMonthlyAnnEsc = 7.5F; // stored as a whole percentage, ties to even
     good.ClientChanged = 1;
     Save(good, file);
     EXPECT_EQ(loaded().policies[0].PremInvAmtMonthlyAnnEsc, 8);

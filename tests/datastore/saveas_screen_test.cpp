@@ -27,7 +27,7 @@ TEST_F(SaveAs, EditsAPrivateCopyThatCancelForgets) {
     EXPECT_EQ(run.shown("txtName"), "Dr  Êksteen");
     run.type("txtDescription", "");
     run.type("dtCDOB", "");
-    run.menu("mnuPersDet"); // there and back: what was typed stays
+    run.menu("mnuPersDet"); // to another screen and back: what was typed stays
     EXPECT_EQ(run.shown("txtCLName"), "O'Brien");
     run.menu("mnuSaveAs");
     EXPECT_EQ(run.shown("txtName"), "Dr  Êksteen");
@@ -53,7 +53,7 @@ TEST_F(SaveAs, MakesANewClientAndLeavesTheOldRowsAlone) {
     const std::string before = run.inClients(old);
     run.type("txtCLName", "Ṱhoho-Nḓou");
     run.type("dtCDOB", "");
-    run.key(Qt::Key_Return); // from the description on to OK
+    run.key(Qt::Key_Return); // from the description to OK
     if (run.isOpen("frmSaveFileAs")) run.click("cmdOK");
     EXPECT_FALSE(run.isOpen("frmSaveFileAs"));
     EXPECT_EQ(run.inClients(old), before);
@@ -62,10 +62,10 @@ TEST_F(SaveAs, MakesANewClientAndLeavesTheOldRowsAlone) {
     EXPECT_EQ(run.record().DCLNO, 2);
     EXPECT_EQ(run.record().ClientOnFile, 1);
     EXPECT_EQ(run.clientName(), "Mr P J Ṱhoho-Nḓou");
-    EXPECT_EQ(run.shown("txtCLName"), "Ṱhoho-Nḓou"); // the front page shows the new one
+    EXPECT_EQ(run.shown("txtCLName"), "Ṱhoho-Nḓou"); // personal details shows the new client
 
     run.type("txtCInit", "T");
-    run.menu("mnuSave"); // goes to the copy
+    run.menu("mnuSave"); // saves the new client
     EXPECT_EQ(run.inClients("SELECT [CInit] FROM [PersDetails] ORDER BY DCLNO"), "P J\nT");
 }
 

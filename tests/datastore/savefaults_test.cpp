@@ -4,13 +4,13 @@
 #include "datastore/datastore_support.h"
 #include "datastore/save.h"
 
-/// Whatever stops a save, the file holds the client as before or as after, whole.
+/// After any failure of a save, the file holds the client completely as before or completely as after.
 namespace {
 
 using namespace datastoretest;
 using datastore::Save;
 
-/// A client on file, and the same with every figure changed but not saved.
+/// A client on file, and the same client with every figure changed but not saved.
 class SaveFaultTest : public ClientFileTest {
 protected:
     SaveFaultTest() {
@@ -31,7 +31,7 @@ protected:
     }
 };
 
-TEST_F(SaveFaultTest, ATableThatRefusesLeavesAllOthersAsTheyWere) {
+TEST_F(SaveFaultTest, AFailingTableLeavesAllOthersUnchanged) {
     int refusing = 0;
     for (const assessment::TableDescription* table : assessment::clientTables()) {
         if (table->field("DCLNO") == nullptr) continue;
@@ -48,7 +48,7 @@ TEST_F(SaveFaultTest, ATableThatRefusesLeavesAllOthersAsTheyWere) {
         Assessment anew = record;
         anew.ClientOnFile = 0;
         anew.SaveThenNew = 1;
-        // These two lists are emptied by a save, never filled.
+        // A save empties these two lists and never fills them.
         if (table->name() != "DTHInvestments" && table->name() != "DISAInvestments") {
             expectFailure(anew, 3000, table->name());
             EXPECT_EQ(anew.ClientOnFile, 0);
@@ -67,7 +67,7 @@ TEST_F(SaveFaultTest, AFileThatAnotherProgramHolds) {
         EXPECT_EQ(saveError(), 3356);
         Assessment reader = record;
         EXPECT_EQ(errorOf([&] { datastore::load(reader, folder.paths(), 1); }), 3356);
-        EXPECT_TRUE(reader == record); // the client who was loaded still is
+        EXPECT_TRUE(reader == record); // the loaded client is unchanged
     }
     EXPECT_EQ(record.ClientChanged, 1);
     EXPECT_EQ(Save(record, file), datastore::Saved::written);
@@ -80,7 +80,7 @@ TEST_F(SaveFaultTest, AFileThatIsGoneOrDamagedIsLeftSo) {
     EXPECT_EQ(storetest::bytesOf(file), part);
     fs::remove(file);
     EXPECT_EQ(saveError(), 3024);
-    EXPECT_FALSE(fs::exists(file)); // only a start creates
+    EXPECT_FALSE(fs::exists(file)); // only a start creates the file
     EXPECT_EQ(record.ClientChanged, 1);
 }
 
@@ -101,7 +101,7 @@ TEST_F(SaveFaultTest, AProgramKilledInTheMiddle) {
     std::mt19937 random(20260301);
     std::uniform_real_distribution moment(0.0, 3 * timeOfOneSave.count());
     double number = 100;
-    // On a busy machine the first rounds may all be killed before their save: more follow until one has got through.
+    // On a busy machine the first rounds may be killed before their save: more follow until one save has completed.
     for (int round = 0; round < 30 || (number <= 101 && round < 200); ++round) {
         storetest::runAndKill(
             [&](auto ready) {
@@ -111,13 +111,13 @@ TEST_F(SaveFaultTest, AProgramKilledInTheMiddle) {
                 }
             },
             static_cast<useconds_t>(moment(random)));
-        // The next start asks nothing and finds one save, whole.
+        // The next start opens the file without a question and finds one complete save.
         Assessment found;
         ASSERT_NO_THROW(datastore::startUp(folder.path(), found));
         ASSERT_NO_THROW(datastore::load(found, folder.paths(), 1));
         if (found.loans.Num1 > 100) stamp(record, number = found.loans.Num1);
         expectSameClient(record, found);
-        record.inFile = found.inFile; // the process that was killed knew what it had saved
+        record.inFile = found.inFile; // the killed process knew what it had saved
     }
     EXPECT_GT(number, 101);
     EXPECT_EQ(in("PRAGMA integrity_check"), "ok");

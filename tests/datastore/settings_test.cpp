@@ -32,5 +32,5 @@ TEST(Settings, TheFirstRowIsReadAndEdited) {
     store::Statement rows = database.prepare("SELECT count(*), (SELECT GRINC FROM Setup WHERE rowid = 2) FROM Bare");
     ASSERT_TRUE(rows.step());
     EXPECT_EQ(rows.number(0), 1);
-    EXPECT_EQ(rows.number(1), 9); // the second row was left alone
+    EXPECT_EQ(rows.number(1), 9); // the second row is unchanged
 }

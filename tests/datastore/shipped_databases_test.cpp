@@ -1,4 +1,4 @@
-// The databases that the build makes, as a first start finds them.
+// The databases that the build creates, as a first start finds them.
 #include <vector>
 
 #include "datastore/settings.h"
@@ -17,7 +17,7 @@ constexpr const char* printFile = "Print.mdb";
 struct Shipped {
     const char* file;
     int tables;
-    std::vector<const char*> withARow; ///< edited in place, so they must not be shipped empty
+    std::vector<const char*> withARow; ///< the program only edits these rows, so they must be shipped
 };
 
 const Shipped files[] = {
@@ -32,7 +32,7 @@ const Shipped files[] = {
       "PersDetails", "Printout", "AllDetailsHeader", "UnitHistDet", "IRP5Mon", "CGTTrustOtherDetails"}},
 };
 
-// The copy that packages take, which nobody has worked with.
+// The copy for packages, which no program has changed.
 fs::path shipped(const std::string& file) { return fs::path(MARLOWBECK_PROGRAM_DIR) / "../databases" / file; }
 
 double number(store::Database& database, const std::string& sql) {
@@ -62,7 +62,7 @@ TEST(ShippedDatabases, StartWithTheFactorySettings) {
     EXPECT_EQ(lines.text("footv1"), "information supplied by the undersigned client.");
     EXPECT_EQ(lines.text("headerv3") + lines.text("footv3"), "");
 
-    // The user's rates begin as the factory's.
+    // The user's rates start equal to the original ones.
     const auto user = readSettings(shipped(settingsFile), "MutualFunds");
     const auto factory = readSettings(shipped(settingsFile), "TallowenDefault");
     for (const auto& field : user.row())

@@ -2,7 +2,7 @@
 
 #include "datastore/datastore_support.h"
 
-/// The databases that come with the program, as an older version of it left them.
+/// The databases that come with the program, in the state of an older version.
 namespace {
 
 using namespace datastoretest;
@@ -34,12 +34,12 @@ TEST_F(Shipped, PrintMdbIsMadeAnewWhereItsTablesAreOthers) {
         EXPECT_EQ(cell(print, "SELECT HEADERV0||footv0 FROM HeadFoot"),
                   "The practiceThis report was prepared in accordance with ")
             << older;
-        EXPECT_EQ(cell(print, "SELECT count(*) FROM PAYESetup"), "1") << older; // tables that ship with a row
+        EXPECT_EQ(cell(print, "SELECT count(*) FROM PAYESetup"), "1") << older; // tables that are shipped with a row
         EXPECT_FALSE(fs::exists(folder / ".Print.mdb.new"));
     }
     const auto written = fs::last_write_time(print);
     start();
-    EXPECT_EQ(fs::last_write_time(print), written); // up to date, so it is left alone
+    EXPECT_EQ(fs::last_write_time(print), written); // it was up to date and is unchanged
 }
 
 TEST_F(Shipped, PrintMdbOfAnOldClientDatabaseGetsTheLinesWithItsUpgrade) {

@@ -34,7 +34,7 @@ TEST_F(StartUp, AFirstRunMakesTheClientDatabaseAndReadsTheSettings) {
     EXPECT_EQ(record.CPI, 4.25);
     datastore::ResetAssessment(record, result.paths);
     EXPECT_EQ(record.CPI, 4.25);
-    EXPECT_EQ(record.funds.ESPremCom, 0); // read again at the next start only
+    EXPECT_EQ(record.funds.ESPremCom, 0); // only the next start reads them again
 }
 
 TEST_F(StartUp, FindsTheClientDatabaseByTheLineOfDataPath) {
@@ -57,10 +57,10 @@ TEST_F(StartUp, UsesTheFilesUnderTheirOwnSpelling) {
     fs::create_directory(folder / "Sub");
     fs::rename(file, folder / "Sub/DATA.MDB");
     fs::rename(settings, folder / "DEFAULT.mdb");
-    storetest::put(folder / "datapath.TXT", "Sub\\data.mdb\n"); // relative to the program's folder
+    storetest::put(folder / "datapath.TXT", "Sub\\data.mdb\n"); // relative to the program folder
     const auto paths = start().paths;
     EXPECT_EQ(paths.DataDbPath, folder / "Sub/DATA.MDB");
-    EXPECT_EQ(storetest::bytesOf(folder / "datapath.TXT"), "Sub\\data.mdb\n"); // never rewritten by a start
+    EXPECT_EQ(storetest::bytesOf(folder / "datapath.TXT"), "Sub\\data.mdb\n"); // a start never rewrites it
     EXPECT_FALSE(fs::exists(dataPath));
     fs::rename(folder / "Sub/DATA.MDB", folder / "DATA.MDB");
     storetest::put(folder / "datapath.TXT", "\"\"\r\n");
@@ -77,7 +77,7 @@ TEST_F(StartUp, AFolderOfANameThatDataPathCannotHoldIsRefusedBeforeAnythingIsWri
             fs::copy_file(shipped, program / shipped.filename());
         EXPECT_EQ(errorOf([&] { datastore::startUp(program, record); }), 75) << name;
         EXPECT_EQ(std::distance(fs::directory_iterator(program), {}), 2) << name;
-        storetest::put(program / "DataPath.txt", (folder / "Mine.Mdb").string()); // needs no line of ours
+        storetest::put(program / "DataPath.txt", (folder / "Mine.Mdb").string()); // needs no DataPath.txt of ours
         EXPECT_EQ(datastore::startUp(program, record).paths.DataDbPath, folder / "Mine.Mdb") << name;
     }
 }
@@ -141,7 +141,7 @@ TEST_F(StartUp, ACopiedFolderIsToldOfAndOpensWhatItsLineNames) {
         EXPECT_EQ(storetest::bytesOf(copy / "DataPath.txt"), line) << what;
         for (const fs::path& named : {result.paths.DataDbPath, copied})
             EXPECT_NE(result.notice.find(named.string()), std::string::npos) << what;
-        fs::remove(copy / "DataPath.txt"); // as the notice says
+        fs::remove(copy / "DataPath.txt"); // as the notice advises
         EXPECT_EQ(datastore::startUp(copy, record).paths.DataDbPath, copied) << what;
     }
 }
@@ -207,14 +207,14 @@ TEST_F(StartUp, NeedsTheSettingsAndMustBeAbleToWriteThem) {
     fs::remove(settings);
     record.client.Name = "kept";
     EXPECT_EQ(errorOf([&] { datastore::ResetAssessment(record, folder.paths()); }), 3024);
-    EXPECT_EQ(record.client.Name, "kept"); // a New that fails loses nothing
+    EXPECT_EQ(record.client.Name, "kept"); // a failed New loses nothing
 }
 
 TEST_F(StartUp, AFolderThatTakesNoJournalEndsALaterStartToo) {
     start();
     const std::string before = storetest::bytesOf(settings);
     EXPECT_EQ(startError(), 0);
-    EXPECT_EQ(storetest::bytesOf(settings), before); // the trial write leaves no trace
+    EXPECT_EQ(storetest::bytesOf(settings), before); // the trial write changes nothing
     fs::permissions(folder.path(), fs::perms::owner_read | fs::perms::owner_exec);
     const storetest::OrdinaryUser user(folder);
     EXPECT_EQ(startError(), 3051);

@@ -7,7 +7,7 @@ namespace {
 
 using namespace datastoretest;
 
-class LadderTest : public ClientFileTest {
+class UpgradeTest : public ClientFileTest {
 protected:
     double version() { return start().paths.UpDateDBValue; } ///< after a start
     /// A client of that key on file whose shares draw an income.
@@ -15,12 +15,12 @@ protected:
         run("INSERT INTO Data(DCLNO,InvestAmount,InitPercRequire,AnnMonIncShare) VALUES(" + std::to_string(key) + "," +
             investAmountPercentAndRate + ")");
     }
-    std::string drawing(int key) const {
+    std::string incomeDrawn(int key) const {
         return in("SELECT InitPercRequire FROM Data WHERE DCLNO=" + std::to_string(key));
     }
 };
 
-TEST_F(LadderTest, EachVersionClimbsToTheCurrentOneAtOnce) {
+TEST_F(UpgradeTest, EachVersionIsUpgradedToTheCurrentOneAtOnce) {
     for (const auto& [before, rand, printLine] : {std::tuple{1.0, "80", ""},
                                                   {3.0, "80", ""},
                                                   {3.5, "8", ""},
@@ -32,19 +32,19 @@ TEST_F(LadderTest, EachVersionClimbsToTheCurrentOneAtOnce) {
         addDrawing(1, "1000,8,'annually'");
         for (int starts = 0; starts < 2; ++starts) {
             EXPECT_EQ(version(), std::max(before, datastore::currentVersion)) << before;
-            EXPECT_EQ(drawing(1), rand) << before;
+            EXPECT_EQ(incomeDrawn(1), rand) << before;
         }
         EXPECT_EQ(std::stod(in("SELECT UpDateDB FROM DataSetup")), std::max(before, datastore::currentVersion));
         EXPECT_EQ(cell(print, "SELECT HEADERV0 FROM HeadFoot"), printLine) << before;
     }
 }
 
-TEST_F(LadderTest, PercentagesBecomeWholeRandOnce) {
+TEST_F(UpgradeTest, PercentagesBecomeWholeRandOnce) {
     folder.makeClientDb(3);
     const std::pair<const char*, const char*> cases[] = {
         {"100000, 7.5, 'annually'", "7500"},
         {"100000, 7.5, 'Monthly '", "625"},
-        {"100000, 1.23456, 'annually'", "1235"}, // 0.012346 after six places
+        {"100000, 1.23456, 'annually'", "1235"}, // 0.012346 rounded to six places
         {"250, 1, 'annually'", "2"},             // 2.5
         {"350, 1, 'annually'", "4"},             // 3.5: ties to even
         {"1000, 5.5, 'weekly'", "6"},
@@ -59,12 +59,12 @@ TEST_F(LadderTest, PercentagesBecomeWholeRandOnce) {
     EXPECT_EQ(version(), datastore::currentVersion);
     key = 0;
     for (const auto& [row, rand] : cases)
-        EXPECT_EQ(drawing(++key), rand) << row;
+        EXPECT_EQ(incomeDrawn(++key), rand) << row;
     EXPECT_EQ(in("SELECT AnnMonIncShare FROM Data WHERE DCLNO=9"), "annually");
     EXPECT_EQ(in("SELECT AnnMonIncShare FROM Data WHERE DCLNO=10"), "monthly"); // 0 is not Null
 }
 
-TEST_F(LadderTest, NothingIsStampedOrConvertedUntilPrintMdbHasTheLines) {
+TEST_F(UpgradeTest, NothingIsStampedOrConvertedUntilPrintMdbHasTheLines) {
     folder.makeClientDb(3);
     addDrawing(1, "1000,8,'annually'");
     run("DROP TABLE LumpSumTax; UPDATE HeadFoot SET HEADERV0='new'");
@@ -74,13 +74,13 @@ TEST_F(LadderTest, NothingIsStampedOrConvertedUntilPrintMdbHasTheLines) {
     EXPECT_EQ(dump(file), before);
     fs::rename(folder / "away", print);
     EXPECT_EQ(version(), datastore::currentVersion);
-    EXPECT_EQ(drawing(1), "80");
+    EXPECT_EQ(incomeDrawn(1), "80");
     EXPECT_EQ(cell(print, "SELECT HEADERV0||footv0 FROM HeadFoot"), "newThis report was prepared in accordance with ");
     fs::remove(print);
-    EXPECT_EQ(version(), datastore::currentVersion); // an up-to-date file does not need it
+    EXPECT_EQ(version(), datastore::currentVersion); // an up-to-date file does not need Print.mdb
 }
 
-TEST_F(LadderTest, AVersionThatCannotBeReadEndsTheStart) {
+TEST_F(UpgradeTest, AVersionThatCannotBeReadEndsTheStart) {
     for (const auto& [sql, error] : {std::pair{"UPDATE DataSetup SET UpDateDB=NULL", 94},
                                      {"UPDATE DataSetup SET UpDateDB='old'", 3421},
                                      {"DELETE FROM DataSetup", 3021},
@@ -95,17 +95,17 @@ TEST_F(LadderTest, AVersionThatCannotBeReadEndsTheStart) {
     folder.makeClientDb(3);
     run("INSERT INTO DataSetup(UpDateDB) VALUES(5)");
     EXPECT_EQ(version(), datastore::currentVersion);
-    EXPECT_EQ(in("SELECT group_concat(UpDateDB) FROM DataSetup"), current + ".0,5.0"); // the first row alone counts
+    EXPECT_EQ(in("SELECT group_concat(UpDateDB) FROM DataSetup"), current + ".0,5.0"); // only the first row counts
 }
 
-TEST_F(LadderTest, EscalationsLeftNullBecomeZero) {
+TEST_F(UpgradeTest, EscalationsLeftNullBecomeZero) {
     folder.makeClientDb(5);
     run("INSERT INTO RNAMonIncReq(DCLNO,Escalation) VALUES(1,NULL),(1,6)");
     EXPECT_EQ(version(), datastore::currentVersion);
     EXPECT_EQ(in("SELECT group_concat(Escalation) FROM RNAMonIncReq"), "0.0,6.0");
 }
 
-TEST_F(LadderTest, HeaderAndFooterLinesGoToBothDatabases) {
+TEST_F(UpgradeTest, HeaderAndFooterLinesGoToBothDatabases) {
     const auto writeError = [&](const assessment::HeadFootLines& lines) {
         return errorOf([&] { datastore::writeHeadFoot(folder.paths(), lines); });
     };

@@ -11,36 +11,36 @@ using finance::LCCalculate;
 TEST(LifeOfCapital, YearByYear) {
     const auto years = finance::FINDTERMLIFE({500000, 5000, 9, 25, 6});
     EXPECT_EQ(years.capital[1], 500000);
-    EXPECT_EQ(years.earnings[1], 33750); // 9 % less a quarter for tax
+    EXPECT_EQ(years.earnings[1], 33750); // 9 % less a quarter in tax
     EXPECT_EQ(years.need[1], 60000);
-    EXPECT_EQ(years.capital[2], 473750); // the first year's income comes out whatever there is
+    EXPECT_EQ(years.capital[2], 473750); // the first year's income is paid in any case
     EXPECT_EQ(years.earnings[2], 31978.125);
     EXPECT_EQ(years.need[2], 63600);
     EXPECT_EQ(years.lookedAt, 10);
     EXPECT_NEAR(years.capital[10], 14636.461637, 1e-6);
-    EXPECT_NEAR(years.need[10], 101368.737540, 1e-6); // more than the capital and what it earns: 9 years are carried
+    EXPECT_NEAR(years.need[10], 101368.737540, 1e-6); // more than the capital and its earnings: 9 years are covered
     EXPECT_EQ(finance::FINDTERM({500000, 5000, 9, 25, 30}, 6).need[10], years.need[10]) << "a quotation's own rise";
 }
 
-TEST(LifeOfCapital, WhatItComesToOnBothScreens) {
+TEST(LifeOfCapital, ResultsOnBothScreens) {
     struct Case {
         LifeOfCapital of;
         int result, shown, shownInQuotes;
     };
     const Case cases[] = {
         {{100000, 1000, 10, 0, 0}, 18, 18, 18},
-        {{1, 1000, 10, 0, 0}, 1, 1, 1},      // hopeless: the first year is never tested
-        {{26400, 1000, 10, 0, 0}, 2, 2, 2},  // 26 400, then 17 040 + 1 704, then 6 744: short
-        {{1200, 100, 100, 100, 0}, 1, 1, 1}, // all earnings taxed away: nothing is left for year 2
-        {{2400, 100, 9, 100, 0}, 2, 2, 2},   // exactly what year 2 needs does
+        {{1, 1000, 10, 0, 0}, 1, 1, 1},      // far too little, but the first year is never tested
+        {{26400, 1000, 10, 0, 0}, 2, 2, 2},  // 26 400, then 17 040 + 1 704, then 6 744: too little
+        {{1200, 100, 100, 100, 0}, 1, 1, 1}, // tax takes all earnings: nothing is left for year 2
+        {{2400, 100, 9, 100, 0}, 2, 2, 2},   // exactly the need of year 2 is enough
         {{187100, 1000, 6, 0, 0}, 47, 47, 47},
-        {{187900, 1000, 6, 0, 0}, 48, 48, 45},  // the quotes say "more than" from 48 on, and show 45
-        {{188500, 1000, 6, 0, 0}, 49, 50, 45},  // runs out in the last year looked at
-        {{500000, 1000, 9, 25, 0}, 49, 50, 45}, // never does
+        {{187900, 1000, 6, 0, 0}, 48, 48, 45},  // quotes say "more than" from 48 on, and show 45
+        {{188500, 1000, 6, 0, 0}, 49, 50, 45},  // runs out in the last year calculated
+        {{500000, 1000, 9, 25, 0}, 49, 50, 45}, // never runs out
         {{0, 1000, 10, 0, 0}, 0, 0, 0},
         {{100000, 0, 10, 0, 0}, 0, 0, 0},
         {{100000, 1000, 0, 0, 0}, 0, 0, 0},
-        {{100000, 1000, -10, 0, 0}, 5, 5, 5}, // a loss is reckoned with as it stands
+        {{100000, 1000, -10, 0, 0}, 5, 5, 5}, // a loss is used as it is
     };
     for (const Case& c : cases) {
         const CapitalLife life = LCCalculate(c.of, finance::moreThanInLifeOfCapital);

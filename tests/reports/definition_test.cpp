@@ -6,7 +6,7 @@ namespace {
 
 class Definition : public ReportTest {
 protected:
-    /// The message of the error that a definition ends in; empty if it runs.
+    /// The error message of a definition; empty if it runs.
     std::string messageOf(const std::string& body, const std::string& table = "Loans") {
         define("Own.rpt", page(body, table));
         try {
@@ -24,7 +24,7 @@ protected:
 TEST_F(Definition, NamesFileAndLineOfEveryFault) {
     define("piece.rpt", "<p>sound</p>\n<p>{{Nowhere}}</p>\n");
     define("loop.rpt", "<p>x</p>\n{{>loop}}\n");
-    define("nothing.rpt", ""); // what a full disk leaves of a copy
+    define("nothing.rpt", ""); // an empty file, as a failed copy leaves it
     feedLoan();
     const struct {
         const char *body, *file, *line, *names, *number;
@@ -35,7 +35,7 @@ TEST_F(Definition, NamesFileAndLineOfEveryFault) {
         {"{{#Amort}}<p>{{Num1}}</p>{{/Amort}}", "Own.rpt", "Line 5:", "\"Num1\"", "3265"},
         {"{{?Filled}}<p>x</p>{{/Filled}}", "Own.rpt", "Line 5:", "\"Filled\"", "3265"},
         {"{{>nothing}}", "nothing.rpt", "Line 1:", "empty", "321"},
-        // also in a section that is not printed now
+        // also in a section that is not printed
         {"{{?FinText3}}x{{/FinText3}}", "Own.rpt", "Line 5:", "\"FinText3\"", "3265"},
         {"<p>a</p>\n{{#Amort}}\n<p>b</p>\n", "Own.rpt", "Line 6:", "{{#Amort}}", "321"},
         {"<table>\n{{#Amort}}\n<tr><td>{{Year}}</td></tr>\n</table>\n{{/Amort}}", "Own.rpt", "Line 6:", "{{#Amort}}",

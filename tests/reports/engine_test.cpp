@@ -6,7 +6,7 @@ namespace {
 
 class Engine : public ReportTest {};
 
-/// Tells how many copies it was printing when a page ended.
+/// Records the number of copies at the end of each page.
 class CountingPrinter : public QPrinter {
 public:
     CountingPrinter(const QString& file, int& copies) : QPrinter(QPrinter::HighResolution), m_copies(copies) {
@@ -35,7 +35,7 @@ TEST_F(Engine, CopiesHoldForOnePrintout) {
     EXPECT_TRUE(counted.run("LonrepaA.rpt", "Title", Destination::printer));
     EXPECT_EQ(copies, 1);
     counted.CopiesToPrinter = 5;
-    EXPECT_TRUE(counted.run("LonrepaA.rpt", "Title", Destination::preview)); // a view uses them up too
+    EXPECT_TRUE(counted.run("LonrepaA.rpt", "Title", Destination::preview)); // a view resets the number too
     EXPECT_TRUE(counted.run("LonrepaA.rpt", "Title", Destination::printer));
     EXPECT_EQ(copies, 1);
 }
@@ -80,8 +80,8 @@ TEST_F(Engine, APreviewKeepsTheRowsOfItsOwnRun) {
     ASSERT_EQ(windows.size(), 2u);
     EXPECT_TRUE(textOfPdf(reports::toPdf(windows[0]->report())).contains("R 250 000.00"));
     EXPECT_TRUE(textOfPdf(reports::toPdf(windows[1]->report())).contains("R 7.00"));
-    EXPECT_EQ(windows[0]->windowTitle(), "Personal Details ");           // its last blank too
-    EXPECT_EQ(windows[1]->windowTitle(), "Monthly repayment of a loan"); // none given: its own, not the one before
+    EXPECT_EQ(windows[0]->windowTitle(), "Personal Details ");           // including its last blank
+    EXPECT_EQ(windows[1]->windowTitle(), "Monthly repayment of a loan"); // without a title: the definition's own
     for (auto* window : windows) {
         EXPECT_EQ(window->parentWidget(), nullptr);
         EXPECT_FALSE(window->isModal());
@@ -99,10 +99,10 @@ TEST_F(Engine, PrintsOnTheSessionsPrinter) {
     const QStringList onPaper = textOfPdf(printed).split('\f', Qt::SkipEmptyParts);
     const QStringList inPdf = pages("LonrepaA.rpt");
     ASSERT_EQ(onPaper.size(), inPdf.size());
-    for (int page = 0; page < inPdf.size(); ++page) // paper breaks where the PDF does
+    for (int page = 0; page < inPdf.size(); ++page) // pages break as in the PDF
         EXPECT_EQ(onPaper[page].simplified(), inPdf[page].simplified());
 
-    // Printer Setup's choice holds for what is printed later.
+    // A later printout uses the choice made in Printer Setup.
     const QString other = pathOf("other.pdf");
     desk.printDialog = [&](QPrinter& printer) {
         printer.setOutputFileName(other);

@@ -30,7 +30,7 @@ protected:
         storetest::put(folder / "own", bytes(format).toStdString());
         return pathOf("own");
     }
-    /// One file out of a zipped document.
+    /// One file from a zipped document.
     QString part(Format format, const QString& name) { return runTool("unzip", {"-p", file(format), name}); }
     QString sheet(int number) { return part(Format::xlsx, QString("xl/worksheets/sheet%1.xml").arg(number)); }
 };
@@ -46,8 +46,8 @@ TEST_F(Export, CsvHoldsRawValuesQuotedByTheRules) {
                                                 "Sum,1234567.125\r\n");
 }
 
-// What a cell's text is to a spreadsheet: text at the left, a figure at the right, or a day.
-TEST_F(Export, TextsAreTakenForWhatTheyMean) {
+// What a cell's text means to a spreadsheet: a text at the left, a figure at the right, or a date.
+TEST_F(Export, TextsGetTheTypeThatTheyMean) {
     // text, at the left of the CSV, at the right of it, whether it is a figure in a column of figures
     const std::tuple<const char*, const char*, std::string, bool> cases[] = {
         {"62001234567890123", "\"\t62001234567890123\"", "\"\t62001234567890123\"", false},
@@ -93,7 +93,7 @@ TEST_F(Export, HtmlEscapesTextsAndKeepsHeadsAndFigures) {
                  "<thead>", "<tr class=\"result\">", "information supplied by the undersigned client."});
 }
 
-/// The words of a document's XML, line by line; an XML that is not well formed fails the test.
+/// The text of a document's XML, line by line; fails the test if the XML is not well formed.
 QString wordsOf(const QString& xml) {
     QString words;
     QXmlStreamReader reader(xml);
@@ -115,11 +115,11 @@ TEST_F(Export, OdtHoldsEveryLetterAndFigureAlsoSideBySide) {
                            "<div><p>{{PersDetails.Comments}}</p></div></div><hr/>"
                            "<table><col width=\"50%\"/><col width=\"50%\"/><tr><td colspan=\"2\">{{Heading}}</td></tr>"
                            "<tr><td>1</td></tr></table>"));
-    EXPECT_EQ(bytes(Format::odt).mid(30, 47), "mimetypeapplication/vnd.oasis.opendocument.text"); // stored, and first
+    EXPECT_EQ(bytes(Format::odt).mid(30, 47), "mimetypeapplication/vnd.oasis.opendocument.text"); // plain, first
     const QString content = part(Format::odt, "content.xml");
     expectWords(wordsOf(content), {"\nO'Brien, \"Êksteen\"\nṰhoho-Nḓou <b>&\"x\"", "\nLeft of", "\n1 234 567.12",
                                    "\n  two  blanks\tand a tab \n=&<>\"' "});
-    // A table stands in a cell, never between the rows of another; every row has all its cells.
+    // A nested table is inside a cell, never between the rows of another; every row has all its cells.
     EXPECT_FALSE(content.contains(QRegularExpression("table:table-row[^>]*>\\s*<table:table ")));
     EXPECT_EQ(content.count("<table:table "), 3);
     EXPECT_EQ(content.count("<table:table-cell ") + content.count("<table:covered-table-cell"), 2 + 1 + 4);
@@ -138,7 +138,7 @@ TEST_F(Export, XlsxHoldsNumbersWithTheirFormat) {
 
 TEST_F(Export, XlsxFitsItsColumnsAndPagesAndPutsNothingOverAnotherCell) {
     std::string notes;
-    for (int word = 0; word < 8000; ++word) // more than a cell can hold
+    for (int word = 0; word < 8000; ++word) // more than fits into a cell
         notes += "w" + std::to_string(word) + " ";
     feed("PersDetails", {{"Name", "N"}, {"Comments", notes}, {"CEMail", "a.very.long.address@a-practice.co.za"}});
     feedAmortisation(30);
@@ -154,7 +154,7 @@ TEST_F(Export, XlsxFitsItsColumnsAndPagesAndPutsNothingOverAnotherCell) {
     EXPECT_LT(firstColumn.match(sheet(2)).captured(1).toDouble(), 12);
     QString texts = part(Format::xlsx, "xl/sharedStrings.xml");
     texts.replace(QRegularExpression("<[^>]*>"), " ");
-    for (int word = 0; word < 8000; word += 37) // none is lost where the notes were parted
+    for (int word = 0; word < 8000; word += 37) // no word is lost where the notes were split
         ASSERT_TRUE(texts.contains(QString(" w%1 ").arg(word))) << word;
 }
 
@@ -186,7 +186,7 @@ TEST_F(Export, PdfKeepsTheLettersAndHasItsTitleLanguageAuthorAndAnOutlineOfItsHe
     EXPECT_EQ(objects[root]["/Lang"].toString(), "en-ZA");
 }
 
-// The disk is full: nothing larger than this may be written.
+// A limit on the file size stands in for a full disk.
 class FullDisk {
 public:
     FullDisk() {

@@ -18,7 +18,7 @@ using reports::frmGraph;
 using reports::GraphPeriod;
 using Array = std::vector<double>;
 
-/// Element i is base + i; element 0, which no graph may show, is far out.
+/// Element i is base + i; element 0, which no graph may show, is an extreme value.
 inline Array counting(double base, int last = 51) {
     Array array(static_cast<std::size_t>(last) + 1);
     std::iota(array.begin(), array.end(), base);

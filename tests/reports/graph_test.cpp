@@ -44,7 +44,7 @@ TEST(Graph, ArraysAreDrawnInTheOrderOfTheLegendUnderTheirTexts) {
          four},
         {[&] { g.NADAmortGraph(a, b, c, d, 20); }, life + "||TERM OF COVER (years)", needs, 20, requiredFirst},
         {[&] { g.NADISAmortGraph(a, b, c, d, 21); }, life + "||TERM OF COVER (years)", needs, 21, requiredFirst},
-        {[&] { g.NARAAmortGraph(a, b, c, d, 51); }, // the window's cap, not the arrays' 51
+        {[&] { g.NARAAmortGraph(a, b, c, d, 51); }, // the window shows 50 at most; the arrays have 51
          life + " for Retirement||TERM OF Retirement (years)", needs, 50, requiredFirst},
         {[&] { g.LoanAmortGraph(a, b, c, 1, 20, 21); }, loan, debt, 20, three},
         {[&] { g.LoanAmortGraph(a, b, c, 2, 2, 3); }, loan, debt, 3, three}, // a part year
@@ -89,7 +89,7 @@ TEST(Graph, OpensEmptyAndSurvivesWhatNoAxisHolds) {
     }
     {
         const Array gone{0, 5, 6};
-        f.window.LivAnnGraph(gone, Array{0, 7, 8}, 40); // fewer than told
+        f.window.LivAnnGraph(gone, Array{0, 7, 8}, 40); // fewer elements than the count says
     }
     EXPECT_EQ(f.window.graph().points, 2);
     EXPECT_EQ(f.window.graph().series[0].values, (Array{5, 6})) << "figures of its own";
@@ -121,7 +121,7 @@ TEST(Graph, ScalesInRoundStepsFromNought) {
         graph.series.push_back({"", values});
         EXPECT_EQ(labelsOf(reports::valueScale(graph)), labels);
     }
-    // whatever the figures, the ticks take them in and no two read alike
+    // the axis includes every value, and no two tick labels are equal
     for (const double top : {0.011, 1.0, 7.77, 99.999, 1e6, 3.3e9, 4e14, 8e18, 9e299}) {
         reports::Graph graph;
         graph.series.push_back({"", {top, -top / 3}});
@@ -144,7 +144,7 @@ TEST(Graph, ShowsTheValueUnderThePointer) {
     EXPECT_TRUE(f.view().callout().contains("Balance"));
     QTest::mouseMove(&f.view(), f.pixelOf(3, 0));
     EXPECT_EQ(f.view().callout().section('\n', 0, 0), "Year 3");
-    QTest::mouseMove(&f.view(), QPoint(1, 1)); // beside the plot
+    QTest::mouseMove(&f.view(), QPoint(1, 1)); // outside the plot
     EXPECT_EQ(f.view().callout(), "");
 }
 

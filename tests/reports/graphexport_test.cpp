@@ -34,7 +34,7 @@ TEST(GraphExport, ExportsEveryFormatInTheChosenOrientation) {
         for (int y = 0; y < picture.height(); y += 3)
             for (int x = 0; x < picture.width(); x += 3)
                 colours.insert(picture.pixel(x, y));
-        EXPECT_TRUE(colours.contains(0xff0072b2) && colours.contains(0xffd55e00)); // two of the lines
+        EXPECT_TRUE(colours.contains(0xff0072b2) && colours.contains(0xffd55e00)); // two of the lines' colours
 
         QFile svg(base + ".SVG");
         ASSERT_TRUE(svg.open(QIODevice::ReadOnly));
@@ -66,7 +66,7 @@ TEST(GraphExport, AFailedExportTellsAndLeavesNothing) {
     f.window.LivAnnGraph(f.a, f.b, 30);
     f.desk.expectFile({}); // cancelled
     f.press("cmdExport");
-    QDir(folder.path()).mkdir("taken.pdf"); // no file can take a folder's place, whoever runs the test
+    QDir(folder.path()).mkdir("taken.pdf"); // a folder has this name, so no user can write the file
     for (const char* name : {"no such folder/x.png", "taken.pdf"}) {
         f.desk.expectFile(folder.filePath(name));
         f.desk.told([&] { f.press("cmdExport"); });
@@ -106,7 +106,7 @@ TEST(GraphExport, PrintsInTheChosenOrientation) {
     f.window.findChild<QRadioButton*>("Option1(1)")->click();
     f.desk.printTo = folder.filePath("portrait.pdf");
     f.press("cmdPrint");
-    EXPECT_EQ(f.bench.reports.printer().outputFileName(), f.desk.printTo); // the session's printer, not one of its own
+    EXPECT_EQ(f.bench.reports.printer().outputFileName(), f.desk.printTo); // the session's printer
     for (const char* name : {"landscape", "portrait"}) {
         const QString file = folder.filePath(QString(name) + ".pdf");
         static const QRegularExpression pageSize("Pages: +1\n(?:.*\n)*Page size: +([0-9.]+) x ([0-9.]+)");

@@ -28,7 +28,7 @@ TEST_F(HeadFoot, ShowsTheStoredLinesAndClosesWithoutAQuestion) {
         EXPECT_TRUE(notes.contains(QString("These four lines will apear on all printouts as a %1.").arg(part)));
     run.click("cmdOk");
     EXPECT_FALSE(run.isOpen("frmHeadFoot"));
-    // nor do the close button and New ask, which drop what was typed
+    // the close button and New discard the entries without a question, too
     for (const auto& close : {std::function([this] { run.front()->parentWidget()->close(); }),
                               std::function([this] { run.menu("mnuNewFile"); })}) {
         run.menu("mnuPrep");
@@ -58,7 +58,7 @@ TEST_F(HeadFoot, YesStoresAllEightLinesInBothDatabases) {
     EXPECT_EQ(run.inClients(lines), stored);
     EXPECT_EQ(run.inPrint(lines), stored);
     assessment::CheckChanges(run.record());
-    EXPECT_EQ(run.record().ClientChanged, 0); // the practice's lines, not the client's
+    EXPECT_EQ(run.record().ClientChanged, 0); // the lines belong to the practice, not the client
 }
 
 TEST_F(HeadFoot, CancelStaysOnTheFirstLineAndNoWarnsAndKeepsTheStoredLines) {

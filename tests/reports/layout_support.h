@@ -11,19 +11,19 @@
 
 namespace reporttest {
 
-/// Where a text's capitals and digits stand on its page.
+/// The area of a text's capitals and digits on its page.
 inline QRectF inkOf(const reports::PlacedText& text) {
     const double height = text.face->metrics.capHeight();
     return {text.at.x(), text.at.y() - height, text.face->metrics.horizontalAdvance(text.text.trimmed()), height};
 }
 
-/// A text found on a page, from 0.
+/// A text on a page (from 0).
 struct Found {
     int page = -1;
     QRectF area;
     const reports::Face* face = nullptr;
 };
-/// The text with these first letters, the first of them unless `nth` says another; fails the test if there is none.
+/// The text that starts with `start`, the first one or the nth; fails the test if there is none.
 inline Found found(const reports::Layout& layout, const QString& start, int nth = 0) {
     for (int page = 0; page < layout.count(); ++page)
         for (const reports::PlacedText& text : layout.pages[static_cast<std::size_t>(page)].texts)
@@ -32,7 +32,7 @@ inline Found found(const reports::Layout& layout, const QString& start, int nth 
     return {};
 }
 
-/// Nothing stands on another text or outside the margins, on any page.
+/// Fails if a text overlaps another one or the margins, on any page.
 inline void expectSound(const reports::Layout& layout) {
     const reports::Measure flow = reports::PageFrame::flow();
     const QRectF paper(flow.x - 1, 0, flow.width + 2, reports::Layout::pageSize().height() - reports::millimetres(11));

@@ -21,14 +21,14 @@ protected:
         }
         feed("HeadFoot", row);
     }
-    /// The pages of a definition of one's own, on which nothing may overlap or leave the paper.
+    /// The pages of the test's own definition; fails if texts overlap or leave the paper.
     reports::Layout layoutOf(const std::string& body) {
         define("own.rpt", page(body));
         const reports::Layout layout = engine.prepare("own.rpt")->layout;
         expectSound(layout);
         return layout;
     }
-    /// As many paragraphs, numbered from 0.
+    /// This many paragraphs, numbered from 0.
     static std::string paragraphs(int count, const std::string& word) {
         std::string all;
         for (int number = 0; number < count; ++number)
@@ -58,7 +58,7 @@ TEST_F(Pages, RepeatHeadsFrameAndNumberOnEachPage) {
             EXPECT_EQ(text.count(line), 1) << page << line;
         EXPECT_TRUE(text.contains(QString("Page %1 of %2").arg(page + 1).arg(pages.size())));
         while (text.simplified().contains(row(next)))
-            ++next; // each row once, in order, none lost at a page's end
+            ++next; // each row once and in order, none lost at a page break
     }
     EXPECT_EQ(next, 601);
 }
@@ -75,7 +75,7 @@ TEST_F(Pages, EmptyHeaderLinesTakeNoRoom) {
     EXPECT_TRUE(text("Lonrepa.rpt").contains("Page 1 of 1"));
 }
 
-// Whatever a practice types, nothing may fall off the paper or run into the footer.
+// Whatever a practice types, nothing may leave the paper or overlap the footer.
 TEST_F(Pages, LongTextsWrapAndRunOnInsideThePage) {
     feedLoan();
     QString words;
@@ -99,8 +99,8 @@ TEST_F(Pages, LongTextsWrapAndRunOnInsideThePage) {
     EXPECT_TRUE(text.contains("after"));
 }
 
-// A practice's name in capitals is as much its name as one in small letters.
-TEST_F(Pages, WideHeaderAndFooterLinesStandWhole) {
+// A name in wide capital letters must be as complete as one in small letters.
+TEST_F(Pages, WideHeaderAndFooterLinesAreComplete) {
     const QString wide(80, QChar(u'Œ'));
     feedLines({wide, wide, wide, wide}, {wide, wide, wide, wide});
     feedLoan();
@@ -111,7 +111,7 @@ TEST_F(Pages, WideHeaderAndFooterLinesStandWhole) {
         EXPECT_EQ(report->layout.textOf(page).count(wide.front()), 8 * 80) << page;
 }
 
-TEST_F(Pages, EachSaysWhoseItIsAndOfWhichDay) {
+TEST_F(Pages, EachNamesItsClientAndDate) {
     client = "Ms T. Ṱhoho-Nḓou";
     desk.day = QDate(2027, 3, 9);
     feedLoan();
@@ -126,7 +126,7 @@ TEST_F(Pages, EachSaysWhoseItIsAndOfWhichDay) {
     }
     feed("PersDetails", {{"Name", client}});
     const auto details = engine.prepare("PersDetl.rpt");
-    EXPECT_EQ(details->layout.textOf(0).count(client.c_str()), 1); // its heading says it
+    EXPECT_EQ(details->layout.textOf(0).count(client.c_str()), 1); // only in the heading
     client.clear();
     feedLoan();
     EXPECT_TRUE(engine.prepare("LonrepaA.rpt")->layout.textOf(1).contains("\nMonthly repayment of a loan with"));
@@ -142,7 +142,7 @@ TEST_F(Pages, CellsStandAtTheirColumnsEdges) {
                  "<tr><td>first</td><td colspan=\"2\" align=\"right\">over to the edge</td></tr>"
                  "<tr class=\"total\"><td>sum</td><td></td><td>{{Num1:0.0}}</td></tr></table>");
     constexpr double left = reports::millimetres(20), width = reports::millimetres(170), padding = reports::points(5);
-    // text, a share of its own width, where that stands
+    // text, a share of its own width, the position of that point
     const std::tuple<const char*, double, double> cells[] = {
         {"One", 0, left + padding},           {"left", 0, left + padding},
         {"both", 0, left + padding},          {"sum", 0, left + padding},
@@ -166,8 +166,8 @@ TEST_F(Pages, AFigureTooWideForItsColumnIsSetSmallerOnItsLine) {
     EXPECT_NEAR(figure.area.bottom(), label.area.bottom(), 1);
 }
 
-// Half a page must not stay empty, neither below the last text nor beside a column that runs on alone.
-TEST_F(Pages, WhatStandsSideBySideNeverSplits) {
+// Half a page must not stay empty, neither below the last text nor beside a column that goes on alone.
+TEST_F(Pages, ColumnsSideBySideAreNeverSplit) {
     feedLoan();
     for (int before = 0; before < 60; before += 3)
         for (const int high : {8, 30, 70}) {
@@ -181,7 +181,7 @@ TEST_F(Pages, WhatStandsSideBySideNeverSplits) {
             EXPECT_EQ(beside, first.page == right.page && first.area.y() == right.area.y());
             EXPECT_TRUE(!beside || first.page == last.page);
             if (before == 0) continue;
-            const Found end = found(layout, "line", before - 1); // at least half of the page before is used
+            const Found end = found(layout, "line", before - 1); // at least half of the previous page is used
             EXPECT_TRUE(end.page == first.page || end.area.y() > reports::millimetres(297) * 0.45);
         }
 }
@@ -196,7 +196,7 @@ TEST_F(Pages, TabsMakeColumns) {
                 found(layout, "one").area.x() - found(layout, "a").area.x(), 1);
 }
 
-// Figures stand in columns only where all digits are alike wide, and a name looks patched where letters are lacking.
+// Figures line up only if all digits have the same width, and a name looks bad if some letters come from another font.
 TEST_F(Pages, AreInOneTypeWithEveryLetterOfTheCountry) {
     const reports::Faces& faces = reports::Faces::all();
     for (const reports::Face* face : {&faces.body, &faces.bold, &faces.italic, &faces.title, &faces.result}) {
@@ -209,7 +209,7 @@ TEST_F(Pages, AreInOneTypeWithEveryLetterOfTheCountry) {
     }
 }
 
-// A heading alone at the foot of a page promises a table that is not there.
+// A heading alone at the bottom of a page would announce a table that is not there.
 TEST_F(Pages, AHeadingStaysWithWhatFollows) {
     feedLoan();
     feedAmortisation(40);

@@ -69,7 +69,7 @@ TEST_F(Preview, FitsAndZoomsKeepingThePlace) {
     EXPECT_EQ(view->horizontalScrollBar()->maximum(), 0);
     const double whole = view->scale();
     window->resize(800, 500);
-    EXPECT_LT(view->scale(), whole); // it goes on fitting
+    EXPECT_LT(view->scale(), whole); // it still fits the page to the window
     click("zoomIn");
     const double zoomed = view->scale();
     EXPECT_GT(zoomed, whole * 0.8);
@@ -104,7 +104,7 @@ TEST_F(Preview, PaintsThePageInViewWhiteInADarkThemeToo) {
     };
     const auto [first, paper] = ink();
     EXPECT_GT(paper, 10 * first);
-    EXPECT_GT(first, 500); // there is writing on it
+    EXPECT_GT(first, 500); // the page shows text
     view->showPage(view->pageCount() - 1);
     EXPECT_GT(ink().first, 100);
 }
@@ -136,7 +136,7 @@ TEST_F(Preview, ExportsUnderTheNameThatTheUserPicks) {
     QTest::keyClick(view, Qt::Key_E, Qt::ControlModifier);
     EXPECT_EQ(storetest::bytesOf(folder / "table.csv").substr(3, 8), "Monthly ");
 
-    desk.expectFile(pathOf("Smith 1.2")); // no ending of ours: the first kind's is added
+    desk.expectFile(pathOf("Smith 1.2")); // an unknown ending: the first format's is added
     EXPECT_TRUE(window->exportReport(reports::Format::xlsx));
     EXPECT_EQ(desk.offeredFilters.first(), "XLSX (*.xlsx)");
     EXPECT_EQ(storetest::bytesOf(folder / "Smith 1.2.xlsx").substr(0, 2), "PK");
@@ -154,7 +154,7 @@ TEST_F(Preview, PrintsThePagesChosenInTheDialog) {
     click("printReport");
     expectWords(textOfPdf(printed), {"Page 2 of", "Page 3 of"}, {"Page 1 of", "Page 4 of"});
 
-    // The range was this printout's; the next one straight to the printer is whole again.
+    // The page range applied to that printout only; the next one prints all pages.
     EXPECT_TRUE(engine.run("LonrepaA.rpt", "Title", Destination::printer));
     expectWords(textOfPdf(printed), {"Page 1 of"});
     desk.printDialog = [](QPrinter&) { return false; };

@@ -20,7 +20,7 @@ using datastore::PrintFeed;
 using datastore::Row;
 using reports::Destination;
 
-/// A desk on which a test can stand in for the print dialog.
+/// A desk on which a test can act as the print dialog.
 class ReportDesk : public screenkit::TestDesk {
 public:
     std::function<bool(QPrinter&)> printDialog;
@@ -40,14 +40,14 @@ inline QString runTool(const QString& program, const QStringList& arguments, con
     return QString::fromUtf8(process.readAllStandardOutput());
 }
 
-/// The text of a PDF, a form feed after each page. `-layout` keeps what stands on one line on one line.
+/// The text of a PDF, with a form feed after each page. `-layout` keeps the text of a line together.
 inline QString textOfPdf(const QString& file) { return runTool("pdftotext", {"-layout", file, "-"}); }
 inline QString textOfPdf(const QByteArray& pdf) {
     const storetest::Folder folder;
     storetest::put(folder / "read.pdf", pdf.toStdString());
     return textOfPdf(QString::fromStdString((folder / "read.pdf").string()));
 }
-/// Each of these words is there, and each of those is not.
+/// Expects the text to contain each word of the first list and none of the second.
 inline void expectWords(const QString& text, const QStringList& there, const QStringList& absent = {}) {
     for (const QString& words : there)
         EXPECT_TRUE(text.contains(words)) << words.toStdString() << " is not in\n" << text.toStdString();
@@ -56,14 +56,14 @@ inline void expectWords(const QString& text, const QStringList& there, const QSt
 }
 inline QStringList pagesOfPdf(const QByteArray& pdf) { return textOfPdf(pdf).split('\f', Qt::SkipEmptyParts); }
 
-/// A line's words parted by single blanks.
+/// The line that contains a word, with single blanks between words.
 inline QString simplifiedLine(const QString& text, const QString& withWord) {
     for (const QString& line : text.split('\n'))
         if (line.contains(withWord)) return line.simplified();
     return {};
 }
 
-/// A program folder with the shipped definitions and databases, and an engine that works in it.
+/// A program folder with the shipped definitions and databases, and an engine that uses it.
 class ReportTest : public testing::Test {
 protected:
     ReportTest() {
@@ -73,7 +73,7 @@ protected:
         desk.printTo = printed;
     }
 
-    /// Writes a definition of one's own; lines are counted from the first letter given.
+    /// Writes a definition for the test; its line 1 is the first line of the text.
     void define(const std::string& name, const std::string& text) { storetest::put(folder / name, text); }
     static std::string page(const std::string& body, const std::string& table = "Loans") {
         return "<html>\n<head><title>Own title</title>\n<meta name=\"table\" content=\"" + table +
@@ -111,7 +111,7 @@ protected:
     QStringList pages(const QString& definition) { return pagesOfPdf(engine.pdf(definition)); }
     QString text(const QString& definition) { return textOfPdf(engine.pdf(definition)); }
 
-    std::string client; ///< whose reports these are
+    std::string client; ///< the client of these reports
     storetest::Folder folder;
     fs::path print = folder / "Print.mdb";
     ReportDesk desk;

@@ -1,4 +1,4 @@
-// What every shipped definition must keep to, read as it stands, with no rows.
+// Rules for every shipped definition, checked in its source, without rows.
 #include <gtest/gtest.h>
 
 #include <QDir>
@@ -34,7 +34,7 @@ std::vector<const Node*> below(const Node& node, const QSet<QString>& names) {
     return found;
 }
 
-/// True for a cell that holds a figure and nothing else.
+/// True for a cell that contains only a figure.
 bool isFigure(const Node& cell) {
     int figures = 0, others = 0;
     walk(cell.children, [&](const Node& part) {
@@ -44,7 +44,7 @@ bool isFigure(const Node& cell) {
     return figures == 1 && others == 0;
 }
 
-/// Hands each shipped definition to `use`; an empty folder is a fault.
+/// Passes each shipped definition to `use`; fails if there are none.
 void eachDefinition(const std::function<void(const std::vector<Node>&)>& use) {
     const QDir folder(QString(MARLOWBECK_SOURCE_DIR) + "/data/reports");
     const QStringList files = folder.entryList({"*.rpt"});
@@ -55,9 +55,9 @@ void eachDefinition(const std::function<void(const std::vector<Node>&)>& use) {
     }
 }
 
-/// The least places after the point: what the screen's field of this figure takes.
+/// The fewest decimal places allowed: as many as the screen's field accepts.
 qsizetype leastPlaces(const Node& field) {
-    // What is worked out and not entered, as the screens show it.
+    // Calculated figures, with the places that the screens show.
     static const QMap<QString, qsizetype> shorter{
         {"MARGRATE", 0}, {"AVRATE", 2}, {"AVRATEAFT", 2}, {"DBenSpousePerc", 2}};
     if (shorter.contains(field.name)) return shorter[field.name];
@@ -84,7 +84,7 @@ TEST(ShippedDefinitions, CutNoFigure) {
     eachDefinition([&](const std::vector<Node>& body) { walk(body, check); });
 }
 
-// A row that is one column short puts each figure under another head.
+// In a row that lacks a cell, figures would be under the wrong heads.
 void checkTable(const Node& table) {
     const auto columns = below(table, {"col"});
     double width = 0;

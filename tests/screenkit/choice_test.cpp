@@ -107,7 +107,7 @@ TEST(SpinRule, saysWhereAStepLeads) {
     constexpr double nowhere = -999;
     const std::tuple<const SpinRule&, double, int, double, bool> cases[] = {
         {years, 2, -1, 1, false},        {years, 1, -1, 40, true},          {years, 40, 1, 1, false},
-        {years, 0, 1, nowhere, false},   {years, 0.5, -1, 40, true}, // a part of a step meets the floor as well
+        {years, 0, 1, nowhere, false},   {years, 0.5, -1, 40, true}, // a fraction of a step also stops at the floor
         {rate, 0.1, -1, 50, true},       {rate, 0.3 - 0.2, -1, 50, true},   {rate, 50, 1, 0.1, false},
         {inflation, 0, 1, 0.25, false},  {inflation, -4.75, -1, -5, false}, {inflation, -5, -1, 30, false},
         {inflation, 40, 1, 0.25, false}, {inflation, 0.25, -1, 0, false},   {copies, 1, -1, nowhere, false},

@@ -23,9 +23,9 @@ TEST_F(KitTest, datesAreTypedFreelyAndShownInOneForm) {
         {"1/3/2026-", day(2026, 2, 28), "28/02/2026"},
         {"2/1/1800-", day(1800, 1, 2), "02/01/1800"}, // the day before would mean no date
         {"31/12/9999+", day(9999, 12, 31), "31/12/9999"},
-        {"28-2-66", day(1966, 2, 28), "28/02/1966"}, // - parts what has no year yet
+        {"28-2-66", day(1966, 2, 28), "28/02/1966"}, // in a date without a year - is a separator
         {"28/2", day(2026, 2, 28), "28/02/2026"},
-        {"12+/5/2026", day(2026, 5, 12), "12/05/2026"}}; // in a half-typed date + means nothing
+        {"12+/5/2026", day(2026, 5, 12), "12/05/2026"}}; // in a half-typed date + does nothing
     for (const auto& [typed, kept, shown] : cases) {
         SCOPED_TRACE(typed);
         places.day = day(1970, 1, 1);
@@ -59,7 +59,7 @@ TEST_F(KitTest, onlyDaysAfterTheEmptyOneFillADate) {
     EXPECT_EQ(changed(), 0);
 }
 
-TEST_F(KitTest, aRefusedDateKeepsWhatWasTypedUntilItIsMended) {
+TEST_F(KitTest, aRefusedDateKeepsWhatWasTypedUntilCorrected) {
     const char* const wrong[] = {"31/02/2026", "13/13/2026", "abc", "1/3/202", "01/01/1800", "3/5/1652", "5"};
     const double stood = day(1970, 1, 1);
     places.day = stood;
@@ -91,7 +91,7 @@ TEST_F(KitTest, aDatesLimitsMoveWithAnotherDateAndHaveWordsOfTheirOwn) {
             .notBefore([] { return 46082.0; }, [] { return Complaint{"Too early"}; })
             .notAfter([&end] { return end; },
                       [&end] { return Complaint{"Not after " + QString::fromStdString(base::formatDate(end))}; });
-    double held = day(1990, 1, 1); // from the file: his to look at
+    double held = day(1990, 1, 1); // from the file: only marked
     auto* field = screen->add("dtOther", held, kind);
     const std::tuple<double, const char*, const char*> cases[] = {{base::NoDate, "1/3/26", nullptr},
                                                                   {base::NoDate, "28/2/26", "Too early"},
@@ -123,7 +123,7 @@ TEST_F(KitTest, theCalendarIsWorkedByKeys) {
         const char *keys, *shown;
     } cases[] = {{"1/3/2026", QDate(2026, 3, 1), "Down Right Return", "09/03/2026"},
                  {"1/3/2026", QDate(2026, 3, 1), "Down Esc", "1/3/2026"},
-                 {"31/2/26", desk.today(), "Return", "22/11/2026"}}; // it is what the user turns to then: no leaving
+                 {"31/2/26", desk.today(), "Return", "22/11/2026"}}; // opening it is no leaving
     for (const auto& c : cases) {
         SCOPED_TRACE(c.keys);
         bool came = false;

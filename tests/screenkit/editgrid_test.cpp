@@ -42,7 +42,7 @@ struct EditGridTest : KitTest {
     QPoint at(int row, int column) { return grid().visualRect(grid().model()->index(row, column)).center(); }
     std::pair<int, int> place() { return {grid().currentIndex().row(), grid().currentIndex().column()}; }
     bool inEdit() { return focus() == "grdItemsCell"; }
-    /// Leaves a cell of the first row that is in edit, in one of the `waysOut`.
+    /// Leaves the edited cell of the first row in one of the `waysOut`.
     void leave(const QString& way) {
         if (way == "command of the main window")
             grids->checkFields();
@@ -116,7 +116,7 @@ TEST_F(EditGridTest, everyWayOutTakesAGoodEntryAndTellsOfABadOneOnce) {
             EXPECT_EQ(grid().rows(), twoRows);
             EXPECT_EQ(grids->acts, 0);
         }
-    key(Qt::Key_Tab); // what the cell got back lets the user go
+    key(Qt::Key_Tab); // the restored content lets the user leave
     EXPECT_FALSE(inEdit());
 }
 
@@ -137,7 +137,7 @@ TEST_F(EditGridTest, rowsAreDeletedAndOneStays) {
     const std::tuple<const char*, Rows, int> steps[] = {
         {"Ctrl+Del", {{"a", 1.0, 0.0}, {"c", 3.0, 0.0}}, 1},
         {"Ctrl+Del", {{"a", 1.0, 0.0}}, 0},
-        {"Del Esc", {{"a", 0.0, 0.0}}, 0}, // the cell alone
+        {"Del Esc", {{"a", 0.0, 0.0}}, 0}, // empties only the cell
         {"Ctrl+Del Ctrl+Del", {{"", 0.0, 0.0}}, 0},
     };
     show({{"a", 1.0, 0.0}, {"b", 2.0, 0.0}, {"c", 3.0, 0.0}}, 1, 1);
@@ -161,7 +161,7 @@ TEST_F(EditGridTest, mousePasteAndScreenReaderKnowTheCells) {
     EXPECT_EQ(grid().currentIndex().data(Qt::AccessibleTextRole), "Amount, row 2: 7");
 }
 
-TEST_F(EditGridTest, whatCannotBeReadStaysMarkedInItsCellUntilItIsMended) {
+TEST_F(EditGridTest, unreadableTextStaysMarkedInItsCellUntilCorrected) {
     show(twoRows, 0, 1);
     for (const char* typed : {"1.2.3", "12x"})
         for (const char* way : waysOut) {
@@ -182,13 +182,13 @@ TEST_F(EditGridTest, whatCannotBeReadStaysMarkedInItsCellUntilItIsMended) {
 }
 
 TEST_F(EditGridTest, rowsOfASpreadsheetArePastedWholeOrNotAtAll) {
-    const char* const taken = nullptr; // nothing is told
+    const char* const taken = nullptr; // no message
     const std::tuple<const char*, int, int, Rows, const char*> cases[] = {
         {"a\tR 1,5\t7\r\nb\t2\t8\r\n", 1, 0, {twoRows[0], {"a", 1.5, 7.0}, {"b", 2.0, 8.0}}, nullptr},
         {"a\tR 1,5\t7\nb\t\t9", 0, 0, {{"a", 1.5, 7.0}, {"b", 0.0, 9.0}}, nullptr}, // an empty cell is 0
-        {"7\n8", 0, 1, {{"Farm", 7.0, 1.0}, {"Shop", 8.0, 2.0}}, nullptr},          // what lies beside stays
-        {"\"a\nb\"\t1", 0, 0, {{"a b", 1.0, 1.0}, twoRows[1]}, nullptr},            // a line end within a cell
-        {"Amount\tAge\n3\t4", 1, 1, {twoRows[0], {"Shop", 3.0, 4.0}}, nullptr},     // copied here, with its heads
+        {"7\n8", 0, 1, {{"Farm", 7.0, 1.0}, {"Shop", 8.0, 2.0}}, nullptr},          // the other cells stay
+        {"\"a\nb\"\t1", 0, 0, {{"a b", 1.0, 1.0}, twoRows[1]}, nullptr},            // a line break inside a cell
+        {"Amount\tAge\n3\t4", 1, 1, {twoRows[0], {"Shop", 3.0, 4.0}}, nullptr},     // copied from this table with heads
         {"a\t1\nb\tmany", 0, 0, twoRows, "Row 2, Amount: “many” can't be read"},
         {"a\t1\nHouses\t2", 0, 0, twoRows, "Row 2, Item: At most five"},
         {"1\n100.5", 0, 2, twoRows, "Row 2, Age: 0 to 100"},

@@ -21,7 +21,7 @@
 
 namespace screenkit {
 
-/// What the fields of the test's screen are bound to beside the client's loan.
+/// The values that the test screen's fields are bound to, besides the client's loan.
 struct Places {
     std::int16_t count = 0;
     std::int32_t shares = 0;
@@ -64,28 +64,28 @@ public:
              row({run, cancelButton("cmdCancel", "Cance&l", [this] { ++cancels; }),
                   button("cmdPrint", "&Print", [this] { print->open(findChild<QWidget*>("Check3")); }), okButton()})}));
         defaultButton(run);
-        months->setAccessibleName("Months"); // its form row holds the spin buttons as well
+        months->setAccessibleName("Months"); // its form row also holds the spin buttons
         auto* withNotes = check("Check3", "&Include Notes", places.withNotes);
         untrackedField(withNotes);
         print = printPanel({withNotes}, [this](Destination to) { printed(to); });
     }
 
-    /// Enter calculates from every field.
+    /// Makes Enter calculate from every field.
     void enterRuns() { enterPresses(findChild<QPushButton*>("cmdRun")); }
-    /// One more field, of a kind of the test's own.
+    /// Adds a field of the test's own kind.
     NumberField* add(const QString& name, double& place, const NumberKind& kind) {
         return added(number(name, place, kind));
     }
     DateField* add(const QString& name, double& place, const DateKind& kind) { return added(date(name, place, kind)); }
 
-    /// From 1 to 600 months, round and round past the lower end.
+    /// From 1 to 600 months; a step below 1 wraps round.
     SpinRule monthsSpin() {
         return {.floor = 0, .holdsFloor = false, .ceiling = 600, .wrapsTo = 40, .rings = true, .focus = [this] {
                     return clickFocus;
                 }};
     }
 
-    /// Brings up the panel with the table of figures.
+    /// Opens the panel with the table of figures.
     void table(std::vector<std::vector<double>> rows) {
         showGrid("Figures", {{" Year ", "##"}, {"Balance", "# ### ##0.00"}}, std::move(rows),
                  findChild<QWidget*>("cmdOK"));
@@ -94,7 +94,7 @@ public:
     using Screen::calculated;
     using Screen::outdated;
     Panel* print = nullptr;
-    QWidget* clickFocus = nullptr; ///< where a click on the spin buttons leads
+    QWidget* clickFocus = nullptr; ///< where a click on the spin buttons moves the focus
     std::function<void(Destination)> printed = [](Destination) {};
     std::function<void()> onFilled = [] {}, onRun = [] {}, onEdit = [] {};
     std::function<void(Field*)> onSettled = [](Field*) {};
@@ -119,8 +119,8 @@ protected:
     void settled(Field* field) override { onSettled(field); }
 };
 
-/// The screen shown as a child of a main window, and a user's hands: keys and mouse go to the window as the system
-/// sends them, not to a control picked by the test.
+/// The screen as a child of a main window, and its user: keys and mouse events go to the window, as the system sends
+/// them, not to a control chosen by the test.
 class KitTest : public testing::Test {
 protected:
     KitTest() {
@@ -142,7 +142,7 @@ protected:
         if (front != nullptr && front != screen) front->drop();
     }
 
-    /// Shows another screen, which is the one that the hands work on from here.
+    /// Shows another screen; the following keys and clicks go to it.
     template <class S>
     S* bring(S* other, QRect place = {}) {
         auto* frame = area.addSubWindow(other);
@@ -155,7 +155,7 @@ protected:
         return other;
     }
 
-    /// The record was changed behind the screen's back, and the screen comes to the front.
+    /// Brings the screen to the front after the record was changed without it.
     void refresh() {
         screen->activate();
         settle();
@@ -189,7 +189,7 @@ protected:
         QTest::keyClick(window.windowHandle(), pressed, with);
         settle();
     }
-    /// What hands do, in words: a key by its name ("Tab", "Alt+R"), or "@" and a control, which is clicked.
+    /// Performs actions given as words: a key by its name ("Tab", "Alt+R"), or a click on a control ("@" and its name).
     void act(const QString& words) {
         for (const QString& word : words.split(' ', Qt::SkipEmptyParts)) {
             if (word.startsWith('@')) {
@@ -201,12 +201,12 @@ protected:
             key(pressed.key(), pressed.keyboardModifiers());
         }
     }
-    /// Where the focus is after that.
+    /// The control with the focus after that.
     std::string after(const QString& words) {
         act(words);
         return focus();
     }
-    /// Types with no pause for the event loop between the characters, as from a keyboard's buffer.
+    /// Types without running the event loop between the characters, as from a keyboard buffer.
     static void type(const QString& typed) {
         for (const uint point : typed.toUcs4()) {
             const QString one = QString::fromUcs4(reinterpret_cast<const char32_t*>(&point), 1);
@@ -216,7 +216,7 @@ protected:
             QTest::sendKeyEvent(QTest::Click, QApplication::focusWidget(), code, one, Qt::NoModifier);
         }
     }
-    /// Types over what the field holds, as a user does who tabs into it.
+    /// Replaces the field's content, like a user who tabs into it.
     void enter(const char* field, const QString& typed) {
         go(field);
         type(typed);
@@ -230,11 +230,11 @@ protected:
     void release(QWidget* target, QPoint at = {}) { mouse(QTest::MouseRelease, target, at); }
     void click(QWidget* target, QPoint at = {}) {
         press(target, at);
-        QTest::qWait(5); // a hand needs a while between the two, in which what is queued runs
+        QTest::qWait(5); // a real user needs time between the two, in which queued events run
         release(target, at);
-        QTest::qWait(25); // a check that found the mouse down tries again after a while
+        QTest::qWait(25); // a check that found the mouse button down tries again later
     }
-    /// Clicks on a control; a check box or an option on its mark.
+    /// Clicks on a control; for a check box or an option on its mark.
     void click(const char* name) {
         auto* button = get<QAbstractButton>(name);
         click(get(name), button != nullptr && button->isCheckable() ? QPoint(8, button->height() / 2) : QPoint());
@@ -247,8 +247,8 @@ protected:
     Places places;
     QMainWindow window;
     QMdiArea area;
-    QPointer<KitScreen> screen; ///< gone once its window is closed
-    QPointer<Screen> front;     ///< the one in which `get` looks for controls
+    QPointer<KitScreen> screen; ///< null once its window is closed
+    QPointer<Screen> front;     ///< the screen in which `get` looks for controls
     QPointer<QMdiSubWindow> child;
 
 private:

@@ -6,9 +6,9 @@ namespace screenkit {
 namespace {
 
 struct LeavingTest : KitTest {
-    /// 700 months are more than the 600 that the field takes.
+    /// 700 months exceed the field's limit of 600.
     void enterTooMany() { enter("numMonths", "700"); }
-    /// The one box about them comes up, and leads back to them.
+    /// Expects one message about them, after which they have the focus.
     void expectTold(const std::function<void()>& act) {
         const auto box = desk.told(act);
         EXPECT_EQ(box.text, "Too many months");
@@ -40,7 +40,7 @@ TEST_F(LeavingTest, everyWayOutOfAFieldChecksItOnce) {
         enter("numMonths", "12");
         go("txtName");
     }
-    enter("numMonths", "600"); // a right entry lets them all act
+    enter("numMonths", "600"); // a valid entry stops none of them
     act("@cmdRun Alt+R");
     EXPECT_EQ(screen->runs, 2);
     click("cmdOK");
@@ -52,7 +52,7 @@ TEST_F(LeavingTest, cancelIsNeverHeldBack) {
     click("cmdCancel");
     EXPECT_EQ(screen->cancels, 1);
     EXPECT_TRUE(desk.boxes.empty());
-    expectTold([this] { click("cmdRun"); }); // but nothing else acts on the wrong entry
+    expectTold([this] { click("cmdRun"); }); // no other action works on the wrong entry
     EXPECT_EQ(screen->runs, 0);
 }
 
@@ -76,7 +76,7 @@ TEST_F(LeavingTest, theBoxWaitsForTheMouseToBeReleased) {
         QTest::qWait(60);
     });
     EXPECT_FALSE(get<QPushButton>("cmdRun")->isDown());
-    expectTold([this] { // a spin button that is held down stops at its box
+    expectTold([this] { // a spin button that is held down stops at the message
         auto* up = get<QToolButton>("spnMonthsUp");
         press(up);
         QTest::qWait(up->autoRepeatDelay() + up->autoRepeatInterval() * 5);
@@ -84,7 +84,7 @@ TEST_F(LeavingTest, theBoxWaitsForTheMouseToBeReleased) {
     });
 }
 
-TEST_F(LeavingTest, whatTheScreenHidesOrShowsAsAResultIsNotHeldAgainstTheUser) {
+TEST_F(LeavingTest, hiddenFieldsAndResultsAreNotChecked) {
     enterTooMany();
     get("numMonths")->hide();
     click("cmdRun");
@@ -99,7 +99,7 @@ TEST_F(LeavingTest, whatTheScreenHidesOrShowsAsAResultIsNotHeldAgainstTheUser) {
     EXPECT_EQ(screen->runs, 3);
 }
 
-TEST_F(LeavingTest, whatTheFileBroughtIsMarkedAndToldAndHoldsNobodyUp) {
+TEST_F(LeavingTest, aFaultFromTheFileIsMarkedAndReportedButNeverBlocks) {
     auto* months = get<QLineEdit>("numMonths");
     auto* told = get<QLabel>("lblFaults");
     const auto isMarked = [&] {
@@ -116,10 +116,10 @@ TEST_F(LeavingTest, whatTheFileBroughtIsMarkedAndToldAndHoldsNobodyUp) {
     act("Tab @cmdRun");
     EXPECT_EQ(screen->runs, 1);
 
-    enterTooMany(); // what he types himself is held against him, the same figure too
+    enterTooMany(); // the same figure, typed by the user, is refused
     EXPECT_FALSE(told->isVisible());
     expectTold([this] { click("cmdRun"); });
-    screen->clientReplaced(); // as another client's it is none of his
+    screen->clientReplaced(); // for another client the figure counts as not typed
     EXPECT_TRUE(isMarked());
     enter("numMonths", "600");
     key(Qt::Key_Tab);
@@ -136,11 +136,11 @@ TEST_F(LeavingTest, aResultLooksOutOfDateWhileItsInputsAreOthers) {
     };
     enter("numAmount", "5");
     EXPECT_TRUE(isStale());
-    enter("numAmount", "0"); // back again
+    enter("numAmount", "0"); // the original figure again
     EXPECT_FALSE(isStale());
     for (const char* words : {"txtName", "txtNotes"})
         enter(words, "x");
-    act("@cmdPrint @Check3 @cmdPrintCancel"); // a choice of how to print
+    act("@cmdPrint @Check3 @cmdPrintCancel"); // a print option
     EXPECT_FALSE(isStale());
     click("optMode(2)");
     EXPECT_TRUE(isStale());
@@ -158,7 +158,7 @@ TEST_F(LeavingTest, aResultThatIsNotFiniteShowsAsAnError) {
     EXPECT_EQ(get<NumberField>("numTotal")->value(), 0);
 }
 
-TEST_F(LeavingTest, aScreenTornDownInMidEditAsksNothing) {
+TEST_F(LeavingTest, aScreenDestroyedDuringAnEditAsksNothing) {
     enterTooMany();
     delete screen;
     settle();

@@ -6,7 +6,7 @@
 namespace screenkit {
 namespace {
 
-/// A fund a row: name, growth (nothing for a young one), date.
+/// One row: a fund's name, growth (none for a new fund), date.
 const std::vector<std::array<GridCell, 3>> funds{{QString("Êland"), 0.5, 100.0},
                                                  {QString("bosbok"), {}, 50.0},
                                                  {QString(""), 12.25, 100.0},
@@ -28,7 +28,7 @@ std::string order(const ListModel& model) {
     return rows;
 }
 
-// Views, screen readers and the clipboard ask for lines that are gone, or were never there.
+// Views, screen readers and the clipboard may ask for lines that no longer exist or never existed.
 TEST(Models, AnswerNothingForLinesAndHeadsThatDoNotExist) {
     ListModel empty, headless, filled;
     headless.set(columns, {});
@@ -50,7 +50,7 @@ TEST(Models, AnswerNothingForLinesAndHeadsThatDoNotExist) {
                 for (const int role : {Qt::DisplayRole, Qt::TextAlignmentRole, Qt::SizeHintRole})
                     EXPECT_FALSE(model->headerData(section, orientation, role).isValid()) << section;
     }
-    // What a view kept from before the rows went.
+    // An index that a view kept from before the rows were removed.
     const QModelIndex before = filled.index(4, 2);
     filled.set({}, {});
     EXPECT_FALSE(filled.data(before, Qt::DisplayRole).isValid());
@@ -160,11 +160,11 @@ TEST_F(GridTest, HeadsSortByClickAndByKeyAndWhatIsPickedGoesAlong) {
     EXPECT_EQ(pressed, 1);
 }
 
-TEST_F(GridTest, OneIsDroppedWhenASearchHidesItAndSeveralOutliveIt) {
+TEST_F(GridTest, ASinglePickIsDroppedWhenHiddenAndSeveralAreKept) {
     Grid* grid = make(Grid::Picking::several);
     for (const int line : {1, 3, 4, 3})
         clickLine(grid, line);
-    act("Up Up Up Space"); // the arrows walk, and pick nothing
+    act("Up Up Up Space"); // the arrows move without picking
     EXPECT_EQ(picked(grid), "014");
     grid->narrow(std::vector<std::size_t>{2, 4});
     key(Qt::Key_1, Qt::ControlModifier);
@@ -184,7 +184,7 @@ TEST_F(GridTest, OneIsDroppedWhenASearchHidesItAndSeveralOutliveIt) {
     EXPECT_EQ(picked(one) + std::to_string(picks), "20");
     one->narrow(std::vector<std::size_t>{0});
     EXPECT_EQ(picked(one) + std::to_string(picks), "1") << "what can't be seen is not picked";
-    clickLine(one, 1); // the totals
+    clickLine(one, 1); // the line of totals
     EXPECT_EQ(picked(one), "");
 }
 
@@ -210,7 +210,7 @@ TEST_F(GridTest, ADoubleClickAndEnterOpenALineAndNothingElse) {
     Grid* grid = make(Grid::Picking::one);
     std::string opened;
     grid->opened = [&] { opened += picked(grid); };
-    key(Qt::Key_Return); // nothing picked: the default button's
+    key(Qt::Key_Return); // nothing is picked: Enter presses the default button
     EXPECT_EQ(screen->runs, 1);
     const auto twice = [&](int line) {
         QTest::mouseDClick(grid->viewport(), Qt::LeftButton, {},

@@ -10,7 +10,7 @@
 namespace screenkit {
 namespace {
 
-TEST(Look, GreyedTextStepsBackAndCanBeReadInLightAndDark) {
+TEST(Look, DisabledTextIsPalerButReadableInLightAndDark) {
     EXPECT_NEAR(contrast(Qt::black, Qt::white), 21, 1e-9);
     EXPECT_NEAR(contrast(QColor(119, 119, 119), Qt::white), 4.48, 0.005);
     const QPalette palettes[] = {QApplication::style()->standardPalette(), QPalette(QColor(239, 239, 239)),

@@ -3,7 +3,7 @@
 namespace screenkit {
 namespace {
 
-/// Two rows of two amounts; beside those of the second row stands the choice of which counts.
+/// Two rows of two amounts; the second row also has options for which of them counts.
 class MatrixScreen : public Screen {
 public:
     explicit MatrixScreen(Workplace& work) : Screen(work, "frmMatrix", "Matrix", work.record.changed.LoansChanged) {
@@ -43,7 +43,7 @@ TEST_F(MatrixTest, eachFieldIsCalledByItsRowAndItsColumn) {
     EXPECT_EQ(after("Alt+R"), "num0");
 }
 
-TEST_F(MatrixTest, optionsThatStandApartAreOneStopAndOneChoice) {
+TEST_F(MatrixTest, separateOptionsAreOneTabStopAndOneChoice) {
     const auto around = [this] {
         std::string stops;
         go("num2");

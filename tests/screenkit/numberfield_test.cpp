@@ -28,9 +28,9 @@ TEST_F(NumberFieldTest, whatIsTypedOrPastedIsReadAndShownGroupedWithoutTheSystem
         {"numAmount", "=1000*12", 12000, "12 000.00"},
         {"numAmount", "", 0, "0.00"},
         {"numAmount", "123456789012345678901234", 123456789012345678901234.0, "123 456 789 012 345 685 803 008.00"},
-        {"numMonths", "3.5", 4, "4"}, // a count is rounded half to even
+        {"numMonths", "3.5", 4, "4"}, // whole numbers are rounded half to even
         {"numRate", "12.3456", static_cast<double>(12.3456F), "12.346"},
-        {"numRate", "6,125%", 6.125, "6.125"}, // three places: the comma parts no thousands
+        {"numRate", "6,125%", 6.125, "6.125"}, // three decimal places: the comma is the decimal sign
         {"numShares", "2147483647", 2147483647, "2 147 483 647"},
         {"numCount", "32,767", 32767, "32 767"},
     };
@@ -38,12 +38,12 @@ TEST_F(NumberFieldTest, whatIsTypedOrPastedIsReadAndShownGroupedWithoutTheSystem
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
     for (const auto& [field, typed, held, shownAfterwards] : cases)
         for (const bool pasted : {false, true}) {
-            if (pasted && *typed == 0) continue; // there is nothing to paste
+            if (pasted && *typed == 0) continue; // nothing to paste
             SCOPED_TRACE(testing::Message() << typed << (pasted ? " pasted" : " typed"));
             changed() = 0;
             go(field);
             if (pasted)
-                paste(QString("\t%1\r\n").arg(typed)); // a cell of a spreadsheet comes with its line end
+                paste(QString("\t%1\r\n").arg(typed)); // a copied spreadsheet cell ends with a line break
             else if (*typed == 0)
                 key(Qt::Key_Delete);
             else
@@ -56,12 +56,12 @@ TEST_F(NumberFieldTest, whatIsTypedOrPastedIsReadAndShownGroupedWithoutTheSystem
     QLocale::setDefault(system);
 }
 
-TEST_F(NumberFieldTest, whatCannotBeReadIsRefusedAloudAndKeptUntilItIsMended) {
+TEST_F(NumberFieldTest, unreadableTextIsRefusedWithABellAndKeptUntilCorrected) {
     const char* const width = "Please enter a number from -2 147 483 648 to 2 147 483 647.";
     const struct {
         const char *field, *typed, *told;
     } cases[] = {{"numAmount", "1.2.3", "groups of three"},  {"numAmount", "12x", "can't be read"},
-                 {"numAmount", "1000*12", "put ="},          {"numAmount", "=5/0", "divide by 0"},
+                 {"numAmount", "1000*12", "type ="},          {"numAmount", "=5/0", "divide by 0"},
                  {"numMonths", "4 months", "can't be read"}, {"numShares", "2147483648", width},
                  {"numShares", "-99999999999", width},       {"numCount", "100000", "Count"}}; // by its own limit
     places.count = 7;
@@ -82,7 +82,7 @@ TEST_F(NumberFieldTest, whatCannotBeReadIsRefusedAloudAndKeptUntilItIsMended) {
             EXPECT_EQ(selected(), c.typed);
             EXPECT_TRUE(isMarked(c.field));
             EXPECT_EQ(kept(c.field), 7) << "the record holds what stood there";
-            refresh(); // another screen was in front for a moment
+            refresh(); // another screen was in front
             EXPECT_EQ(text(c.field), c.typed);
         }
         EXPECT_EQ(screen->runs, 0);
@@ -93,7 +93,7 @@ TEST_F(NumberFieldTest, whatCannotBeReadIsRefusedAloudAndKeptUntilItIsMended) {
     }
     EXPECT_GT(desk.bells, 0);
     enter("numAmount", "12x");
-    act("@cmdCancel"); // the way out stays open, and what was refused doesn't come back
+    act("@cmdCancel"); // Cancel still works, and the refused text does not return
     refresh();
     EXPECT_EQ(text("numAmount"), "7.00");
 }
@@ -113,7 +113,7 @@ TEST_F(NumberFieldTest, afterEnterTheFieldShowsItsFigureGroupedAndWhollySelected
     EXPECT_EQ(selected(), "700 000.00") << "its own access key selects it, too";
 }
 
-TEST_F(NumberFieldTest, aLimitMayWordItselfPutAValueBackOrSendTheFocusElsewhere) {
+TEST_F(NumberFieldTest, aLimitMayBuildItsMessageRestoreAValueOrMoveTheFocus) {
     auto* amount = get<NumberField>("numAmount");
     double held = 0;
     const auto atMost = [](double most) { return [most](double value) { return value <= most; }; };
@@ -159,7 +159,7 @@ TEST_F(KitTest, aRecordHoldsEachKeystrokeAtOnce) {
     EXPECT_EQ(changed(), 1);
 }
 
-TEST_F(NumberFieldTest, theKeypadsDecimalKeyIsTheDecimalSignWhateverStandsThere) {
+TEST_F(NumberFieldTest, theKeypadsDecimalKeyIsTheDecimalSignWhateverIsTypedBefore) {
     const std::tuple<const char*, const char*, double> cases[] = {
         {"7", "250", 7.25}, {"1,250", "5", 1250.5}, {"1.250.000", "50", 1250000.5}, {"=2*7", "5", 15}};
     for (const auto& [before, behind, held] : cases)
@@ -182,7 +182,7 @@ TEST_F(KitTest, whatIsNotRetypedKeepsEveryBit) {
     }
     EXPECT_EQ(changed() + screen->edits, 0);
 
-    // A figure longer than its field is shown whole, and from its head.
+    // A figure that is too long for its field is complete, and its start is visible.
     places.total = 1e21;
     refresh();
     EXPECT_EQ(text("numTotal"), "1 000 000 000 000 000 000 000.00");
@@ -195,7 +195,7 @@ TEST_F(KitTest, fillingIsNoEditAndTypingBackIsOne) {
     places.notes = "a\nb";
     places.mode = 2;
     places.smokes = 1;
-    screen->onFilled = [this] { get<NumberField>("numMonths")->enter(3); }; // a calculation may store its answer
+    screen->onFilled = [this] { get<NumberField>("numMonths")->enter(3); }; // a calculation may store its result
     refresh();
     EXPECT_EQ(changed() + screen->edits, 0);
     EXPECT_EQ(bench.record.loans.Num2, 3);
@@ -217,7 +217,7 @@ TEST_F(KitTest, enteringAFieldSelectsAllOfItWithoutSwallowingQuickTyping) {
     click(get("numAmount"), QPoint(get("numAmount")->width() - 8, 8));
     EXPECT_EQ(selected(), "") << "a second click sets the cursor";
 
-    type("\t3"); // from the keyboard's buffer: no turn of the event loop between the keys
+    type("\t3"); // from a keyboard buffer: the event loop does not run between the keys
     settle();
     type("6");
     EXPECT_EQ(bench.record.loans.Num2, 36);
@@ -251,10 +251,10 @@ TEST_F(KitTest, resultsAndLockedFieldsHaveTheirOwnShadesInAnyTheme) {
         click("numTotal");
         type("9");
         EXPECT_EQ(places.total, 1234.5);
-        total->setResult(false); // the unknown moved to another field
+        total->setResult(false); // the unknown is another field now
         EXPECT_EQ(paper(), theme.base().color());
         expectStop(true, theme.text().color());
-        total->setLocked(true); // it shows the total of a list now: no result, and no entry either
+        total->setLocked(true); // it shows the total of a list: neither a result nor an entry
         for (const QColor& other : {QColor("#ffff00"), theme.base().color(), theme.window().color()})
             EXPECT_NE(paper(), other);
         expectStop(false, theme.text().color());

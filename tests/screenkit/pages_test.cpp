@@ -5,7 +5,7 @@
 namespace screenkit {
 namespace {
 
-/// Two pages of entries with one of results between them, and a button that stands in for one that opens a screen.
+/// Two pages of entries, one of results between them, and a button like one that opens a screen.
 class Paged : public Screen {
 public:
     explicit Paged(Workplace& work) : Screen(work, "frmPaged", "Paged", untracked()) {

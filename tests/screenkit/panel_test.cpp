@@ -58,7 +58,7 @@ TEST_F(PanelTest, eachWayToPrintGoesWhereItSaysWhileTheUserIsTold) {
     const std::pair<const char*, Destination> ways[] = {{"Return", Destination::preview}, // the default
                                                         {"@cmdPD", Destination::printer},
                                                         {"Alt+V", Destination::preview},
-                                                        {"Tab Tab Enter", Destination::printer}}; // on its button
+                                                        {"Tab Tab Enter", Destination::printer}}; // by its own button
     for (const auto& [way, to] : ways) {
         SCOPED_TRACE(way);
         went.clear();
@@ -84,7 +84,7 @@ TEST_F(PanelTest, theGridIsWalkedByKeysAndItsRowsAreCopiedFromTheTop) {
     EXPECT_EQ(after(""), "grdPayments");
     auto* grid = get<Grid>("grdPayments");
     const std::pair<const char*, const char*> copied[] = {
-        {"Down Down Shift+Up Ctrl+C", "2\t2 000.12\n3\t-3.00"},              // picked upwards
+        {"Down Down Shift+Up Ctrl+C", "2\t2 000.12\n3\t-3.00"},              // selects upwards
         {"Ctrl+Up Ctrl+Space Ctrl+C", "1\t1 000.50\n2\t2 000.12\n3\t-3.00"}, // the first row, picked last
         {"Ctrl+A Ctrl+C", "1\t1 000.50\n2\t2 000.12\n3\t-3.00"}};
     for (const auto& [keys, rows] : copied) {

@@ -28,7 +28,7 @@ TEST(RealDeskTest, boxesAnswerToEscapeEnterAndTheCloseButton) {
                  {Buttons::okCancel, {}, cancel, ok},
                  {Buttons::okCancel, cancel, cancel, cancel},
                  {Buttons::yesNo, {}, no, yes},
-                 {Buttons::yesNo, no, no, no}, // a box that must not be answered by mistake
+                 {Buttons::yesNo, no, no, no}, // must not be answered by mistake
                  {Buttons::yesNoCancel, {}, cancel, yes}};
     QWidget window;
     window.show();
@@ -57,7 +57,7 @@ TEST(RealDeskTest, boxesAnswerToEscapeEnterAndTheCloseButton) {
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }
 
-/// Lets `act` deal with the file dialog, and gives what the desk then answers.
+/// Runs `act` on the file dialog and returns the desk's answer.
 std::optional<QString> answeredByFileDialog(RealDesk& desk, const std::function<void(QFileDialog&)>& act) {
     QTimer::singleShot(50, qApp, [&] {
         auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
@@ -67,7 +67,7 @@ std::optional<QString> answeredByFileDialog(RealDesk& desk, const std::function<
     return desk.fileToSave("Export Report", "Botha - Loan.pdf", {"PDF (*.pdf)", "ODT (*.odt)"});
 }
 
-// A dialog over another window than the one that asked would bring that other one to the front.
+// A dialog over the wrong window would bring that window to the front.
 TEST(RealDeskTest, dialogsBelongToTheWindowThatAsks) {
     QMainWindow main;
     QMainWindow preview;
@@ -81,7 +81,7 @@ TEST(RealDeskTest, dialogsBelongToTheWindowThatAsks) {
             EXPECT_EQ(dialog.parentWidget(), asking);
             dialog.reject();
         }));
-        // At once, before the window is active again: as when an export fails after its file dialog.
+        // At once, before the window is active again, as after a failed export.
         QTimer::singleShot(50, qApp, [&] {
             auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
             ASSERT_NE(box, nullptr);
@@ -106,7 +106,7 @@ TEST(RealDeskTest, savingOpensInTheFolderUsedLastWithTheNameProposed) {
         emit dialog.filterSelected("ODT (*.odt)");
         dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save)->click();
     });
-    EXPECT_EQ(accepted, last + "/Botha - Loan.odt"); // the name goes with the kind chosen
+    EXPECT_EQ(accepted, last + "/Botha - Loan.odt"); // the ending follows the chosen format
     const auto opensIn = [&](const QString& expected) {
         answeredByFileDialog(desk, [&](QFileDialog& dialog) {
             EXPECT_EQ(dialog.directory().canonicalPath(), QDir(expected).canonicalPath());
@@ -114,7 +114,7 @@ TEST(RealDeskTest, savingOpensInTheFolderUsedLastWithTheNameProposed) {
         });
     };
     opensIn(last);
-    QDir(last).removeRecursively(); // a memory stick that was pulled out
+    QDir(last).removeRecursively(); // a memory stick that was removed
     const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     opensIn(QDir(documents).exists() ? documents : QDir::homePath());
 }

@@ -10,7 +10,7 @@ struct Rates {
     double first = 0, last = 0;
 };
 
-/// A screen that is too low for its settings, with two buttons for help.
+/// A screen too low for its settings, with two help buttons.
 class SettingsScreen : public Screen {
 public:
     explicit SettingsScreen(Workplace& work)
@@ -127,7 +127,7 @@ TEST_F(SettingsTest, onePanelExplainsWhateverItIsOpenedOn) {
     EXPECT_NE(get("Frame4"), nullptr);
 }
 
-// Two screens work over one figure of a third one's; whichever goes first, the owner has his figure back.
+// Two screens overwrite a figure that belongs to a third; in any order of closing the owner's figure is restored.
 TEST(LentFigures, areGivenBackUnlessTheUserWantedThemOtherwise) {
     const auto taxes = [](LentFigures& lent, double& figure, double income) {
         lent.during(figure, [&] { figure = income; });

@@ -12,8 +12,8 @@
 
 namespace screenkit {
 
-/// A desk whose answers a test queues and whose boxes it reads back. A box that nobody expected fails the test, and so
-/// does an answer that was never asked for.
+/// A desk that answers from a queue filled by the test and records its boxes. An unexpected box fails the test, and so
+/// does an answer that is never used.
 class TestDesk : public Desk {
 public:
     struct Box {
@@ -29,9 +29,9 @@ public:
         EXPECT_TRUE(m_files.empty()) << "an expected file chooser never came";
     }
 
-    /// The next box is answered so.
+    /// Sets the answer to the next box.
     void expect(Answer answer) { m_answers.push_back(answer); }
-    /// The one box that `act` brings up, answered so; none, or more than one, fails the test.
+    /// Runs `act`, answers its one message box and returns the box; fails the test if there is none or more than one.
     Box asked(Answer answer, const std::function<void()>& act) {
         boxes.clear();
         expect(answer);
@@ -41,7 +41,7 @@ public:
     }
     /// The same, answered OK.
     Box told(const std::function<void()>& act) { return asked(Answer::ok, act); }
-    /// The next file chooser gives this name; nothing: the user cancels.
+    /// Sets the name chosen in the next file dialog; nothing: the user cancels.
     void expectFile(std::optional<QString> name) { m_files.push_back(std::move(name)); }
     /// The box shown last.
     const Box& last() const { return boxes.back(); }
@@ -88,7 +88,7 @@ public:
     int bells = 0;
     int programsStarted = 0;
     bool programStarts = true;
-    QString printTo; ///< the file that stands for a printer; empty: none is installed
+    QString printTo; ///< the file that stands in for a printer; empty: no printer is installed
 
 private:
     std::optional<QString> nextFile() {

@@ -7,7 +7,7 @@
 namespace screenkit {
 namespace {
 
-const std::string emoji = "\U0001F4C8"; // one character, two units in the toolkit, four bytes in the file
+const std::string emoji = "\U0001F4C8"; // one character, two units of QString, four bytes in the file
 
 std::string repeated(const std::string& one, int times) {
     return QString::fromStdString(one).repeated(times).toStdString();
@@ -17,7 +17,7 @@ TEST_F(KitTest, aTextTakesAsManyCharactersAsItsPlaceHolds) {
     const std::pair<std::string, std::string> cases[] = {
         {"abcdefghijkl", "abcdefghij"},
         {repeated("ê", 12), repeated("ê", 10)},
-        {repeated("T\u032D", 6), repeated("T\u032D", 5)}, // combined accents
+        {repeated("T\u032D", 6), repeated("T\u032D", 5)}, // combining accents
         {repeated(emoji, 12), repeated(emoji, 10)},       // beyond the first plane
         {"abcdefghi" + emoji + "x", "abcdefghi" + emoji},
         {"<b>&\"x\"'%1", "<b>&\"x\"'%1"}};
@@ -30,7 +30,7 @@ TEST_F(KitTest, aTextTakesAsManyCharactersAsItsPlaceHolds) {
         }
 }
 
-TEST_F(KitTest, whatFindsNoRoomIsCutOffWhereItIsPutIn) {
+TEST_F(KitTest, textThatDoesNotFitIsCutWhereItIsInserted) {
     places.name = "abcdefghij";
     refresh();
     changed() = 0;
@@ -44,7 +44,7 @@ TEST_F(KitTest, whatFindsNoRoomIsCutOffWhereItIsPutIn) {
     paste("XYZ");
     EXPECT_EQ(places.name, "abXdefghij");
 
-    places.name = "a text longer than ten"; // the file's is kept whole, however long
+    places.name = "a text longer than ten"; // a text from the file is kept in full
     refresh();
     go("txtName");
     key(Qt::Key_End);
@@ -76,13 +76,13 @@ TEST_F(KitTest, notesTakeTheirCharactersAndNoMore) {
     EXPECT_EQ(changed(), 1);
 }
 
-TEST_F(KitTest, notesStandAnEmptyClipboard) {
+TEST_F(KitTest, notesSurviveAnEmptyClipboard) {
     enter("txtNotes", "kept");
     for (auto* source : {new QMimeData, static_cast<QMimeData*>(nullptr)}) {
-        QApplication::clipboard()->setMimeData(source); // the program that was copied from has closed
+        QApplication::clipboard()->setMimeData(source); // the program copied from was closed
         act("Ctrl+V Shift+Ins");
     }
-    QMimeData nothing; // as of a wheel press or a drop
+    QMimeData nothing; // empty data, as dropped by the mouse
     QDropEvent drop({5, 5}, Qt::CopyAction, &nothing, Qt::LeftButton, {});
     QApplication::sendEvent(get<QPlainTextEdit>("txtNotes")->viewport(), &drop);
     EXPECT_EQ(places.notes, "kept");

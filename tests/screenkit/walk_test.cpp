@@ -22,10 +22,10 @@ TEST_F(KitTest, tabFollowsTheDeclarationRoundAndBack) {
 
 TEST_F(KitTest, enterWalksTheFieldsAndTheLastPressesTheDefaultButton) {
     for (const auto& name : tabOrder) {
-        if (name.starts_with("cmd")) continue; // Enter goes from field to field, past the buttons between
+        if (name.starts_with("cmd")) continue; // Enter skips the buttons between the fields
         EXPECT_EQ(focus(), name);
         EXPECT_EQ(screen->runs, 0);
-        act(name == "txtNotes" ? "Tab" : "Return"); // Enter is a new line there
+        act(name == "txtNotes" ? "Tab" : "Return"); // Enter adds a line there
     }
     EXPECT_EQ(screen->runs, 1);
     EXPECT_EQ(focus(), "chkSmokes");

@@ -9,7 +9,7 @@
 
 namespace screenkit {
 
-/// A main window that only keeps what screens asked of it.
+/// A main window that only records what screens ask of it.
 class RecordingShell : public Shell {
 public:
     void open(const QString& screen) override { opened << screen; }
@@ -30,7 +30,7 @@ public:
     bool toolbar = true;
 };
 
-/// What one screen needs to stand alone in a test.
+/// Everything that a single screen needs in a test.
 struct Workbench {
     explicit Workbench(Desk& desk) : reports(desk, {}), workplace{record, paths, desk, reports, shell} {}
 

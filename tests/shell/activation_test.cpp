@@ -21,7 +21,7 @@ TEST_F(Activation, OnlyAnotherScreenComingToTheFrontFillsIt) {
     EXPECT_EQ(run.focused(), "numPrinAmount");
     QTest::keyClicks(field("numPrinAmount"), "1");
     field("numPrinAmount")->setCursorPosition(0);
-    run.record().loans.Num2 = 24; // behind the screen's back: shows when it is filled
+    run.record().loans.Num2 = 24; // changed without the screen: visible once the screen is filled
     QWidget other;
     other.show();
     for (QWidget* inFront : {&other, static_cast<QWidget*>(&run.window())}) {

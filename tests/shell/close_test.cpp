@@ -39,7 +39,7 @@ TEST(Close, WarnsOfUnsavedChangesWithoutOfferingToSave) {
     EXPECT_EQ(run.inClients("SELECT count(*) FROM [Data]"), "0");
 }
 
-// Each of these screens once asked the main window for something on its way out, when that was gone already.
+// Each of these screens used to call the main window while closing, when it was already destroyed.
 TEST(Close, EndsCleanlyWithAnyScreenOpen) {
     for (const char* item : {"mnuBrowse", "mnuSaveAs", "mnuPersDet", "mnuPolInvests", "mnuNARA", "mnuLoansCalc",
                              "mnuQuickTax", "mnuPAYE", "mnuPrep", "mnuContents"}) {

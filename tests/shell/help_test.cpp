@@ -16,7 +16,7 @@ protected:
         std::filesystem::copy_file(std::filesystem::path(MARLOWBECK_PROGRAM_DIR) / "guide.md", run.folder / "guide.md");
     }
     QTextBrowser* page() { return run.control<QTextBrowser>("brwHelp"); }
-    /// The first line of the guide that can be seen.
+    /// The first visible line of the guide.
     QString top() { return page()->cursorForPosition(QPoint(5, 5)).block().text(); }
     QString found() { return run.control<QLabel>("lblFound")->text(); }
 

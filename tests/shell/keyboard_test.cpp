@@ -19,7 +19,7 @@ using shelltest::RunningProgram;
 
 struct Place {
     const char* item;  ///< menu item that opens the screen
-    const char* panel; ///< button that opens a panel over it, or another screen; "" for the screen itself
+    const char* panel; ///< a button that opens a panel or another screen; "" for the screen itself
 };
 
 void PrintTo(const Place& place, std::ostream* out) { *out << place.item << ' ' << place.panel; }
@@ -63,14 +63,14 @@ bool isEntry(const QWidget* widget) {
            qobject_cast<const screenkit::Grid*>(widget) != nullptr;
 }
 
-/// What a user must be able to get at: entries, and buttons that do something. Of a group of options, the chosen one.
+/// True for a control that a user must be able to reach: an entry, or an active button; in a group the selected option.
 bool isStop(const QWidget* widget) {
     if (const auto* option = qobject_cast<const QRadioButton*>(widget)) return option->isChecked();
     return isEntry(widget) || (qobject_cast<const QAbstractButton*>(widget) != nullptr &&
                                (widget->focusPolicy() & Qt::TabFocus) == Qt::TabFocus);
 }
 
-/// The stops of what is in front: the panel if one is open, else the screen as its page shows it.
+/// The reachable controls in front: of an open panel, else of the screen's current page.
 std::vector<QWidget*> stopsOf(QWidget* scope) {
     std::vector<QWidget*> stops;
     for (auto* widget : scope->findChildren<QWidget*>())
@@ -84,7 +84,7 @@ std::string nameOf(const QWidget* widget) { return widget->objectName().toStdStr
 class Keyboard : public testing::TestWithParam<Place> {
 protected:
     Keyboard() {
-        run.record().FinChargeState = "DOWN"; // all rows of the loan
+        run.record().FinChargeState = "DOWN"; // shows all rows of the loan
         run.record().loans = {"Monthly repayment", 100000, 24, 10, 0};
         run.menu(GetParam().item);
     }
@@ -96,7 +96,7 @@ protected:
             if (panel->isVisible()) return panel;
         return run.front();
     }
-    /// Runs a check on each tab page of the screen, or on the screen itself.
+    /// Runs a check on each tab page, or on a screen without pages.
     template <class Check>
     void onEachPage(Check check) {
         auto* book = run.front()->findChild<QTabWidget*>();
@@ -128,7 +128,7 @@ TEST_P(Keyboard, TabReachesEveryEntryAndButton) {
     });
 }
 
-/// What a screen reader says of a control.
+/// The name of a control for a screen reader.
 QString spoken(QWidget* widget) { return QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name); }
 
 bool isWholeWords(const QString& name) {
@@ -161,7 +161,7 @@ TEST_P(Keyboard, EachEntryHasALabelAndAScreenReaderSaysEachControlInWholeWords) 
     });
 }
 
-/// The captions whose letters were settled long before the menu's: the only ones that may keep a letter from it.
+/// The only captions that may use a letter of the menu bar: their letters were fixed before the menu's.
 const std::set<std::string> shadowing{
     "frmLoans &Fin. charges", "frmLoans &Annual Amort.", "frmLoans &Print",
     "frmNARA &Amortisation",  "frmNARA &Print",          "frmKwikTax &Print",
@@ -172,7 +172,7 @@ const std::set<std::string> shadowing{
     "frmInflation &Print",    "frmInflation C&ancel",    "frmLifeOfCap &Print",
     "frmLifeOfCap C&ancel"};
 
-/// The letters in use, each with the captions that hold it.
+/// The access keys in use, each with its captions.
 std::map<QKeySequence, QStringList> lettersOf(const QWidget* scope) {
     std::map<QKeySequence, QStringList> letters;
     const auto note = [&](const QString& caption) {
@@ -229,7 +229,7 @@ TEST_P(Keyboard, TheMenuOpensByF10ByAltAloneAndByEachLetterThatTheScreenLeavesIt
     }
 }
 
-TEST(MenuKeys, AltOpensNothingWhenMoreThanAltWasMeant) {
+TEST(MenuKeys, AltOpensNothingUnlessPressedAlone) {
     RunningProgram run;
     run.menu("mnuQuickTax");
     QWidget* field = QApplication::focusWidget();
@@ -245,7 +245,7 @@ TEST(MenuKeys, AltOpensNothingWhenMoreThanAltWasMeant) {
     }
 }
 
-// A screen of 1280 x 800 at twice the usual scale leaves this much to the main window.
+// A main window on a screen of 1280 x 800 at 200 %.
 TEST_P(Keyboard, OnASmallScreenEveryControlCanBeBroughtIntoView) {
     run.front()->drop();
     RunningProgram::settle();

@@ -13,7 +13,7 @@ namespace {
 using screenkit::Answer;
 using shelltest::RunningProgram;
 
-/// Leaves of the menus and pop-ups that can be chosen: all others wait for their screens, so that nothing pretends.
+/// The menu items that can be chosen; all others are disabled until their screens exist.
 const std::set<std::string> working{
     "mnuNewFile",
     "mnuBrowse",
@@ -70,7 +70,7 @@ TEST(Menu, WhatHasNoScreenYetIsGreyedOut) {
     EXPECT_EQ(run.window().menuBar()->actions().size(), 7);
 }
 
-TEST(Toolbar, EachButtonHasAPictureATipAndANameForTheBlind) {
+TEST(Toolbar, EachButtonHasAPictureATipAndANameForScreenReaders) {
     RunningProgram run;
     QStringList enabled;
     for (QAction* action : toolbar(run)->actions()) {
@@ -104,10 +104,10 @@ TEST(Menu, AScreenOpenedTwiceIsOneScreenInFront) {
     EXPECT_EQ(run.window().screens().size(), 2);
 }
 
-// A screen that has to be scrolled opens with the tabs or buttons that it is worked by out of sight.
+// If a screen opens scrolled, its tabs or buttons may be out of sight.
 TEST(Menu, EachScreenIsSeenWholeInTheWindowAsItStarts) {
     RunningProgram run;
-    run.window().resize(947, 692); // the screen of the tests has no room for it all
+    run.window().resize(947, 692); // the test's screen is too small for all of it
     int opened = 0;
     for (const char* name : shell::clientScreens()) {
         if (shell::screenEntry(name) == nullptr) continue;
@@ -135,13 +135,13 @@ TEST(Toolbar, TwoScreensAreCascadedAfterACommandOfItsOwnOrOfItsPopUpsOnly) {
     run.menu("mnuLoansCalcTB");
     EXPECT_TRUE(areApart());
 
-    run.menu("mnuPrep"); // with a third screen nothing moves any more
+    run.menu("mnuPrep"); // with a third screen no window moves
     run.screen("frmLoans")->parentWidget()->move(7, 7);
     run.menu("mnuLoansCalcTB");
     EXPECT_EQ(placeOf(run, "frmLoans"), QPoint(7, 7));
 }
 
-TEST(Toolbar, IsOffWhileBrowseOrSaveAsIsOpenWhateverRoadTheyClose) {
+TEST(Toolbar, IsDisabledWhileBrowseOrSaveAsIsOpenHoweverTheyClose) {
     const auto cancels = [](RunningProgram& run) { run.click("cmdCancel"); };
     const auto closes = [](RunningProgram& run) { run.front()->parentWidget()->close(); };
     const auto picks = [](RunningProgram& run) {
@@ -190,7 +190,7 @@ TEST(Menu, ViewToolbarKeepsItsCheckMarkTrue) {
         EXPECT_EQ(toolbar(run)->isVisible(), visible);
     }
     run.menu("mnuLoansCalc");
-    run.enter("numIntRate", "60"); // a field that holds every command back
+    run.enter("numIntRate", "60"); // a refused entry, which stops every command
     item->trigger();
     EXPECT_TRUE(item->isChecked());
     EXPECT_TRUE(toolbar(run)->isVisible());
@@ -226,12 +226,12 @@ TEST(Menu, CalculatorLecturesAndAbout) {
     run.menu("mnuVideoLectures");
     EXPECT_EQ(run.desk.opened.size(), 1);
     run.menu("mnuContents");
-    run.screen("frmBrowser")->parentWidget()->showMaximized(); // lends the main window its title
+    run.screen("frmBrowser")->parentWidget()->showMaximized(); // its title is added to the main window's
     const QString about = run.asked("mnuAbout", Answer::ok).text;
     EXPECT_TRUE(about.endsWith(" Version : 1.00.000")) << about.toStdString();
 }
 
-TEST(Menu, AnotherClientDatabaseIsTheOneOfEveryScreen) {
+TEST(Menu, EveryScreenUsesTheNewClientDatabase) {
     RunningProgram run;
     run.saveClient("Botha");
     run.menu("mnuPolInvests");

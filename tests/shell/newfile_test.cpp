@@ -7,7 +7,7 @@ using screenkit::BoxStyle;
 using screenkit::Buttons;
 using shelltest::RunningProgram;
 
-/// Lets every save fail at the client's second table, until it is put right.
+/// Makes every save fail at the client's second table until the table is repaired.
 class FailingSave {
 public:
     explicit FailingSave(const std::filesystem::path& file) : m_file(file) {

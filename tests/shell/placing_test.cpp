@@ -10,20 +10,20 @@ namespace {
 
 using shelltest::RunningProgram;
 
-// A screen of 1600 x 1000 offers less at a larger scale; a panel at the left or on top moves the free area.
+// At a larger scale a screen of 1600 x 1000 offers less space; a panel at the left or top moves the free area.
 TEST(Placing, TheMainWindowStartsWithItsFrameInsideTheFreeArea) {
     const QMargins frame(4, 37, 4, 4); // a wide one
     for (const QRect available : {QRect(0, 0, 1024, 700), QRect(0, 0, 1067, 667), QRect(0, 0, 800, 500),
                                   QRect(72, 27, 1208, 773), QRect(0, 0, 1920, 1080), QRect(0, 0, 2560, 1440)}) {
         const QRect window = shell::startGeometry(available);
-        const QRect framed(window.topLeft(), window.size().grownBy(frame)); // a window is moved by its frame
+        const QRect framed(window.topLeft(), window.size().grownBy(frame)); // a window's position includes its frame
         EXPECT_TRUE(available.contains(framed)) << testing::PrintToString(framed.height());
     }
     EXPECT_EQ(shell::startGeometry({0, 0, 1280, 800}), QRect(166, 54, 947, 692));
     EXPECT_EQ(shell::startGeometry({0, 0, 2560, 1440}), QRect(427, 144, 1706, 1152));
 }
 
-TEST(Placing, WindowsThatFitAreWhollyInViewHoweverTheyCame) {
+TEST(Placing, WindowsThatFitAreFullyVisibleHoweverTheyWereOpened) {
     RunningProgram run;
     run.window().resize(947, 692);
     RunningProgram::settle();

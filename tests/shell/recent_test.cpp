@@ -10,7 +10,7 @@ using shelltest::RunningProgram;
 
 class Recent : public testing::Test {
 protected:
-    /// The File menu's lines for clients, as it opens.
+    /// The File menu's client lines when it opens.
     QStringList lines() {
         auto* file = run.window().findChild<QMenu*>("mnuFile");
         emit file->aboutToShow();
@@ -57,7 +57,7 @@ TEST_F(Recent, TheFileMenuListsTheFiveOpenedLastAboveExit) {
     EXPECT_EQ(shell::RecentClients("/elsewhere/Data.Mdb").list().size(), 0) << "another file's clients are not these";
 }
 
-TEST_F(Recent, AKeyThatHasGoneToAnotherIsDroppedWithAWord) {
+TEST_F(Recent, AKeyThatNowBelongsToAnotherClientIsReportedAndDropped) {
     for (const char* name : {"Adams", "Botha", "Cele"})
         add(name);
     run.inClients("UPDATE [PersDetails] SET [Name]='Mr Stranger', [BirthDate]=22000 WHERE [DCLNO]=1");

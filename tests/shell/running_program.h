@@ -20,7 +20,7 @@
 
 namespace shelltest {
 
-/// A program folder of a test's own: the shipped databases and report definitions, no client database yet.
+/// A program folder for one test: the shipped databases and report definitions, but no client database.
 class ProgramFolder : public storetest::Folder {
 public:
     ProgramFolder() {
@@ -36,7 +36,7 @@ public:
 
 using storetest::rowsOf;
 
-/// The program with its real windows, driven by control names, keys and mouse clicks.
+/// The program with its real windows, used through control names, keys and mouse clicks.
 class RunningProgram {
 public:
     explicit RunningProgram(bool startNow = true)
@@ -66,7 +66,7 @@ public:
         action->trigger();
         settle();
     }
-    /// Triggers a menu item that asks one thing, answered so; gives the box.
+    /// Chooses a menu item that asks one question, answers it and returns the box.
     screenkit::TestDesk::Box asked(const QString& name, screenkit::Answer answer) {
         return desk.asked(answer, [&] { menu(name); });
     }
@@ -76,7 +76,7 @@ public:
         EXPECT_NE(open, nullptr) << name.toStdString() << " is not open";
         return open;
     }
-    /// A control of the screen in front (or of the one named).
+    /// A control of the front screen, or of the one named.
     template <class W = QWidget>
     W* control(const QString& name, const QString& screenName = {}) {
         W* found = (screenName.isEmpty() ? front() : screen(screenName))->template findChild<W*>(name);
@@ -89,14 +89,14 @@ public:
                 return qobject_cast<screenkit::Screen*>(child->widget());
         return nullptr;
     }
-    /// Turns to the tab page that a control lies on.
+    /// Turns to the tab page that contains a control.
     static void turnTo(QWidget* widget) {
         for (QWidget* page = widget; page->parentWidget() != nullptr; page = page->parentWidget()) {
             auto* book = qobject_cast<QTabWidget*>(page->parentWidget()->parentWidget());
             if (book != nullptr && book->indexOf(page) >= 0) book->setCurrentWidget(page);
         }
     }
-    /// Replaces a field's text as a user does; the focus stays in the field.
+    /// Replaces a field's text like a user; the focus stays in the field.
     void enter(const QString& name, const QString& text) {
         auto* field = control<QWidget>(name);
         turnTo(field);
@@ -106,7 +106,7 @@ public:
         QTest::keyClick(field, Qt::Key_Delete);
         keys(field, text);
     }
-    /// Types a text, letters beyond the keyboard's own too.
+    /// Types a text, including letters that keyboards lack.
     static void keys(QWidget* field, const QString& text) {
         for (const QChar letter : text)
             if (letter.unicode() < 128)
@@ -114,7 +114,7 @@ public:
             else
                 QTest::sendKeyEvent(QTest::Click, field, Qt::Key_unknown, QString(letter), Qt::NoModifier);
     }
-    /// The same, and leaves the field by Tab.
+    /// Like `enter`, and leaves the field by Tab.
     void type(const QString& name, const QString& text) {
         enter(name, text);
         QTest::keyClick(control<QWidget>(name), Qt::Key_Tab);
@@ -136,7 +136,7 @@ public:
         QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(8, button->height() / 2));
         settle();
     }
-    /// Presses a key in whatever has the focus.
+    /// Presses a key in the control with the focus.
     static void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
         QWidget* focused = QApplication::focusWidget();
         ASSERT_NE(focused, nullptr) << "nothing has the focus";
@@ -166,7 +166,7 @@ public:
         enter("txtSearch", words);
         key(Qt::Key_Return);
     }
-    /// Records a client with nothing but a name, and saves it.
+    /// Records a client with only a name, and saves it.
     void saveClient(const QString& surname) {
         menu("mnuNewFile");
         type("txtCLName", surname);

@@ -1,6 +1,6 @@
 #include "shell/running_program.h"
 
-/// What the user is asked when the file is no longer as the program left it.
+/// The questions to the user if another program has changed the file.
 namespace {
 
 using screenkit::Answer;
@@ -17,7 +17,7 @@ protected:
     RunningProgram run;
 };
 
-TEST_F(Saving, OffersSaveAsWhereTheFileHoldsAStranger) {
+TEST_F(Saving, OffersSaveAsIfTheFileHoldsAnotherClient) {
     meanwhile("UPDATE PersDetails SET Name='Ms T Nkosi', BirthDate=25569, Description='of another'");
     for (const Answer answer : {Answer::no, Answer::yes}) {
         const QString asks = run.asked("mnuSave", answer).text;
@@ -35,11 +35,11 @@ TEST_F(Saving, AsksBeforeItWritesOverAnotherProgramsChanges) {
     EXPECT_EQ(run.asked("mnuSave", Answer::no).defaultAnswer, Answer::no);
     EXPECT_EQ(description(), "typed there");
     EXPECT_EQ(run.shown("txtDescription"), "typed here");
-    run.desk.expect(Answer::yes); // to the save that New asks about
+    run.desk.expect(Answer::yes); // to the question of New whether to save
     run.desk.expect(Answer::yes);
     run.menu("mnuNewFile");
     EXPECT_EQ(description(), "typed here");
-    EXPECT_EQ(run.record().client.Name, ""); // the new client that the save was for
+    EXPECT_EQ(run.record().client.Name, ""); // the new client, for which it was saved
 }
 
 } // namespace

@@ -48,7 +48,7 @@ TEST(Start, WindowHasItsCaptionSizeAndPlace) {
 using shelltest::ProgramFolder;
 using storetest::put;
 
-/// What is done to a program folder that has been started once, and what the box then names.
+/// Damage to a program folder that was started once, and the file that the message must name.
 struct Fault {
     const char* file;
     std::function<void(const ProgramFolder&, std::unique_ptr<store::Database>& other)> make;
@@ -68,7 +68,7 @@ const std::vector<Fault> faults{
          fs::remove(folder / "Data.Mdb");
      },
      "3024"},
-    {"Data.Mdb", // another program is at it
+    {"Data.Mdb", // another program is using it
      [](const auto& folder, auto& other) {
          other = std::make_unique<store::Database>(folder / "Data.Mdb");
          other->execute("BEGIN EXCLUSIVE");
@@ -123,13 +123,13 @@ TEST(Start, YesterdaysProgramFolderRunsEveryReportOfToday) {
     for (const auto& entry : fs::directory_iterator(run.folder.path())) {
         if (entry.path().extension() != ".rpt") continue;
         const std::string definition = storetest::bytesOf(entry.path());
-        if (definition.find("<html") == std::string::npos) continue; // a piece of others
+        if (definition.find("<html") == std::string::npos) continue; // included by other definitions
         EXPECT_NO_THROW(run.program.reports().pdf(QString::fromStdString(entry.path().filename().string()), {}))
             << entry.path();
         ++reports;
     }
     EXPECT_GT(reports, 10);
-    run.menu("mnuPAYE"); // and the settings are whole
+    run.menu("mnuPAYE"); // and the settings are complete
     EXPECT_TRUE(run.isOpen("frmMonthly"));
 }
 
@@ -149,7 +149,7 @@ struct Ended {
     QString out, errors;
 };
 
-/// Runs the program itself with no display to show a window on.
+/// Runs the program itself without a display.
 Ended runBare(const QStringList& words, const QString& display = {}) {
     QProcess program;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -175,7 +175,7 @@ TEST(Start, WithoutADisplaySaysSoInOneLineAndAnswersWhatNeedsNone) {
     EXPECT_EQ(runBare({"--help"}).code, 0);
 }
 
-/// Another process of this user that holds the right to run, until it is killed.
+/// Another process of this user that is the running instance until it is killed.
 class OtherProcess {
 public:
     explicit OtherProcess(const std::string& name) {
@@ -207,7 +207,7 @@ private:
 TEST(Instance, IsHeldByOneProcessUntilItDiesHoweverItDies) {
     const std::string name = "marlowbeck-instance-" + std::to_string(::getpid());
     OtherProcess first(name);
-    for (int attempt = 1; attempt <= 12; ++attempt) // nobody ever answers the refused ones
+    for (int attempt = 1; attempt <= 12; ++attempt) // refused starts are never accepted
         EXPECT_FALSE(shell::Instance(name).isFirst()) << attempt;
     EXPECT_TRUE(shell::Instance(name + "-else").isFirst());
     first.kill();

@@ -10,7 +10,7 @@ namespace {
 using screenkit::Answer;
 using shelltest::RunningProgram;
 
-/// The part of the main window's caption behind the version.
+/// The part of the main window's caption after the version.
 std::string client(RunningProgram& run) {
     RunningProgram::settle();
     return run.window().windowTitle().section(" Version : 1.00.000", 1).toStdString();
@@ -27,7 +27,7 @@ TEST(Caption, NamesTheClientAndMarksWhatIsNotSaved) {
     run.menu("mnuPersDet");
     run.type("txtCInit", "J");
     run.type("txtCLName", "Botha [*]");
-    EXPECT_EQ(client(run), " - J Botha [*][*] *"); // the toolkit shows the doubled mark as it was typed
+    EXPECT_EQ(client(run), " - J Botha [*][*] *"); // Qt shows the doubled mark as a single one, as it was typed
     EXPECT_EQ(saved(run), "");
     const QTime before = QTime::currentTime();
     run.menu("mnuSave");
@@ -36,9 +36,9 @@ TEST(Caption, NamesTheClientAndMarksWhatIsNotSaved) {
     EXPECT_TRUE(told.isValid() && std::abs(before.secsTo(told)) <= 60) << saved(run);
 
     run.menu("mnuPolInvests");
-    run.click("cmdAdd"); // a change that no field makes
+    run.click("cmdAdd"); // a change made without a field
     EXPECT_EQ(client(run), " - J Botha [*][*] *");
-    run.front()->parentWidget()->showMaximized(); // lends the main window its title
+    run.front()->parentWidget()->showMaximized(); // its title is added to the main window's
     run.menu("mnuSave");
     EXPECT_EQ(client(run), " - J Botha [*][*] - [Policies & Investments. : Num. 2 of 2]");
     run.menu("mnuNewFile");
@@ -52,7 +52,7 @@ TEST(Announced, EachCalculationOnceAndTheSameAgain) {
         QStringList typed;
         const char *button, *answer;
     } screens[] = {
-        // 125 599 and 36 % of what is above 530 200, less the rebate of 17 820
+        // 125 599 plus 36 % of the income above 530 200, less the rebate of 17 820
         {"mnuQuickTax", {"sidbEdit1(0)=650000", "sidbEdit1(1)=40"}, "cmdCalculate", "Tax commitment 150 907.00"},
         {"mnuLoansCalc",
          {"numPrinAmount=100000", "numPeriod=240", "numIntRate=12"},

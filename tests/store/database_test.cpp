@@ -16,7 +16,7 @@ namespace {
 
 class DatabaseFile : public testing::Test {
 protected:
-    /// A database with one table and a row, closed again.
+    /// A closed database with one table and one row.
     fs::path made(const std::string& name = "Data.Mdb") {
         const fs::path path = folder / name;
         Database::create(path);
@@ -40,7 +40,7 @@ int writing(const fs::path& path) {
     return errorOf([&] { Database(path).execute("UPDATE Loans SET Num1 = 7"); });
 }
 
-TEST_F(DatabaseFile, ItsStateTellsEveryWritingAndReplacement) {
+TEST_F(DatabaseFile, ItsStateChangesWithEveryWriteAndReplacement) {
     const fs::path path = made();
     const Database reader(path);
     const store::FileState first = reader.state();
@@ -78,7 +78,7 @@ TEST_F(DatabaseFile, FaultsAtOpeningHaveTheirNumbersAndLeaveTheFileAlone) {
     EXPECT_FALSE(fs::exists(folder / "no folder"));
 }
 
-TEST_F(DatabaseFile, PermissionsAreToldApart) {
+TEST_F(DatabaseFile, EachMissingPermissionHasItsOwnError) {
     const fs::path path = made();
     const OrdinaryUser user(folder);
     ::chmod(path.c_str(), 0400);
@@ -92,7 +92,7 @@ TEST_F(DatabaseFile, PermissionsAreToldApart) {
     ::chmod(path.c_str(), 0000);
     EXPECT_EQ(opening(path), 3051);
     ::chmod(path.c_str(), 0600);
-    ::chmod(folder.path().c_str(), 0500); // no journal can be made
+    ::chmod(folder.path().c_str(), 0500); // no journal can be created
     EXPECT_EQ(number(path, "SELECT Num1 FROM Loans"), 1);
     EXPECT_EQ(writing(path), 3051);
     EXPECT_EQ(errorOf([&] { Database::create(folder / "new.mdb"); }), 3051);
@@ -104,7 +104,7 @@ TEST_F(DatabaseFile, IsHeldByAnother) {
     other.exec("BEGIN EXCLUSIVE");
     EXPECT_EQ(opening(path), 3356);
     other.exec("COMMIT; BEGIN IMMEDIATE");
-    EXPECT_EQ(number(path, "SELECT Num1 FROM Loans"), 1); // reading goes on beside a writer
+    EXPECT_EQ(number(path, "SELECT Num1 FROM Loans"), 1); // a reader is not blocked by a writer
     EXPECT_EQ(writing(path), 3356);
 }
 
@@ -113,7 +113,7 @@ TEST_F(DatabaseFile, SecondConnectionKeepsTheLocksOfTheFirst) {
     Database first(path);
     Transaction transaction(first);
     { Database second(path); }
-    // Another process asks, since locks are the process's own.
+    // Another process checks, since locks belong to a process.
     const pid_t child = ::fork();
     if (child == 0) ::_exit(writing(path) == 3356 ? 0 : 1);
     int status = 0;
@@ -125,7 +125,7 @@ TEST_F(DatabaseFile, IsCreatedForItsOwnerAloneAndNeverTwice) {
     Database::create(folder / "New.Mdb");
     EXPECT_EQ(modeOf(folder / "New.Mdb"), 0600U);
     EXPECT_EQ(opening(folder / "New.Mdb"), 0);
-    EXPECT_EQ(errorOf([&] { Database::create(folder / "new.mdb"); }), 3204); // the name counts without case
+    EXPECT_EQ(errorOf([&] { Database::create(folder / "new.mdb"); }), 3204); // names are compared without case
     EXPECT_EQ(errorOf([&] { Database::create(folder / "none/New.Mdb"); }), 3044);
     EXPECT_EQ(Database(folder / "NEW.MDB").path(), folder / "New.Mdb");
 }
@@ -134,7 +134,7 @@ TEST_F(DatabaseFile, StatementsFailWithTheNumberOfTheirCause) {
     Database database(made());
     for (const auto& [sql, error] : {std::pair{"SELECT 1 FROM Nowhere", 3078},
                                      {"SELECT [Num9] FROM Loans", 3265},
-                                     {"SELECT \"Num9\" FROM Loans", 3265}, // not the text "Num9"
+                                     {"SELECT \"Num9\" FROM Loans", 3265}, // not read as the text "Num9"
                                      {"INSERT INTO Loans (Num9) VALUES (1)", 3265},
                                      {"CREATE TABLE LOANS (A)", 3010},
                                      {"CREATE INDEX I ON Loans (Num1); CREATE INDEX I ON Loans (Num1)", 3284},
@@ -192,7 +192,7 @@ TEST_F(DatabaseFile, TransactionIsUndoneUnlessCommitted) {
     EXPECT_EQ(errorOf([&] {
                   Transaction transaction(database);
                   database.execute("UPDATE Loans SET Num1 = 3");
-                  database.execute("PRAGMA max_page_count=1; CREATE TABLE Full (A)"); // SQLite undoes this by itself
+                  database.execute("PRAGMA max_page_count=1; CREATE TABLE Full (A)"); // SQLite rolls this back itself
               }),
               3026);
     EXPECT_EQ(number(path, "SELECT Num1 FROM Loans"), 1);
@@ -204,12 +204,12 @@ TEST_F(DatabaseFile, TransactionIsUndoneUnlessCommitted) {
     EXPECT_EQ(number(path, "SELECT Num1 FROM Loans"), 4);
 }
 
-TEST_F(DatabaseFile, KilledInTheMiddleOfAWriteIsTheOldOneWhole) {
+TEST_F(DatabaseFile, AProcessKilledWhileWritingLeavesTheOldFile) {
     const fs::path path = made();
     runAndKill([&](auto ready) {
         Database database(path);
         Transaction transaction(database);
-        // A cache of one page makes it write to the file before the commit.
+        // A cache of one page forces writes to the file before the commit.
         database.execute("PRAGMA cache_size=1; UPDATE Loans SET Num1 = 99; CREATE TABLE Big (A TEXT);"
                          "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 500)"
                          "INSERT INTO Big SELECT hex(zeroblob(1000)) FROM n");

@@ -53,7 +53,7 @@ TEST(Files, FailedWriteLeavesTheOldFileAndNothingBeside) {
     EXPECT_EQ(errorOf([&] { readFile(folder / "none.txt"); }), 53);
     EXPECT_EQ(errorOf([&] { readFile(folder.path()); }), 75);
 
-    // A file size limit stands in for a full disk.
+    // A limit on the file size stands in for a full disk.
     const auto handler = std::signal(SIGXFSZ, SIG_IGN);
     rlimit limit{};
     ::getrlimit(RLIMIT_FSIZE, &limit);

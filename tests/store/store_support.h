@@ -20,7 +20,7 @@ namespace storetest {
 
 namespace fs = std::filesystem;
 
-/// A folder of its own for one test, gone with it.
+/// A folder for one test, deleted with it.
 class Folder {
 public:
     Folder() {
@@ -41,7 +41,7 @@ private:
     fs::path m_path;
 };
 
-/// The super-user may read and write everything, so faults of permission are provoked as somebody else.
+/// Permissions do not stop the super-user, so their faults are tested as another user.
 class OrdinaryUser {
 public:
     explicit OrdinaryUser(const Folder& folder) : m_was(::geteuid()) {

@@ -17,7 +17,7 @@ constexpr double infinity = std::numeric_limits<double>::infinity();
 struct Case {
     Declared declared;
     Value given;
-    std::optional<Value> kept; ///< none: refused with `number`
+    std::optional<Value> kept; ///< nothing: refused with `number`
     int number = 0;
 };
 
@@ -51,7 +51,7 @@ TEST(StoredValue, IsConvertedToTheTypeOfItsField) {
         {{Type::Text, 3}, std::string("a\0b", 3), std::nullopt, 3421},
         {{Type::Memo, 2000},
          std::string(2001, 'x'),
-         std::string(2001, 'x')}, // a memo's size limits its entry field alone
+         std::string(2001, 'x')}, // a memo's size only limits its entry field
         {{Type::Integer}, Value{}, Value{}},
         {{Type::Text, 1}, Value{}, Value{}},
     };

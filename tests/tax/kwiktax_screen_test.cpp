@@ -33,7 +33,7 @@ protected:
 };
 
 TEST_F(QuickTaxScreen, WorksOutTheIncomeAndTheYearChosenAtOnce) {
-    EXPECT_TRUE(run.control<QRadioButton>("Option2")->isChecked()); // a blank client's year
+    EXPECT_TRUE(run.control<QRadioButton>("Option2")->isChecked()); // the year of a blank client
     EXPECT_EQ(answers(), QStringList({"0.00", "18", "0.00", "0.00", "17 820.00", "0.00", "18.00", "0.00"}));
     type(0, "500000");
     type(1, "40");
@@ -69,10 +69,10 @@ TEST_F(QuickTaxScreen, EscapeGivesTheFieldLastEnteredItsValueBack) {
     type(1, "64.5");
     run.enter(edit(0), "7");
     run.key(Qt::Key_Escape);
-    EXPECT_EQ(client.Salary, 500000.125); // to the last bit, though two places are shown
+    EXPECT_EQ(client.Salary, 500000.125); // with all bits, although two places are shown
     EXPECT_EQ(run.control<QLineEdit>(edit(0))->selectedText(), "500 000.12");
     type(0, "8");
-    run.control("cmdOK")->setFocus(Qt::TabFocusReason); // Escape reaches back from a button
+    run.control("cmdOK")->setFocus(Qt::TabFocusReason); // Escape also works from a button
     run.enter(edit(1), "70");
     run.control("Option2")->setFocus(Qt::TabFocusReason);
     run.key(Qt::Key_Escape);
@@ -81,7 +81,7 @@ TEST_F(QuickTaxScreen, EscapeGivesTheFieldLastEnteredItsValueBack) {
     EXPECT_EQ(client.Salary, 8);
 
     run.enter(edit(0), "9");
-    run.menu("mnuPAYE"); // another screen leaves another income meanwhile
+    run.menu("mnuPAYE"); // another screen changes the income
     run.type("numSalRemun", "20000");
     run.click("cmdCalculate");
     open();
@@ -116,7 +116,7 @@ TEST_F(QuickTaxScreen, PrintsTheFiguresOfTheScreen) {
     const std::string row = "SELECT [AGE],[TAXINCOME],[TAXTOPAY],[MARGRATE],[PORTION],[TOTTAX],[REBATE],[TAXCOM4],"
                             "round([AVRATE],4),round([AVRATEAFT],4),[TAXCOM4/2],[YR9798] FROM [kwiktax]";
     const std::string sentence = "Tax calculation used if for the tax year ending February ";
-    run.click("cmdPrint"); // works out what was typed, and hands it over at once
+    run.click("cmdPrint"); // calculates what was typed and passes it on
     EXPECT_EQ(run.inPrint(row), "40|500000|79998|31|36239|116237|17820|98417|23.247399999999999|19.683399999999999|"
                                 "8201.4166666666661|" +
                                     sentence + "2027");
@@ -135,7 +135,7 @@ TEST_F(QuickTaxScreen, PrintsTheFiguresOfTheScreen) {
         EXPECT_TRUE(page.contains(line)) << line << "\n" << page.toStdString();
 
     run.click("cmdPrint");
-    run.menu("mnuPAYE"); // another income comes while the panel is open
+    run.menu("mnuPAYE"); // the income changes while the panel is open
     run.type("numSalRemun", "20000");
     run.click("cmdCalculate");
     open();

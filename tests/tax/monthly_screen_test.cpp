@@ -34,18 +34,18 @@ TEST_F(MonthlyScreen, WorksOutAMonth) {
     open();
     EXPECT_EQ(run.focused(), "silgEdit9");
     run.expectShown("dtMStartDate 01/03/2026, dtMEndDate 31/03/2026, numTaxLiability 0.00");
-    // Cents of the whole-rand fields are dropped, not rounded.
+    // Cents in whole-rand fields are dropped, not rounded.
     run.typeAll("silgEdit9 65, numSalRemun 30000.99, numComm 1000, silgEdit13 10000.50, silgEdit12 0.25, "
                 "numEmpRRFundCont 6000, numEmpERFundCont 9000, numEmpERMedAidCont 4000, numEmpEEMedAidCont 2000, "
                 "numMedAidBens 2");
     run.expectShown("numSalRemun 30 000, silgEdit13 10 000.50, silgEdit12 0.25");
     run.click("cmdCalculate");
-    // The run at the opening has left 0.8: 27.5 % of 49 000.65 allow 13 475.18; of 426 302.655 a year 93 390.82 less
-    // 26 679.
+    // The first run set the rate to 0.8, so 27.5 % of 49 000.65 allows 13 475.18; the tax is 93 390.82 on 426 302.655 a
+    // year, less 26 679.
     run.expectShown("numAllowableRFundDed 13 475, numMTAAns 8 000, numMAns1 177.12, numMAns2 177.12, numMAns3 355.25, "
                     "numMAns 5 559.40, numTaxCredit 752.00, numMTCForContri 1 246.75, numTaxLiability 3 560.64");
     EXPECT_NEAR(salary(), 426302.655, 0.001);
-    EXPECT_FALSE(run.record().changed.any()); // a stand-alone check: nothing of the client's was edited
+    EXPECT_FALSE(run.record().changed.any()); // it is a separate check: nothing of the client was edited
 
     run.typeAll("numSalRemun 99999999999, silgEdit13 0, numEmpRRFundCont 0, numEmpERFundCont 0");
     run.enter("silgEdit12", "   ");
@@ -166,14 +166,14 @@ TEST_F(MonthlyScreen, WrongDatesHaveTheirBoxesAndNothingIsWorkedOut) {
     }
 }
 
-// The scale works on the client's own income; to have looked at a month must not cost the client that figure.
+// The scale uses the client's own income; looking at a month must not lose that figure.
 TEST_F(MonthlyScreen, TheClientsIncomeComesBackUnlessTheUserCalculated) {
     run.saveClient("Botha");
     salary() = 500000;
     open();
     EXPECT_EQ(salary(), 0);
     EXPECT_FALSE(run.record().changed.any());
-    confirmSettings(); // works out too, but was not asked to
+    confirmSettings(); // calculates, but the user did not ask for it
     leave();
     EXPECT_EQ(salary(), 500000);
 
@@ -185,9 +185,9 @@ TEST_F(MonthlyScreen, TheClientsIncomeComesBackUnlessTheUserCalculated) {
 
     open();
     run.menu("mnuQuickTax");
-    run.type("sidbEdit1(0)", "300000"); // entered where it belongs, meanwhile
+    run.type("sidbEdit1(0)", "300000"); // entered in quick tax meanwhile
     open();
-    confirmSettings(); // works over that one now
+    confirmSettings(); // now overwrites that figure
     run.menu("mnuQuickTax");
     EXPECT_EQ(run.shown("sidbEdit1(0)"), "0.00");
     run.menu("mnuSave"); // stores the client's own
@@ -210,7 +210,7 @@ TEST_F(MonthlyScreen, ExplainsItselfAndPrints) {
     EXPECT_FALSE(run.control("fraInfo_One")->isVisible());
 
     run.typeAll("silgEdit9 65, numSalRemun 20000, silgEdit13 1000, numEmpERMedAidCont 3000, numMedAidBens 1");
-    run.click("cmdPrint"); // works out first what was typed since
+    run.click("cmdPrint"); // first calculates what was typed since
     run.type("Text1", "Ṱhoho-Nḓou <& Seun>");
     run.click("cmdVR");
     EXPECT_EQ(run.inPrint("SELECT [TypeAM],[Employee],[AgeNum],[SalNum],[TravOne],[TravTwo],[MedExpNum],[SDateNum],"

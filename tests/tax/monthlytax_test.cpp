@@ -12,7 +12,7 @@ const PAYESetup setup{1, 1, 1, 17712, 0.8};
 
 double day(int year, int month, int date) { return base::dayNumber(year, month, date).value(); }
 
-/// A month of an employee of 40, worked out as a screen's first run would.
+/// A month of an employee of 40, calculated as in a screen's first run.
 MonthlyTax worked(const MonthlyInputs& month, double rateBefore = 0) {
     assessment::KwikTax client;
     return monthlyTax(month, setup, rateBefore, client);
@@ -27,15 +27,15 @@ TEST(MonthlyTax, WithholdsTheMonthsShareOfTheYear) {
         {{40, 20000}, 0, 177.12, 200, 2163.75},              // 240 000 a year: 43 200 less 17 235, a twelfth
         {{65, 20000}, 0, 177.12, 200, 1376.75},              // less 26 679
         {{40, 20000, 0, 0, 30000}, 0, 177.12, 500, 9555.75}, // 50 592 on 270 000: 7 392 more, all in this month
-        {{40, 10000, 10000}, 0, 100, 200, 2163.75},          // commissions are not insured
-        // the test sees 10 000 of 20 000 and allows 27.5 %; 183 000 a year: 32 940 less 17 235
+        {{40, 10000, 10000}, 0, 100, 200, 2163.75},          // commissions are not subject to UIF
+        // the test counts 10 000 of 20 000 and allows 27.5 %; 183 000 a year: 32 940 less 17 235
         {{40, 10000, 0, 10000, 0, 0, 5000}, 2750, 177.12, 152.5, 1308.75},
-        // just 27.5 % of 100 000; 870 000 a year: 185 215 + 174 200 at 39 % = 253 153; above it no more
+        // exactly 27.5 % of 100 000; 870 000 a year: 185 215 + 174 200 at 39 % = 253 153; no more is deducted above it
         {{40, 72500, 0, 0, 0, 27500}, 27500, 177.12, 725, 19659.8333333},
         {{40, 72500, 0, 0, 0, 27500, 9}, 27500, 177.12, 725, 19659.8333333},
         // 350 000 a year at most; 1 570 000: 259 783 + 683 000 at 41 % = 539 813
         {{40, 100000, 0, 0, 0, 60000, 40000}, 29166.6666667, 177.12, 1308.3333333, 43548.1666667},
-        {{40, 17711}, 0, 177.11, 177.11, 1751.73}, // about the UIF limit
+        {{40, 17711}, 0, 177.11, 177.11, 1751.73}, // just below the UIF limit
         {{40, 17712}, 0, 177.12, 177.12, 1751.91},
         {{40, 17713}, 0, 177.12, 177.13, 1752.09},
     };
@@ -112,7 +112,7 @@ TEST(MonthlyTax, DatesAreComparedByMonthAndDay) {
     const std::tuple<double, double, DateFault> cases[] = {
         {day(2026, 3, 1), day(2026, 3, 31), DateFault::none},
         {day(2026, 3, 31), day(2026, 3, 31), DateFault::none},
-        {day(2026, 3, 1), day(2027, 3, 31), DateFault::none}, // the year has never been looked at
+        {day(2026, 3, 1), day(2027, 3, 31), DateFault::none}, // the year is never compared
         {day(2026, 3, 31), day(2026, 4, 1), DateFault::otherMonth},
         {day(2026, 3, 16), day(2026, 3, 15), DateFault::startAfterEnd},
         {day(2026, 3, 16), day(2027, 3, 15), DateFault::startAfterEnd},

@@ -9,7 +9,7 @@ namespace {
 
 using namespace tax;
 
-// The tax on each limit, added up bracket by bracket from the rates of the year's notice.
+// The tax on each limit, added up bracket by bracket from the year's official rates.
 struct Edge {
     const TaxYear& year;
     double limit, tax, rateBelow, rateAbove;
@@ -27,8 +27,8 @@ const Edge edges[] = {
     {february2027, 695800, 185215, 36, 39},
     {february2027, 887000, 259783, 39, 41},
     {february2027, 1878600, 666339, 41, 45},
-    {february2026, 0, 0, 18, 18}, // below 0 the first bracket goes on, into a negative tax
-    {february2026, 9999999999, 644489 + 9998182999 * 0.45, 45, 45}, // above the top the last one does
+    {february2026, 0, 0, 18, 18}, // below 0 the first bracket applies, with a negative tax
+    {february2026, 9999999999, 644489 + 9998182999 * 0.45, 45, 45}, // above the top the last bracket applies
     {february2027, 9999999999, 666339 + 9998121399 * 0.45, 45, 45},
 };
 
@@ -60,7 +60,7 @@ TEST(TaxTables, TaxNeverFallsAsIncomeRises) {
     }
 }
 
-// The pairings of scale and rebates that practices know, odd ones too.
+// The pairings of scale and rebates that practices know, including the unusual ones.
 TEST(TaxTables, EachConsumerHasItsScaleAndRebates) {
     // tax on 300 000; rebates under 65, from 65 and from 75 on
     const std::tuple<const TaxRules&, double, double, double, double> consumers[] = {
@@ -85,12 +85,12 @@ TEST(QuickTax, TaxesAnIncomeInItsYear) {
     const std::array<double, 8> cases[] = {
         {0, 237100, 40, 42678, 17235, 25443, 18, 10.730915},
         {0, 237101, 40, 42678.26, 17235, 25443.26, 18.000034, 10.730980},
-        {1, 0, 0, 0, 17820, 0, 18, 0},          // no income: the rate that the first rand would bear
-        {1, 95000, 40, 17100, 17820, 0, 18, 0}, // below what the rebates free
+        {1, 0, 0, 0, 17820, 0, 18, 0},          // no income: the rate for the first rand
+        {1, 95000, 40, 17100, 17820, 0, 18, 0}, // tax below the rebates
         {1, 99000, 40, 17820, 17820, 0, 18, 0},
         {0, -1000, 40, -180, 17235, 0, 18, 0},
         {1, 500000, 75, 116237, 30834, 85403, 23.2474, 17.0806},
-        {7, 500000, 65, 116237, 27585, 88652, 23.2474, 17.7304}, // a year that an old file holds
+        {7, 500000, 65, 116237, 27585, 88652, 23.2474, 17.7304}, // a value of the year from an old file
         {1, 99999999999, 64, 44999820968.55, 17820, 44999803148.55, 44.999821, 44.999803},
     };
     for (const auto& [year, income, age, total, rebates, commitment, before, after] : cases) {
