@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 namespace {
 
 TEST(Day, NumbersCountFromTheEndOf1899) {
@@ -12,6 +14,10 @@ TEST(Day, NumbersCountFromTheEndOf1899) {
     EXPECT_FALSE(base::dayNumber(2026, 2, 29));
     for (double day = -36523; day < 80000; day += 97)
         EXPECT_EQ(base::parseDate(base::formatDate(day)), day) << base::formatDate(day);
+    for (const auto& [day, shown] : {std::pair{-693593.0, "01/01/0001"}, {2958465.0, "31/12/9999"}})
+        EXPECT_EQ(base::formatDate(day), shown);
+    for (const double beyond : {-1e300, base::NoDate, -693594.0, 2958466.0, std::nan("")})
+        EXPECT_EQ(base::formatDate(beyond), "") << beyond;
 }
 
 TEST(Day, ReadsADateAsTyped) {
