@@ -36,9 +36,8 @@ frmNADeath::frmNADeath(screenkit::Workplace& workplace)
            .nextReview = "dtDTHNextReview"});
 }
 
-NeedsReport frmNADeath::feed(const NeedsAnalysis& analysis, const NeedsReportOptions& options) {
-    feedDeath(m_work.paths.PrintDbPath, m_work.record, analysis, options);
-    return deathReport(options);
+datastore::Printout frmNADeath::feed(const NeedsAnalysis& analysis, const NeedsReportOptions& options) {
+    return feedDeath(m_work.paths.PrintDbPath, m_work.record, analysis, options);
 }
 
 } // namespace analyses

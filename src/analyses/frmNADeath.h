@@ -15,7 +15,7 @@ public:
 protected:
     void prepare() override { prepareDeath(m_work.record); }
     NeedsAnalysis analyse() override { return analysed(m_work.record.death, NADeathCalc); }
-    NeedsReport feed(const NeedsAnalysis& analysis, const NeedsReportOptions& options) override;
+    datastore::Printout feed(const NeedsAnalysis& analysis, const NeedsReportOptions& options) override;
 };
 
 } // namespace analyses

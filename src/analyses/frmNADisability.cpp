@@ -36,9 +36,8 @@ frmNADisability::frmNADisability(screenkit::Workplace& workplace)
            .nextReview = "dtDISANextReview"});
 }
 
-NeedsReport frmNADisability::feed(const NeedsAnalysis& analysis, const NeedsReportOptions& options) {
-    feedDisability(m_work.paths.PrintDbPath, m_work.record, analysis, options);
-    return disabilityReport(options);
+datastore::Printout frmNADisability::feed(const NeedsAnalysis& analysis, const NeedsReportOptions& options) {
+    return feedDisability(m_work.paths.PrintDbPath, m_work.record, analysis, options);
 }
 
 } // namespace analyses

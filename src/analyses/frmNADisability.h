@@ -15,7 +15,7 @@ public:
 protected:
     void prepare() override { prepareDisability(m_work.record); }
     NeedsAnalysis analyse() override { return analysed(m_work.record.disability, NADisabilityCalc); }
-    NeedsReport feed(const NeedsAnalysis& analysis, const NeedsReportOptions& options) override;
+    datastore::Printout feed(const NeedsAnalysis& analysis, const NeedsReportOptions& options) override;
 };
 
 } // namespace analyses

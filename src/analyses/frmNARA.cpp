@@ -190,9 +190,8 @@ void frmNARA::showTotals() {
     m_totalLiabilities->present(totalExpenses(m_needs));
 }
 
-NeedsReport frmNARA::feed(const NeedsAnalysis& analysis, const NeedsReportOptions& options) {
-    feedRetirement(m_work.paths.PrintDbPath, m_work.record, analysis, options);
-    return retirementReport(options);
+datastore::Printout frmNARA::feed(const NeedsAnalysis& analysis, const NeedsReportOptions& options) {
+    return feedRetirement(m_work.paths.PrintDbPath, m_work.record, analysis, options);
 }
 
 } // namespace analyses

@@ -19,7 +19,7 @@ protected:
     NeedsAnalysis analyse() override { return analysed(m_needs, NARACalc); }
     void putRight() override { updateYearsToRet(m_needs); }
     void showCorrected() override;
-    NeedsReport feed(const NeedsAnalysis& analysis, const NeedsReportOptions& options) override;
+    datastore::Printout feed(const NeedsAnalysis& analysis, const NeedsReportOptions& options) override;
 
 private:
     screenkit::Item requirementsPage();

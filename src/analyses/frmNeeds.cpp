@@ -186,7 +186,7 @@ void NeedsScreen::graph() {
 }
 
 void NeedsScreen::print(Destination destination) {
-    const NeedsReport report = feed(m_analysis, {m_includeAmort == 1, m_includeNotes == 1});
+    const datastore::Printout report = feed(m_analysis, {m_includeAmort == 1, m_includeNotes == 1});
     const bool ran = m_work.reports.run(QString::fromStdString(report.definition), QString::fromStdString(report.title),
                                         destination);
     if (!ran) return; // the user has been told

@@ -49,7 +49,7 @@ protected:
     /// Shows figures again that an analysis may have corrected.
     virtual void showCorrected() = 0;
     /// Writes the report's tables; returns its definition and title.
-    virtual NeedsReport feed(const NeedsAnalysis& analysis, const NeedsReportOptions& options) = 0;
+    virtual datastore::Printout feed(const NeedsAnalysis& analysis, const NeedsReportOptions& options) = 0;
     /// Runs an analysis that may write into a group; if it did, marks the client as changed, since the file has other
     /// figures.
     template <class Group>

@@ -1,12 +1,10 @@
 #pragma once
 
 #include <filesystem>
-#include <string>
-#include <vector>
 
 #include "analyses/needs.h"
 #include "assessment/assessment.h"
-#include "datastore/row.h"
+#include "datastore/printfeed.h"
 
 /// The common part of the reports of the three needs analyses.
 namespace analyses {
@@ -17,25 +15,19 @@ struct NeedsReportOptions {
     bool notes = false;
 };
 
-/// The definition and the window title of a report.
-struct NeedsReport {
-    std::string definition, title;
-};
-
-/// Texts in which the reports differ.
-struct NeedsReportWords {
+/// Where the reports differ: their table, their captions, and the definitions and titles that they run under.
+struct NeedsReportRules {
+    const char* table;
     const char *excess, *shortfall; ///< captions for the first month
     const char* worth;              ///< caption of a net capital of 0 or more
+    datastore::Printout plain, amortised;
 };
 
-/// The client, the first month's incomes and their difference, the totals, the net capital and the sentences.
-datastore::Row commonLines(const assessment::Client& client, const NeedsAnalysis& analysis,
-                           const NeedsReportWords& words);
-
-/// Writes the row of an analysis, put together from parts, into its table of Print.mdb, and its years if asked for. If
-/// it throws store::Error, nothing is written.
-void feedNeeds(const std::filesystem::path& printDbPath, const assessment::Client& client, const char* table,
-               const std::vector<datastore::Row>& parts, const NeedsAnalysis& analysis,
-               const NeedsReportOptions& options);
+/// Writes an analysis into Print.mdb, with its years if asked for, and returns the report to run. All reports have the
+/// client, the incomes of the first month and their difference, the totals, the net capital and the sentences; `own` is
+/// the rest of the row. If it throws store::Error, nothing is written.
+datastore::Printout feedNeeds(const std::filesystem::path& printDbPath, const assessment::Client& client,
+                              const NeedsAnalysis& analysis, const datastore::Row& own, const NeedsReportRules& rules,
+                              const NeedsReportOptions& options);
 
 } // namespace analyses
