@@ -9,11 +9,10 @@ namespace {
 
 constexpr const char* lasts = "Funds available will provide income for ";
 
-/// True if the sentence says that the capital does not last the first year.
+/// True if the sentence says that a capital that does not carry the first year does not last it either.
 bool fallsShort(const SentenceRules& rules, const Prospect& of) {
     const bool isCapital = rules.nothingFalls ? of.capital >= 0 : of.capital > 0;
-    const bool isShort = of.capital + of.firstYearIncome <= 12 * of.monthlyNeed;
-    return of.monthlyNeed > 0 && isCapital && (isShort || rules.anyCapitalFalls);
+    return of.monthlyNeed > 0 && isCapital;
 }
 
 bool carriesFirstYear(const SentenceRules& rules, const Prospect& of) {

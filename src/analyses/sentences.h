@@ -8,7 +8,6 @@ namespace analyses {
 struct SentenceRules {
     const char* years;               ///< the text after the number of years
     bool nothingFalls = false;       ///< a capital of exactly 0 also brings the sentence "less than 1 year"
-    bool anyCapitalFalls = false;    ///< every capital above 0 brings it too, unless a later sentence replaces it
     bool exactYearCarries = false;   ///< exactly a year's need is enough for that year
     bool needsRealShortfall = false; ///< a negative need has its own sentence
     double excess = 0;               ///< rand: only a larger excess is mentioned
@@ -18,7 +17,7 @@ struct SentenceRules {
 inline constexpr SentenceRules retirementSentences{.years = " year/s.", .needsRealShortfall = true, .excess = 100000};
 inline constexpr SentenceRules deathSentences{.years = " years.", .nothingFalls = true, .excess = 50000};
 inline constexpr SentenceRules disabilitySentences{
-    .years = " years.", .anyCapitalFalls = true, .exactYearCarries = true, .excess = 50000, .exactExcessTold = true};
+    .years = " years.", .exactYearCarries = true, .excess = 50000, .exactExcessTold = true};
 
 /// The figures that the sentences are about: rand and years.
 struct Prospect {
