@@ -57,6 +57,8 @@ TEST_F(NARA, AgesFollowEachOther) {
     EXPECT_EQ(run.shown("numYearsToRet"), "49");
     run.type("numCurrentAge", "60");
     run.expectShown("numAgeOfRetirement 60, numYearsToRet 0");
+    run.type("dtBirthDate", "15/03/1981"); // as it was: the age typed stays
+    run.expectShown("numCurrentAge 60");
     run.type("dtBirthDate", "1/1/2000");
     run.expectShown("numCurrentAge 26, numYearsToRet 34");
     run.type("numAgeOfRetirement", "90");

@@ -134,6 +134,7 @@ TEST(Retirement, TableAndGraphEndWithTheYearAfterTheLastOrTheYearsAskedFor) {
                                                        {50000, 4, 5, 4},
                                                        {50000, 2, 3, 4},
                                                        {50000, 0, 1, 4},
+                                                       {50000, -3, 1, 4},
                                                        {500000, 20, 21, 20},
                                                        {500000, 49, 50, 49},
                                                        {500000, 50, 50, 50}}) {

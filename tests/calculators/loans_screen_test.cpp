@@ -19,7 +19,10 @@ TEST_F(LoanScreen, EachModeWorksOutItsFigure) {
     };
     for (const auto& [mode, typed, answer] : cases) {
         typeLoan(mode, typed);
+        const auto* result = run.control<QLineEdit>(entries[resultOf[static_cast<std::size_t>(mode)]]);
+        EXPECT_TRUE(result->font().italic());
         run.click("cmdCalculate");
+        EXPECT_FALSE(result->font().italic());
         EXPECT_EQ(figures(), answer) << modes[mode].toStdString();
         EXPECT_FALSE(visible("Text1"));
     }

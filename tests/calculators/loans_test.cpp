@@ -56,6 +56,7 @@ TEST(Loans, SolvesEachUnknown) {
         {{" monthly REPAYMENT ", 1000000, 360, 9.75, 0}, 8591.54}, // an old file's heading: case and blanks are ignored
         {{"Monthly repayment", 100000, 1, 12, 0}, 101000},
         {{"Principal amount", 0, 240, 12, 1101.09}, 100000.35},
+        {{"Principal amount", 0, 240, 12, 1}, 90.82},
         {{"Repayment period", 100000, 0, 12, 1101.09}, 240},
         {{"Repayment period", 100000, 0, 12, 1101.10}, 239}, // even a cent less clears it within the 240th month
         {{"Interest rate", 100000, 240, 0, 1101.09}, 12},

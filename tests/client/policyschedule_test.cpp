@@ -96,6 +96,7 @@ const Case cases[] = {
     {"a blank maturity age grows from the first year of life",
      {.InvBensTakeFinValAtRet = 1, .InvBensMatValLS = 1000, .InvBensMatValLSEscAt = 1},
      {.retirement = 1711, .retirementFlag = 1}}, // 54 years at 1 %
+    {"a pension of cents", {.RBMonAvaible = 0.5}, {.pension = 0.5, .retirementFlag = 1, .pensionFlag = 1}},
     {"pension", {.RBMonAvaible = 700.5}, {.pension = 700.5, .retirementFlag = 1, .pensionFlag = 1}},
 };
 
@@ -120,7 +121,9 @@ TEST(PolicySchedule, RecordsAddUpAndAnEmptyScheduleGivesNothing) {
     EXPECT_EQ(client.death.ANSAss5, 1); // the sum is truncated, not its parts
 
     client.policies.clear();
-    client.itemised.DTHLifeAssItemise = client.itemised.RNAPoliciesItemise = 1;
+    for (std::int16_t* flag : {&client.itemised.DTHLifeAssItemise, &client.itemised.DISALifeAssItemise,
+                               &client.itemised.RNAPoliciesItemise, &client.itemised.NARAPolicyIncomeItemise})
+        *flag = 1;
     EXPECT_EQ(totalsOf(client), Totals{});
 }
 

@@ -52,6 +52,7 @@ TEST_F(ClientListTest, FindsEveryWordInAnyOrderInWhatIsKnownOfAClient) {
         "(3,'Êksteen','','K L','Mej K L Êksteen',NULL,NULL,NULL,'+27 82 555 0101',NULL,NULL,NULL,NULL)");
     const auto clients = datastore::readClientList(file);
     EXPECT_EQ(clients[0].firstNames + "|" + clients[2].firstNames, "Jan|K L");
+    EXPECT_EQ(clients[0].IDNumber, "5502285009087");
     const datastore::ClientSearch search(clients);
     struct Case {
         const char* found;

@@ -74,6 +74,7 @@ TEST_F(DatabaseFile, FaultsAtOpeningHaveTheirNumbersAndLeaveTheFileAlone) {
     EXPECT_EQ(opening(folder / "no folder/Data.Mdb"), 3044);
     EXPECT_EQ(opening(folder / "text.mdb/Data.Mdb"), 3044);
     EXPECT_EQ(opening(folder.path()), 3051);
+    EXPECT_EQ(opening("/dev/null"), 3051);
     EXPECT_FALSE(fs::exists(folder / "none.mdb"));
     EXPECT_FALSE(fs::exists(folder / "no folder"));
 }

@@ -133,6 +133,8 @@ TEST_F(MonthlyScreen, WrongDatesHaveTheirBoxesAndNothingIsWorkedOut) {
     run.type("numSalRemun", "20000");
     run.click("cmdCalculate");
     run.type("numSalRemun", "30000");
+    for (const char* answer : {"numMTAAns", "numMAns", "numTaxLiability"}) // of the salary before
+        EXPECT_TRUE(run.control<QLineEdit>(answer)->font().italic()) << answer;
     for (const auto& [dates, text, focus] :
          {std::tuple{"dtMStartDate 31/03/2026, dtMEndDate 01/04/2026",
                      "The Start and End dates entered must be for the same Month", "dtMEndDate"},
