@@ -6,6 +6,14 @@ namespace {
 
 class Engine : public ReportTest {};
 
+/// Where a word stands on its page, in points.
+QPointF placeOf(const QString& file, const QString& word) {
+    const QRegularExpression place("xMin=\"([0-9.]+)\" yMin=\"([0-9.]+)\"[^>]*>" + word + "<");
+    const auto found = place.match(runTool("pdftotext", {"-bbox", file, "-"}));
+    EXPECT_TRUE(found.hasMatch()) << word.toStdString();
+    return {found.captured(1).toDouble(), found.captured(2).toDouble()};
+}
+
 /// Records the number of copies at the end of each page.
 class CountingPrinter : public QPrinter {
 public:
@@ -99,8 +107,12 @@ TEST_F(Engine, PrintsOnTheSessionsPrinter) {
     const QStringList onPaper = textOfPdf(printed).split('\f', Qt::SkipEmptyParts);
     const QStringList inPdf = pages("LonrepaA.rpt");
     ASSERT_EQ(onPaper.size(), inPdf.size());
+    EXPECT_EQ(textOfPdf(printed).count('\f'), inPdf.size()) << "and no blank page";
     for (int page = 0; page < inPdf.size(); ++page) // pages break as in the PDF
         EXPECT_EQ(onPaper[page].simplified(), inPdf[page].simplified());
+    storetest::put(folder / "own.pdf", engine.pdf("LonrepaA.rpt").toStdString());
+    for (const char* word : {"Principal", "Page"}) // and sets each word in its place
+        EXPECT_LT((placeOf(printed, word) - placeOf(pathOf("own.pdf"), word)).manhattanLength(), 1) << word;
 
     // A later printout uses the choice made in Printer Setup.
     const QString other = pathOf("other.pdf");

@@ -186,6 +186,15 @@ TEST_F(Pages, ColumnsSideBySideAreNeverSplit) {
         }
 }
 
+TEST_F(Pages, WordsInBoldTakeTheirRoomOnTheLine) {
+    feedLoan();
+    const reports::Layout layout = layoutOf("<p>plain <b>" + std::string(30, 'w') + "</b>, then plain again</p>");
+    const Found bold = found(layout, "ww"), behind = found(layout, ", then plain again");
+    EXPECT_EQ(bold.face, &reports::Faces::all().bold);
+    EXPECT_NEAR(behind.area.left(), bold.area.right(), 1);
+    EXPECT_EQ(behind.area.bottom(), bold.area.bottom());
+}
+
 TEST_F(Pages, TabsMakeColumns) {
     feedLoan();
     feed("PersDetails", {{"Name", "N"}, {"Comments", "a\tone\t1\nlonger\ttwo\t2\n\tthree\t3"}});

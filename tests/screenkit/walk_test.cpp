@@ -39,6 +39,8 @@ TEST_F(KitTest, enterWalksTheFieldsAndTheLastPressesTheDefaultButton) {
     go("numAmount");
     act("Return Alt+7");
     EXPECT_EQ(selected(), text("numMonths")) << "a key that leads nowhere is not typed over the selection";
+    for (const char* named : {"dtDay", "optMode(0)", "dtDay"})
+        EXPECT_EQ(after("Alt+D"), named) << "a letter of two captions leads to each in turn";
 }
 
 TEST_F(KitTest, inASmallWindowTheFocusComesIntoView) {
