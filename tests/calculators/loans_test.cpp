@@ -61,6 +61,7 @@ TEST(Loans, SolvesEachUnknown) {
         {{"Repayment period", 100000, 0, 12, 1101.10}, 239}, // even a cent less clears it within the 240th month
         {{"Interest rate", 100000, 240, 0, 1101.09}, 12},
         {{"Interest rate", 100000, 240, 0, 1101.08}, 11.99}, // truncates: 11.9999 is not 12
+        {{"Interest rate", 100000, 240, 0, 4166.90}, 50},    // the highest that is not told of
         {{"Interest rate", 100000, 240, 0, 416.66}, 0},      // less than principal / period
         {{"Monthly repayment", -1000, 12, 12, 0}, -88.85},   // only an exact 0 is refused
     };

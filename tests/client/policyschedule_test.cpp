@@ -125,6 +125,9 @@ TEST(PolicySchedule, RecordsAddUpAndAnEmptyScheduleGivesNothing) {
                                &client.itemised.RNAPoliciesItemise, &client.itemised.NARAPolicyIncomeItemise})
         *flag = 1;
     EXPECT_EQ(totalsOf(client), Totals{});
+    client.policies = {{.InvBensCurVal = -10}};
+    client.itemised.DTHLifeAssItemise = 1;
+    EXPECT_EQ(totalsOf(client).deathFlag, 1) << "an investment lost leaves the flag";
 }
 
 TEST(PolicySchedule, TheShownPolicyAloneDecidesTheFlagOfIncomeOnDeath) {

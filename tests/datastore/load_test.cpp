@@ -33,9 +33,11 @@ TEST_F(LoadTest, ReadsAsManyRowsAsTheListCountsAndNeverThoseOfAnother) {
         std::vector<std::size_t> rows; ///< policies, assets, sources, expenses
     };
     for (const auto& [sql, rows] :
-         {Case{"UPDATE PolsInvests SET MaxNum=4; UPDATE CGTDetails SET CGTMaxNum=2; UPDATE CGTTrustOther SET MaxNum=1;"
-               "UPDATE RNAOtherExp SET MaxNum=1",
-               {4, 2, 1, 1}},
+         {Case{"UPDATE Data SET RNAOtherExpItemise=0; UPDATE CGTDetailsOther SET ItemiseAdditCapGain=0", {10, 5, 0, 0}},
+          {"UPDATE Data SET RNAOtherExpItemise=1; UPDATE CGTDetailsOther SET ItemiseAdditCapGain=1", {10, 5, 3, 2}},
+          {"UPDATE PolsInvests SET MaxNum=4; UPDATE CGTDetails SET CGTMaxNum=2; UPDATE CGTTrustOther SET MaxNum=1;"
+           "UPDATE RNAOtherExp SET MaxNum=1",
+           {4, 2, 1, 1}},
           {"UPDATE PolsInvests SET MaxNum=400; UPDATE CGTDetails SET CGTMaxNum=400; UPDATE CGTTrustOther SET "
            "MaxNum=1e300; UPDATE PolsInvests SET DCLNO=2 WHERE rowid>3; UPDATE RNAOtherExp SET MaxNum=99",
            {3, 5, 3, 2}},

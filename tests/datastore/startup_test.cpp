@@ -241,6 +241,9 @@ TEST_F(StartUp, GoesOverToAnotherClientDatabaseWholeOrNotAtAll) {
     EXPECT_EQ(record.ClientOnFile, 0) << "the key is the other file's";
     EXPECT_EQ(cell(other, "SELECT UpDateDB FROM DataSetup"), current);
     EXPECT_EQ(cell(print, "SELECT HEADERV0 FROM HeadFoot"), "The other practice");
+    runSql(other, "DELETE FROM HeadFoot"); // a file that has lost its lines gets the usual ones
+    datastore::useClientDb(paths, other, record);
+    EXPECT_EQ(cell(print, "SELECT HEADERV0||footv0 FROM HeadFoot"), "This report was prepared in accordance with ");
 }
 
 } // namespace
