@@ -159,6 +159,7 @@ TEST_F(PolInvest, LimitsHoldTheUserWithAMessageAndKeepWhatWasTyped) {
     for (const auto& [control, typed, message, allowed] :
          {std::tuple{"numRBEMVAge", "100", "The maximum age allowed is 99", "99"},
           {"numEndowEMVAge", "99999999", "The maximum age allowed is 99", "0"},
+          {"numDeathBenYears", "100", "The maximum period allowed is 99 years", "99"},
           {"numRBEMVEscFor", "100.001", escalation, "100"},
           {"numPremInvAmtMonthlyAnnEsc", "-1", escalation, "0"},
           {"numDeathBen", "-0.01", "An amount must be 0 or more", "0"}}) {

@@ -73,6 +73,7 @@ TEST_F(Browse, ListsClientsBySurnameWithoutRegardToCaseAndAccents) {
               "<b>&\"x\"  |Êksteen  31/12/1899  met at the church|eksteen  the second of that name|"
               "O'Brien  17/03/1960  met at the show|Ṱhoho-Nḓou  farm");
     EXPECT_EQ(run.front()->windowTitle(), "Browse Through Database.");
+    EXPECT_EQ(run.desk.bells, 0);
 }
 
 TEST_F(Browse, ShowsTheFirstEntryButChoosesNone) {
