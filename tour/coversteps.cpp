@@ -85,6 +85,11 @@ void showNeeds(Hands& hands, const QString& look) {
         hands.turnTo("txtAns1");
         picture(&hands.window(), name + ("net-worth-" + look));
     }
+    for (const auto& [item, name] :
+         {std::pair{"mnuNAEd", "education-"}, {"mnuInflation", "inflation-"}, {"mnuLifeOfCap", "life-of-capital-"}}) {
+        hands.menu({"mnuCalc", item});
+        picture(&hands.window(), name + look);
+    }
 }
 
 } // namespace tour

@@ -25,6 +25,12 @@ Seen look(Hands& hands) {
     hands.menu({"mnuCalc", "mnuNADisability"});
     hands.expectFront("frmNADisability");
     seen.disability = shownOn(hands.front());
+    const std::pair<const char*, Figures*> capital[] = {
+        {"mnuNAEd", &seen.education}, {"mnuInflation", &seen.inflation}, {"mnuLifeOfCap", &seen.lifeOfCapital}};
+    for (const auto& [item, shown] : capital) {
+        hands.menu({"mnuCalc", item});
+        *shown = shownOn(hands.front());
+    }
     hands.menu({"mnuFile", "mnuPrep"});
     hands.expectFront("frmHeadFoot");
     seen.practice = shownOn(hands.front());
@@ -65,6 +71,9 @@ void compare(Hands& hands, const Seen& before) {
     checkSame(before.retirement, now.retirement, "retirement analysis on screen");
     checkSame(before.death, now.death, "death analysis on screen");
     checkSame(before.disability, now.disability, "disability analysis on screen");
+    checkSame(before.education, now.education, "education analysis on screen");
+    checkSame(before.inflation, now.inflation, "inflation on screen");
+    checkSame(before.lifeOfCapital, now.lifeOfCapital, "life of capital on screen");
     for (const char* sentence : {"txtAns1", "txtAns2"})
         say("  " + now.retirement[sentence]);
     checkSame(before.practice, now.practice, "header and footer lines on screen");

@@ -90,6 +90,9 @@ void wholeCase() {
         tour::exportRetirementReports(hands);
         tour::needsOnDeath(hands);
         tour::needsOnDisability(hands);
+        tour::planEducation(hands);
+        tour::seeInflation(hands);
+        tour::lastCapital(hands);
         tour::taxAMonth(hands);
         tour::taxAYear(hands);
         tour::save(hands);

@@ -57,6 +57,14 @@ QPixmap desktop(Hands& hands) {
 
 } // namespace
 
+void exportPdf(Hands& hands, const QString& name) {
+    picture(hands.preview(), name);
+    hands.desk().expectFile(name + ".pdf");
+    hands.key(Qt::Key_E, Qt::ControlModifier);
+    check(bytesOf(name + ".pdf").startsWith("%PDF-"), name + ".pdf is no PDF");
+    hands.closePreview();
+}
+
 void exportLoanReport(Hands& hands) {
     say("Print, with the monthly amortisation: the report on screen.");
     hands.click("cmdPrint");

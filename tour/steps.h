@@ -8,7 +8,7 @@ namespace tour {
 
 /// What the screens showed when the client was saved.
 struct Seen {
-    Figures personalDetails, loan, retirement, death, disability, practice, stored;
+    Figures personalDetails, loan, retirement, death, disability, education, inflation, lifeOfCapital, practice, stored;
 };
 
 // The first session, from an empty program folder.
@@ -28,6 +28,10 @@ void showRetirementYears(Hands& hands);
 void exportRetirementReports(Hands& hands);
 void needsOnDeath(Hands& hands);
 void needsOnDisability(Hands& hands);
+void planEducation(Hands& hands);
+/// Starts in the education analysis and closes both.
+void seeInflation(Hands& hands);
+void lastCapital(Hands& hands);
 void taxAMonth(Hands& hands);
 void taxAYear(Hands& hands);
 void save(Hands& hands);
@@ -38,10 +42,12 @@ void exitProgram(Hands& hands);
 void findClient(Hands& hands);
 void compare(Hands& hands, const Seen& before);
 
+/// Saves the report in front as name.pdf, with a picture of it, and closes it.
+void exportPdf(Hands& hands, const QString& name);
 /// Shows the client's loan again, for a picture with another palette or scale.
 void showLoan(Hands& hands, const QString& pictureName);
 
-/// The client's needs on death and disability once more, the same way.
+/// The client's needs analyses but retirement, inflation and life of capital once more, the same way.
 void showNeeds(Hands& hands, const QString& look);
 
 } // namespace tour

@@ -1,7 +1,3 @@
-#include <QFile>
-
-#include "reports/previewwindow.h"
-#include "reports/report.h"
 #include "screenkit/screen.h"
 #include "shell/mainwindow.h"
 #include "tour/journal.h"
@@ -21,16 +17,6 @@ void expectCents(Hands& hands, const QString& field, double expected) {
 
 /// The tax by the scale of the year to February 2027, in the bracket above R530 200.
 double taxIn2027(double income) { return 125599 + (income - 530200) * 0.36; }
-
-void exportPdf(Hands& hands, const QString& name) {
-    auto* report = hands.preview();
-    picture(report, name);
-    hands.desk().expectFile(name + ".pdf");
-    hands.key(Qt::Key_E, Qt::ControlModifier);
-    QFile pdf(name + ".pdf");
-    check(pdf.open(QIODevice::ReadOnly) && pdf.readAll().startsWith("%PDF-"), name + ".pdf is no PDF");
-    hands.closePreview();
-}
 
 } // namespace
 
