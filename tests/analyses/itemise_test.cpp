@@ -129,6 +129,7 @@ TEST_F(NARA, AListIsTypedTakenAndLocksItsLine) {
     run.expectShown("numTOTASS 1 200 034"); // it was worked out again
     EXPECT_NE(picture(), unused);
     EXPECT_EQ(run.control("cmdItemise(1)")->accessibleName(), "Itemise Real Estate");
+    EXPECT_EQ(run.control("cmdItemise(1)")->accessibleDescription(), "In use");
 
     openList(1); // and no longer in use
     for (int i = 0; i < 2; ++i)

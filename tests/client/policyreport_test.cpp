@@ -65,6 +65,14 @@ TEST(PolicyReport, HeaderHoldsTheTotalsAndEachRecordItsRow) {
     client::feedPolicies(run.folder / "Print.mdb", run.record(), {true}); // nothing remains of the first printout
     EXPECT_EQ(run.inPrint("SELECT [DBenSpousePerc],[PolIncAddNote] FROM PolsInvests"), "0|Note: confidential");
     EXPECT_EQ(run.inPrint("SELECT [PolIncNote],[PolIncAddNote] FROM PolsInvestsAmorts"), "|Note: confidential");
+    run.record().policies.assign(7, {});
+    run.record().policies[0].DeathBenUseCashAtRet = 1;
+    double Policy::*const lumpSums[] = {&Policy::RBEMV, &Policy::RBPenLump, &Policy::RBProvFLump, &Policy::EndowEMV,
+                                        &Policy::InvBensMatValLS};
+    for (std::size_t i = 0; i < std::size(lumpSums); ++i)
+        run.record().policies[i + 1].*lumpSums[i] = 1;
+    client::feedPolicies(run.folder / "Print.mdb", run.record(), {});
+    EXPECT_EQ(run.inPrint("SELECT [LumpSumsDue] FROM PolsInvests"), "6") << "all but the empty policy";
 }
 
 // The printed column must add up to the printed total, whatever the hidden cents.

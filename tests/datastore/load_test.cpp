@@ -64,8 +64,9 @@ TEST_F(LoadTest, WhatAFieldCannotBeReadsAsItsBlank) {
     run("UPDATE Data SET Num1=NULL, Num2='text', Heading=NULL, TERM=40000, OMBP3=7.5, CapAmount=1e300, "
         "BirthDate='text', StartDateDB=NULL, InvAmount=3e9, ConPeriod=2.5, Salary=9e999, IntComp=NULL;"
         "UPDATE CGTDetails SET SB750PortDed=NULL, ExclCOPSplit=NULL, DateSale=-700000, DateAquired=-36521;"
-        "UPDATE PolsInvests SET InceptionDate=NULL");
+        "UPDATE PolsInvests SET InceptionDate=NULL; INSERT INTO CPIDefault(CPI) VALUES(4.25)");
     const Assessment found = loaded();
+    EXPECT_EQ(found.CPI, 4.25);
     const auto& gain = found.capitalGains.assets[0];
     EXPECT_EQ(found.loans, assessment::Loans("", 0, 0, record.loans.Num3, record.loans.Num4));
     EXPECT_EQ(found.bond.OMBP3, 8);
