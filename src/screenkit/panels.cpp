@@ -13,10 +13,7 @@ namespace {
 /// A text of a comfortable reading size; longer text scrolls, and a small window makes it smaller.
 class TextPage : public QTextBrowser {
 public:
-    explicit TextPage(const QString& name) {
-        setObjectName(name);
-        setTabChangesFocus(true);
-    }
+    explicit TextPage(const QString& name) { setObjectName(name); }
     QSize sizeHint() const override { return {fontMetrics().averageCharWidth() * 80, look::lineHeight(this) * 20}; }
     QSize minimumSizeHint() const override { return sizeHint() / 4; }
 };

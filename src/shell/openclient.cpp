@@ -73,7 +73,6 @@ bool MDIForm1::openClient(double key) {
 
 void MDIForm1::rememberClient() const {
     const assessment::Assessment& record = m_work.record;
-    if (record.ClientOnFile != 1) return;
     RecentClients(m_work.paths.DataDbPath)
         .remember({record.DCLNO, QString::fromStdString(record.client.Name), record.client.BirthDate});
 }

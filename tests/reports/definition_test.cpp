@@ -48,6 +48,7 @@ TEST_F(Definition, NamesFileAndLineOfEveryFault) {
         {"<p class=\"loud\">a</p>", "Own.rpt", "Line 5:", "<p.loud>", "321"},
         {"stray words", "Own.rpt", "Line", "paragraph", "321"},
         {"<table><col width=\"x\"/></table>", "Own.rpt", "Line 5:", "30%", "321"},
+        {"<table><col align=\"middle\"/></table>", "Own.rpt", "Line 5:", "\"middle\"", "321"},
         {"<p>a</p>\n\n{{>absent}}", "Own.rpt", "Line 7:", "absent.rpt", "321"},
         {"{{>piece}}", "piece.rpt", "Line 2:", "\"Nowhere\"", "3265"},
         {"{{>loop}}", "loop.rpt", "Line 2:", "\"loop\"", "321"},

@@ -121,7 +121,8 @@ TEST_F(SettingsTest, onePanelExplainsWhateverItIsOpenedOn) {
         EXPECT_EQ(get("fraInfo")->accessibleName(), topic.spoken);
         EXPECT_TRUE(page->toPlainText().startsWith(topic.begins));
         EXPECT_EQ(page->verticalScrollBar()->value(), 0);
-        EXPECT_EQ(after("End @cmdOKInfo"), topic.button);
+        EXPECT_EQ(after("End Tab"), "cmdOKInfo");
+        EXPECT_EQ(after("@cmdOKInfo"), topic.button);
     }
     EXPECT_EQ(shown->findChildren<QTextBrowser*>().size(), 1);
     EXPECT_NE(get("Frame4"), nullptr);
