@@ -27,12 +27,16 @@ TEST_F(InflationScreen, EveryControlHoldsItsFieldAndItsPlaceInTheReport) {
     EXPECT_EQ(run.record().changed.InflationChanged, 0);
     run.type("numPresCost", "10000.5");
     run.type("numPeriod", "3.5"); // whole years, ties to even
-    run.type("numInflaRate", "6.125");
+    run.enter("numInflaRate", "6.125");
     EXPECT_EQ(inputs().PresCostInflation, 10000.5);
     EXPECT_EQ(inputs().PeriodInflation, 4);
     EXPECT_EQ(inputs().IntRateInflation, 6.125);
     EXPECT_EQ(run.record().changed.InflationChanged, 1);
-    run.click("cmdCalculate");
+    for (const bool isOld : {true, false}) { // Enter in the last field calculates
+        for (const char* result : {"numAns1", "numAns2"})
+            EXPECT_EQ(run.control(result)->font().italic(), isOld) << result;
+        RunningProgram::key(Qt::Key_Return);
+    }
     EXPECT_EQ(run.shown("numAns1"), "12 685.06");
     EXPECT_EQ(run.shown("numAns2"), "7 884.08");
     run.click("cmdPrint");

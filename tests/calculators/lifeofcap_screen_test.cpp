@@ -34,7 +34,11 @@ TEST_F(LifeOfCapScreen, EveryControlHoldsItsFieldAndItsPlaceInTheReport) {
     const assessment::LifeOfCapital typed{500000.25, 5000.5, 9.125, 25.5, 6.375};
     EXPECT_EQ(run.record().lifeOfCapital, typed);
     EXPECT_EQ(run.record().changed.LifeOfCapChanged, 1);
-    run.click("cmdCalculate");
+    run.enter("sidbEdit17", "6.375");
+    for (const bool isOld : {true, false}) { // Enter in the last field calculates
+        EXPECT_EQ(run.control("sidbEdit18")->font().italic(), isOld);
+        RunningProgram::key(Qt::Key_Return);
+    }
     EXPECT_EQ(run.shown("sidbEdit18"), "9");
     EXPECT_EQ(caption(), "Will provide required income for");
     const auto prints = [&](const char* title) {
@@ -46,12 +50,13 @@ TEST_F(LifeOfCapScreen, EveryControlHoldsItsFieldAndItsPlaceInTheReport) {
     EXPECT_EQ(run.inPrint("SELECT * FROM LOcap"),
               "500000.25|5000.5|9.125|25.5|6.375|Will provide required income for 9 years.");
     EXPECT_EQ(run.inPrint("SELECT count(*) FROM Amort"), "0") << "left alone while it is not asked for";
-    run.click("cmdPrint");
+    run.type("sidbEdit14", "10000");
+    run.click("cmdPrint"); // calculates first
     run.click("Check1");
     prints("Life Of Capital Including Amortisation");
-    EXPECT_EQ(run.inPrint("SELECT count(*), max(Year) FROM Amort"), "9|9");
+    EXPECT_EQ(run.inPrint("SELECT count(*), max(Year) FROM Amort"), "4|4");
     EXPECT_EQ(run.inPrint("SELECT Year, Capital, printf('%.6f', Interest), Required FROM Amort LIMIT 1"),
-              "1|500000.25|33990.641995|60006");
+              "1|500000.25|33990.641995|120000");
 }
 
 TEST_F(LifeOfCapScreen, TableAndGraphShowAsManyYearsAsTheAnswer) {
