@@ -2,6 +2,7 @@
 
 #include "assessment/tables.h"
 #include "base/text.h"
+#include "datastore/funds.h"
 #include "datastore/reset.h"
 #include "datastore/settings.h"
 #include "datastore/shipped.h"
@@ -75,13 +76,6 @@ void touchTallowenDefault(store::Database& settings) {
     writeSettings(settings, "TallowenDefault", changed);
 }
 
-assessment::FundDefaults readFunds(store::Database& settings) {
-    assessment::FundDefaults funds;
-    readSettings(settings, assessment::mutualFundsTable().name()).fill(assessment::mutualFundsTable(), &funds);
-    touchTallowenDefault(settings);
-    return funds;
-}
-
 } // namespace
 
 StartUpResult startUp(const fs::path& programFolder, assessment::Assessment& record, const Notice& notice) {
@@ -98,6 +92,7 @@ StartUpResult startUp(const fs::path& programFolder, assessment::Assessment& rec
     completeSettings(settings);
     ResetAssessment(record, settings, clients);
     record.funds = readFunds(settings);
+    touchTallowenDefault(settings);
     return result;
 }
 
