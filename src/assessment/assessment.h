@@ -56,11 +56,21 @@ struct KwikQuotes {
     double LUMPSUM = 0;
     double ANNUALPAYMENT = 0;
     double regularpayment = 0; ///< rand a month
-    std::int16_t term = 0;     ///< years, months for a bank investment
+    std::int16_t term = 0;     ///< months, for every kind
     double GrowthRate = 0;
     double PaymentEscalation = 0;
 
     bool operator==(const KwikQuotes&) const = default;
+};
+
+/// A maturity value whose premium is searched. Kept until the next client, never stored.
+struct PremiumQuote {
+    double PremTarget = 0;     ///< rand
+    std::int16_t PremTerm = 0; ///< months
+    double PremGrowth = 0;
+    double PremEscalation = 0;
+
+    bool operator==(const PremiumQuote&) const = default;
 };
 
 /// A level-payment loan with one unknown. Saved with the client.
@@ -302,6 +312,7 @@ struct Assessment {
     DailyBalance dailyBalance;
     DebtConsolidation debts;
     KwikQuotes quotes;
+    PremiumQuote premiumQuote;
     Loans loans;
     NADeath death;
     NAEducation education;
