@@ -30,7 +30,7 @@ struct Fill {
 };
 constexpr Fill fills[] = {{"short", 3, false, false}, {"full", 14, false, true}, {"long", 130, true, true}};
 
-const std::set<std::string> manyRows{"Amort", "ItemisePrint", "PolsInvestsAmorts", "AllDetails"};
+const std::set<std::string> manyRows{"Amort", "ItemisePrint", "PolsInvestsAmorts", "AllDetails", "UnitHist"};
 
 std::string textFor(const std::string& field, int row, const Fill& fill) {
     const auto has = [&](const char* part) { return field.find(part) != std::string::npos; };

@@ -127,12 +127,14 @@ CREATE TABLE [RRR] (
     [TotPremPaid1] DOUBLE
 );
 
--- A quotation on an investment: rand, years, percent a year, up to eight sentences on costs.
+-- A quotation on an investment: rand, months, percent a year, up to eight sentences on costs. LOA says how long the
+-- capital CAPI pays the monthly income MINC at the interest GRTE, tax TXRTE and escalation EXCLife; empty if not asked.
 CREATE TABLE [InvestmentPro] (
     [LUMPSUM] DOUBLE, [ANNpayment] DOUBLE, [regularpayment] DOUBLE, [paymentescalation] DOUBLE, [term] DOUBLE,
     [growthrate] DOUBLE, [ANS1] DOUBLE, [ComStatement_1] TEXT, [ComStatement_2] TEXT, [ComStatement_3] TEXT,
     [ComStatement_4] TEXT, [ComStatement_5] TEXT, [ComStatement_6] TEXT, [ComStatement_7] TEXT, [ComStatement_8] TEXT,
-    [ANS2] DOUBLE, [ANS3] DOUBLE, [ANS4] DOUBLE, [LOA] TEXT, [TAXIG] TEXT
+    [ANS2] DOUBLE, [ANS3] DOUBLE, [ANS4] DOUBLE, [LOA] TEXT, [TAXIG] TEXT, [CAPI] DOUBLE, [MINC] DOUBLE,
+    [GRTE] DOUBLE, [TXRTE] DOUBLE, [EXCLife] DOUBLE
 );
 
 -- Quick tax of one person for one year: rand, rates in percent. YR9798 is a sentence, TaxYear the year in it.
@@ -314,7 +316,7 @@ INSERT INTO [AllDetailsHeader] DEFAULT VALUES;
 
 -- Growth of unit trust funds as listed on screen, fractions a year (0.123 is 12.3 %).
 CREATE TABLE [UnitHist] (
-    [Unit Trust Fund] VARCHAR(80), [1 yr] DOUBLE, [2 yr] DOUBLE, [3 yr] DOUBLE, [5 yr] DOUBLE, [7 yr] DOUBLE
+    [Unit Trust Fund] TEXT, [1 yr] DOUBLE, [2 yr] DOUBLE, [3 yr] DOUBLE, [5 yr] DOUBLE, [7 yr] DOUBLE
 );
 
 -- How that list is sorted, and inflation over the same periods as fractions.
