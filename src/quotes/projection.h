@@ -101,6 +101,9 @@ struct QuoteGraph {
 /// investment and 0.6 of that on regular ones.
 QuoteGraph InvestProGraphCalc(const KwikQuotes& inputs, const FundDefaults& funds);
 
+/// The note beneath a bank investment.
+inline constexpr const char* taxNote = "(Tax implications ignored)";
+
 /// A quotation with what the screen and the report show of it.
 struct ShownQuote {
     Quote quote;
@@ -109,7 +112,7 @@ struct ShownQuote {
     double numAns2 = 0;            ///< estimated maturity value; for a unit trust without dividends
     std::optional<double> numAns3; ///< lump sum portion, or a unit trust's value with dividends re-invested
     std::optional<double> numAns4; ///< monthly payout of a retirement annuity
-    bool ignoresTax = false;       ///< the note on tax belongs beneath it
+    bool ignoresTax = false;       ///< `taxNote` belongs beneath it
     bool isFinite = true;          ///< false if the figures are too large to calculate with
 };
 

@@ -74,7 +74,7 @@ TEST(ShippedDefinitions, CutNoFigure) {
                                       "YearsToRet",  "CoverYears",   "PremPeriod",           "DeathBenYears",
                                       "IncProYears", "RBEMVAge",     "RBPenLumpAge",         "RBProvFLumpAge",
                                       "EndowEMVAge", "MARGRATE",     "InvBensMatValLSAtAge", "DeathBenCashValAge",
-                                      "YearsToEdu",  "FundsForYears"};
+                                      "YearsToEdu",  "FundsForYears",  "term"};
     const auto check = [&](const Node& field) {
         if (field.kind != Node::Kind::field || field.mask.isEmpty()) return;
         EXPECT_GE(places(field.mask), leastPlaces(field)) << field.name.toStdString();
