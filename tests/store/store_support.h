@@ -119,16 +119,22 @@ void runAndKill(Action action, useconds_t microseconds = 0) {
     const pid_t child = ::fork();
     ASSERT_GE(child, 0);
     if (child == 0) {
-        action([&] {
-            if (::write(ready[1], "x", 1) != 1) ::_exit(1);
-        });
+        try { // what a child throws must not go on into the tests after this one
+            action([&] {
+                if (::write(ready[1], "x", 1) != 1) ::_exit(1);
+            });
+        } catch (const std::exception& thrown) {
+            std::fprintf(stderr, "The child ended by itself: %s\n", thrown.what());
+        }
         ::_exit(1);
     }
     char sign = 0;
     EXPECT_EQ(::read(ready[0], &sign, 1), 1);
     ::usleep(microseconds);
     ::kill(child, SIGKILL);
-    ::waitpid(child, nullptr, 0);
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    EXPECT_TRUE(WIFSIGNALED(status)) << "the child ended before it was killed";
     ::close(ready[0]);
     ::close(ready[1]);
 }
