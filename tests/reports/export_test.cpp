@@ -111,10 +111,11 @@ QString wordsOf(const QString& xml) {
 
 TEST_F(Export, OdtHoldsEveryLetterAndFigureAlsoSideBySide) {
     feed("PersDetails", {{"Name", "N"}, {"Comments", "  two  blanks\tand a tab \n\x01=\xef\xbf\xbf&<>\"' "}});
-    define("Own.rpt", page("<div><div><p>Left of</p><table><tr><td>{{Num1:# ### ##0.00}}</td></tr></table></div>"
-                           "<div><p>{{PersDetails.Comments}}</p></div></div><hr/>"
-                           "<table><col width=\"50%\"/><col width=\"50%\"/><tr><td colspan=\"2\">{{Heading}}</td></tr>"
-                           "<tr><td>1</td></tr></table>"));
+    define("Own.rpt",
+           page("<h1>T</h1><div><div><p>Left of</p><table><tr><td>{{Num1:# ### ##0.00}}</td></tr></table></div>"
+                "<div><p>{{PersDetails.Comments}}</p></div></div><hr/>"
+                "<table><col width=\"50%\"/><col width=\"50%\"/><tr><td colspan=\"2\">{{Heading}}</td></tr>"
+                "<tr><td>1</td></tr></table>"));
     EXPECT_EQ(bytes(Format::odt).mid(30, 47), "mimetypeapplication/vnd.oasis.opendocument.text"); // plain, first
     const QString content = part(Format::odt, "content.xml");
     expectWords(wordsOf(content), {"\nO'Brien, \"Êksteen\"\nṰhoho-Nḓou <b>&\"x\"", "\nLeft of", "\n1 234 567.12",
@@ -122,6 +123,7 @@ TEST_F(Export, OdtHoldsEveryLetterAndFigureAlsoSideBySide) {
     // A nested table is inside a cell, never between the rows of another; every row has all its cells.
     EXPECT_FALSE(content.contains(QRegularExpression("table:table-row[^>]*>\\s*<table:table ")));
     EXPECT_EQ(content.count("<table:table "), 3);
+    EXPECT_TRUE(content.contains("text:outline-level=\"1\"")) << "LibreOffice lists headings by their level";
     EXPECT_EQ(content.count("<table:table-cell ") + content.count("<table:covered-table-cell"), 2 + 1 + 4);
     expectWords(wordsOf(part(Format::odt, "styles.xml")),
                 {"information supplied by the undersigned client.", "Page 1 of 1"});
@@ -165,7 +167,8 @@ TEST_F(Export, PdfKeepsTheLettersAndHasItsTitleLanguageAuthorAndAnOutlineOfItsHe
                            "<tr><td>{{Year:##}}</td></tr>{{/Amort}}</table><h2>Last</h2><p>y</p>"));
     const QString pdf = file(Format::pdf);
     expectWords(textOfPdf(pdf), {"O'Brien, \"Êksteen\"", "Ṱhoho-Nḓou <b>&\"x\""});
-    expectWords(runTool("pdfinfo", {pdf}).simplified(), {"Title: Own title", "Author: Marlow & Ṱhoho", "pts (A4)"});
+    expectWords(runTool("pdfinfo", {pdf}).simplified(),
+                {"Title: Own title", "Author: Marlow & Ṱhoho", "Pages: 2", "pts (A4)"});
     expectWords(runTool("qpdf", {"--check", pdf}), {"No syntax or stream encoding errors found"});
     const QStringList asJson{"--json=1", "--json-key=outlines", "--json-key=objects", pdf};
     const QJsonObject json = QJsonDocument::fromJson(runTool("qpdf", asJson).toUtf8()).object();
@@ -184,6 +187,8 @@ TEST_F(Export, PdfKeepsTheLettersAndHasItsTitleLanguageAuthorAndAnOutlineOfItsHe
     const QJsonObject objects = json["objects"].toObject();
     const QString root = objects["trailer"]["/Root"].toString();
     EXPECT_EQ(objects[root]["/Lang"].toString(), "en-ZA");
+    const QString title = objects[objects[root]["/Outlines"].toString()]["/Last"].toString();
+    EXPECT_EQ(objects[objects[title]["/Last"].toString()]["/Title"].toString(), "Last");
 }
 
 // A limit on the file size stands in for a full disk.
