@@ -3,40 +3,14 @@
 #include <algorithm>
 #include <cmath>
 
+#include "finance/stepping.h"
+
 namespace analyses {
 
+using finance::firstStep;
+using finance::stepped;
+
 namespace {
-
-/// The number of additions of `taken` that leave x within its power of two, including the power's upper end.
-double stepsWithin(double x, double taken) {
-    int exponent = 0;
-    std::frexp(x, &exponent);
-    const double top = std::ldexp(1.0, exponent);
-    const bool grows = (x > 0) == (taken > 0);
-    const double room = grows ? top - std::fabs(x) : std::fabs(x) - top / 2;
-    const double size = std::fabs(taken);
-    double steps = std::floor(room / size);
-    if (steps * size > room) --steps; // the quotient was rounded up
-    return std::max(steps, 0.0);
-}
-
-/// The first of the steps 1 to `most` at which `holds` is true; nothing if it is false at all of them.
-///
-/// Once true, holds must stay true: it is called at steps 1, 2, 4, ... and then between the last two.
-std::optional<std::int64_t> firstStep(std::int64_t most, const std::function<bool(std::int64_t)>& holds) {
-    std::int64_t fails = 0;
-    std::int64_t tried = std::min<std::int64_t>(1, most);
-    while (tried > fails && !holds(tried)) {
-        fails = tried;
-        tried = tried > most / 2 ? most : tried * 2;
-    }
-    if (tried <= fails) return {};
-    while (tried - fails > 1) {
-        const std::int64_t middle = fails + (tried - fails) / 2;
-        (holds(middle) ? tried : fails) = middle;
-    }
-    return tried;
-}
 
 /// The number of steps of this size from a capital past another; 0 if the other lies in the opposite direction.
 std::int64_t stepsPast(double from, double to, double step) {
@@ -46,20 +20,6 @@ std::int64_t stepsPast(double from, double to, double step) {
 }
 
 } // namespace
-
-double stepped(double start, double step, std::int64_t steps) {
-    double x = start;
-    while (steps > 0) {
-        x += step; // adding the first step shows how ties round; it may also reach another power of two
-        --steps;
-        const double taken = (x + step) - x;
-        if (taken == 0 || !std::isfinite(taken)) return x; // the step is too small to change x
-        const double leap = std::min(static_cast<double>(steps), stepsWithin(x, taken));
-        x += leap * taken;
-        steps -= static_cast<std::int64_t>(leap);
-    }
-    return x;
-}
 
 CapitalFound searchDown(double start, const CapitalSteps& steps, const CapitalTest& covers) {
     const auto capital = [&](std::int64_t step) { return stepped(start, -steps.coarse, step); };

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdint>
 #include <functional>
 #include <optional>
 
@@ -30,11 +29,5 @@ CapitalFound searchDown(double start, const CapitalSteps& steps, const CapitalTe
 /// The least capital that suffices, by fine steps within the last coarse step up from `start`; nothing if even the
 /// highest does not. `start` itself is not tried, since it is known not to suffice.
 CapitalFound searchUp(double start, const CapitalSteps& steps, const CapitalTest& covers);
-
-/// start + step + step + ..., `steps` times, with exactly the bits that adding them one by one gives.
-///
-/// Within a power of two every further step adds exactly the same amount, so that one multiplication covers all of
-/// them: ten thousand million steps cost about fifty additions.
-double stepped(double start, double step, std::int64_t steps);
 
 } // namespace analyses

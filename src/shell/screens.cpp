@@ -8,6 +8,7 @@
 #include "analyses/frmNAEd.h"
 #include "analyses/frmNARA.h"
 #include "calculators/frmInflation.h"
+#include "calculators/frmInvestComp.h"
 #include "calculators/frmLifeOfCap.h"
 #include "calculators/frmLoans.h"
 #include "client/frmPersDet.h"
@@ -40,6 +41,7 @@ constexpr ScreenEntry entries[] = {
     {"frmNAEd", build<analyses::frmNAEd>, "The education needs analysis"},
     {"frmInflation", build<calculators::frmInflation>, "Inflation"},
     {"frmLifeOfCap", build<calculators::frmLifeOfCap>, "Life of capital"},
+    {"frmInvestComp", build<calculators::frmInvestComp>, "Investment comparison"},
     {"frmLoans", build<calculators::frmLoans>, "The loan calculator"},
     {"frmHeadFoot", build<reports::frmHeadFoot>, "Your header and footer lines"},
     {"frmGraph", build<reports::frmGraph>, "Graphs"},

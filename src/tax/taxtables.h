@@ -1,25 +1,17 @@
 #pragma once
 
-#include <array>
+#include "finance/incomescale.h"
 
 /// The income tax of natural persons. Figures are rand a year and rates percent, unless a line says otherwise.
 namespace tax {
 
-/// One bracket of an income tax scale: incomes above `over`, up to and including `upTo`.
-struct Bracket {
-    double over;
-    double upTo;
-    double taxOnOver; ///< tax on an income of exactly `over`
-    double rate;      ///< on the part of the income above `over`
-};
-
-/// The top of each scale's last bracket. An income above it is still taxed by that bracket.
-inline constexpr double topOfScale = 9999999999;
+using finance::ScaleTax;
+using finance::topOfScale;
 
 /// The figures of one tax year, fixed by that year's Rates and Monetary Amounts and Amendment of Revenue Laws Act.
 struct TaxYear {
     const char* ends; ///< as the screens and reports name it
-    std::array<Bracket, 7> scale;
+    finance::IncomeScale scale;
     double primaryRebate;
     double rebateFrom65; ///< in addition to the primary one, at ages from 65 to 74
     double rebateFrom75; ///< in addition to the primary one, from 75 on; secondary and tertiary rebate together
@@ -79,23 +71,15 @@ inline constexpr TaxRules quickTaxFebruary2026{february2026, february2026, febru
 inline constexpr TaxRules quickTaxFebruary2027{february2027, february2027, february2027};
 inline constexpr TaxRules monthlyTaxRules{february2027, february2026, february2026};
 inline constexpr TaxRules retirementFundingRules{february2027, february2027, february2027};
-inline constexpr TaxRules investmentComparisonRules{february2027, february2026, february2027};
 
-/// How a scale taxes one income: the bracket that applies, the tax and its two parts.
-struct ScaleTax {
-    double lowerLimit = 0;
-    double upperLimit = 0;
-    double rate = 0; ///< percent
-    double taxOnLowerLimit = 0;
-    double portion = 0; ///< tax on the part of the income above the lower limit
-    double tax = 0;     ///< sum of both parts, never rounded
-};
-
-/// Taxes an income. An income exactly on a limit is taxed in the bracket below it, one above the last limit in the last
-/// bracket, a negative one in the first, with a negative tax.
-ScaleTax taxOn(const TaxYear& year, double income);
+/// Taxes an income by the scale of a year: see finance::taxOn.
+inline ScaleTax taxOn(const TaxYear& year, double income) { return finance::taxOn(year.scale, income); }
 
 /// Primary rebate plus the one for the age (years, may be a fraction): 64.99 is still below 65.
-double totalRebates(const TaxRules& rules, double age);
+constexpr double totalRebates(const TaxRules& rules, double age) {
+    return finance::Rebates{rules.primaryRebate.primaryRebate, rules.ageRebates.rebateFrom65,
+                            rules.ageRebates.rebateFrom75}
+        .at(age);
+}
 
 } // namespace tax

@@ -3,10 +3,10 @@
 #include <cmath>
 #include <limits>
 
-#include "analyses/capitalsearch.h"
 #include "analyses/retirement.h"
 #include "analyses/retirement_stepping.h"
 #include "analyses/sentences.h"
+#include "finance/stepping.h"
 
 namespace {
 
@@ -213,7 +213,7 @@ TEST(CapitalSearch, LeapsRoundAsSingleStepsDo) {
         for (int taken = 1; taken <= steps; ++taken) {
             plain += step;
             if (taken % 7 == 0 || taken < 20) {
-                ASSERT_EQ(analyses::stepped(start, step, taken), plain) << start << " " << taken;
+                ASSERT_EQ(finance::stepped(start, step, taken), plain) << start << " " << taken;
             }
         }
     }

@@ -49,6 +49,8 @@ const std::vector<Place> places{
     {"mnuInflation", "cmdPrint"},
     {"mnuLifeOfCap", ""},
     {"mnuLifeOfCap", "cmdPrint"},
+    {"mnuInvestComp", ""},
+    {"mnuInvestComp", "cmdPrint"},
     {"mnuQuickTax", ""},
     {"mnuQuickTax", "cmdPrint"},
     {"mnuPAYE", ""},
@@ -170,7 +172,7 @@ const std::set<std::string> shadowing{
     "frmNADeath &Print",      "frmNADeath C&ancel",      "frmNADisability &Amortisation",
     "frmNADisability &Print", "frmNAEd &Print",          "frmNAEd C&ancel",
     "frmInflation &Print",    "frmInflation C&ancel",    "frmLifeOfCap &Print",
-    "frmLifeOfCap C&ancel"};
+    "frmLifeOfCap C&ancel",   "frmInvestComp &Print",    "frmInvestComp C&ancel"};
 
 /// The access keys in use, each with its captions.
 std::map<QKeySequence, QStringList> lettersOf(const QWidget* scope) {

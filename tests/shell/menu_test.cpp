@@ -46,6 +46,7 @@ const std::set<std::string> working{
     "mnuSubNeedsAnalyses(3)",
     "mnuInflation",
     "mnuLifeOfCap",
+    "mnuInvestComp",
 };
 
 QToolBar* toolbar(RunningProgram& run) { return run.window().findChild<QToolBar*>("Toolbar2"); }
@@ -86,7 +87,7 @@ TEST(Toolbar, EachButtonHasAPictureATipAndANameForScreenReaders) {
     EXPECT_EQ(enabled, QStringList({"New (Ctrl+N)", "Browse (Ctrl+O)", "Save (Ctrl+S)", "Personal Details",
                                     "Needs Analyses", "Needs Analysis for Disability", "Needs Analysis for Retirement",
                                     "Policies and Investments", "Needs Analysis for Education", "Inflation", "Loans",
-                                    "Life of Capital", "PAYE", "QuickTax", "Video Lectures"}));
+                                    "Life of Capital", "Investment Comparison", "PAYE", "QuickTax", "Video Lectures"}));
 }
 
 TEST(Menu, AScreenOpenedTwiceIsOneScreenInFront) {

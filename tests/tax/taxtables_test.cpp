@@ -50,7 +50,6 @@ TEST(TaxTables, EachConsumerHasItsScaleAndRebates) {
     const std::tuple<const TaxRules&, double, double, double, double> consumers[] = {
         {quickTaxFebruary2026, 59032, 17235, 26679, 29824},      {quickTaxFebruary2027, 58392, 17820, 27585, 30834},
         {monthlyTaxRules, 58392, 17235, 26679, 29824},           {retirementFundingRules, 58392, 17820, 27585, 30834},
-        {investmentComparisonRules, 58392, 17235, 27000, 30249},
     };
     for (const auto& [rules, tax, under65, from65, from75] : consumers) {
         EXPECT_EQ(taxOn(rules.scale, 300000).tax, tax);
