@@ -12,6 +12,7 @@ namespace {
 
 using assessment::ItemList;
 using assessment::ItemRow;
+using assessment::Policy;
 
 // Both ways, without finer steps. Retirement's steps are ten times larger; the difference is deliberate.
 constexpr CapitalSteps steps{.coarse = 10000};
@@ -67,16 +68,34 @@ YearlyFlows coverFlows(const CoverNeeds& needs) {
     return flows;
 }
 
+/// Adds what a benefit of one policy pays in each year, rand a month.
+void addBenefit(Yearly& incomes, const Policy& policy, const PolicyBenefit& benefit) {
+    double income = 0;
+    for (std::size_t year = 1; year <= lastYear; ++year) {
+        if (benefit.years != nullptr && !(static_cast<double>(year) <= benefit.years(policy))) return;
+        income = year == 1 ? policy.*benefit.monthly : policy.*benefit.escalation * income / 100 + income;
+        incomes[year] += income;
+    }
+}
+
 double sum(const std::array<double, 5>& lines) { return std::accumulate(lines.begin(), lines.end(), 0.0); }
 
 } // namespace
 
-void addPolicyIncome(Yearly& incomes, double monthly, double percent, double years) {
-    double income = 0;
-    for (std::size_t year = 1; year <= lastYear && static_cast<double>(year) <= years; ++year) {
-        income = year == 1 ? monthly : percent * income / 100 + income;
-        incomes[year] += income;
+PolicyIncome policyIncome(const std::vector<Policy>& policies, std::initializer_list<PolicyBenefit> benefits,
+                          bool isFlagOn) {
+    PolicyIncome income;
+    for (const Policy& policy : policies) {
+        double monthly = 0;
+        for (const PolicyBenefit& benefit : benefits)
+            monthly += policy.*benefit.monthly;
+        income.firstYear += monthly;
     }
+    if (!isFlagOn) return income;
+    for (const PolicyBenefit& benefit : benefits)
+        for (const Policy& policy : policies)
+            addBenefit(income.later, policy, benefit);
+    return income;
 }
 
 NeedsAnalysis analyseCover(const CoverNeeds& needs, const SentenceRules& sentences, bool isFinite) {

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <array>
+#include <initializer_list>
 #include <vector>
 
 #include "analyses/needs.h"
 #include "assessment/itemised.h"
+#include "assessment/policy.h"
 
 /// The run of years that the death and the disability analysis share: both begin today and count years from 1. Their
 /// differences are in death.cpp, disability.cpp and their sentences.
@@ -30,9 +32,19 @@ struct CoverNeeds {
     std::vector<const assessment::ItemList*> sales, debts; ///< itemised capital and debts, each amount in its year
 };
 
-/// Adds the income from one policy in each year, rand a month, for `years` years; each year it rises by `percent` of
-/// itself.
-void addPolicyIncome(Yearly& incomes, double monthly, double percent, double years);
+/// A monthly benefit of a policy; each year it rises by a percentage of itself.
+struct PolicyBenefit {
+    double assessment::Policy::*monthly;                  ///< rand
+    float assessment::Policy::*escalation;                ///< percent a year
+    double (*years)(const assessment::Policy&) = nullptr; ///< its term; without one it is paid as long as the run goes
+};
+
+/// The income from these benefits of all policies.
+///
+/// In the first year all of it counts, whatever the terms and the flag of the policies' line; later only within each
+/// term and only while the flag is on. This is deliberate. Later years add one benefit of all policies before the next.
+PolicyIncome policyIncome(const std::vector<assessment::Policy>& policies,
+                          std::initializer_list<PolicyBenefit> benefits, bool isFlagOn);
 
 /// How long the capital provides the income, and how much more or less capital the years asked for need, to 10 000
 /// rand. isFinite: false if a figure that the caller calculated is too large to calculate with.

@@ -7,31 +7,19 @@
 
 namespace analyses {
 
-namespace {
-
-/// The monthly income from the policies on death. In the first year all of it counts, whatever the terms and the flag
-/// of the policies' line; later only within each term and only while the flag is on. The difference is deliberate.
-PolicyIncome policyIncome(const assessment::Assessment& record) {
-    PolicyIncome income;
-    for (const assessment::Policy& policy : record.policies)
-        income.firstYear += policy.DeathBenMonthly;
-    if (record.itemised.DTHLifeAssItemise == 0) return income;
-    for (const assessment::Policy& policy : record.policies)
-        addPolicyIncome(income.later, policy.DeathBenMonthly, policy.DeathBenMonEsc, policy.DeathBenYears);
-    return income;
-}
-
-} // namespace
-
 CoverNeeds deathNeeds(const assessment::Assessment& record) {
     const assessment::NADeath& group = record.death;
     const assessment::Itemised& lists = record.itemised;
+    using P = assessment::Policy;
     return {.income = group.Income,
             .years = group.PeriodDeath,
             .inflation = group.Inflation,
             .rate = group.InvestRate,
             .available = group.DeathMIAvail,
-            .policies = policyIncome(record),
+            .policies = policyIncome(
+                record.policies,
+                {{&P::DeathBenMonthly, &P::DeathBenMonEsc, [](const P& policy) { return policy.DeathBenYears; }}},
+                lists.DTHLifeAssItemise != 0),
             .assets = {group.ANSAss1, group.ANSAss2, group.ANSAss4, group.ANSAss5, group.ANSAss6}, // no ANSAss3
             .liabilities = {group.ANSLib1, group.ANSLib2, group.ANSLib3, group.ANSLib4, group.lib5},
             .required = &lists.DTHMonIncReq,
