@@ -13,11 +13,6 @@ using shelltest::RunningProgram;
 /// A needs analysis in the running program.
 class NeedsTest : public testing::Test {
 protected:
-    QLabel* captionOf(const QString& field) {
-        for (auto* label : run.front()->findChildren<QLabel*>())
-            if (label->buddy() == run.control(field)) return label;
-        return nullptr;
-    }
     QString focus() { return RunningProgram::focused(); }
     void openList(int index) { run.click(QString("cmdItemise(%1)").arg(index)); }
     bool isListOpen() {

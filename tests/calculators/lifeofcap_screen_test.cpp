@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <QLabel>
 #include <QTableView>
 
 #include "reports/frmGraph.h"
@@ -20,11 +19,7 @@ protected:
         for (int i = 0; i < figures.size(); ++i)
             run.type(QString("sidbEdit%1").arg(13 + i), figures[i]);
     }
-    QString caption() {
-        for (auto* label : run.front()->findChildren<QLabel*>())
-            if (label->buddy() == run.control("sidbEdit18")) return label->text();
-        return {};
-    }
+    QString caption() { return run.captionOf("sidbEdit18")->text(); }
     RunningProgram run;
 };
 
@@ -97,21 +92,21 @@ TEST_F(LifeOfCapScreen, TableAndGraphShowAsManyYearsAsTheAnswer) {
 
 TEST_F(LifeOfCapScreen, LimitsAreToldAndTheRisesOneSendsToTheTaxRate) {
     const struct {
-        const char *field, *typed, *told, *title;
+        const char *field, *refused, *taken, *told, *title;
     } cases[] = {
-        {"sidbEdit16", "40.001", "The maximum tax rate allowed is 40%", "Incorrect Tax Rate!"},
-        {"sidbEdit16", "-1", "The minimum tax rate allowed is 0%", "Incorrect Tax Rate!"},
-        {"sidbEdit17", "50.001", "The maximum Annual income escalation allowed is 50%",
+        {"sidbEdit16", "40.001", "40", "The maximum tax rate allowed is 40%", "Incorrect Tax Rate!"},
+        {"sidbEdit16", "-1", "0", "The minimum tax rate allowed is 0%", "Incorrect Tax Rate!"},
+        {"sidbEdit17", "50.001", "50", "The maximum Annual income escalation allowed is 50%",
          "Incorrect Annual Income Escalation!"},
     };
     for (const auto& c : cases) {
         run.desk.expect(Answer::ok);
-        run.enter(c.field, c.typed);
+        run.enter(c.field, c.refused);
         run.click("cmdCalculate");
         EXPECT_EQ(run.desk.last().text, c.told);
         EXPECT_EQ(run.desk.last().title, c.title);
         EXPECT_EQ(RunningProgram::focused(), "sidbEdit16");
-        run.enter(c.field, "40");
+        run.enter(c.field, c.taken);
     }
     run.record().lifeOfCapital = {1e308, 1, 1e6, 0, 0};
     run.front()->refill();

@@ -4,6 +4,7 @@
 #include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMdiSubWindow>
 #include <QPlainTextEdit>
@@ -129,6 +130,20 @@ public:
     void expectShown(const QString& entries) {
         for (const QString& entry : entries.split(", "))
             EXPECT_EQ(shown(entry.section(' ', 0, 0)), entry.section(' ', 1)) << entry.section(' ', 0, 0).toStdString();
+    }
+    /// Types a figure that its field refuses: one box says why, and the focus is back in the field.
+    void expectRefused(const QString& field, const QString& typed, const QString& told, const QString& title) {
+        desk.expect(screenkit::Answer::ok);
+        type(field, typed);
+        EXPECT_EQ(desk.last().text, told) << typed.toStdString();
+        EXPECT_EQ(desk.last().title, title) << typed.toStdString();
+        EXPECT_EQ(focused(), field) << typed.toStdString();
+    }
+    /// The label of a field of the front screen.
+    QLabel* captionOf(const QString& field) {
+        for (auto* label : front()->findChildren<QLabel*>())
+            if (label->buddy() == control(field)) return label;
+        return nullptr;
     }
     void click(const QString& name) {
         auto* button = control<QAbstractButton>(name);

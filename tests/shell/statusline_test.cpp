@@ -61,6 +61,11 @@ TEST(Announced, EachCalculationOnceAndTheSameAgain) {
         {"mnuPAYE", {"numSalRemun=10000"}, "cmdCalculate", "Total tax deduction "},
         {"mnuPolInvests", {"numDeathBen=9"}, "cmdCalculatePolInv", "Nothing at retirement"},
         {"mnuNARA", {"numMonIncPD=10000", "numCoverReq=20"}, "cmdCalculate", " additional cover required."},
+        {"mnuNAEd", {"numFundsPres=10000", "numPerRequired=3"}, "cmdCalculate", "30 000 capital required"},
+        {"mnuNAEd", {"numPerRequired=0"}, "cmdCalculate", "(real future value) 10 000"},
+        {"mnuInflation", {"numPresCost=50"}, "cmdCalculate", "Future value/cost 50.00"},
+        {"mnuInflation", {"numPresCost=10000000000000"}, "cmdCalculate", "Amount too large to display"},
+        {"mnuLifeOfCap", {"sidbEdit13=1200", "sidbEdit14=9", "sidbEdit15=1"}, "cmdCalculate", "income for 11"},
     };
     RunningProgram run;
     auto* line = run.window().findChild<shell::StatusLine*>();
