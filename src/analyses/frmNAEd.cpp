@@ -26,8 +26,7 @@ frmNAEd::frmNAEd(Workplace& workplace)
     m_ok = okButton();
     showsCalculated(m_answer);
     body(column(
-        {row({Item(person(), 1), Item(requirements(), 1)}), row({review(), spring()}),
-         group("fraAnswers", "Result", m_answer), spring(),
+        {row({Item(person(), 1), Item(requirements(), 1)}), group("fraAnswers", "Result", m_answer), spring(),
          row({calculateIt, button("cmdAmort", "A&mortisation", [this] { amortisation(); }),
               button("cmdNAEDGraph", "&Graph", [this] { graph(); }), disabledButton("cmdPremium", "&Show Premium"),
               opener("cmdInflation", "&Inflation", "frmInflation"),
@@ -44,16 +43,15 @@ frmNAEd::frmNAEd(Workplace& workplace)
 QWidget* frmNAEd::person() {
     m_name = shown("txtName", 30);
     auto* birth = date("dtBirthDate", m_work.record.client.BirthDate);
-    notCalculatedFrom(birth);
-    return group("fraClient", "Client", form({{"Name :", m_name}, {"Date of &birth :", birth}}));
-}
-
-QWidget* frmNAEd::review() {
     auto* last = date("dtEducLastReview", m_needs.EducLastReview);
     auto* next = date("dtEducNextReview", m_needs.EducNextReview);
-    for (DateField* reviewed : {last, next})
-        notCalculatedFrom(reviewed);
-    return group("fraReview", "Review", form({{"Date of last re&view ", last}, {"Date of ne&xt review ", next}}));
+    for (DateField* known : {birth, last, next})
+        notCalculatedFrom(known);
+    return group("fraClient", "Client",
+                 form({{"Name :", m_name},
+                       {"Date of &birth :", birth},
+                       {"Date of last re&view ", last},
+                       {"Date of ne&xt review ", next}}));
 }
 
 QWidget* frmNAEd::requirements() {

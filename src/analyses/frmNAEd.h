@@ -18,7 +18,6 @@ protected:
 private:
     QWidget* person();
     QWidget* requirements();
-    QWidget* review();
     void buildPrintPanel();
     void recalculate();
     void calculate();

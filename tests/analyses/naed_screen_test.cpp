@@ -27,9 +27,10 @@ protected:
 
 TEST_F(NAEd, EveryControlHoldsItsFieldAndItsPlaceInTheReport) {
     run.type("dtBirthDate", "15/3/1981");
-    typeAll({"10000.5", "10", "2", "3", "8.125"});
     run.type("dtEducLastReview", "1/2/2026");
-    run.enter("dtEducNextReview", "3/4/2027");
+    run.type("dtEducNextReview", "3/4/2027");
+    typeAll({"10000.5", "10", "2", "3", "8"});
+    run.enter("numInvestRate", "8.125");
     for (const char* result : {"numFundsFut", "txtAns"})
         EXPECT_TRUE(run.control(result)->font().italic()) << "out of date";
     RunningProgram::key(Qt::Key_Return); // from the last field it calculates
