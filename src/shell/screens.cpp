@@ -11,6 +11,7 @@
 #include "calculators/frmInvestComp.h"
 #include "calculators/frmLifeOfCap.h"
 #include "calculators/frmLoans.h"
+#include "calculators/frmOffShore.h"
 #include "client/frmPersDet.h"
 #include "client/frmPolInvest.h"
 #include "datastore/frmBrowse.h"
@@ -43,6 +44,7 @@ constexpr ScreenEntry entries[] = {
     {"frmLifeOfCap", build<calculators::frmLifeOfCap>, "Life of capital"},
     {"frmInvestComp", build<calculators::frmInvestComp>, "Investment comparison"},
     {"frmLoans", build<calculators::frmLoans>, "The loan calculator"},
+    {"frmOffShore", build<calculators::frmOffShore>, "Offshore investments"},
     {"frmHeadFoot", build<reports::frmHeadFoot>, "Your header and footer lines"},
     {"frmGraph", build<reports::frmGraph>, "Graphs"},
     {"frmBrowser", build<shell::frmBrowser>, "Working by keyboard"},

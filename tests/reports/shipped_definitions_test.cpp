@@ -55,31 +55,55 @@ void eachDefinition(const std::function<void(const std::vector<Node>&)>& use) {
     }
 }
 
+/// Percentages that the record holds as whole numbers.
+const QSet<QString> wholePercents{"OFTaxRate", "LTaxRate", "LCurrChange"};
+
 /// The fewest decimal places allowed: as many as the screen's field accepts.
 qsizetype leastPlaces(const Node& field) {
     // Calculated figures, with the places that the screens show.
     static const QMap<QString, qsizetype> shorter{
         {"MARGRATE", 0}, {"AVRATE", 2}, {"AVRATEAFT", 2}, {"DBenSpousePerc", 2}};
     if (shorter.contains(field.name)) return shorter[field.name];
-    static const QSet<QString> wholeRand{"IncomeFV", "IncomeRA", "IncomeShort", "ALTEMV", "FundsFV"};
+    static const QSet<QString> wholeRand{"InvAmount", "IncomeFV", "IncomeRA", "IncomeShort", "ALTEMV", "FundsFV"};
     static const QRegularExpression wholeTables("(RetiremA|coveryears|EducatnA)\\.rpt$");
-    if (wholeRand.contains(field.name) || field.file.contains(wholeTables)) return 0;
+    if (wholeRand.contains(field.name) || wholePercents.contains(field.name) || field.file.contains(wholeTables))
+        return 0;
     if (field.mask.contains('%')) return places(screenkit::percent.mask);
     return field.mask.contains("# #") ? places(screenkit::money.mask) : 0;
 }
 
 TEST(ShippedDefinitions, CutNoFigure) {
-    static const QSet<QString> counts{"Num2",        "AgeNum",       "AnnCalcBens3num",      "Period",
-                                      "PolNum",      "Year",         "CurrentAge",           "AgeRetiment",
-                                      "YearsToRet",  "CoverYears",   "PremPeriod",           "DeathBenYears",
-                                      "IncProYears", "RBEMVAge",     "RBPenLumpAge",         "RBProvFLumpAge",
-                                      "EndowEMVAge", "MARGRATE",     "InvBensMatValLSAtAge", "DeathBenCashValAge",
-                                      "YearsToEdu",  "FundsForYears",  "term"};
+    static const QSet<QString> counts{"Num2",
+                                      "AgeNum",
+                                      "AnnCalcBens3num",
+                                      "Period",
+                                      "PolNum",
+                                      "Year",
+                                      "CurrentAge",
+                                      "AgeRetiment",
+                                      "YearsToRet",
+                                      "CoverYears",
+                                      "PremPeriod",
+                                      "DeathBenYears",
+                                      "IncProYears",
+                                      "RBEMVAge",
+                                      "RBPenLumpAge",
+                                      "RBProvFLumpAge",
+                                      "EndowEMVAge",
+                                      "MARGRATE",
+                                      "InvBensMatValLSAtAge",
+                                      "DeathBenCashValAge",
+                                      "YearsToEdu",
+                                      "FundsForYears",
+                                      "OSPeriod",
+                                      "term"};
     const auto check = [&](const Node& field) {
         if (field.kind != Node::Kind::field || field.mask.isEmpty()) return;
         EXPECT_GE(places(field.mask), leastPlaces(field)) << field.name.toStdString();
         const bool isAmount = field.mask.contains("# #");
-        EXPECT_TRUE(isAmount || places(field.mask) > 0 || counts.contains(field.name)) << field.name.toStdString();
+        EXPECT_TRUE(isAmount || places(field.mask) > 0 || counts.contains(field.name) ||
+                    wholePercents.contains(field.name))
+            << field.name.toStdString();
     };
     eachDefinition([&](const std::vector<Node>& body) { walk(body, check); });
 }

@@ -51,6 +51,8 @@ const std::vector<Place> places{
     {"mnuLifeOfCap", "cmdPrint"},
     {"mnuInvestComp", ""},
     {"mnuInvestComp", "cmdPrint"},
+    {"mnuOffShore", ""},
+    {"mnuOffShore", "cmdPrint"},
     {"mnuQuickTax", ""},
     {"mnuQuickTax", "cmdPrint"},
     {"mnuPAYE", ""},
@@ -172,7 +174,8 @@ const std::set<std::string> shadowing{
     "frmNADeath &Print",      "frmNADeath C&ancel",      "frmNADisability &Amortisation",
     "frmNADisability &Print", "frmNAEd &Print",          "frmNAEd C&ancel",
     "frmInflation &Print",    "frmInflation C&ancel",    "frmLifeOfCap &Print",
-    "frmLifeOfCap C&ancel",   "frmInvestComp &Print",    "frmInvestComp C&ancel"};
+    "frmLifeOfCap C&ancel",   "frmInvestComp &Print",    "frmInvestComp C&ancel",
+    "frmOffShore &Print",     "frmOffShore C&ancel"};
 
 /// The access keys in use, each with its captions.
 std::map<QKeySequence, QStringList> lettersOf(const QWidget* scope) {
