@@ -47,7 +47,7 @@ Growth growthFrom(const store::Statement& row, int firstColumn) {
 
 void addGrowth(datastore::Row& row, const std::array<const char*, 5>& columns, const Growth& growth) {
     for (std::size_t i = 0; i < growth.size(); ++i)
-        row.emplace_back(columns[i], growth[i] ? store::Value(*growth[i]) : store::Value());
+        if (growth[i]) row.emplace_back(columns[i], *growth[i]);
 }
 
 } // namespace
