@@ -82,7 +82,7 @@ QLayout* frmPolInvest::buttons() {
         if (counted.empty())
             announce(tr("Nothing at retirement"));
         else
-            announce(counted);
+            announce(counted, tr("At retirement: "));
     });
     defaultButton(solve);
     return row({m_back, m_forward, button("cmdAdd", "A&dd", [this] { add(); }),

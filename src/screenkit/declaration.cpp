@@ -214,7 +214,7 @@ QTabWidget* Screen::tabs(const QString& name, const std::vector<std::pair<QStrin
         }
         book->addTab(page, caption);
     }
-    leafByKey(book, m_area);
+    turnPagesByKey(book, m_area);
     return book;
 }
 

@@ -44,9 +44,9 @@ public:
     virtual std::optional<Complaint> complaint() { return {}; }
     /// What is wrong with content that the user did not enter; the field marks it. It is reported but never blocks:
     /// content from a file must not keep the user from leaving.
-    virtual std::optional<Complaint> markFault() { return {}; }
+    virtual std::optional<Complaint> markStoredFault() { return {}; }
     /// Forgets that the user entered the content: another client's record is shown now.
-    virtual void disown() {}
+    virtual void forgetEntry() {}
     /// The field's input to a calculation: a number, a day, the index of an option, a tick as 1 or 0. Nothing for a
     /// result or a text.
     virtual std::optional<double> figure() const { return {}; }

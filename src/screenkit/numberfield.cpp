@@ -26,7 +26,7 @@ void NumberField::present(double value) {
     if (keepsText() && value == m_value) return;
     m_value = std::isfinite(value) ? value : 0;
     display(value);
-    markFault();
+    markStoredFault();
 }
 
 void NumberField::display(double value) {
@@ -53,7 +53,7 @@ void NumberField::take(double value) {
     m_value = value;
     m_place.set(value);
     m_taken = m_place.get();
-    markFault();
+    markStoredFault();
     if (edited) edited();
 }
 
@@ -81,13 +81,13 @@ void NumberField::giveBack() {
         enter(m_onEntry);
     else
         display(m_value);
-    if (!m_ownOnEntry) disown();
+    if (!m_ownOnEntry) forgetEntry();
     takeFocus();
 }
 
-void NumberField::disown() {
+void NumberField::forgetEntry() {
     m_taken.reset();
-    markFault();
+    markStoredFault();
 }
 
 std::optional<Complaint> NumberField::fault() const {
@@ -110,7 +110,7 @@ std::optional<Complaint> NumberField::complaint() {
     return complaint;
 }
 
-std::optional<Complaint> NumberField::markFault() {
+std::optional<Complaint> NumberField::markStoredFault() {
     if (isRefused()) return {}; // it has its own mark and message
     const auto found = isOwn() ? std::nullopt : fault();
     look::setMarked(this, found ? found->text : QString());
@@ -121,7 +121,7 @@ std::optional<double> NumberField::figure() const { return isReadOnly() ? std::n
 
 void NumberField::setResult(bool result) {
     EntryLine::setResult(result);
-    markFault();
+    markStoredFault();
 }
 
 QSize NumberField::sizeHint() const { return look::fieldSize(this, m_kind.characters); }

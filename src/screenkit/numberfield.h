@@ -29,8 +29,8 @@ public:
 
     void fill() override;
     std::optional<Complaint> complaint() override;
-    std::optional<Complaint> markFault() override;
-    void disown() override;
+    std::optional<Complaint> markStoredFault() override;
+    void forgetEntry() override;
     std::optional<double> figure() const override;
     void setResult(bool result) override;
     /// What is wrong with the content, whoever entered it.

@@ -36,7 +36,7 @@ void turnToPage(QTabWidget* book, int page) {
     stop->setFocus(Qt::ShortcutFocusReason);
 }
 
-void leafByKey(QTabWidget* book, QWidget* area) {
+void turnPagesByKey(QTabWidget* book, QWidget* area) {
     for (const auto& [key, step] : {std::pair{Qt::Key_PageDown, 1}, std::pair{Qt::Key_PageUp, -1}}) {
         auto* shortcut = new QShortcut(Qt::CTRL | key, area, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
         QObject::connect(shortcut, &QShortcut::activated, book, [book, way = step] {

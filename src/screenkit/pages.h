@@ -21,6 +21,6 @@ void turnToPage(QTabWidget* book, int page);
 
 /// Ctrl+Page Down and Ctrl+Page Up turn to the next and the previous page, cyclically, while the focus is inside
 /// `area`.
-void leafByKey(QTabWidget* book, QWidget* area);
+void turnPagesByKey(QTabWidget* book, QWidget* area);
 
 } // namespace screenkit

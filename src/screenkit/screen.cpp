@@ -83,11 +83,11 @@ void Screen::showGrid(const QString& title, std::vector<GridColumn> columns, std
     m_gridPanel->open(m_grid);
 }
 
-void Screen::announce(const std::vector<NumberField*>& results) {
+void Screen::announce(const std::vector<NumberField*>& results, const QString& of) {
     QStringList said;
     for (const NumberField* result : results)
         said << result->accessibleName() + " " + result->text();
-    announce(said.join(", "));
+    announce(of + said.join(", "));
 }
 
 void Screen::announce(const QString& said) { m_work.shell.announce(said); }
@@ -139,7 +139,7 @@ void Screen::refill() {
 
 void Screen::clientReplaced() {
     for (Field* field : m_fields)
-        field->disown();
+        field->forgetEntry();
     refill();
 }
 
@@ -175,7 +175,7 @@ void Screen::showWhatIsStale() {
 void Screen::tellFaults() {
     QStringList told;
     for (Field* field : m_fields)
-        if (const auto fault = field->markFault(); fault && inReach(field->widget()))
+        if (const auto fault = field->markStoredFault(); fault && inReach(field->widget()))
             told << tr("Please check %1: %2").arg(field->widget()->accessibleName(), fault->text);
     if (told.join('\n') == m_faults->text()) return;
     m_faults->setText(told.join('\n'));

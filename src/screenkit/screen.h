@@ -179,8 +179,8 @@ protected:
                   QWidget* focusAfter);
 
     /// Has a screen reader say the requested results, each with its name: once for each press of Calculate, never when
-    /// a screen fills itself.
-    void announce(const std::vector<NumberField*>& results);
+    /// a screen fills itself. `of` is said before them if the names alone could be taken for the inputs' names.
+    void announce(const std::vector<NumberField*>& results, const QString& of = {});
     void announce(const QString& said);
 
     /// The field with the focus when the screen opens; by default the first one.
