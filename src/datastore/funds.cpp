@@ -27,6 +27,13 @@ FundDefaults readOriginalFunds(const std::filesystem::path& defaultDbPath) {
     return readTable(settings, "TallowenDefault");
 }
 
+void refreshFunds(assessment::Assessment& record, const std::filesystem::path& defaultDbPath) {
+    store::Database settings(defaultDbPath);
+    const FundDefaults funds = readFunds(settings);
+    record.GRINC = readSettings(settings, "Setup").number("GRINC");
+    record.funds = funds;
+}
+
 void writeFunds(const std::filesystem::path& defaultDbPath, const FundDefaults& funds, double grinc) {
     store::Database settings(defaultDbPath);
     store::Transaction transaction(settings);

@@ -17,9 +17,12 @@ TEST(Funds, EveryRateAndTheStepAreStoredOrNothingIs) {
     for (const assessment::FieldLine& line : assessment::mutualFundsTable().fields())
         assessment::setValueAt(line.at(&typed), distinct += 1.25, 0.0);
     datastore::writeFunds(path, typed, 0.125);
+    assessment::Assessment record;
+    datastore::refreshFunds(record, path);
+    EXPECT_EQ(record.funds, typed);
+    EXPECT_EQ(record.GRINC, 0.125);
     EXPECT_EQ(datastore::readFunds(path), typed);
     EXPECT_EQ(datastore::readOriginalFunds(path), original) << "never changed";
-    EXPECT_EQ(datastore::readSettings(path, "Setup").number("GRINC"), 0.125);
 
     store::Database(path).execute("DELETE FROM [MutualFunds]");
     EXPECT_EQ(errorOf([&] { datastore::writeFunds(path, original, 9); }), 3021);
