@@ -36,11 +36,15 @@ store::Statement selectOf(store::Database& database, const char* table, const st
     return database.prepare(sql + " FROM " + store::bracketed(table) + " ORDER BY rowid");
 }
 
-Growth growthFrom(const store::Statement& row, int firstColumn) {
+Growth growthFrom(const store::Statement& row, int firstColumn, const store::Database& database) {
     Growth growth;
     for (std::size_t i = 0; i < growth.size(); ++i) {
         const store::Value value = row.column(firstColumn + static_cast<int>(i));
         if (const auto* figure = std::get_if<double>(&value)) growth[i] = *figure;
+        if (const auto* text = std::get_if<std::string>(&value))
+            throw store::Error(store::Number::wrongType, database.path().string(),
+                               "The text \"" + *text + "\" stands where a growth is expected.",
+                               "Replace it in {name} by a fraction a year: 0.123 for 12.3 %.");
     }
     return growth;
 }
@@ -61,14 +65,14 @@ FundHistory readFundHistory(const std::filesystem::path& unitsDbPath) {
     columns.insert(columns.end(), growthColumns.begin(), growthColumns.end());
     store::Statement row = selectOf(database, "Units", columns);
     while (row.step())
-        history.funds.push_back({row.text(0), growthFrom(row, 1)});
+        history.funds.push_back({row.text(0), growthFrom(row, 1, database)});
     if (history.funds.empty())
         throw store::Error(store::Number::noCurrentRecord, unitsDbPath.string(), "The file lists no unit trust.",
                            "Enter the unit trusts and their growth into the table \"Units\" of {name}, or copy {name} "
                            "from your last backup into the folder {folder}.");
     if (!database.hasTable("UTH")) return history;
     store::Statement inflation = selectOf(database, "UTH", {inflationColumns.begin(), inflationColumns.end()});
-    if (inflation.step()) history.inflation = growthFrom(inflation, 0);
+    if (inflation.step()) history.inflation = growthFrom(inflation, 0, database);
     return history;
 }
 

@@ -54,6 +54,8 @@ TEST_F(FundHistories, SortByEachColumnInBothDirections) {
 TEST_F(FundHistories, AMissingFileTableColumnOrFundIsTold) {
     store::Database(units).execute("DROP TABLE [UTH]");
     EXPECT_EQ(readFundHistory(units).inflation, Growth()) << "the list itself is there";
+    fill("('Alpha', 0.1, '12,3 %', 0.1, 0.1, 0.1)");
+    EXPECT_EQ(errorOf([&] { readFundHistory(units); }), 3421);
     fill("");
     EXPECT_EQ(errorOf([&] { readFundHistory(units); }), 3021);
     store::Database(units).execute("DROP INDEX [10yrIndexA]; DROP INDEX [10yrIndexD];"
