@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <functional>
 #include <string>
 
 #include "finance/premiumsearch.h"
@@ -50,6 +51,7 @@ TEST(Projection, WorksOutEachKind) {
     const Worked plain[] = {
         {inputs("E", 1, 1000, 0, 100), 1100, 1111, 0}, // the premium of month 1 earns its month
         {inputs("E", 2, 1000, 0, 100), 1200, 1223.11, 0},
+        {inputs("E", 1, 0.5, 0, 0), 0.5, 0.505, 0},    // a fund of cents grows too
         {inputs("B", 1, 1000, 0, 100), 1000, 1010, 0}, // the bank gets its first monthly payment in month 2
         {inputs("B", 2, 1000, 0, 100), 1100, 1121.1, 0},
         {inputs("U", 1, 1000, 0, 100), 1100, 1111, 1111},
@@ -135,23 +137,33 @@ TEST(Projection, GraphsHavePointsOfTheirOwnAndLowerChargesOnShortTerms) {
     EXPECT_EQ(InvestProGraphCalc(inputs("B", 1, -500, 0, 0), rates()).value[1], 0) << "never below the axis";
 }
 
-TEST(FindPremiums, ThePremiumQuotedReachesTheValue) {
+/// The search as it is told, step by step.
+double stepped(double target, const std::function<double(double)>& value) {
+    double premium = 0;
+    for (const double step : {20000.0, 2000.0, 1000.0, 100.0, 10.0, 1.0}) {
+        do
+            premium += step;
+        while (!(value(premium) > target));
+        if (step > 1) premium -= step;
+    }
+    return premium;
+}
+
+TEST(FindPremiums, AnswersAsItsStepsDo) {
     for (const int months : {1, 12, 13, 120, 600})
-        for (const double target : {1000.0, 1e6, 123456789.0}) {
+        for (const double target : {-50.0, 1000.0, 1e6, 12345678.9}) {
             const Premiums found = FindPremiums({target, static_cast<std::int16_t>(months), 9, 6}, rates());
-            const struct {
-                const char* kind;
-                const finance::PremiumFound& found;
-            } answers[] = {{"E", found.endowment}, {"R", found.retirement}, {"U", found.unitTrust}};
+            const std::pair<const char*, const finance::PremiumFound&> answers[] = {
+                {"E", found.endowment}, {"R", found.retirement}, {"U", found.unitTrust}};
             for (const auto& [kind, answer] : answers) {
-                ASSERT_EQ(answer.outcome, Outcome::above) << kind << months;
                 const auto quoted = [&, letter = kind](double premium) {
                     return InvestProCalc(inputs(letter, months, 0, 0, premium, 9, 6), rates()).QuoteEMV;
                 };
-                EXPECT_EQ(answer.value, quoted(answer.premium)) << kind << months;
-                EXPECT_EQ(answer.valueBelow, quoted(answer.premium - 1)) << kind << months;
-                EXPECT_GT(answer.value, target);
-                EXPECT_LT(answer.valueBelow, target);
+                const double premium = stepped(target, quoted);
+                EXPECT_EQ(answer.outcome, Outcome::above) << kind << months;
+                EXPECT_EQ(answer.premium, premium) << kind << months;
+                EXPECT_EQ(answer.value, quoted(premium)) << kind << months;
+                EXPECT_EQ(answer.valueBelow, quoted(premium - 1)) << kind << months;
             }
         }
 }
