@@ -32,6 +32,8 @@ void planEducation(Hands& hands);
 /// Starts in the education analysis and closes both.
 void seeInflation(Hands& hands);
 void lastCapital(Hands& hands);
+void compareOffers(Hands& hands);
+void investOffshore(Hands& hands);
 void taxAMonth(Hands& hands);
 void taxAYear(Hands& hands);
 void save(Hands& hands);

@@ -76,6 +76,12 @@ EducationAnalysis NAEdCalc(assessment::NAEducation& needs) {
     return analysis;
 }
 
+std::optional<double> EducationAnalysis::capitalToProvide() const {
+    const bool isFinite = std::isfinite(flows.RequiredByYear[lastYear]);
+    if (!isFinite || FundsFV < 0 || (found.failed && !found.solved)) return {};
+    return CapitalTried;
+}
+
 int EducationAnalysis::points() const { return std::min(run.YearsCovered, wholeYears(yearsAsked)); }
 
 } // namespace analyses

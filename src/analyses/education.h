@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -23,6 +24,8 @@ struct EducationAnalysis {
 
     /// The amortisation's lines, numbered from 1.
     std::vector<ShownYear> years() const { return shownYears(flows, run, yearsAsked, 1); }
+    /// The capital required, 0 if none is; nothing if no capital was found.
+    std::optional<double> capitalToProvide() const;
     /// Number of points of the graph.
     int points() const;
 };

@@ -1,12 +1,13 @@
 #include "analyses/educationreport.h"
 
+#include "analyses/premium.h"
 #include "analyses/reportlines.h"
 #include "base/day.h"
 
 namespace analyses {
 
 datastore::Printout feedEducation(const std::filesystem::path& printDbPath, const assessment::Assessment& record,
-                                  const EducationAnalysis& analysis, bool amortised) {
+                                  const EducationAnalysis& analysis, const EducationReportOptions& options) {
     const assessment::NAEducation& needs = record.education;
     datastore::Row row{{"Name", record.client.Name},
                        {"FundsPD", needs.FundsPD},
@@ -17,13 +18,15 @@ datastore::Printout feedEducation(const std::filesystem::path& printDbPath, cons
                        {"FundsForYears", needs.FundsForYears},
                        {"BankRate", needs.BankRate},
                        {"FundsReq", analysis.FundsReq}};
-    const datastore::Row premium = noPremium();
-    row.insert(row.end(), premium.begin(), premium.end());
+    const assessment::CapitalPremium& premium = record.premiums.education;
+    const bool isSolved = finance::isSolvedFor(premium, analysis.capitalToProvide(), yearsUntilNeeded(needs));
+    const auto block = premiumLines(options.premium && isSolved, premium, finance::educationPremium);
+    row.insert(row.end(), block.begin(), block.end());
     datastore::PrintFeed feed(printDbPath, record.client.Name);
     feed.replace("NAED", row);
-    if (amortised) feed.replace("Amort", amortisationRows(analysis.years()));
+    if (options.amortised) feed.replace("Amort", amortisationRows(analysis.years()));
     feed.commit();
-    if (amortised) return {"\\EducatnA.rpt", "Needs Analysis for Education Including Amortisation"};
+    if (options.amortised) return {"\\EducatnA.rpt", "Needs Analysis for Education Including Amortisation"};
     return {"\\Educatin.rpt", "Needs Analysis for Education"};
 }
 

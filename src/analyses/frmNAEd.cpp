@@ -5,6 +5,7 @@
 #include "analyses/amounts.h"
 #include "analyses/educationreport.h"
 #include "analyses/frmKinds.h"
+#include "analyses/premium.h"
 #include "datastore/paths.h"
 #include "reports/frmGraph.h"
 #include "reports/report.h"
@@ -25,17 +26,17 @@ frmNAEd::frmNAEd(Workplace& workplace)
     m_answer->setAccessibleName("What it takes");
     m_ok = okButton();
     showsCalculated(m_answer);
-    body(column(
-        {row({Item(person(), 1), Item(requirements(), 1)}), group("fraAnswers", "Result", m_answer), spring(),
-         row({calculateIt, button("cmdAmort", "A&mortisation", [this] { amortisation(); }),
-              button("cmdNAEDGraph", "&Graph", [this] { graph(); }), disabledButton("cmdPremium", "&Show Premium"),
-              opener("cmdInflation", "&Inflation", "frmInflation"),
-              button("cmdPrint", "&Print",
-                     [this] {
-                         calculate();
-                         m_printPanel->open();
-                     }),
-              spring(), m_ok})}));
+    body(column({row({Item(person(), 1), Item(requirements(), 1)}), group("fraAnswers", "Result", m_answer), spring(),
+                 row({calculateIt, button("cmdAmort", "A&mortisation", [this] { amortisation(); }),
+                      button("cmdNAEDGraph", "&Graph", [this] { graph(); }),
+                      button("cmdPremium", "&Show Premium", [this] { showPremium(); }),
+                      opener("cmdInflation", "&Inflation", "frmInflation"),
+                      button("cmdPrint", "&Print",
+                             [this] {
+                                 calculate();
+                                 m_printPanel->open();
+                             }),
+                      spring(), m_ok})}));
     defaultButton(calculateIt);
     buildPrintPanel();
 }
@@ -74,7 +75,6 @@ QWidget* frmNAEd::requirements() {
 void frmNAEd::buildPrintPanel() {
     auto* amortised = check("Check1", "Include Amor&tisation", m_includeAmort);
     auto* premium = check("Check2", "Include Show Premium", m_includePremium);
-    premium->setEnabled(false); // no premium can be calculated yet
     for (CheckField* choice : {amortised, premium})
         untrackedField(choice);
     m_printPanel = printPanel({amortised, premium}, [this](Destination to) { print(to); });
@@ -123,8 +123,15 @@ void frmNAEd::graph() {
                                 m_analysis.flows.RequiredByYear, m_analysis.points());
 }
 
+void frmNAEd::showPremium() {
+    calculate();
+    carryPremium(m_work.record, m_analysis);
+    m_work.shell.open("frmPremium");
+}
+
 void frmNAEd::print(Destination destination) {
-    const auto printout = feedEducation(m_work.paths.PrintDbPath, m_work.record, m_analysis, m_includeAmort == 1);
+    const auto printout = feedEducation(m_work.paths.PrintDbPath, m_work.record, m_analysis,
+                                        {m_includeAmort == 1, m_includePremium == 1});
     m_work.reports.run(QString::fromStdString(printout.definition), QString::fromStdString(printout.title),
                        destination);
 }

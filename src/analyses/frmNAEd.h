@@ -23,6 +23,7 @@ private:
     void calculate();
     void amortisation();
     void graph();
+    void showPremium();
     void print(screenkit::Destination destination);
 
     assessment::NAEducation& m_needs;

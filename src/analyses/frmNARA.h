@@ -1,6 +1,7 @@
 #pragma once
 
 #include "analyses/frmNeeds.h"
+#include "analyses/premium.h"
 #include "analyses/retirement.h"
 
 namespace analyses {
@@ -19,6 +20,7 @@ protected:
     NeedsAnalysis analyse() override { return analysed(m_needs, NARACalc); }
     void putRight() override { updateYearsToRet(m_needs); }
     void showCorrected() override;
+    void carry(const NeedsAnalysis& analysis) override { carryPremium(m_work.record, analysis); }
     datastore::Printout feed(const NeedsAnalysis& analysis, const NeedsReportOptions& options) override;
 
 private:

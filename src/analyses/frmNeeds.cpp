@@ -29,7 +29,7 @@ void NeedsScreen::build(Pages pages) {
     });
     auto* years = button("cmdAmort", "&Amortisation", [this] { amortisation(); });
     auto* drawIt = button(m_words.graphButton, "&Graph", [this] { graph(); });
-    auto* premium = m_words.premium ? disabledButton("cmdPremium", "&Show Premium") : nullptr;
+    auto* premium = m_words.premium ? button("cmdPremium", "&Show Premium", [this] { showPremium(); }) : nullptr;
     auto* printIt = button("cmdPrint", "&Print", [this] {
         calculate();
         m_printPanel->open();
@@ -111,7 +111,6 @@ void NeedsScreen::buildPrintPanel() {
     if (premium == nullptr) {
         m_printPanel = printPanel({amortised, notes, items, policies}, run);
     } else {
-        premium->setEnabled(false); // no premium can be solved yet
         m_printPanel = printPanel({amortised, premium, notes, items, policies}, run);
     }
 }
@@ -185,8 +184,15 @@ void NeedsScreen::graph() {
                              graphPoints(run, m_analysis.yearsAsked));
 }
 
+void NeedsScreen::showPremium() {
+    calculate();
+    carry(m_analysis);
+    m_work.shell.open("frmPremium");
+}
+
 void NeedsScreen::print(Destination destination) {
-    const datastore::Printout report = feed(m_analysis, {m_includeAmort == 1, m_includeNotes == 1});
+    const datastore::Printout report =
+        feed(m_analysis, {m_includeAmort == 1, m_includeNotes == 1, m_includePremium == 1});
     const bool ran = m_work.reports.run(QString::fromStdString(report.definition), QString::fromStdString(report.title),
                                         destination);
     if (!ran) return; // the user has been told

@@ -18,7 +18,7 @@ struct NeedsWords {
     using Yearly = reports::frmGraph::Yearly;
     void (reports::frmGraph::*graph)(Yearly capital, Yearly interest, Yearly available, Yearly required, int count);
     QString yearHead = " Year "; ///< head of the amortisation's first column
-    bool premium = false;        ///< has a tick box for the premium calculator, disabled until that exists
+    bool premium = false;        ///< has a premium, its button and its tick box; `carry` is overridden
 };
 
 /// The common screen of the three needs analyses: the results on the last page, the amortisation, the graph and the
@@ -50,6 +50,8 @@ protected:
     virtual void showCorrected() = 0;
     /// Writes the report's tables; returns its definition and title.
     virtual datastore::Printout feed(const NeedsAnalysis& analysis, const NeedsReportOptions& options) = 0;
+    /// Carries the capital to provide into the client's premium.
+    virtual void carry(const NeedsAnalysis&) {}
     /// Runs an analysis that may write into a group; if it did, marks the client as changed, since the file has other
     /// figures.
     template <class Group>
@@ -74,6 +76,7 @@ private:
     void announceAnswer();
     void amortisation();
     void graph();
+    void showPremium();
     void print(screenkit::Destination destination);
 
     NeedsWords m_words;

@@ -34,11 +34,17 @@ bool canBeTold(const NeedsAnalysis& analysis) {
 
 } // namespace
 
+std::optional<double> NeedsAnalysis::capitalToProvide() const {
+    if (!isFinite || (sought == CapitalSought::more && !found.solved)) return {};
+    return CapitalSolved - NetCapital;
+}
+
 void runAndSearch(NeedsAnalysis& analysis, const NeedsRules& rules, const CapitalRun& run, bool isFinite) {
     analysis.run = run(analysis.NetCapital);
     search(analysis, rules.steps, run);
     say(analysis, rules.sentences);
-    if (!isFinite || !canBeTold(analysis)) analysis.txtAns1 = analysis.txtAns2 = noFigure;
+    analysis.isFinite = isFinite && canBeTold(analysis);
+    if (!analysis.isFinite) analysis.txtAns1 = analysis.txtAns2 = noFigure;
 }
 
 void capRates(double& inflation, double& investment) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -29,8 +30,11 @@ struct NeedsAnalysis {
     CapitalSought sought = CapitalSought::less; ///< `less` if the capital suffices for the years asked for
     CapitalFound found;
     double CapitalSolved = 0; ///< the capital that just suffices; 0 if the search found none
+    bool isFinite = true;     ///< false if figures are too large to calculate with; both sentences say so
     std::string txtAns1, txtAns2;
 
+    /// What must be added to the net capital, rand; below 0 is a surplus. Nothing if no capital was found.
+    std::optional<double> capitalToProvide() const;
     /// Monthly excess (above 0) or shortfall (below 0) in the first year.
     double monthlyDifference() const { return monthlyAvailable - IncomeReqFV; }
     /// The amortisation's lines.

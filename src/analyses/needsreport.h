@@ -13,6 +13,7 @@ namespace analyses {
 struct NeedsReportOptions {
     bool amortised = false; ///< the year-by-year table
     bool notes = false;
+    bool premium = false; ///< if one is solved; reports without a premium leave it out
 };
 
 /// Where the reports differ: their table, their captions, and the definitions and titles that they run under.

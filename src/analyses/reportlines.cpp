@@ -8,14 +8,24 @@ datastore::Row notesLines(bool included, const std::string& notes) {
             {"Notes", included ? notes : std::string()}};
 }
 
-datastore::Row noPremium() {
-    datastore::Row row;
-    for (const char* text : {"PremHeading", "PremGRText", "PremPEscText", "ALTEMVText", "PremPeriodText", "PremAnsText",
-                             "PremColonText", "PremPAText", "PremYears"})
-        row.push_back({text, ""});
-    for (const char* number : {"PremGR", "PremPEsc", "ALTEMV", "PremPeriod", "PremAns"})
-        row.push_back({number, 0});
-    return row;
+datastore::Row premiumLines(bool included, const assessment::CapitalPremium& premium,
+                            const finance::PremiumWords& words) {
+    const auto text = [included](const char* said) { return included ? said : ""; };
+    const auto figure = [included](double value) { return included ? value : 0; };
+    return {{"PremHeading", text("Premium Calculation (Using Unit Trust)")},
+            {"ALTEMVText", text("Maturity value required")},
+            {"ALTEMV", figure(premium.PremTarget)},
+            {"PremPeriodText", text(finance::isReduced(premium) ? words.reducedPeriod : words.period)},
+            {"PremPeriod", figure(premium.PremTerm)},
+            {"PremGRText", text("Growth rate")},
+            {"PremGR", figure(premium.PremGrowth)},
+            {"PremPEscText", text(words.escalation)},
+            {"PremPEsc", figure(premium.PremEscalation)},
+            {"PremAnsText", text(words.answer)},
+            {"PremAns", figure(premium.premium)},
+            {"PremColonText", text(":")},
+            {"PremPAText", text("% p.a.")},
+            {"PremYears", text("year/s")}};
 }
 
 std::vector<datastore::Row> amortisationRows(const std::vector<ShownYear>& years) {

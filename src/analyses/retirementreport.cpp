@@ -1,12 +1,17 @@
 #include "analyses/retirementreport.h"
 
+#include "analyses/premium.h"
 #include "analyses/reportlines.h"
 
 namespace analyses {
 
 namespace {
 
-datastore::Row ownLines(const assessment::NARetirement& needs, bool notes) {
+datastore::Row ownLines(const assessment::Assessment& record, const RetirementAnalysis& analysis,
+                        const NeedsReportOptions& options) {
+    const assessment::NARetirement& needs = record.retirement;
+    const assessment::CapitalPremium& premium = record.premiums.retirement;
+    const bool isSolved = finance::isSolvedFor(premium, analysis.capitalToProvide(), yearsUntilNeeded(needs));
     datastore::Row row{{"PDV", needs.IncomePD},
                        {"CurrentAge", needs.CurrAge},
                        {"AgeRetiment", needs.AgeRetiment},
@@ -25,7 +30,8 @@ datastore::Row ownLines(const assessment::NARetirement& needs, bool notes) {
                        {"ANSLLib3", needs.ANSLLib3},
                        {"ANSLLib4", needs.ANSLLib4},
                        {"ANSLLib5", needs.ANSLLib5}};
-    for (const datastore::Row& more : {noPremium(), notesLines(notes, needs.RANotes)})
+    for (const datastore::Row& more : {premiumLines(options.premium && isSolved, premium, finance::retirementPremium),
+                                       notesLines(options.notes, needs.RANotes)})
         row.insert(row.end(), more.begin(), more.end());
     return row;
 }
@@ -41,7 +47,7 @@ datastore::Printout feedRetirement(const std::filesystem::path& printDbPath, con
         .worth = "Net worth for investment : ",
         .plain = {"\\Retirem.rpt", "Needs Analysis for Retirement "},
         .amortised = {"\\RetiremA.rpt", "Needs Analysis for Retirement Including Amortisation"}};
-    return feedNeeds(printDbPath, record.client, analysis, ownLines(record.retirement, options.notes), rules, options);
+    return feedNeeds(printDbPath, record.client, analysis, ownLines(record, analysis, options), rules, options);
 }
 
 } // namespace analyses

@@ -73,6 +73,32 @@ struct PremiumQuote {
     bool operator==(const PremiumQuote&) const = default;
 };
 
+/// The monthly unit-trust premium for the capital of one needs analysis: what the analysis carried in, what the premium
+/// screen holds, and the answer. Kept until the next client, never stored.
+struct CapitalPremium {
+    double capital = 0;        ///< carried in, rand; 0 or less if none is needed
+    double years = 0;          ///< carried in: until the capital is needed, may be above 50
+    std::int16_t isFound = 0;  ///< carried in: 1 if the analysis found a capital
+    double PremTarget = 0;     ///< rand
+    std::int16_t PremTerm = 0; ///< years, at most 50
+    double PremGrowth = 0;
+    double PremEscalation = 0;
+    std::int16_t isSolved = 0; ///< 1 if `premium` is the answer for the four figures above and for `capital`
+    double premium = 0;        ///< rand a month
+
+    bool operator==(const CapitalPremium&) const = default;
+};
+
+/// A premium for each analysis that asks for one.
+struct CapitalPremiums {
+    std::int16_t source = 1; ///< whose premium the screen shows: 1 education, 2 retirement
+    CapitalPremium education, retirement;
+
+    CapitalPremium& shown() { return source == 2 ? retirement : education; }
+
+    bool operator==(const CapitalPremiums&) const = default;
+};
+
 /// A level-payment loan with one unknown. Saved with the client.
 struct Loans {
     std::string Heading = "Monthly repayment"; ///< names the unknown among the four
@@ -313,6 +339,7 @@ struct Assessment {
     DebtConsolidation debts;
     KwikQuotes quotes;
     PremiumQuote premiumQuote;
+    CapitalPremiums premiums;
     Loans loans;
     NADeath death;
     NAEducation education;

@@ -12,6 +12,7 @@
 #include "calculators/frmLifeOfCap.h"
 #include "calculators/frmLoans.h"
 #include "calculators/frmOffShore.h"
+#include "calculators/frmPremium.h"
 #include "client/frmPersDet.h"
 #include "client/frmPolInvest.h"
 #include "datastore/frmBrowse.h"
@@ -44,6 +45,7 @@ constexpr ScreenEntry entries[] = {
     {"frmLifeOfCap", build<calculators::frmLifeOfCap>, "Life of capital"},
     {"frmInvestComp", build<calculators::frmInvestComp>, "Investment comparison"},
     {"frmLoans", build<calculators::frmLoans>, "The loan calculator"},
+    {"frmPremium", build<calculators::frmPremium>, "The premium for a capital"},
     {"frmOffShore", build<calculators::frmOffShore>, "Offshore investments"},
     {"frmHeadFoot", build<reports::frmHeadFoot>, "Your header and footer lines"},
     {"frmGraph", build<reports::frmGraph>, "Graphs"},

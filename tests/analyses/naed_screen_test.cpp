@@ -52,7 +52,6 @@ TEST_F(NAEd, EveryControlHoldsItsFieldAndItsPlaceInTheReport) {
     EXPECT_EQ(run.inPrint("SELECT count(*) FROM Amort"), "0") << "left alone while it is not asked for";
     run.type("numInvestRate", "0");
     run.click("cmdPrint"); // calculates first
-    EXPECT_FALSE(run.control("Check2")->isEnabled());
     run.click("Check1");
     run.click("cmdVR");
     EXPECT_EQ(run.program.reports().previews().back()->windowTitle(),
@@ -87,7 +86,6 @@ TEST_F(NAEd, TableAndGraphShowTheYearsAndChangeNothing) {
     EXPECT_EQ(run.front()->objectName(), "frmNAEd");
     EXPECT_EQ(RunningProgram::focused(), "cmdOK");
     EXPECT_EQ(run.shown("txtAns"), "");
-    EXPECT_FALSE(run.control("cmdPremium")->isEnabled());
     run.click("cmdInflation");
     EXPECT_EQ(run.front()->objectName(), "frmInflation");
 }

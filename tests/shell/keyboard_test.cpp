@@ -51,6 +51,7 @@ const std::vector<Place> places{
     {"mnuLifeOfCap", "cmdPrint"},
     {"mnuInvestComp", ""},
     {"mnuInvestComp", "cmdPrint"},
+    {"mnuNAEd", "cmdPremium"},
     {"mnuOffShore", ""},
     {"mnuOffShore", "cmdPrint"},
     {"mnuQuickTax", ""},
