@@ -85,11 +85,17 @@ void showNeeds(Hands& hands, const QString& look) {
         hands.turnTo("txtAns1");
         picture(&hands.window(), name + ("net-worth-" + look));
     }
-    for (const auto& [item, name] :
-         {std::pair{"mnuNAEd", "education-"}, {"mnuInflation", "inflation-"}, {"mnuLifeOfCap", "life-of-capital-"}}) {
+    for (const auto& [item, name] : {std::pair{"mnuNAEd", "education-"},
+                                     {"mnuInflation", "inflation-"},
+                                     {"mnuLifeOfCap", "life-of-capital-"},
+                                     {"mnuInvestComp", "investment-comparison-"},
+                                     {"mnuOffShore", "offshore-"}}) {
         hands.menu({"mnuCalc", item});
         picture(&hands.window(), name + look);
     }
+    hands.menu({"mnuCalc", "mnuNAEd"});
+    hands.click("cmdPremium");
+    picture(&hands.window(), "premium-" + look);
 }
 
 } // namespace tour

@@ -49,7 +49,8 @@ void exportPdf(Hands& hands, const QString& name);
 /// Shows the client's loan again, for a picture with another palette or scale.
 void showLoan(Hands& hands, const QString& pictureName);
 
-/// The client's needs analyses but retirement, inflation and life of capital once more, the same way.
+/// The client's needs analyses but retirement, the premium, and the calculators beside the loans once more, the same
+/// way.
 void showNeeds(Hands& hands, const QString& look);
 
 } // namespace tour
