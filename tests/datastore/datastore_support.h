@@ -1,9 +1,6 @@
 #pragma once
 
 #include <cmath>
-#include <cstring>
-#include <functional>
-#include <map>
 #include <string>
 #include <vector>
 
@@ -12,7 +9,6 @@
 #include "datastore/create.h"
 #include "datastore/load.h"
 #include "datastore/paths.h"
-#include "datastore/shipped.h"
 #include "datastore/startup.h"
 #include "datastore/upgrade.h"
 #include "store/store_support.h"
@@ -23,6 +19,7 @@ namespace fs = std::filesystem;
 using assessment::Assessment;
 using storetest::errorOf;
 using storetest::modeOf;
+using storetest::rowsOf;
 
 inline void runSql(const fs::path& file, const std::string& sql) {
     store::Database database(file);
@@ -31,34 +28,12 @@ inline void runSql(const fs::path& file, const std::string& sql) {
     transaction.commit();
 }
 
-/// The bytes of a database, created only once: creating one for each test would take longer than the test.
-struct Template {
-    explicit Template(const std::function<void(const fs::path&)>& make) {
-        const storetest::Folder folder;
-        make(folder / "file");
-        bytes = storetest::bytesOf(folder / "file");
-    }
-    std::string bytes;
-};
-
 /// A program folder with the shipped databases that a start needs.
 class ProgramFolder : public storetest::Folder {
 public:
     ProgramFolder() {
-        static const Template settings([](const fs::path& file) {
-            std::string rates;
-            int number = 0;
-            for (const auto& line : assessment::mutualFundsTable().fields())
-                rates += (rates.empty() ? "" : ",") + line.name + "=" + std::to_string(++number) + ".5";
-            store::Database::create(file);
-            runSql(file, std::string(datastore::defaultSource()) + "UPDATE MutualFunds SET " + rates);
-        });
-        static const Template print([](const fs::path& file) {
-            store::Database::create(file);
-            runSql(file, std::string(datastore::printSource()) + "UPDATE HeadFoot SET HEADERV0='old'");
-        });
-        storetest::put(path() / "Default.Mdb", settings.bytes);
-        storetest::put(path() / "Print.mdb", print.bytes);
+        for (const char* name : {"Default.Mdb", "Print.mdb"})
+            fs::copy_file(fs::path(MARLOWBECK_DATABASE_DIR) / name, path() / name);
     }
     datastore::Paths paths() const {
         return {path(),
@@ -71,53 +46,27 @@ public:
     void run(const std::string& name, const std::string& sql) const { runSql(path() / name, sql); }
     /// Creates the client database with all tables and no client, as a start does.
     void makeClientDb(double version = datastore::currentVersion) const {
-        static const Template clients([](const fs::path& file) {
-            datastore::createClientDb(file);
-            runSql(file, "UPDATE DataSetup SET UpDateDB=" + std::to_string(datastore::currentVersion));
-        });
-        storetest::put(path() / "Data.Mdb", clients.bytes);
+        static const std::string clients = [] { // made once: that takes longer than most tests
+            const storetest::Folder folder;
+            datastore::createClientDb(folder / "file");
+            runSql(folder / "file", "UPDATE DataSetup SET UpDateDB=" + std::to_string(datastore::currentVersion));
+            return storetest::bytesOf(folder / "file");
+        }();
+        storetest::put(path() / "Data.Mdb", clients);
         if (version != datastore::currentVersion)
             run("Data.Mdb", "UPDATE DataSetup SET UpDateDB=" + std::to_string(version));
     }
 };
 
-/// The first cell of a query's result as text; "none" without a row.
-inline std::string cell(const fs::path& path, const std::string& sql) {
-    store::Database database(path);
-    store::Statement select = database.prepare(sql);
-    if (!select.step()) return "none";
-    const store::Value value = select.column(0);
-    if (store::isNull(value)) return "Null";
-    if (const double* number = std::get_if<double>(&value)) {
-        char text[40];
-        std::snprintf(text, sizeof text, "%.17g", *number);
-        return text;
-    }
-    return std::get<std::string>(value);
-}
-
-/// The version of an up-to-date client database as `cell` shows it.
+/// The version of an up-to-date client database as `rowsOf` shows it.
 inline const std::string current = std::to_string(static_cast<int>(datastore::currentVersion));
 
 /// The definition and rows of every table, to compare two states of a file.
 inline std::string dump(const fs::path& path) {
     store::Database database(path);
-    std::string text;
-    std::vector<std::string> queries{"SELECT name, sql FROM sqlite_master ORDER BY name"};
-    store::Statement tables = database.prepare("SELECT name FROM sqlite_master WHERE type='table' ORDER BY name");
-    while (tables.step())
-        queries.push_back("SELECT rowid, * FROM " + store::bracketed(tables.text(0)));
-    for (const std::string& query : queries) {
-        store::Statement rows = database.prepare(query);
-        while (rows.step()) {
-            for (int column = 0; column < rows.columnCount(); ++column) {
-                const store::Value value = rows.column(column);
-                const double* number = std::get_if<double>(&value);
-                text += "|" + (number != nullptr ? std::to_string(*number) : rows.text(column));
-            }
-            text += "\n";
-        }
-    }
+    std::string text = rowsOf(database, "SELECT name, sql FROM sqlite_master ORDER BY name");
+    for (const std::string& table : storetest::tablesOf(database))
+        text += "\n" + rowsOf(database, "SELECT rowid, * FROM " + store::bracketed(table));
     return text;
 }
 
@@ -235,7 +184,7 @@ protected:
         return errorOf([&] { start(); });
     }
     void run(const std::string& sql) const { runSql(file, sql); }
-    std::string in(const std::string& sql) const { return cell(file, sql); }
+    std::string in(const std::string& sql) const { return rowsOf(file, sql); }
 
     ProgramFolder folder;
     const fs::path file = folder / "Data.Mdb", print = folder / "Print.mdb", settings = folder / "Default.Mdb";

@@ -7,8 +7,9 @@ namespace {
 
 using namespace datastoretest;
 
-std::string tablesOf(const fs::path& file) {
-    return cell(file, "SELECT group_concat(sql) FROM (SELECT sql FROM sqlite_master WHERE type='table' ORDER BY name)");
+std::string declaredIn(const fs::path& file) {
+    return rowsOf(file,
+                  "SELECT group_concat(sql) FROM (SELECT sql FROM sqlite_master WHERE type='table' ORDER BY name)");
 }
 
 using Shipped = StartTest;
@@ -16,7 +17,7 @@ using Shipped = StartTest;
 TEST_F(Shipped, PrintMdbIsMadeAnewWhereItsTablesAreOthers) {
     start();
     run("UPDATE HeadFoot SET HEADERV0='The practice'");
-    const std::string shipped = tablesOf(print);
+    const std::string shipped = declaredIn(print);
     for (const char* older :
          {"ALTER TABLE Loans DROP COLUMN Num4", "DROP TABLE Amort", "ALTER TABLE IRP5Mon ADD COLUMN More DOUBLE",
           "CREATE TABLE Another(A)", "ALTER TABLE kwiktax RENAME AGE TO Years", "damaged", "no database"}) {
@@ -30,11 +31,11 @@ TEST_F(Shipped, PrintMdbIsMadeAnewWhereItsTablesAreOthers) {
         storetest::put(folder / "Print.mdb-journal", "of the old file");
         storetest::put(folder / ".Print.mdb.new", "of a killed start");
         start();
-        EXPECT_EQ(tablesOf(print), shipped) << older;
-        EXPECT_EQ(cell(print, "SELECT HEADERV0||footv0 FROM HeadFoot"),
+        EXPECT_EQ(declaredIn(print), shipped) << older;
+        EXPECT_EQ(rowsOf(print, "SELECT HEADERV0||footv0 FROM HeadFoot"),
                   "The practiceThis report was prepared in accordance with ")
             << older;
-        EXPECT_EQ(cell(print, "SELECT count(*) FROM PAYESetup"), "1") << older; // tables that are shipped with a row
+        EXPECT_EQ(rowsOf(print, "SELECT count(*) FROM PAYESetup"), "1") << older; // tables that are shipped with a row
         EXPECT_FALSE(fs::exists(folder / ".Print.mdb.new"));
     }
     const auto written = fs::last_write_time(print);
@@ -47,7 +48,7 @@ TEST_F(Shipped, PrintMdbOfAnOldClientDatabaseGetsTheLinesWithItsUpgrade) {
     run("DROP TABLE HeadFoot");
     folder.run("Print.mdb", "DROP TABLE Amort");
     start();
-    EXPECT_EQ(cell(print, "SELECT footv0 FROM HeadFoot"), "This report was prepared in accordance with ");
+    EXPECT_EQ(rowsOf(print, "SELECT footv0 FROM HeadFoot"), "This report was prepared in accordance with ");
 }
 
 TEST_F(Shipped, SettingsAreCompletedAndTheUsersOwnKept) {
@@ -60,7 +61,7 @@ TEST_F(Shipped, SettingsAreCompletedAndTheUsersOwnKept) {
           {"ALTER TABLE livann DROP COLUMN MinIncAllowed; DELETE FROM livann", "SELECT count(*) FROM livann", "0"}}) {
         folder.run("Default.Mdb", older);
         start();
-        EXPECT_EQ(cell(settings, asked), expected) << older;
+        EXPECT_EQ(rowsOf(settings, asked), expected) << older;
         const std::string completed = dump(settings);
         start();
         EXPECT_EQ(dump(settings), completed) << older;

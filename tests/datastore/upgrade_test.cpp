@@ -35,7 +35,7 @@ TEST_F(UpgradeTest, EachVersionIsUpgradedToTheCurrentOneAtOnce) {
             EXPECT_EQ(incomeDrawn(1), rand) << before;
         }
         EXPECT_EQ(std::stod(in("SELECT UpDateDB FROM DataSetup")), std::max(before, datastore::currentVersion));
-        EXPECT_EQ(cell(print, "SELECT HEADERV0 FROM HeadFoot"), printLine) << before;
+        EXPECT_EQ(rowsOf(print, "SELECT HEADERV0 FROM HeadFoot"), printLine) << before;
     }
 }
 
@@ -75,7 +75,8 @@ TEST_F(UpgradeTest, NothingIsStampedOrConvertedUntilPrintMdbHasTheLines) {
     fs::rename(folder / "away", print);
     EXPECT_EQ(version(), datastore::currentVersion);
     EXPECT_EQ(incomeDrawn(1), "80");
-    EXPECT_EQ(cell(print, "SELECT HEADERV0||footv0 FROM HeadFoot"), "newThis report was prepared in accordance with ");
+    EXPECT_EQ(rowsOf(print, "SELECT HEADERV0||footv0 FROM HeadFoot"),
+              "newThis report was prepared in accordance with ");
     fs::remove(print);
     EXPECT_EQ(version(), datastore::currentVersion); // an up-to-date file does not need Print.mdb
 }
@@ -116,10 +117,10 @@ TEST_F(UpgradeTest, HeaderAndFooterLinesGoToBothDatabases) {
     lines.FootV[0] = "Êksteen";
     EXPECT_EQ(writeError(lines), 0);
     EXPECT_EQ(datastore::readHeadFoot(folder.paths()).HeaderV, lines.HeaderV);
-    EXPECT_EQ(cell(print, "SELECT HEADERV3||footv0 FROM HeadFoot"), lines.HeaderV[3] + "Êksteen");
+    EXPECT_EQ(rowsOf(print, "SELECT HEADERV3||footv0 FROM HeadFoot"), lines.HeaderV[3] + "Êksteen");
     folder.run("Print.mdb", "DELETE FROM HeadFoot");
     EXPECT_EQ(writeError(lines), 0); // adds the row
-    EXPECT_EQ(cell(print, "SELECT count(*) FROM HeadFoot"), "1");
+    EXPECT_EQ(rowsOf(print, "SELECT count(*) FROM HeadFoot"), "1");
     lines.FootV[0] = std::string(81, 'x');
     EXPECT_EQ(writeError(lines), 3163);
     fs::remove(print);

@@ -145,19 +145,10 @@ TEST(Toolbar, TwoScreensAreCascadedAfterACommandOfItsOwnOrOfItsPopUpsOnly) {
 }
 
 TEST(Toolbar, IsDisabledWhileBrowseOrSaveAsIsOpenHoweverTheyClose) {
-    const auto cancels = [](RunningProgram& run) { run.click("cmdCancel"); };
-    const auto closes = [](RunningProgram& run) { run.front()->parentWidget()->close(); };
-    const auto picks = [](RunningProgram& run) {
-        run.enter("txtSearch", "Botha");
-        run.key(Qt::Key_Return);
-    };
     const std::tuple<const char*, const char*, std::function<void(RunningProgram&)>> roads[] = {
-        {"mnuBrowse", "frmBrowse", cancels},
-        {"mnuBrowse", "frmBrowse", closes},
         {"mnuBrowse", "frmBrowse", [](RunningProgram& run) { run.menu("mnuNewFile"); }},
-        {"mnuBrowse", "frmBrowse", picks},
-        {"mnuSaveAs", "frmSaveFileAs", cancels},
-        {"mnuSaveAs", "frmSaveFileAs", closes},
+        {"mnuBrowse", "frmBrowse", [](RunningProgram& run) { run.loadClient("Botha"); }},
+        {"mnuSaveAs", "frmSaveFileAs", [](RunningProgram& run) { run.front()->parentWidget()->close(); }},
         {"mnuSaveAs", "frmSaveFileAs", [](RunningProgram& run) { run.click("cmdOK"); }},
     };
     RunningProgram run;

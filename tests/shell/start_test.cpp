@@ -3,8 +3,6 @@
 
 #include <QProcess>
 #include <QScreen>
-#include <csignal>
-#include <sys/wait.h>
 
 #include "reports/report.h"
 #include "shell/instance.h"
@@ -19,6 +17,10 @@ TEST(Start, FirstRunMakesTheClientFileAndStandsIdle) {
     EXPECT_TRUE(fs::exists(run.folder / "Data.Mdb"));
     EXPECT_EQ(storetest::bytesOf(run.folder / "DataPath.txt"), "\"" + (run.folder / "Data.Mdb").string() + "\"\r\n");
     EXPECT_TRUE(run.window().isVisible());
+    EXPECT_TRUE(run.window().windowTitle().endsWith(" Version : 1.00.000"));
+    EXPECT_EQ(QRect(run.window().pos(), run.window().size()),
+              shell::startGeometry(QGuiApplication::primaryScreen()->availableGeometry()));
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
     EXPECT_TRUE(run.window().screens().isEmpty());
     EXPECT_EQ(run.record().ClientOnFile, 0);
     EXPECT_EQ(run.record().changed.InflationChanged, 0);
@@ -36,89 +38,36 @@ TEST(Start, SecondInstanceIsRefusedBeforeAnyFileIsTouched) {
     EXPECT_FALSE(fs::exists(second.folder / "Data.Mdb"));
 }
 
-TEST(Start, WindowHasItsCaptionSizeAndPlace) {
-    RunningProgram run;
-    EXPECT_TRUE(run.window().windowTitle().startsWith("Marlowbeck"));
-    EXPECT_TRUE(run.window().windowTitle().endsWith(" Version : 1.00.000"));
-    EXPECT_EQ(QRect(run.window().pos(), run.window().size()),
-              shell::startGeometry(QGuiApplication::primaryScreen()->availableGeometry()));
-    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
-}
-
 using shelltest::ProgramFolder;
 using storetest::put;
 
-/// Damage to a program folder that was started once, and the file that the message must name.
-struct Fault {
-    const char* file;
-    std::function<void(const ProgramFolder&, std::unique_ptr<store::Database>& other)> make;
-    const char* number;
-};
-
-const std::vector<Fault> faults{
-    {"Data.Mdb", [](const auto& folder, auto&) { put(folder / "Data.Mdb", "Dear Sir, thank you for your letter."); },
-     "3343"},
-    {"Data.Mdb", [](const auto& folder, auto&) { put(folder / "Data.Mdb", ""); }, "3343"},
-    {"share/Data.Mdb", // a network drive that is not mounted
-     [](const auto& folder, auto&) { put(folder / "DataPath.txt", (folder / "share/Data.Mdb").string()); }, "3044"},
-    {"Default.Mdb", [](const auto& folder, auto&) { fs::remove(folder / "Default.Mdb"); }, "3024"},
-    {"Print.mdb", // before the first client is saved
-     [](const auto& folder, auto&) {
-         fs::remove(folder / "Print.mdb");
-         fs::remove(folder / "Data.Mdb");
-     },
-     "3024"},
-    {"Data.Mdb", // another program is using it
-     [](const auto& folder, auto& other) {
-         other = std::make_unique<store::Database>(folder / "Data.Mdb");
-         other->execute("BEGIN EXCLUSIVE");
-     },
-     "3356"},
-};
-
 TEST(Start, EndsWithABoxThatNamesTheFileAndTheError) {
-    const storetest::Folder earlier;
-    fs::copy_file(RunningProgram().folder / "Data.Mdb", earlier / "Data.Mdb");
-    for (const Fault& fault : faults) {
-        SCOPED_TRACE(testing::Message() << fault.file << ' ' << fault.number);
-        RunningProgram run(false);
-        fs::copy_file(earlier / "Data.Mdb", run.folder / "Data.Mdb");
-        std::unique_ptr<store::Database> other;
-        fault.make(run.folder, other);
-        const std::string before = storetest::bytesOf(run.folder / "Data.Mdb");
-        const auto box = run.desk.told([&] { EXPECT_FALSE(run.start()); });
-        EXPECT_FALSE(run.program.refused());
-        EXPECT_EQ(box.title, "Marlowbeck");
-        EXPECT_EQ(box.style, screenkit::BoxStyle::critical);
-        EXPECT_TRUE(box.text.contains(fault.file)) << box.text.toStdString();
-        EXPECT_TRUE(box.text.endsWith(QString("(%1)").arg(fault.number))) << box.text.toStdString();
-        EXPECT_TRUE(before.empty() || storetest::bytesOf(run.folder / "Data.Mdb") == before);
-        EXPECT_FALSE(fs::exists(run.folder / "share"));
-    }
-}
-
-void eachTable(const fs::path& file, const std::function<void(store::Database&, const std::string& table)>& action) {
-    store::Database database(file);
-    std::vector<std::string> names;
-    store::Statement tables = database.prepare("SELECT name FROM sqlite_master WHERE type='table'");
-    while (tables.step())
-        names.push_back(tables.text(0));
-    for (const std::string& name : names)
-        action(database, name);
+    RunningProgram run(false);
+    const std::string letter = "Dear Sir, thank you for your letter.";
+    put(run.folder / "Data.Mdb", letter);
+    const auto box = run.desk.told([&] { EXPECT_FALSE(run.start()); });
+    EXPECT_FALSE(run.program.refused());
+    EXPECT_EQ(box.title, "Marlowbeck");
+    EXPECT_EQ(box.style, screenkit::BoxStyle::critical);
+    EXPECT_TRUE(box.text.contains("Data.Mdb")) << box.text.toStdString();
+    EXPECT_TRUE(box.text.endsWith("(3343)")) << box.text.toStdString();
+    EXPECT_EQ(storetest::bytesOf(run.folder / "Data.Mdb"), letter);
 }
 
 TEST(Start, YesterdaysProgramFolderRunsEveryReportOfToday) {
     RunningProgram run(false);
-    for (const char* file : {"Print.mdb", "Default.Mdb"})
-        eachTable(run.folder / file, [](store::Database& database, const std::string& table) {
+    for (const char* file : {"Print.mdb", "Default.Mdb"}) {
+        store::Database database(run.folder / file);
+        for (const std::string& table : storetest::tablesOf(database)) {
             const auto columns = database.columns(table);
             if (columns.size() > 1)
                 database.execute("ALTER TABLE [" + table + "] DROP COLUMN [" + columns[columns.size() / 2].name + "]");
-        });
+        }
+    }
     ASSERT_TRUE(run.start());
-    eachTable(run.folder / "Print.mdb", [](store::Database& database, const std::string& table) {
-        database.execute("INSERT INTO [" + table + "] DEFAULT VALUES");
-    });
+    store::Database print(run.folder / "Print.mdb");
+    for (const std::string& table : storetest::tablesOf(print))
+        print.execute("INSERT INTO [" + table + "] DEFAULT VALUES");
     int reports = 0;
     for (const auto& entry : fs::directory_iterator(run.folder.path())) {
         if (entry.path().extension() != ".rpt") continue;
@@ -175,42 +124,18 @@ TEST(Start, WithoutADisplaySaysSoInOneLineAndAnswersWhatNeedsNone) {
     EXPECT_EQ(runBare({"--help"}).code, 0);
 }
 
-/// Another process of this user that is the running instance until it is killed.
-class OtherProcess {
-public:
-    explicit OtherProcess(const std::string& name) {
-        int ready[2];
-        EXPECT_EQ(::pipe(ready), 0);
-        m_process = ::fork();
-        if (m_process == 0) {
-            const shell::Instance held(name);
-            const char answer = held.isFirst() ? '1' : '0';
-            if (::write(ready[1], &answer, 1) != 1) ::_exit(1);
-            for (;;)
-                ::pause();
-        }
-        char answer = 0;
-        EXPECT_EQ(::read(ready[0], &answer, 1), 1);
-        EXPECT_EQ(answer, '1');
-        ::close(ready[0]);
-        ::close(ready[1]);
-    }
-    void kill() {
-        ::kill(m_process, SIGKILL);
-        ::waitpid(m_process, nullptr, 0);
-    }
-
-private:
-    pid_t m_process;
-};
-
 TEST(Instance, IsHeldByOneProcessUntilItDiesHoweverItDies) {
     const std::string name = "marlowbeck-instance-" + std::to_string(::getpid());
-    OtherProcess first(name);
-    for (int attempt = 1; attempt <= 12; ++attempt) // refused starts are never accepted
-        EXPECT_FALSE(shell::Instance(name).isFirst()) << attempt;
-    EXPECT_TRUE(shell::Instance(name + "-else").isFirst());
-    first.kill();
+    const auto holdsIt = [&](auto ready) {
+        const shell::Instance held(name);
+        if (held.isFirst()) ready();
+        ::pause();
+    };
+    storetest::runAndKill(holdsIt, [&] {
+        for (int attempt = 1; attempt <= 12; ++attempt) // refused starts are never accepted
+            EXPECT_FALSE(shell::Instance(name).isFirst()) << attempt;
+        EXPECT_TRUE(shell::Instance(name + "-else").isFirst());
+    });
     EXPECT_TRUE(shell::Instance(name).isFirst());
 }
 

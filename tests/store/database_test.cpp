@@ -3,14 +3,11 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <sys/stat.h>
 
-#include <limits>
-
 #include "store/store_support.h"
 
 using namespace storetest;
 using store::Database;
 using store::Transaction;
-using store::Value;
 
 namespace {
 
@@ -24,12 +21,7 @@ protected:
                                "INSERT INTO Loans VALUES ('Êksteen', 1, 2, 3)");
         return path;
     }
-    static double number(const fs::path& path, const std::string& sql) {
-        Database database(path);
-        store::Statement statement = database.prepare(sql);
-        EXPECT_TRUE(statement.step());
-        return statement.number(0);
-    }
+    static std::string num1(const fs::path& path) { return rowsOf(path, "SELECT Num1 FROM Loans"); }
     static int opening(const fs::path& path) {
         return errorOf([&] { Database database(path); });
     }
@@ -83,7 +75,7 @@ TEST_F(DatabaseFile, EachMissingPermissionHasItsOwnError) {
     const fs::path path = made();
     const OrdinaryUser user(folder);
     ::chmod(path.c_str(), 0400);
-    EXPECT_EQ(number(path, "SELECT Num1 FROM Loans"), 1);
+    EXPECT_EQ(num1(path), "1");
     EXPECT_EQ(writing(path), 3027);
     EXPECT_EQ(errorOf([&] {
                   Database database(path);
@@ -94,7 +86,7 @@ TEST_F(DatabaseFile, EachMissingPermissionHasItsOwnError) {
     EXPECT_EQ(opening(path), 3051);
     ::chmod(path.c_str(), 0600);
     ::chmod(folder.path().c_str(), 0500); // no journal can be created
-    EXPECT_EQ(number(path, "SELECT Num1 FROM Loans"), 1);
+    EXPECT_EQ(num1(path), "1");
     EXPECT_EQ(writing(path), 3051);
     EXPECT_EQ(errorOf([&] { Database::create(folder / "new.mdb"); }), 3051);
 }
@@ -105,7 +97,7 @@ TEST_F(DatabaseFile, IsHeldByAnother) {
     other.exec("BEGIN EXCLUSIVE");
     EXPECT_EQ(opening(path), 3356);
     other.exec("COMMIT; BEGIN IMMEDIATE");
-    EXPECT_EQ(number(path, "SELECT Num1 FROM Loans"), 1); // a reader is not blocked by a writer
+    EXPECT_EQ(num1(path), "1"); // a reader is not blocked by a writer
     EXPECT_EQ(writing(path), 3356);
 }
 
@@ -148,40 +140,6 @@ TEST_F(DatabaseFile, StatementsFailWithTheNumberOfTheirCause) {
     EXPECT_EQ(errorOf([&] { database.prepare("SELECT 1").bind(2, 1.0); }), 3000);
 }
 
-TEST_F(DatabaseFile, ValuesComeBackBitForBit) {
-    Database database(made());
-    const Value values[] = {0.1 + 0.2,
-                            -36522.0,
-                            std::numeric_limits<double>::denorm_min(),
-                            std::numeric_limits<double>::max(),
-                            std::string("Ṱhoho-Nḓou O'Brien <b>&\"x\""),
-                            std::string(),
-                            Value{}};
-    database.execute("CREATE TABLE Any (A)");
-    store::Statement insert = database.prepare("INSERT INTO [Any] VALUES (?)");
-    for (const Value& value : values)
-        insert.bind(1, value).run();
-    store::Statement select = database.prepare("SELECT A FROM [Any] ORDER BY rowid");
-    for (const Value& value : values) {
-        ASSERT_TRUE(select.step());
-        EXPECT_EQ(select.column(0), value);
-    }
-    EXPECT_FALSE(select.step());
-    EXPECT_FALSE(select.step());
-}
-
-TEST_F(DatabaseFile, NamesWithBlanksAndSlashesWork) {
-    Database database(made());
-    for (const char* name : {"1 yr", "TAXCOM4/2", "1 YR", "num1"})
-        EXPECT_EQ(errorOf([&] { database.prepare("SELECT " + store::bracketed(name) + " FROM Loans"); }), 0) << name;
-    EXPECT_EQ(errorOf([&] { database.prepare("SELECT " + store::bracketed("a]\"b") + " FROM Loans"); }), 3265);
-    const auto columns = database.columns("LOANS");
-    ASSERT_EQ(columns.size(), 4U);
-    EXPECT_EQ(columns[0].declared.size, 80);
-    EXPECT_EQ(columns[2].name, "1 yr");
-    EXPECT_FALSE(database.hasTable("Nowhere"));
-}
-
 TEST_F(DatabaseFile, TransactionIsUndoneUnlessCommitted) {
     const fs::path path = made();
     Database database(path);
@@ -189,20 +147,20 @@ TEST_F(DatabaseFile, TransactionIsUndoneUnlessCommitted) {
         Transaction transaction(database);
         database.execute("UPDATE Loans SET Num1 = 2");
     }
-    EXPECT_EQ(number(path, "SELECT Num1 FROM Loans"), 1);
+    EXPECT_EQ(num1(path), "1");
     EXPECT_EQ(errorOf([&] {
                   Transaction transaction(database);
                   database.execute("UPDATE Loans SET Num1 = 3");
                   database.execute("PRAGMA max_page_count=1; CREATE TABLE Full (A)"); // SQLite rolls this back itself
               }),
               3026);
-    EXPECT_EQ(number(path, "SELECT Num1 FROM Loans"), 1);
+    EXPECT_EQ(num1(path), "1");
     {
         Transaction transaction(database);
         database.execute("UPDATE Loans SET Num1 = 4");
         transaction.commit();
     }
-    EXPECT_EQ(number(path, "SELECT Num1 FROM Loans"), 4);
+    EXPECT_EQ(num1(path), "4");
 }
 
 TEST_F(DatabaseFile, AProcessKilledWhileWritingLeavesTheOldFile) {
@@ -218,7 +176,7 @@ TEST_F(DatabaseFile, AProcessKilledWhileWritingLeavesTheOldFile) {
         ::pause();
     });
     ASSERT_TRUE(fs::exists(path.string() + "-journal"));
-    EXPECT_EQ(number(path, "SELECT Num1 FROM Loans"), 1);
+    EXPECT_EQ(num1(path), "1");
     EXPECT_FALSE(Database(path).hasTable("Big"));
     EXPECT_FALSE(fs::exists(path.string() + "-journal"));
 }

@@ -9,9 +9,12 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <functional>
+#include <iterator>
 #include <optional>
 #include <sstream>
 #include <string>
+#include <vector>
 
 #include "store/database.h"
 #include "store/error.h"
@@ -76,8 +79,7 @@ inline void put(const fs::path& path, const std::string& bytes) { std::ofstream(
 inline unsigned modeOf(const fs::path& path) { return static_cast<unsigned>(fs::status(path).permissions()) & 0777U; }
 
 /// The rows that a query gives, their columns joined by "|", the rows by line breaks; Null is empty.
-inline std::string rowsOf(const fs::path& file, const std::string& sql) {
-    store::Database database(file);
+inline std::string rowsOf(store::Database& database, const std::string& sql) {
     store::Statement rows = database.prepare(sql);
     std::ostringstream text;
     text.precision(17);
@@ -91,6 +93,16 @@ inline std::string rowsOf(const fs::path& file, const std::string& sql) {
         }
     }
     return text.str();
+}
+
+inline std::string rowsOf(const fs::path& file, const std::string& sql) {
+    store::Database database(file);
+    return rowsOf(database, sql);
+}
+
+inline std::vector<std::string> tablesOf(store::Database& database) {
+    std::istringstream names(rowsOf(database, "SELECT name FROM sqlite_master WHERE type='table' ORDER BY name"));
+    return {std::istream_iterator<std::string>(names), {}};
 }
 
 /// The store::Error that an action ends in, if it does.
@@ -111,9 +123,10 @@ int errorOf(Action action) {
     return error ? error->number() : 0;
 }
 
-/// Lets another process act, and kills it so long after it has called what it is given.
+/// Lets another process act until it has called what it is given, then acts meanwhile and kills it.
 template <class Action>
-void runAndKill(Action action, useconds_t microseconds = 0) {
+void runAndKill(
+    Action action, const std::function<void()>& meanwhile = [] {}) {
     int ready[2];
     ASSERT_EQ(::pipe(ready), 0);
     const pid_t child = ::fork();
@@ -128,15 +141,15 @@ void runAndKill(Action action, useconds_t microseconds = 0) {
         }
         ::_exit(1);
     }
+    ::close(ready[1]); // or the reading would wait for ever for a child that ends by itself
     char sign = 0;
     EXPECT_EQ(::read(ready[0], &sign, 1), 1);
-    ::usleep(microseconds);
+    meanwhile();
     ::kill(child, SIGKILL);
     int status = 0;
     ::waitpid(child, &status, 0);
     EXPECT_TRUE(WIFSIGNALED(status)) << "the child ended before it was killed";
     ::close(ready[0]);
-    ::close(ready[1]);
 }
 
 } // namespace storetest
