@@ -3,9 +3,8 @@
 #include <QRadioButton>
 #include <algorithm>
 
-#include "assessment/tables.h"
 #include "base/numberformat.h"
-#include "client/frmPolInvest.h"
+#include "client/bound_controls.h"
 #include "reports/previewwindow.h"
 #include "reports/report.h"
 #include "shell/running_program.h"
@@ -14,6 +13,7 @@ namespace {
 
 using assessment::Policy;
 using screenkit::Answer;
+using namespace clienttest;
 using shelltest::RunningProgram;
 
 /// The screen in front, for a client with this many records, whose types are 1, 2, 3, ...
@@ -45,15 +45,9 @@ const std::vector<std::string> ticks{"WoP",
                                      "InvBensTakeFinValAtRet",
                                      "PaidUp"};
 
-/// Goes through the columns of the schedule: the control's name, the text to type, and the record's value after that.
-struct Typed {
-    const assessment::FieldLine* line;
-    QString control, text;
-    store::Value held;
-};
-
-std::vector<Typed> allControls() {
-    std::vector<Typed> all;
+/// Goes through the columns of the schedule.
+std::vector<BoundControl> allControls() {
+    std::vector<BoundControl> all;
     int number = 10;
     for (const auto& line : assessment::polsInvestsTable().fields()) {
         Policy sample;
@@ -70,11 +64,6 @@ std::vector<Typed> allControls() {
     return all;
 }
 
-QString textIn(QWidget* control) {
-    if (auto* memo = qobject_cast<QPlainTextEdit*>(control)) return memo->toPlainText();
-    return qobject_cast<QLineEdit*>(control)->text().remove(".000").remove(".00");
-}
-
 TEST_F(PolInvest, EveryControlHoldsItsFieldOnScreenInTheRecordAndInTheFile) {
     run.saveClient("Botha");
     open();
@@ -83,21 +72,19 @@ TEST_F(PolInvest, EveryControlHoldsItsFieldOnScreenInTheRecordAndInTheFile) {
     EXPECT_EQ(RunningProgram::focused(), "txtPolInvType");
     run.click("optDeathBen(3)"); // enables its text field
     auto controls = allControls();
-    std::erase_if(controls,
-                  [&](const Typed& each) { return run.front()->findChild<QWidget*>(each.control) == nullptr; });
-    EXPECT_GE(controls.size(), 52u); // a new field may be stored before it has a control
-    for (const Typed& each : controls)
+    keepThoseOn(run.front(), controls);
+    EXPECT_GE(controls.size(), 52u);
+    for (const BoundControl& each : controls)
         run.type(each.control, each.text);
     for (const std::string& name : ticks)
         run.click("chk" + QString::fromStdString(name));
-    const auto expectHeld = [&](Policy& held) {
-        for (const Typed& each : controls)
-            EXPECT_EQ(assessment::valueAt(each.line->at(&held)), each.held) << each.line->name;
+    const auto expectAllHeld = [&](Policy& held) {
+        expectHeld(controls, held);
         for (const std::string& name : ticks)
             EXPECT_EQ(assessment::valueAt(assessment::polsInvestsTable().field(name)->at(&held)), store::Value(1.0));
         EXPECT_EQ(held.DeathBenPerson, 3);
     };
-    expectHeld(policy(2));
+    expectAllHeld(policy(2));
     EXPECT_EQ(policy(1).PolInvType, "1"); // no other record was changed
     EXPECT_EQ(policy(1).DeathBen + policy(1).InvBensMatValLSEscAt, 0);
     EXPECT_EQ(changed(), 1);
@@ -105,11 +92,11 @@ TEST_F(PolInvest, EveryControlHoldsItsFieldOnScreenInTheRecordAndInTheFile) {
     run.menu("mnuSave");
     run.loadClient("Botha");
     run.menu("mnuPolInvests");
-    expectHeld(policy(2));
+    expectAllHeld(policy(2));
     EXPECT_EQ(run.shown("txtPolInvType"), "1");
     run.click("cmdForward");
-    for (const Typed& each : controls)
-        EXPECT_EQ(textIn(run.control(each.control)), each.text) << each.line->name;
+    for (const BoundControl& each : controls)
+        EXPECT_EQ(textIn(run.control(each.control)), each.text) << each.field->name;
     EXPECT_EQ(changed(), 0);
 }
 

