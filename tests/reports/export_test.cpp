@@ -1,10 +1,7 @@
-#include <sys/resource.h>
-
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QXmlStreamReader>
-#include <csignal>
 
 #include "reports/report_support.h"
 
@@ -51,13 +48,11 @@ TEST_F(Export, TextsGetTheTypeThatTheyMean) {
     // text, at the left of the CSV, at the right of it, whether it is a figure in a column of figures
     const std::tuple<const char*, const char*, std::string, bool> cases[] = {
         {"62001234567890123", "\"\t62001234567890123\"", "\"\t62001234567890123\"", false},
-        {"6602285009087", "\"\t6602285009087\"", "\"\t6602285009087\"", false},
         {"0011", "\"\t0011\"", "\"\t0011\"", false},
         {"+27821234567", "\"\t+27821234567\"", "\"\t+27821234567\"", false},
         {"=1+1", "\"\t=1+1\"", "\"\t=1+1\"", false},
         {"12 Main Road", "12 Main Road", "12 Main Road", false},
         {"1 234 567.50", "\"\t1 234 567.50\"", "1234567.5", true},
-        {"-1 250", "\"\t-1 250\"", "-1250", true},
         {"65", "\"\t65\"", "65", true},
         {"1 2345", "\"\t1 2345\"", "\"\t1 2345\"", false},
         {"28/02/1966", "1966-02-28", "1966-02-28", false},
@@ -189,46 +184,4 @@ TEST_F(Export, PdfKeepsTheLettersAndHasItsTitleLanguageAuthorAndAnOutlineOfItsHe
     EXPECT_EQ(objects[root]["/Lang"].toString(), "en-ZA");
     const QString title = objects[objects[root]["/Outlines"].toString()]["/Last"].toString();
     EXPECT_EQ(objects[objects[title]["/Last"].toString()]["/Title"].toString(), "Last");
-}
-
-// A limit on the file size stands in for a full disk.
-class FullDisk {
-public:
-    FullDisk() {
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit small{100, m_before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &small);
-    }
-    ~FullDisk() {
-        setrlimit(RLIMIT_FSIZE, &m_before);
-        std::signal(SIGXFSZ, m_handler);
-    }
-
-private:
-    rlimit m_before{};
-    void (*m_handler)(int) = std::signal(SIGXFSZ, SIG_IGN);
-};
-
-TEST_F(Export, AFailedWriteShowsABoxAndLeavesTheOldFileWhole) {
-    ASSERT_TRUE(engine.run("Own.rpt", "x", Destination::preview));
-    fs::create_directory(folder / "out");
-    storetest::put(folder / "out/kept.html", "old");
-    const auto numberOf = [this](const char* name) {
-        const auto box = desk.told([&] { EXPECT_FALSE(engine.previews().front()->exportTo(pathOf(name))); });
-        EXPECT_TRUE(box.text.contains(QFileInfo(name).fileName())) << box.text.toStdString();
-        return box.text.section('(', -1);
-    };
-    {
-        const FullDisk full;
-        EXPECT_EQ(numberOf("out/kept.html"), "61)");
-    }
-    fs::permissions(folder / "out", fs::perms::owner_read | fs::perms::owner_exec);
-    {
-        const storetest::OrdinaryUser user(folder);
-        EXPECT_EQ(numberOf("out/kept.html"), "70)");
-    }
-    EXPECT_EQ(numberOf("nowhere/x.csv"), "76)");
-    fs::permissions(folder / "out", fs::perms::owner_all);
-    EXPECT_EQ(storetest::bytesOf(folder / "out/kept.html"), "old");
-    EXPECT_EQ(std::distance(fs::directory_iterator(folder / "out"), fs::directory_iterator{}), 1);
 }

@@ -27,15 +27,13 @@ public:
     bool choosePrinter(QPrinter& printer) override { return printDialog && printDialog(printer); }
 };
 
-inline QString runTool(const QString& program, const QStringList& arguments, const QByteArray& input = {}) {
+inline QString runTool(const QString& program, const QStringList& arguments) {
     QProcess process;
     process.start(program, arguments);
     if (!process.waitForStarted()) {
         ADD_FAILURE() << program.toStdString() << " is not installed";
         return {};
     }
-    process.write(input);
-    process.closeWriteChannel();
     process.waitForFinished(30000);
     return QString::fromUtf8(process.readAllStandardOutput());
 }

@@ -94,29 +94,37 @@ TEST_F(EditGridTest, aListIsTypedByKeyboardAlone) {
 }
 
 TEST_F(EditGridTest, everyWayOutTakesAGoodEntryAndTellsOfABadOneOnce) {
+    // column, a good entry, a bad one, what is told of it, and what is then selected: what the cell held, or what can't
+    // be read
     const std::tuple<int, const char*, const char*, QString, std::string> cells[] = {
-        {0, "Ṱhoho", "Houses", tooLong, "Farm"}, {1, "100", "100.01", tooMuch, "12.35"}};
-    for (const auto& [column, good, bad, told, held] : cells)
+        {0, "Ṱhoho", "Houses", tooLong, "Farm"},
+        {1, "100", "100.01", tooMuch, "12.35"},
+        {1, "7", "12x", "can't be read", "12x"}};
+    for (const auto& [column, good, bad, told, left] : cells)
         for (const char* way : waysOut) {
             SCOPED_TRACE(testing::Message() << way << " from column " << column);
+            if (inEdit()) key(Qt::Key_Escape);
             show(twoRows, 0, column);
             type(good);
             leave(way);
             EXPECT_EQ(grid().model()->index(0, column).data(), good);
             grids->acts = 0;
 
+            if (left == bad && way == std::string("Esc")) continue; // gives back what the cell held
             show(twoRows, 0, column);
             type(bad);
             const auto box = desk.told([&] { leave(way); });
-            EXPECT_EQ(box.text, told);
+            EXPECT_TRUE(box.text.contains(told)) << box.text.toStdString();
             EXPECT_EQ(box.title, "Marlowbeck");
             EXPECT_TRUE(inEdit()) << focus();
             EXPECT_EQ(place(), std::pair(0, column));
-            EXPECT_EQ(selected(), held);
+            EXPECT_EQ(selected(), left);
             EXPECT_EQ(grid().rows(), twoRows);
             EXPECT_EQ(grids->acts, 0);
         }
-    key(Qt::Key_Tab); // the restored content lets the user leave
+    key(Qt::Key_Escape);
+    EXPECT_EQ(selected(), "12.35") << "Escape gives back what the cell held";
+    key(Qt::Key_Tab); // which lets the user leave
     EXPECT_FALSE(inEdit());
 }
 
@@ -159,26 +167,6 @@ TEST_F(EditGridTest, mousePasteAndScreenReaderKnowTheCells) {
     key(Qt::Key_Escape);
     EXPECT_EQ(grid().rows(), (Rows{twoRows[0], {"Shop", 7.0, 2.0}}));
     EXPECT_EQ(grid().currentIndex().data(Qt::AccessibleTextRole), "Amount, row 2: 7");
-}
-
-TEST_F(EditGridTest, unreadableTextStaysMarkedInItsCellUntilCorrected) {
-    show(twoRows, 0, 1);
-    for (const char* typed : {"1.2.3", "12x"})
-        for (const char* way : waysOut) {
-            if (way == std::string("Esc")) continue;
-            SCOPED_TRACE(testing::Message() << typed << ", " << way);
-            if (inEdit()) key(Qt::Key_Escape);
-            act("F2 Ctrl+A");
-            paste(typed);
-            desk.told([&] { leave(way); });
-            EXPECT_EQ(selected(), typed);
-            EXPECT_EQ(grid().rows(), twoRows);
-        }
-    key(Qt::Key_Escape);
-    EXPECT_EQ(selected(), "12.35") << "Escape gives back what the cell held";
-    key(Qt::Key_Escape);
-    EXPECT_FALSE(inEdit());
-    EXPECT_EQ(grid().rows(), twoRows);
 }
 
 TEST_F(EditGridTest, rowsOfASpreadsheetArePastedWholeOrNotAtAll) {
