@@ -61,7 +61,7 @@ TEST_F(CoverReports, SayEachLineInTheirOwnWordsAndHeadEveryPage) {
     expectWords(death.all,
                 {"Death needs analysis", "Net capital worth for investment : 10 999 927 Funds available",
                  "provide income for 40 years. (capital excess available of", "Income required for 40 years",
-                 "Inflation rate 4.125 % a year", "return 9 % a year", "Monthly income required (at death) 10 000.5",
+                 "Inflation rate 4.125 % a year", "return 9.00 % a year", "Monthly income required (at death) 10 000.5",
                  "Monthly income available (at death) 500.25", "Initial Monthly Shortfall (at death) 9 500.25",
                  "Stocks & cash 12.5", "Cars etc. 14", "Other capital 16", "Total assets 11 000 042.5",
                  "Estate duty/fees etc. 24.75", "Total liabilities 115.75", "Notes : Two wills"});
