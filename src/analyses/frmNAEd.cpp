@@ -15,6 +15,13 @@ namespace analyses {
 
 using namespace screenkit;
 
+namespace {
+
+// Three digits more than an entry, after 25 years at 30 %. A figure that was cut off would read as another.
+const NumberKind costAtStart{wholeRand.mask, false, 22};
+
+} // namespace
+
 frmNAEd::frmNAEd(Workplace& workplace)
     : Screen(workplace, "frmNAEd", "Needs Analysis for Education", workplace.record.changed.NAEdChanged),
       m_needs(workplace.record.education) {
@@ -61,7 +68,7 @@ QWidget* frmNAEd::requirements() {
     auto* until = number("numYears", m_needs.YearsToEdu, periodUpTo(25));
     auto* years = number("numPerRequired", m_needs.FundsForYears, periodUpTo(10));
     m_rate = number("numInvestRate", m_needs.BankRate, bankRate);
-    m_cost = result("numFundsFut", m_atStart, wholeRand);
+    m_cost = result("numFundsFut", m_atStart, costAtStart);
     showsCalculated(m_cost);
     return group("fraRequirements", "Requirements",
                  form({{"Funds &required annually for education (present-day value)", funds},
