@@ -159,7 +159,7 @@ TEST(Cover, OfANeedsListOnlyTheFirstRowBringsItsAmount) {
 TEST(Cover, ListsFallDueInTheirYearsAndSalesEarnFromTheNextOneOn) {
     Assessment client = insured(1000, 100000, 10);
     client.itemised.DTHCars = {1, {from(2, 0, 10000), from(1, 0, 7)}}; // year 1 counts in the plain sum only
-    client.itemised.DTHCreditCard = {1, {from(3, 0, 500)}};
+    client.itemised.DTHCreditCard = {1, {from(3, 0, 500), from(2.5, 0, 9)}};
     client.itemised.DTHFutMonInc = {1, {from(0, 3, 300), from(2, 3, 100, 50), from(1, 1, 20), from(4, 3, 9)}};
     analyses::prepareDeath(client);
     EXPECT_EQ(client.death.DeathMIAvail, 320);
