@@ -187,6 +187,11 @@ TEST_P(CoverScreens, ShowTheResultsTheTableAndTheGraphInTheirOwnWords) {
     EXPECT_EQ(graph.title + graph.xTitle, "Illustration of Life of CapitalTERM OF COVER (years)");
     EXPECT_EQ(graph.points + 1, static_cast<int>(years.size()));
     EXPECT_EQ(graph.series.at(2).values[0], 120012); // the legend has the required income first
+    run.click("cmdOK");
+    run.type("numIncome", at == "death" ? "1700.5" : "1600.5");
+    run.click("cmdCalculate"); // neither an excess nor a shortfall: the caption stays as it was
+    run.expectShown("numMonShortFall 0");
+    EXPECT_EQ(run.captionOf("numMonShortFall")->text(), "Monthly shortfall");
 }
 
 TEST_P(CoverScreens, EachListLocksItsOwnLineAndThePoliciesAreOpened) {

@@ -148,6 +148,7 @@ public:
     void click(const QString& name) {
         auto* button = control<QAbstractButton>(name);
         turnTo(button);
+        EXPECT_TRUE(button->isVisible()) << name.toStdString();
         QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(8, button->height() / 2));
         settle();
     }
