@@ -84,13 +84,6 @@ TEST_F(Definition, PrintsFieldsByMaskAndSectionsWhenFilled) {
                 {"comment", "blank text", "nought", "null"});
 }
 
-TEST_F(Definition, FindsFilesWithoutRegardToCaseOrSeparator) {
-    feedLoan();
-    for (const char* name : {"Lonrepa.rpt", "\\Lonrepa.rpt", "/LONREPA.RPT"})
-        EXPECT_EQ(engine.prepare(name)->windowTitle, "Monthly repayment of a loan") << name;
-    EXPECT_EQ(engine.prepare("Lonrepa.rpt", "Given ")->windowTitle, "Given ");
-}
-
 TEST_F(Definition, HeaderTableWithoutItsRowIsAnError) {
     PrintFeed empty(print, {});
     empty.clear("Loans");

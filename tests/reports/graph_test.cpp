@@ -136,31 +136,28 @@ TEST(Graph, ScalesInRoundStepsFromNought) {
     }
 }
 
-TEST(Graph, ShowsTheValueUnderThePointer) {
+TEST(Graph, ShowsTheValueUnderThePointerAndByTheKeys) {
     Fixture f;
     f.window.LoanAmortGraph(Array{0, 1234567.891, 900000, 400000}, Array{0, 100, 200, 300}, f.c, 1, 3, 4);
     f.open();
+    const auto head = [&f] { return f.view().callout().section('\n', 0, 0); };
     QTest::mouseMove(&f.view(), f.pixelOf(1, 0) + QPoint(3, -4));
-    EXPECT_EQ(f.view().callout().section('\n', 0, 0), "Year 1");
+    EXPECT_EQ(head(), "Year 1");
     EXPECT_TRUE(f.view().callout().contains("1 234 567.89")) << f.view().callout().toStdString();
     EXPECT_TRUE(f.view().callout().contains("Balance"));
     QTest::mouseMove(&f.view(), f.pixelOf(3, 0));
-    EXPECT_EQ(f.view().callout().section('\n', 0, 0), "Year 3");
+    EXPECT_EQ(head(), "Year 3");
     QTest::mouseMove(&f.view(), QPoint(1, 1)); // outside the plot
     EXPECT_EQ(f.view().callout(), "");
-}
 
-TEST(Graph, ShowsTheValuesByKeyboard) {
-    Fixture f;
     f.window.EMVGraph("U", GraphPeriod::months, f.a, f.b, f.c, f.d, 12);
-    f.open();
     const std::pair<Qt::Key, const char*> steps[] = {
         {Qt::Key_Right, "Month 1"}, {Qt::Key_Left, "Month 1"}, {Qt::Key_End, "Month 12"}, {Qt::Key_Right, "Month 12"},
         {Qt::Key_Left, "Month 11"}, {Qt::Key_Home, "Month 1"}, {Qt::Key_Escape, ""}};
-    for (const auto& [key, head] : steps) {
+    for (const auto& [key, shown] : steps) {
         QTest::keyClick(&f.view(), key);
-        EXPECT_EQ(f.view().callout().section('\n', 0, 0), head);
-        EXPECT_TRUE(*head == 0 || f.view().accessibleDescription() == f.view().callout());
+        EXPECT_EQ(head(), shown);
+        EXPECT_TRUE(*shown == 0 || f.view().accessibleDescription() == f.view().callout());
     }
 }
 

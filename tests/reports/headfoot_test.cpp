@@ -37,29 +37,12 @@ TEST_F(HeadFoot, ShowsTheStoredLinesAndClosesWithoutAQuestion) {
     EXPECT_TRUE(run.desk.boxes.empty());
 }
 
-TEST_F(HeadFoot, YesStoresAllEightLinesInBothDatabases) {
-    const std::string longest = std::string(78, 'x') + "ḓÊ"; // eighty letters
-    run.type("sitxEdit1(0)", "Botha & Seun <b>");
-    run.type("sitxEdit1(3)", "O'Brien's \"best\"");
-    run.type("sitxEdit2(3)", QString::fromStdString(longest + "more"));
-    EXPECT_EQ(run.shown("sitxEdit2(3)").toStdString(), longest);
-    const auto box = run.desk.asked(Answer::yes, [this] { run.click("cmdOk"); });
+TEST_F(HeadFoot, CancelStaysNoWarnsAndKeepsTheStoredLinesAndYesStoresAllEightInBothDatabases) {
+    run.type("sitxEdit2(2)", "Botha");
+    const auto box = run.desk.asked(Answer::cancel, [this] { run.click("cmdOk"); });
     EXPECT_EQ(box.text, "Changes have been made to the Header/Footer. Do you want to save them. ?");
     EXPECT_EQ(box.title, "Header/Footer Changes !");
     EXPECT_EQ(box.buttons, Buttons::yesNoCancel);
-    EXPECT_FALSE(run.isOpen("frmHeadFoot"));
-    const std::string stored = "Botha & Seun <b>|||O'Brien's \"best\"|This report was prepared in accordance with "
-                               "|information supplied by the undersigned client.||" +
-                               longest;
-    EXPECT_EQ(run.inClients(lines), stored);
-    EXPECT_EQ(run.inPrint(lines), stored);
-    assessment::CheckChanges(run.record());
-    EXPECT_EQ(run.record().ClientChanged, 0); // the lines belong to the practice, not the client
-}
-
-TEST_F(HeadFoot, CancelStaysOnTheFirstLineAndNoWarnsAndKeepsTheStoredLines) {
-    run.type("sitxEdit2(2)", "Botha");
-    run.desk.asked(Answer::cancel, [this] { run.click("cmdOk"); });
     EXPECT_EQ(run.focused(), "sitxEdit1(0)");
     EXPECT_EQ(run.shown("sitxEdit2(2)"), "Botha");
     run.desk.expect(Answer::no);
@@ -71,8 +54,23 @@ TEST_F(HeadFoot, CancelStaysOnTheFirstLineAndNoWarnsAndKeepsTheStoredLines) {
     EXPECT_FALSE(run.isOpen("frmHeadFoot"));
     EXPECT_EQ(run.inClients(lines), shipped);
     EXPECT_EQ(run.inPrint(lines), shipped);
+
     run.menu("mnuPrep");
     EXPECT_EQ(run.shown("sitxEdit2(2)"), "");
+    const std::string longest = std::string(78, 'x') + "ḓÊ"; // eighty letters
+    run.type("sitxEdit1(0)", "Botha & Seun <b>");
+    run.type("sitxEdit1(3)", "O'Brien's \"best\"");
+    run.type("sitxEdit2(3)", QString::fromStdString(longest + "more"));
+    EXPECT_EQ(run.shown("sitxEdit2(3)").toStdString(), longest);
+    run.desk.asked(Answer::yes, [this] { run.click("cmdOk"); });
+    EXPECT_FALSE(run.isOpen("frmHeadFoot"));
+    const std::string stored = "Botha & Seun <b>|||O'Brien's \"best\"|This report was prepared in accordance with "
+                               "|information supplied by the undersigned client.||" +
+                               longest;
+    EXPECT_EQ(run.inClients(lines), stored);
+    EXPECT_EQ(run.inPrint(lines), stored);
+    assessment::CheckChanges(run.record());
+    EXPECT_EQ(run.record().ClientChanged, 0); // the lines belong to the practice, not the client
 }
 
 } // namespace

@@ -1,6 +1,3 @@
-#include <QScrollArea>
-#include <QScrollBar>
-
 #include "screenkit/kit_screen.h"
 
 namespace screenkit {
@@ -41,29 +38,6 @@ TEST_F(KitTest, enterWalksTheFieldsAndTheLastPressesTheDefaultButton) {
     EXPECT_EQ(selected(), text("numMonths")) << "a key that leads nowhere is not typed over the selection";
     for (const char* named : {"dtDay", "optMode(0)", "dtDay"})
         EXPECT_EQ(after("Alt+D"), named) << "a letter of two captions leads to each in turn";
-}
-
-TEST_F(KitTest, inASmallWindowTheFocusComesIntoView) {
-    child->resize(420, 260);
-    settle();
-    go("numMonths");
-    const auto leaves = [this] { desk.told([this] { click("cmdRun"); }); };
-    const std::pair<std::function<void()>, const char*> moves[] = {
-        {[this] { act("Backtab Backtab"); }, "cmdOK"},
-        {[this] { act("Alt+A"); }, "numAmount"},
-        {[this] { act("Return Return Return Return Return Return"); }, "txtName"},
-        {[this] { enter("numMonths", "700"); }, "numMonths"},
-        {leaves, "numMonths"},
-    };
-    for (const auto& [move, field] : moves) {
-        move();
-        EXPECT_EQ(focus(), field);
-        EXPECT_TRUE(isSeenWhole(field)) << field;
-        auto* bar = screen->findChild<QScrollArea*>()->verticalScrollBar();
-        ASSERT_GT(bar->maximum(), 0);
-        bar->setValue(bar->value() > 0 ? 0 : bar->maximum());
-    }
-    enter("numMonths", "7");
 }
 
 } // namespace

@@ -79,19 +79,4 @@ TEST(NewFile, ASaveForItThatFailsIsForgottenByTheNextPlainOne) {
     EXPECT_EQ(run.inClients("SELECT [DCLNO], [CLName] FROM [PersDetails]"), "1|Botha");
 }
 
-TEST(Screens, OpeningAndClosingEachLeavesTheClientUnchanged) {
-    RunningProgram run;
-    run.saveClient("Botha");
-    for (const char* item : {"mnuPersDet", "mnuPolInvests", "mnuNARA", "mnuLoansCalc", "mnuQuickTax", "mnuPAYE",
-                             "mnuPrep", "mnuBrowse", "mnuSaveAs", "mnuContents"}) {
-        run.menu(item);
-        run.front()->parentWidget()->close();
-        RunningProgram::settle();
-        EXPECT_TRUE(run.window().screens().isEmpty() || item == std::string("mnuPersDet")) << item;
-        assessment::CheckChanges(run.record());
-        EXPECT_EQ(run.record().ClientChanged, 0) << item;
-    }
-    EXPECT_TRUE(run.desk.boxes.empty());
-}
-
 } // namespace
