@@ -107,8 +107,6 @@ TEST_F(Browse, TheSearchFieldNarrowsTheListAndIsEmptiedByEscape) {
 }
 
 TEST_F(Browse, AClientThatVanishedLeavesABlankRecordAndTheList) {
-    run.menu("mnuLoansCalc");
-    run.menu("mnuBrowse");
     search(oBrien);
     run.inClients("DELETE FROM [Data] WHERE DCLNO=2");
     run.desk.expect(Answer::ok);

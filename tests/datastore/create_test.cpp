@@ -37,7 +37,6 @@ TEST(MakeNewDb, MakesTheTablesOfTheClientDatabase) {
                                                  {"Data", "OMBP3", "SMALLINT|"},
                                                  {"Data", "BMBP4", "REAL|"},
                                                  {"Data", "BirthDate", "DATE DOUBLE|"},
-                                                 {"Data", "RANotes", "TEXT|"},
                                                  {"Data", "RATaxPayerAge", "SMALLINT|0"},
                                                  {"CGTDetails", "CGTAsset", "VARCHAR(4)|"},
                                                  {"RNATravel", "IncomeSource", "VARCHAR(60)|''"}})
@@ -103,7 +102,6 @@ TEST(Creator, TakesEffectWholeOrNotAtAll) {
     creator.AddField("Plain", store::Type::Integer, 0, 12);
     for (int twice = 0; twice < 2; ++twice)
         creator.AddIndex("Number, Words", "Both", false, false);
-    creator.AddIndex("Nothing", "Bad", false, false);
     creator.AddIndex("Words", "Unique", false, true);
     creator.finish();
     store::Database database(file);

@@ -20,13 +20,6 @@ using datastore::PrintFeed;
 using datastore::Row;
 using reports::Destination;
 
-/// A desk on which a test can act as the print dialog.
-class ReportDesk : public screenkit::TestDesk {
-public:
-    std::function<bool(QPrinter&)> printDialog;
-    bool choosePrinter(QPrinter& printer) override { return printDialog && printDialog(printer); }
-};
-
 inline QString runTool(const QString& program, const QStringList& arguments) {
     QProcess process;
     process.start(program, arguments);
@@ -112,7 +105,7 @@ protected:
     std::string client; ///< the client of these reports
     storetest::Folder folder;
     fs::path print = folder / "Print.mdb";
-    ReportDesk desk;
+    screenkit::TestDesk desk;
     QString printed = pathOf("printed.pdf");
     reports::Engine engine{desk, folder.path(), [this] {
                                auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);

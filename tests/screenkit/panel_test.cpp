@@ -83,14 +83,8 @@ TEST_F(PanelTest, theGridIsWalkedByKeysAndItsRowsAreCopiedFromTheTop) {
     screen->table({{1, 1000.5}, {2, 2000.125}, {3, -3}});
     EXPECT_EQ(after(""), "grdPayments");
     auto* grid = get<Grid>("grdPayments");
-    const std::pair<const char*, const char*> copied[] = {
-        {"Down Down Shift+Up Ctrl+C", "2\t2 000.12\n3\t-3.00"},              // selects upwards
-        {"Ctrl+Up Ctrl+Space Ctrl+C", "1\t1 000.50\n2\t2 000.12\n3\t-3.00"}, // the first row, picked last
-        {"Ctrl+A Ctrl+C", "1\t1 000.50\n2\t2 000.12\n3\t-3.00"}};
-    for (const auto& [keys, rows] : copied) {
-        act(keys);
-        EXPECT_EQ(QApplication::clipboard()->text(), QString("Year\tBalance\n") + rows);
-    }
+    act("Ctrl+Up Ctrl+Space Down Down Shift+Up Ctrl+C"); // selects upwards
+    EXPECT_EQ(QApplication::clipboard()->text(), "Year\tBalance\n2\t2 000.12\n3\t-3.00");
     EXPECT_EQ(after("Tab"), "cmdGridClose") << "Tab leaves the table";
     EXPECT_EQ(after("Tab"), "grdPayments");
     EXPECT_EQ(after("Return"), "cmdOK");

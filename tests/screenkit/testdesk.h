@@ -67,6 +67,7 @@ public:
     }
     std::optional<QString> input(const QString&, const QString&, const QString&) override { return {}; }
     bool choosePrinter(QPrinter& printer) override {
+        if (printDialog) return printDialog(printer);
         printer.setOutputFormat(QPrinter::PdfFormat);
         printer.setOutputFileName(printTo);
         return hasPrinter();
@@ -88,6 +89,7 @@ public:
     int bells = 0;
     int programsStarted = 0;
     bool programStarts = true;
+    std::function<bool(QPrinter&)> printDialog; ///< what the user does there; false to cancel
     QString printTo; ///< the file that stands in for a printer; empty: no printer is installed
 
 private:

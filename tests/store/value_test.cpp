@@ -61,15 +61,3 @@ TEST(StoredValue, IsConvertedToTheTypeOfItsField) {
         }
     }
 }
-
-TEST(StoredValue, DeclarationLeadsBackToTheType) {
-    const Declared all[] = {{Type::Boolean}, {Type::Integer},  {Type::Single}, {Type::Double},
-                            {Type::Date},    {Type::Text, 80}, {Type::Text},   {Type::Memo}};
-    for (const Declared& declared : all) {
-        const Declared back = store::declaredFrom(store::declaration(declared));
-        EXPECT_EQ(back.type, declared.type) << store::declaration(declared);
-        EXPECT_EQ(back.size, declared.size) << store::declaration(declared);
-    }
-    EXPECT_EQ(store::declaredFrom("varchar( 80 )").type, Type::Text);
-    EXPECT_EQ(store::declaredFrom("MONEY").type, Type::Double);
-}
