@@ -25,7 +25,7 @@ frmPremium::frmPremium(Workplace& workplace) : Screen(workplace, "frmPremium", "
     m_work.record.funds = datastore::readFunds(m_work.paths.DefaultDbPath);
     auto* target = number("numPremEmv", figure(&CapitalPremium::PremTarget), money);
     m_period = number("numPremPeriod", figure(&CapitalPremium::PremTerm), years);
-    auto* growth = number("numPremGR", figure(&CapitalPremium::PremGrowth), percent);
+    m_growth = number("numPremGR", figure(&CapitalPremium::PremGrowth), percent);
     m_escalation = number("numPremPEsc", figure(&CapitalPremium::PremEscalation), percent);
     m_answer = result("numPremAns", figure(&CapitalPremium::premium), money);
     m_said = answerLine("txtAns", 60);
@@ -38,10 +38,10 @@ frmPremium::frmPremium(Workplace& workplace) : Screen(workplace, "frmPremium", "
     });
     body(column({form({{"&Maturity value required", target},
                        {"&Investment period", m_period, "years"},
-                       {"&Growth rate", growth, "% a year"},
+                       {"&Growth rate", m_growth, "% a year"},
                        {"&Escalation", m_escalation, "% a year"},
                        {"Approximate monthly premium", m_answer}}),
-                 m_said, spring(), row({work, spring(), okButton()})}));
+                 group("fraAnswers", "Result", m_said), spring(), row({work, spring(), okButton()})}));
     defaultButton(work);
 }
 

@@ -14,6 +14,7 @@ public:
 
 protected:
     void filled() override { calculate(); }
+    QWidget* firstField() override { return m_growth; } ///< what comes before it is carried in
     void edited() override { shown().isSolved = 0; }
 
 private:
@@ -25,7 +26,7 @@ private:
     /// The words of the analysis that asks.
     void showWords();
 
-    screenkit::NumberField *m_period = nullptr, *m_escalation = nullptr, *m_answer = nullptr;
+    screenkit::NumberField *m_period = nullptr, *m_growth = nullptr, *m_escalation = nullptr, *m_answer = nullptr;
     QLineEdit* m_said = nullptr;
 };
 

@@ -70,7 +70,7 @@ TEST(InvestmentComparison, ItsScaleKeepsTheRebateOfAYearBeforeAndItsEdges) {
                                                 {887000.0, 259783.0, 41.0},
                                                 {1878600.0, 666339.0, 45.0}}) {
         EXPECT_NEAR(calculators::comparisonTax(limit, 0), tax, 1e-8);
-        EXPECT_NEAR(calculators::comparisonTax(limit + 100, 0), tax + rateAbove, 1e-8);
+        EXPECT_NEAR(calculators::comparisonTax(limit + 0.5, 0), tax + rateAbove / 200, 1e-8);
     }
     EXPECT_EQ(calculators::comparisonTax(95750, 17235), 0);
     EXPECT_EQ(calculators::comparisonTax(-1000, 0), 0);
@@ -119,6 +119,8 @@ TEST(InvestmentComparison, AnyFiguresEndTheSearchAtOnce) {
                     EXPECT_TRUE(!result.breakEven || result.breakEven->deposit.FXMonAftTax > result.MonAfterAnn);
                 }
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
+    // The rounding of such an income is that of thousands of steps of a cent's interest.
+    EXPECT_TRUE(compareInvestments(offer(1e12, 0, 0, 100, 0.01, 0), 50).breakEven);
     EXPECT_FALSE(compareInvestments(offer(0, 0, 0, 1e16, 1, 0), 50).breakEven) << "no rate grows that far by tenths";
     EXPECT_FALSE(compareInvestments(offer(0, 0, 0, 1e308, 1, 0), 50).isFinite());
 }
