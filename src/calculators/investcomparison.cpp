@@ -39,21 +39,28 @@ double roundingOf(const assessment::InvestComparison& inputs, const InvestmentCo
 std::optional<BreakEven> findBreakEven(const assessment::InvestComparison& inputs, const InvestmentComparison& known) {
     if (!(inputs.FDAmount > 0) || !(known.MonAfterAnn > known.deposit.FXMonAftTax)) return {};
     const auto rateAfter = [&](std::int64_t steps) { return finance::stepped(inputs.FXInt, rateStep, steps); };
-    const auto pays = [&](std::int64_t steps) { return depositAt(rateAfter(steps), inputs, known).FXMonAftTax; };
-    const double close = known.MonAfterAnn - roundingOf(inputs, known);
+    const auto pays = [&](double rate) { return depositAt(rate, inputs, known).FXMonAftTax; };
+    const auto beats = [&](double rate) { return pays(rate) > known.MonAfterAnn; };
     // Rounding may make the deposit pay a hair less at a higher rate, so the last steps are taken one by one.
-    const auto firstClose = finance::firstStep(mostSteps, [&](std::int64_t steps) { return pays(steps) > close; });
+    const double close = known.MonAfterAnn - roundingOf(inputs, known);
+    const auto isClose = [&](std::int64_t steps) { return pays(rateAfter(steps)) > close; };
+    const auto firstClose = finance::firstStep(mostSteps, isClose);
     if (!firstClose) return {};
-    const auto beats = [&](std::int64_t steps) { return pays(steps) > known.MonAfterAnn; };
+    BreakEven found{rateAfter(*firstClose), rateAfter(*firstClose - 1), {}};
     std::int64_t steps = *firstClose;
-    while (!beats(steps) && steps < *firstClose + mostSingleSteps)
-        ++steps;
-    if (!beats(steps)) { // a deposit of less than a cent
-        const auto more = finance::firstStep(mostSteps, [&](std::int64_t further) { return beats(steps + further); });
-        if (!more) return {};
-        steps += *more;
+    for (; !beats(found.rate) && steps < *firstClose + mostSingleSteps; ++steps) {
+        found.rateBelow = found.rate;
+        found.rate += rateStep;
     }
-    return BreakEven{rateAfter(steps), rateAfter(steps - 1), depositAt(rateAfter(steps), inputs, known)};
+    if (!beats(found.rate)) { // cents beside an income of thousands of millions
+        const auto beatsAfter = [&](std::int64_t more) { return beats(rateAfter(steps + more)); };
+        const auto more = finance::firstStep(mostSteps, beatsAfter);
+        if (!more) return {};
+        found.rate = rateAfter(steps + *more);
+        found.rateBelow = rateAfter(steps + *more - 1);
+    }
+    found.deposit = depositAt(found.rate, inputs, known);
+    return found;
 }
 
 } // namespace

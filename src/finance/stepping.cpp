@@ -25,10 +25,12 @@ double stepsWithin(double x, double taken) {
 double stepped(double start, double step, std::int64_t steps) {
     double x = start;
     while (steps > 0) {
-        x += step; // adding the first step shows how ties round; it may also reach another power of two
+        x += step; // it may reach another power of two
         --steps;
-        const double taken = (x + step) - x;
+        const double next = x + step;
+        const double taken = next - x;
         if (taken == 0 || !std::isfinite(taken)) return x; // the step is too small to change x
+        if ((next + step) - next != taken) continue;       // a step that ends halfway rounds to the even figure
         const double leap = std::min(static_cast<double>(steps), stepsWithin(x, taken));
         x += leap * taken;
         steps -= static_cast<std::int64_t>(leap);

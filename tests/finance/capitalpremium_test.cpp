@@ -89,13 +89,12 @@ TEST(CapitalPremium, HoldsForItsCapitalAndYearsAlone) {
 TEST(CapitalPremium, SaysThatAPeriodWasReducedOnlyOfTheFiftyYears) {
     for (const auto& [years, term, reduced] :
          {std::tuple{50.0, 50, false}, {50.5, 50, true}, {63.0, 50, true}, {-3.0, 0, false}, {7.0, 7, false}}) {
-        const CapitalPremium premium = carried(1000, years, 10, 0);
+        CapitalPremium premium = carried(1000, years, 10, 0);
         EXPECT_EQ(premium.PremTerm, term) << years;
         EXPECT_EQ(finance::isReduced(premium), reduced) << years;
+        premium.PremTerm = 20; // typed
+        EXPECT_FALSE(finance::isReduced(premium));
     }
-    CapitalPremium typed = carried(1000, 63, 10, 0);
-    typed.PremTerm = 20;
-    EXPECT_FALSE(finance::isReduced(typed));
 }
 
 } // namespace
