@@ -36,6 +36,13 @@ void addPieces(Line& made, const QTextLine& line, const QString& text, int from,
     }
 }
 
+/// A blank before each tab: a text that ends just before a tab stop would otherwise touch the next one.
+std::vector<Run> apart(std::vector<Run> runs) {
+    for (Run& run : runs)
+        run.text.replace('\t', " \t");
+    return runs;
+}
+
 Line lineOf(const QTextLine& line, const QString& text, const std::vector<Run>& runs, const Face& base) {
     Line made{.pieces = {}, .width = line.naturalTextWidth()};
     const int lineStart = line.textStart();
@@ -53,9 +60,10 @@ Line lineOf(const QTextLine& line, const QString& text, const std::vector<Run>& 
 
 } // namespace
 
-Paragraph broken(const std::vector<Run>& runs, const Face& face, double width) {
+Paragraph broken(const std::vector<Run>& given, const Face& face, double width) {
     Paragraph paragraph{.lines = {}, .face = &face};
-    if (runs.empty() || fitsOneLine(runs, face, width, paragraph)) return paragraph;
+    if (given.empty() || fitsOneLine(given, face, width, paragraph)) return paragraph;
+    const std::vector<Run> runs = apart(given);
     const QString text = textOf(runs).replace('\n', QChar(QChar::LineSeparator));
     QTextLayout layout(text, face.font);
     QList<QTextLayout::FormatRange> formats;

@@ -5,6 +5,8 @@
 
 #include "reports/face.h"
 #include "reports/layout_support.h"
+#include "reports/pagelook.h"
+#include "reports/paragraph.h"
 #include "reports/report_support.h"
 
 using namespace reporttest;
@@ -215,6 +217,16 @@ TEST_F(Pages, AreInOneTypeWithEveryLetterOfTheCountry) {
             EXPECT_TRUE(type.supportsCharacter(letter)) << QString(letter).toStdString();
         for (char digit = '1'; digit <= '9'; ++digit)
             EXPECT_EQ(face->metrics.horizontalAdvance(QChar(digit)), face->metrics.horizontalAdvance('0')) << digit;
+    }
+}
+
+TEST(Paragraph, TextsOnBothSidesOfATabNeverTouch) {
+    const reports::Face& face = reports::Faces::all().body;
+    for (int letters = 1; letters < 80; ++letters) {
+        const QString before(letters, 'i');
+        const auto paragraph = reports::broken({{before + "\tnext"}}, face, reports::points(1000));
+        const double end = face.metrics.horizontalAdvance(before + " ");
+        EXPECT_GT(paragraph.lines.at(0).pieces.at(1).x, end - 0.01) << letters;
     }
 }
 
