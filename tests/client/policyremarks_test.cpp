@@ -19,7 +19,6 @@ struct Case {
 const Case cases[] = {
     {{}, ""},
     {{.DeathBen = 100}, ""},
-    {{.DeathBen = 100, .DeathBenPerson = 1}, ""},
     {{.DeathBen = 100, .DeathBenPerson = 3}, "DeathBen Not counted: not for estate or spouse"},
     {{.DeathBen = 100, .DeathBenAmtCeded = 100}, "DeathBen Not counted: all ceded or lent against"},
     {{.DeathBen = 100, .DeathBenLoanAgainst = 39.99, .DeathBenAmtCeded = 60}, ""},
@@ -40,7 +39,6 @@ const Case cases[] = {
     {{.RBEMV = 1, .RBPenLump = 1, .RBPenLumpAge = 60, .RBProvFLump = 1, .RBProvFLumpAge = 65},
      "RBEMV Not counted: no age|RBProvFLump Counts at 65, after retirement"},
     {{.EndowEMV = 1, .UseEndowEMVAtRet = 1}, "EndowEMV Not counted: no age"},
-    {{.EndowEMV = 1, .EndowEMVAge = 60}, "EndowEMV Not counted: no tick"},
     {{.EndowEMV = 1, .EndowEMVAge = 70}, "EndowEMV Counts at 70, after retirement"},
     {{.InvBensMatValLS = 1, .InvBensMatValLSAtAge = 50}, "InvBensMatValLS Not counted: no tick"},
     {{.InvBensTakeFinValAtRet = 1, .InvBensMatValLS = 1}, ""},

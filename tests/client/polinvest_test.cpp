@@ -145,7 +145,6 @@ TEST_F(PolInvest, LimitsHoldTheUserWithAMessageAndKeepWhatWasTyped) {
     open(2);
     for (const auto& [control, typed, message, allowed] :
          {std::tuple{"numRBEMVAge", "100", "The maximum age allowed is 99", "99"},
-          {"numEndowEMVAge", "99999999", "The maximum age allowed is 99", "0"},
           {"numDeathBenYears", "100", "The maximum period allowed is 99 years", "99"},
           {"numRBEMVEscFor", "100.001", escalation, "100"},
           {"numPremInvAmtMonthlyAnnEsc", "-1", escalation, "0"},
@@ -276,8 +275,6 @@ TEST_F(PolInvest, AValueThatCountsNothingSaysSoBesideItAsItIsTyped) {
     EXPECT_EQ(remark("RBEMV"), "");
     run.typeAll("numInvBensCurVal 5, numInvBensCurValLoanAgainst 2, numDeathBen 5");
     EXPECT_EQ(remark("InvBensCurVal"), "No tick: counts on death only\nLoan not counted: no tick");
-    run.click("chkInvBensTakeAtDisa");
-    EXPECT_EQ(remark("InvBensCurVal"), "");
     run.click("optDeathBen(2)");
     EXPECT_EQ(remark("DeathBen"), "Not counted: not for estate or spouse");
     run.click("cmdForward");

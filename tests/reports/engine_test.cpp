@@ -42,10 +42,6 @@ TEST_F(Engine, CopiesHoldForOnePrintout) {
     EXPECT_EQ(copies, 3);
     EXPECT_TRUE(counted.run("LonrepaA.rpt", "Title", Destination::printer));
     EXPECT_EQ(copies, 1);
-    counted.CopiesToPrinter = 5;
-    EXPECT_TRUE(counted.run("LonrepaA.rpt", "Title", Destination::preview)); // a view resets the number too
-    EXPECT_TRUE(counted.run("LonrepaA.rpt", "Title", Destination::printer));
-    EXPECT_EQ(copies, 1);
 }
 
 TEST_F(Engine, EachFailureShowsOneBoxThatNamesTheFileAndTheProgramGoesOn) {

