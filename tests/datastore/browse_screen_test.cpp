@@ -109,10 +109,7 @@ TEST_F(Browse, TheSearchFieldNarrowsTheListAndIsEmptiedByEscape) {
 TEST_F(Browse, AClientThatVanishedLeavesABlankRecordAndTheList) {
     search(oBrien);
     run.inClients("DELETE FROM [Data] WHERE DCLNO=2");
-    run.desk.expect(Answer::ok);
-    run.key(Qt::Key_Return);
-    EXPECT_EQ(run.desk.last().title, "Marlowbeck");
-    EXPECT_TRUE(run.desk.last().text.contains("Data.Mdb"));
+    EXPECT_TRUE(run.desk.told([] { RunningProgram::key(Qt::Key_Return); }).text.contains("Data.Mdb"));
     EXPECT_TRUE(run.isOpen("frmBrowse"));
     EXPECT_EQ(run.record().ClientOnFile, 0);
     EXPECT_EQ(run.record().details.CLName, "");

@@ -25,15 +25,6 @@ TEST_F(ClientListTest, IsInTheOrderOfSurnamesWithoutCaseAndAccents) {
     EXPECT_EQ(order, "4 9 13 1 3 5 15 14 12 11 7 10 6 8 2 ");
 }
 
-TEST_F(ClientListTest, ShowsABirthDateAfterDayNoughtOnly) {
-    add("(1,'a',-36522,'d'),(2,'b',0,'d'),(3,'c',NULL,NULL),(4,'d',-1000,''),(5,'e',1,'<b>&\"x\"')");
-    const char* lines[] = {"a  d", "b  d", "c  ", "d  ", "e  31/12/1899  <b>&\"x\""};
-    const auto clients = datastore::readClientList(file);
-    ASSERT_EQ(clients.size(), std::size(lines));
-    for (std::size_t i = 0; i < clients.size(); ++i)
-        EXPECT_EQ(datastore::lineText(clients[i]), lines[i]);
-}
-
 TEST_F(ClientListTest, ReadsAFileWithoutDescriptionsAndAnEmptyOne) {
     EXPECT_TRUE(datastore::readClientList(file).empty());
     add("(1,'O''Brien',46082,'gone')");
