@@ -87,7 +87,7 @@ InvestmentComparison compareInvestments(const assessment::InvestComparison& inpu
     result.LessMonAnn = std::max((result.taxWithAnnuity - result.taxOnIncome) / 12, 0.0);
     result.MonAfterAnn = inputs.MonTAnn + inputs.MonTFAnn - result.LessMonAnn;
     result.deposit = depositAt(inputs.FXInt, inputs, result);
-    if (result.isFinite()) result.breakEven = findBreakEven(inputs, result);
+    result.breakEven = findBreakEven(inputs, result);
     return result;
 }
 

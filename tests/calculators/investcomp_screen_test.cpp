@@ -33,7 +33,9 @@ TEST_F(InvestCompScreen, EveryControlHoldsItsFieldAndItsPlaceInTheReport) {
     EXPECT_EQ(run.record().comparison, typed);
     EXPECT_EQ(run.record().tax.Age, 66.5);
     EXPECT_EQ(run.shown("txtAns"), "") << "until it is asked for";
+    EXPECT_TRUE(run.control("txtAns")->font().italic()) << "out of date";
     run.click("cmdCalculate");
+    EXPECT_FALSE(run.control("txtAns")->font().italic());
     run.expectShown("numTotMon 8 000.75, numLessMonAnn 1 266.07, numMonAfterAnn 6 734.68, numFXMonInc 6 770.84, "
                     "numFXLessTax 1 238.93, numFXMonAftTax 5 531.91");
     const QString sentence = "Only a fixed deposit rate of 10.1 %p.a. would beat the annuity!";

@@ -73,7 +73,7 @@ TEST_F(OffShoreScreen, FiguresThatDoNotFitAreToldInTheField) {
         run.type(c.field, c.typed);
         EXPECT_EQ(run.desk.last().text, c.told);
         EXPECT_EQ(RunningProgram::focused(), c.field);
-        run.type(c.field, "1");
+        run.type(c.field, "0");
     }
     inputs() = {2000000000, 2000, 50, 1, 0, 0, 0};
     run.front()->refill();

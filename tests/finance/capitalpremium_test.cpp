@@ -66,6 +66,11 @@ TEST(CapitalPremium, HoldsForItsCapitalAndYearsAlone) {
     EXPECT_FALSE(finance::isSolvedFor(premium, 34200.5, 11));
     EXPECT_FALSE(finance::isSolvedFor(premium, {}, 10));
 
+    premium.PremGrowth = 0;
+    finance::solvePremium(premium, shipped);
+    EXPECT_FALSE(finance::isSolvedFor(premium, 34200.5, 10)) << "no longer solved";
+
+    premium.PremGrowth = 9.5;
     premium.PremTarget = 50000; // typed over the capital: an answer, but not for the analysis
     EXPECT_EQ(finance::solvePremium(premium, shipped).state, PremiumState::solvedForOther);
     EXPECT_GT(premium.premium, 128);
