@@ -28,9 +28,7 @@ F* Screen::keep(F* field) {
     base->edited = [this] {
         if (m_filling) return;
         m_changed = 1;
-        attempt(tr("take the entry"), [this] { edited(); });
-        tellFaults();
-        showWhatIsStale();
+        takeEdit();
     };
     base->left = [this, base] { leave(base); };
     return field;
@@ -202,6 +200,12 @@ QLabel* Screen::over(QWidget* field, const QString& name, const QString& text) {
 }
 
 void Screen::untrackedField(Field* field) { field->edited = {}; }
+
+void Screen::unsavedField(Field* field) {
+    field->edited = [this] {
+        if (!m_filling) takeEdit();
+    };
+}
 
 QTabWidget* Screen::tabs(const QString& name, const std::vector<std::pair<QString, Item>>& pages) {
     auto* book = new QTabWidget;

@@ -42,8 +42,8 @@ public:
     /// Sorts by this column; the same column again reverses the order.
     void sortByHead(int column);
     void sortBy(int column, Qt::SortOrder order);
-    /// The rows are already in ascending order of this column; its head shows that.
-    void setSortedBy(int column) { markHead(column, Qt::AscendingOrder); }
+    /// The rows are already in the order of this column; its head shows that.
+    void setSortedBy(int column, Qt::SortOrder order = Qt::AscendingOrder) { markHead(column, order); }
     /// Sorts new rows as the user sorted last.
     void sortAsBefore();
 

@@ -85,21 +85,30 @@ void Panel::setContent(const Item& content, std::initializer_list<QPushButton*> 
 }
 
 void Panel::open(QWidget* first) {
-    if (!isVisible()) m_focusBefore = QApplication::focusWidget();
+    if (!isVisible()) {
+        m_focusBefore = QApplication::focusWidget();
+        m_below = inFront();
+    }
     makeRoom(parentWidget(), sizeHint() + QSize(1, 1) * look::lineHeight(this));
     place();
     show();
     raise();
     m_area->verticalScrollBar()->setValue(0);
     first != nullptr ? first->setFocus(Qt::OtherFocusReason) : takeFocus();
-    m_over->setEnabled(false); // after the focus has gone, otherwise it would move through every field below
+    m_below->setEnabled(false); // after the focus has gone, otherwise it would move through every field below
 }
 
 void Panel::close() {
-    m_over->setEnabled(true);
+    if (m_below != nullptr) m_below->setEnabled(true);
     hide();
     if (m_focusBefore != nullptr) m_focusBefore->setFocus(Qt::OtherFocusReason);
     m_focusBefore = nullptr;
+}
+
+QWidget* Panel::inFront() const {
+    for (Panel* other : parentWidget()->findChildren<Panel*>(Qt::FindDirectChildrenOnly))
+        if (other->isVisible() && other->isEnabled()) return other;
+    return m_over;
 }
 
 void Panel::place() {

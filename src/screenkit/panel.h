@@ -11,9 +11,9 @@ class QScrollArea;
 
 namespace screenkit {
 
-/// A panel over its screen: the controls below can't be reached until it is closed. Escape presses its cancel button,
-/// Enter its default button; Tab stays inside. If the screen is too small for it, its content scrolls between title and
-/// buttons and follows the focus.
+/// A panel over its screen, or over another panel of it: the controls below can't be reached until it is closed. Escape
+/// presses its cancel button, Enter its default button; Tab stays inside. If the screen is too small for it, its
+/// content scrolls between title and buttons and follows the focus.
 class Panel : public QFrame {
     Q_OBJECT
 public:
@@ -44,7 +44,11 @@ private:
     /// The controls at which Tab stops, in order.
     QList<QWidget*> stops();
 
+    /// The panel that is open in front of the others; without any the screen's body.
+    QWidget* inFront() const;
+
     QWidget* m_over;
+    QPointer<QWidget> m_below; ///< out of reach while this panel is open
     QLabel* m_title;
     QScrollArea* m_area;
     QPointer<QWidget> m_focusBefore;

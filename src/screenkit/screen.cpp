@@ -124,7 +124,7 @@ void Screen::recoverFocus() {
     const QWidget* now = QApplication::focusWidget();
     if (m_dropped || !isVisible() || (now != nullptr && now != parentWidget())) return;
     for (Panel* made : m_panels)
-        if (made->isVisible()) made->takeFocus();
+        if (made->isVisible() && made->isEnabled()) made->takeFocus();
 }
 
 void Screen::refill() {
@@ -143,8 +143,14 @@ void Screen::clientReplaced() {
     refill();
 }
 
-std::vector<std::optional<double>> Screen::inputs() const {
-    const auto isInput = [this](Field* field) {
+int Screen::calculationOf(const QWidget* control) const {
+    const Page page = pageOf(control);
+    return page.book != nullptr && page.book == m_workedByPage ? page.index : 0;
+}
+
+std::vector<std::optional<double>> Screen::inputs(int page) const {
+    const auto isInput = [this, page](Field* field) {
+        if (calculationOf(field->widget()) != page) return false;
         if (std::find(m_asides.begin(), m_asides.end(), field) != m_asides.end()) return false;
         return std::none_of(m_panels.begin(), m_panels.end(),
                             [field](const Panel* made) { return made->isAncestorOf(field->widget()); });
@@ -155,21 +161,29 @@ std::vector<std::optional<double>> Screen::inputs() const {
     return figures;
 }
 
-void Screen::calculated() {
-    m_workedFrom = inputs();
+void Screen::takeEdit() {
+    attempt(tr("take the entry"), [this] { edited(); });
+    tellFaults();
     showWhatIsStale();
 }
 
-void Screen::outdated() {
-    m_workedFrom.clear();
+void Screen::calculated(int page) {
+    m_workedFrom[page] = inputs(page);
+    showWhatIsStale();
+}
+
+void Screen::outdated(int page) {
+    m_workedFrom.erase(page);
     showWhatIsStale();
 }
 
 void Screen::showWhatIsStale() {
-    if (m_calculated.empty()) return;
-    const bool stale = inputs() != m_workedFrom;
-    for (QLineEdit* line : m_calculated)
-        look::setStale(line, stale && line->isReadOnly());
+    std::map<int, bool> stale; // by page
+    for (QLineEdit* line : m_calculated) {
+        const int page = calculationOf(line);
+        if (!stale.contains(page)) stale[page] = !m_workedFrom.contains(page) || m_workedFrom.at(page) != inputs(page);
+        look::setStale(line, stale[page] && line->isReadOnly());
+    }
 }
 
 void Screen::tellFaults() {
@@ -293,7 +307,8 @@ QWidget* Screen::nextEntry(const QWidget* from) const {
     if (from == nullptr || content == nullptr || !content->isAncestorOf(from)) return nullptr;
     const Page here = pageOf(from);
     if (here.book == nullptr) return entryBehind(from, content);
-    if (QWidget* next = entryBehind(from, here.book->widget(here.index)); next != nullptr) return next;
+    QWidget* onThisPage = entryBehind(from, here.book->widget(here.index));
+    if (onThisPage != nullptr || here.book == m_workedByPage) return onThisPage;
     for (int page = here.index + 1; page < here.book->count(); ++page)
         if (QWidget* next = entryBehind(here.book->widget(page), here.book->widget(page)); next != nullptr) return next;
     return entryBehind(from, content); // the controls below the pages

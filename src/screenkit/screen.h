@@ -5,6 +5,7 @@
 #include <QWidget>
 #include <cstdint>
 #include <functional>
+#include <map>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -125,15 +126,20 @@ protected:
     QLabel* over(QWidget* field, const QString& name, const QString& text);
     /// For choices such as how to print: they are no edits of the client's record.
     void untrackedField(Field* field);
+    /// For an input that is not stored with the client: an edit sets no changed flag.
+    void unsavedField(Field* field);
     /// A line that shows a calculated result: it looks out of date from an edit of an input until `calculated`. Has no
     /// effect while the line itself is an entry.
     void showsCalculated(QLineEdit* line) { m_calculated.push_back(line); }
     /// For a date or figure that no calculation uses: editing it does not make results look out of date.
     void notCalculatedFrom(Field* field) { m_asides.push_back(field); }
-    /// Call it after a calculation: the results now match the fields.
-    void calculated();
+    /// Call it after a calculation: the results now match the fields. page: see `worksByPage`.
+    void calculated(int page = 0);
     /// Call it when results no longer match although no field changed, for example after a change of settings.
-    void outdated();
+    void outdated(int page = 0);
+    /// Each page of this book is a calculation of its own: its results depend on its own fields alone, and Enter in its
+    /// last field presses the default button instead of moving to the next page.
+    void worksByPage(QTabWidget* book) { m_workedByPage = book; }
     QTabWidget* tabs(const QString& name, const std::vector<std::pair<QString, Item>>& pages);
     void body(QLayout* content);
     void defaultButton(QPushButton* button) { m_default = button; }
@@ -220,8 +226,11 @@ private:
     bool complain(Field* field);
     /// Lists below the fields the values outside their limits that the user did not enter.
     void tellFaults();
-    /// The inputs of a calculation in the fields; not those of a panel, which are copies until confirmed.
-    std::vector<std::optional<double>> inputs() const;
+    /// The page whose calculation this control belongs to; 0 for all if the screen does not work by page.
+    int calculationOf(const QWidget* control) const;
+    /// The inputs of a calculation in the fields; not those of a panel, which has results of its own or none.
+    std::vector<std::optional<double>> inputs(int page) const;
+    void takeEdit();
     void showWhatIsStale();
     template <class Kind>
     Kind* addPanel(const QString& name, const QString& title);
@@ -253,8 +262,9 @@ private:
     QWidget* m_afterGrid = nullptr;
     std::vector<QLineEdit*> m_calculated;
     std::vector<Field*> m_asides;
-    std::vector<std::optional<double>> m_workedFrom; ///< inputs of the last calculation
-    std::vector<Field*> m_left;                      ///< the user has left them; their checks are due
+    std::map<int, std::vector<std::optional<double>>> m_workedFrom; ///< inputs of the last calculation, by page
+    QTabWidget* m_workedByPage = nullptr;
+    std::vector<Field*> m_left; ///< the user has left them; their checks are due
     QTimer m_leaving;
     QScrollArea* m_area = nullptr;
     QLabel* m_faults = nullptr;
