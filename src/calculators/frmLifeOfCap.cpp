@@ -1,58 +1,33 @@
 #include "calculators/frmLifeOfCap.h"
 
-#include <limits>
-
 #include "calculators/lifeofcapitalreport.h"
 #include "datastore/paths.h"
-#include "reports/frmGraph.h"
 #include "reports/report.h"
 
 namespace calculators {
 
 using namespace screenkit;
 
-namespace {
-
-constexpr const char* figures = "### ### ###.00";
-constexpr double noAnswer = std::numeric_limits<double>::quiet_NaN(); // shows as an error
-const NumberKind taxRate = percent.from(0, "The minimum tax rate allowed is 0%", "Incorrect Tax Rate!")
-                               .upTo(40, "The maximum tax rate allowed is 40%", "Incorrect Tax Rate!");
-
-/// After its message the focus goes to the tax rate, on purpose: users know the screen that way.
-NumberKind escalation(Field* tax) {
-    return percent.where([](double rate) { return !(rate > 50); },
-                         [tax] {
-                             return Complaint{"The maximum Annual income escalation allowed is 50%",
-                                              "Incorrect Annual Income Escalation!", tax};
-                         });
-}
-
-} // namespace
-
 frmLifeOfCap::frmLifeOfCap(Workplace& workplace)
-    : Screen(workplace, "frmLifeOfCap", "Life of Capital", workplace.record.changed.LifeOfCapChanged),
-      m_inputs(workplace.record.lifeOfCapital) {
-    auto* capital = number("sidbEdit13", m_inputs.CAPI, money);
-    auto* income = number("sidbEdit14", m_inputs.MINC, money);
-    auto* rate = number("sidbEdit15", m_inputs.GRTE, percent);
-    auto* tax = number("sidbEdit16", m_inputs.TXRTE, taxRate);
-    auto* rise = number("sidbEdit17", m_inputs.EXCLife, escalation(tax));
-    m_answer = result("sidbEdit18", m_years, whole);
-    showsCalculated(m_answer);
+    : CapitalLifeScreen(workplace, "frmLifeOfCap", "Life of Capital", workplace.record.changed.LifeOfCapChanged,
+                        finance::moreThanInLifeOfCapital) {
+    auto* fields = form(lifeRows());
+    showsCalculated(m_lasts);
     m_ok = okButton();
     auto* work = button("cmdCalculate", "&Calculate", [this] {
         calculate();
-        announce({m_answer});
+        announce({m_lasts});
     });
-    body(column({form({{"Capital Amount &invested", capital},
-                       {"Montl&y income required", income},
-                       {"Investment intere&st rate", rate, "% a year"},
-                       {"&Tax rate", tax, "%"},
-                       {"Annual income &escalation", rise, "% a year"},
-                       {"Will provide required income for more than ", m_answer, "years"}}),
-                 spring(),
-                 row({work, button("cmdAmortLifeCap", "A&mortisation", [this] { table(); }),
-                      button("cmdAmortGraph", "&Graph", [this] { graph(); }),
+    auto* years = lifeYearsButton([this] {
+        calculate();
+        showLifeYears(m_ok);
+    });
+    auto* drawing = lifeGraphButton([this] {
+        calculate();
+        drawLife(m_ok);
+    });
+    body(column({fields, spring(),
+                 row({work, years, drawing,
                       button("cmdPrint", "&Print",
                              [this] {
                                  calculate();
@@ -66,33 +41,8 @@ frmLifeOfCap::frmLifeOfCap(Workplace& workplace)
 }
 
 void frmLifeOfCap::calculate() {
-    m_life = finance::LCCalculate(m_inputs, finance::moreThanInLifeOfCapital);
-    m_years = m_life.shown;
-    m_answer->present(m_life.isFinite ? m_years : noAnswer);
-    setRowLabel(m_answer, QString::fromStdString(m_life.caption));
+    calculateLife();
     calculated();
-}
-
-void frmLifeOfCap::table() {
-    calculate();
-    const auto& [capital, earnings, need, lookedAt] = m_life.years;
-    std::vector<std::vector<double>> rows;
-    for (std::size_t year = 1; year <= static_cast<std::size_t>(m_life.rows()); ++year)
-        rows.push_back({static_cast<double>(year), capital[year], earnings[year], need[year]});
-    showGrid("Life of Capital",
-             {{" Year ", "##"},
-              {"       Capital       ", figures},
-              {"      Interest       ", figures},
-              {"     Required        ", figures}},
-             std::move(rows), m_ok);
-}
-
-void frmLifeOfCap::graph() {
-    calculate();
-    if (m_life.years.lookedAt == 0) return m_ok->setFocus(Qt::OtherFocusReason);
-    m_work.shell.open("frmGraph");
-    if (auto* window = qobject_cast<reports::frmGraph*>(m_work.shell.screen("frmGraph")))
-        window->EMVAmortGraph(m_life.years.capital, m_life.years.earnings, m_life.years.need, m_life.rows());
 }
 
 void frmLifeOfCap::print(Destination destination) {
