@@ -331,6 +331,15 @@ struct FundDefaults {
     bool operator==(const FundDefaults&) const = default;
 };
 
+/// Rates that the practice confirmed but that could not be stored: they hold until the program ends, for all clients.
+struct UnstoredRates {
+    bool hold = false;
+    FundDefaults funds;
+    double GRINC = 0;
+
+    bool operator==(const UnstoredRates&) const = default;
+};
+
 /// The one working record of the current client. One exists in the process; it is handed down by reference.
 struct Assessment {
     Client client;
@@ -367,6 +376,7 @@ struct Assessment {
     CapitalGains capitalGains;
     LumpSums lumpSums;
     FundDefaults funds;
+    UnstoredRates unstoredRates; ///< kept when another client comes
 
     double DCLNO = 0; ///< client key, 0 while the client has none
     std::int16_t ClientOnFile = 0;

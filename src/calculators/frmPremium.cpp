@@ -22,7 +22,7 @@ Bound<double> frmPremium::figure(Figure CapitalPremium::*member) {
 }
 
 frmPremium::frmPremium(Workplace& workplace) : Screen(workplace, "frmPremium", "Premium Calculation", untracked()) {
-    m_work.record.funds = datastore::readFunds(m_work.paths.DefaultDbPath);
+    datastore::refreshFunds(m_work.record, m_work.paths.DefaultDbPath);
     auto* target = number("numPremEmv", figure(&CapitalPremium::PremTarget), money);
     m_period = number("numPremPeriod", figure(&CapitalPremium::PremTerm), years);
     m_growth = number("numPremGR", figure(&CapitalPremium::PremGrowth), percent);

@@ -28,6 +28,11 @@ FundDefaults readOriginalFunds(const std::filesystem::path& defaultDbPath) {
 }
 
 void refreshFunds(assessment::Assessment& record, const std::filesystem::path& defaultDbPath) {
+    if (record.unstoredRates.hold) {
+        record.funds = record.unstoredRates.funds;
+        record.GRINC = record.unstoredRates.GRINC;
+        return;
+    }
     store::Database settings(defaultDbPath);
     const FundDefaults funds = readFunds(settings);
     record.GRINC = readSettings(settings, "Setup").number("GRINC");
@@ -40,6 +45,12 @@ void writeFunds(const std::filesystem::path& defaultDbPath, const FundDefaults& 
     writeSettings(settings, "Setup", {{"GRINC", grinc}});
     writeSettings(settings, mutualFundsTable().name(), rowOf(mutualFundsTable(), funds));
     transaction.commit();
+}
+
+void storeFunds(assessment::Assessment& record, const std::filesystem::path& defaultDbPath) {
+    record.unstoredRates = {true, record.funds, record.GRINC};
+    writeFunds(defaultDbPath, record.funds, record.GRINC);
+    record.unstoredRates = {};
 }
 
 } // namespace datastore

@@ -83,6 +83,7 @@ void load(Assessment& record, const Paths& paths, double key) {
     store::Database database(paths.DataDbPath);
     const store::Transaction oneView(database, store::Access::read);
     readCPI(blank, database);
+    blank.unstoredRates = record.unstoredRates;
     Assessment loaded = blank;
     try {
         readClient(loaded, database, key);

@@ -44,6 +44,7 @@ void ResetAssessment(assessment::Assessment& record, const Paths& paths) {
     } catch (const store::Error&) {
         blank.CPI = 0;
     }
+    blank.unstoredRates = record.unstoredRates;
     record = std::move(blank);
 }
 

@@ -144,7 +144,7 @@ TEST(EveryMember, OfTheRecordIsStoredByOneLineOrAWorkingValue) {
             record.itemised.DISAInvestments.flag);
     working(record.drawDownCosts, record.car, record.premiumQuote, record.premiums);
     working(record.DCLNO, record.ClientOnFile, record.inFile, record.ClientChanged, record.SaveThenNew, record.changed,
-            record.GRINC, record.FinChargeState);
+            record.GRINC, record.FinChargeState, record.unstoredRates);
     reached.shareFromHere();
     reached.markTable(persDetailsTable(), record);
     reached.expectAll();
