@@ -83,7 +83,7 @@ EditGrid* Screen::editGrid(const QString& name) {
 }
 
 Grid* Screen::table(const QString& name, const QString& spokenName, Grid::Picking picking, std::function<void()> picked,
-                    std::function<void()> opened) {
+                    std::function<void()> opened, std::function<void(int)> headPressed) {
     auto* grid = new Grid(name);
     grid->setAccessibleName(spokenName);
     grid->setPicking(picking);
@@ -93,6 +93,12 @@ Grid* Screen::table(const QString& name, const QString& spokenName, Grid::Pickin
     };
     grid->pickChanged = guardedAction(tr("show the line"), std::move(picked));
     grid->opened = guardedAction(tr("open the line"), std::move(opened));
+    if (headPressed) {
+        grid->setSortable(true);
+        grid->headPressed = [this, action = std::move(headPressed)](int column) {
+            attempt(tr("sort the table"), [&] { action(column); });
+        };
+    }
     return grid;
 }
 

@@ -137,7 +137,8 @@ void Panel::keyPressEvent(QKeyEvent* event) {
     auto* focused = qobject_cast<QPushButton*>(QApplication::focusWidget());
     QPushButton* pressed = nullptr;
     if (event->key() == Qt::Key_Escape) pressed = m_cancel;
-    if (enter) pressed = focused != nullptr ? focused : m_default;
+    if (enter) pressed = focused != nullptr || m_enterWalks ? focused : m_default;
+    if (enter && pressed == nullptr) focusNextPrevChild(true);
     if (pressed != nullptr && pressed->isEnabled()) pressed->click();
     event->accept(); // keeps all keys from the screen below
 }

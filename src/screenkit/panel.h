@@ -30,6 +30,8 @@ public:
     void setTitle(const QString& title);
     /// Its content, and the buttons at the bottom: the first is the default, the last the one that Escape presses.
     void setContent(const Item& content, std::initializer_list<QPushButton*> buttons);
+    /// Enter in a field or table moves on to the next control instead of pressing the first button.
+    void setEnterWalks() { m_enterWalks = true; }
     /// Scrolls to the control with the focus.
     void bringToView(const QWidget* control);
 
@@ -54,6 +56,7 @@ private:
     QPointer<QWidget> m_focusBefore;
     QPushButton* m_cancel = nullptr;
     QPushButton* m_default = nullptr;
+    bool m_enterWalks = false;
 };
 
 /// The panel that asks how to print.

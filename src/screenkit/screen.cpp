@@ -353,6 +353,7 @@ void Screen::closeEvent(QCloseEvent* event) {
     }
     m_dropped = true;
     event->accept();
+    closing();
     giveBackLent();
     emit closed(this);
 }

@@ -99,9 +99,11 @@ protected:
     /// `untrackedField`.
     EditGrid* editGrid(const QString& name);
     /// A read-only table in the body of the screen; pass its rows to `show`. picked: another line was picked. opened: a
-    /// double click or Enter on a line; without it Enter presses the default button.
+    /// double click or Enter on a line; without it Enter presses the default button. headPressed: a click on a head or
+    /// its key, for a table that the screen itself puts in order.
     Grid* table(const QString& name, const QString& spokenName, Grid::Picking picking,
-                std::function<void()> picked = {}, std::function<void()> opened = {});
+                std::function<void()> picked = {}, std::function<void()> opened = {},
+                std::function<void(int)> headPressed = {});
     /// A button that acts only if every field passes its check.
     QPushButton* button(const QString& name, const QString& caption, std::function<void()> action);
     /// A button that leaves or cancels: no check stops it, and moving to it shows no message.
@@ -204,6 +206,8 @@ protected:
     virtual void settled(Field*) {}
     /// The user asks to close, and all fields have passed their checks. False keeps the screen open.
     virtual bool mayClose() { return true; }
+    /// It closes now, whoever closes it: restore what must not outlive it.
+    virtual void closing() {}
 
     Workplace& m_work;
 

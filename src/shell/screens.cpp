@@ -17,6 +17,7 @@
 #include "client/frmPolInvest.h"
 #include "datastore/frmBrowse.h"
 #include "datastore/frmSaveFileAs.h"
+#include "quotes/frmKwikQuotes.h"
 #include "reports/frmGraph.h"
 #include "reports/frmHeadFoot.h"
 #include "shell/frmBrowser.h"
@@ -47,6 +48,7 @@ constexpr ScreenEntry entries[] = {
     {"frmLoans", build<calculators::frmLoans>, "The loan calculator"},
     {"frmPremium", build<calculators::frmPremium>, "The premium for a capital"},
     {"frmOffShore", build<calculators::frmOffShore>, "Offshore investments"},
+    {"frmKwikQuotes", build<quotes::frmKwikQuotes>, "Kwik-Quotes"},
     {"frmHeadFoot", build<reports::frmHeadFoot>, "Your header and footer lines"},
     {"frmGraph", build<reports::frmGraph>, "Graphs"},
     {"frmBrowser", build<shell::frmBrowser>, "Working by keyboard"},
