@@ -89,7 +89,8 @@ void showNeeds(Hands& hands, const QString& look) {
                                      {"mnuInflation", "inflation-"},
                                      {"mnuLifeOfCap", "life-of-capital-"},
                                      {"mnuInvestComp", "investment-comparison-"},
-                                     {"mnuOffShore", "offshore-"}}) {
+                                     {"mnuOffShore", "offshore-"},
+                                     {"mnuKwikQuotes", "quote-"}}) {
         hands.menu({"mnuCalc", item});
         picture(&hands.window(), name + look);
     }

@@ -93,6 +93,8 @@ void wholeCase() {
         tour::planEducation(hands);
         tour::seeInflation(hands);
         tour::lastCapital(hands);
+        tour::quote(hands);
+        tour::findPremium(hands);
         tour::compareOffers(hands);
         tour::investOffshore(hands);
         tour::taxAMonth(hands);

@@ -32,6 +32,9 @@ void planEducation(Hands& hands);
 /// Starts in the education analysis and closes both.
 void seeInflation(Hands& hands);
 void lastCapital(Hands& hands);
+/// Ends in Kwik-Quotes, where `findPremium` goes on.
+void quote(Hands& hands);
+void findPremium(Hands& hands);
 void compareOffers(Hands& hands);
 void investOffshore(Hands& hands);
 void taxAMonth(Hands& hands);
