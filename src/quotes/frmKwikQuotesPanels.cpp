@@ -161,15 +161,15 @@ void frmKwikQuotes::openHistory() {
 
 void frmKwikQuotes::showHistory(HistoryOrder order) {
     constexpr const char* growth = "#0.0%";
-    constexpr int narrow = 10;                                       // characters
+    constexpr int nameWidth = 34, growthWidth = 7;                   // characters
     FundHistory history = readFundHistory(m_work.paths.UnitsDbPath); // each time: the file may have been replaced
     sortFunds(history.funds, order);
     m_history = std::move(history);
     m_order = order;
     m_ascending[static_cast<std::size_t>(order.column)] = order.ascending;
-    std::vector<GridColumn> columns{GridColumn::text("Unit Trust Fund")};
+    std::vector<GridColumn> columns{GridColumn::text("Unit Trust Fund", nameWidth)};
     for (const char* period : {"1 yr", "2 yr", "3 yr", "5 yr", "7 yr"})
-        columns.push_back({period, growth, GridColumn::Kind::figures, narrow});
+        columns.push_back({period, growth, GridColumn::Kind::figures, growthWidth});
     m_historyGrid->show(std::move(columns), {m_history.funds.size(), [this](std::size_t row, std::size_t column) {
                                                  const FundGrowth& fund = m_history.funds[row];
                                                  if (column == 0) return GridCell(QString::fromStdString(fund.name));
