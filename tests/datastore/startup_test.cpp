@@ -191,6 +191,7 @@ TEST_F(StartUp, NeedsTheSettingsAndMustBeAbleToWriteThem) {
         EXPECT_EQ(startError(), 3027);
     }
     fs::remove(settings);
+    EXPECT_EQ(startError(), 3024);
     record.client.Name = "kept";
     EXPECT_EQ(errorOf([&] { datastore::ResetAssessment(record, folder.paths()); }), 3024);
     EXPECT_EQ(record.client.Name, "kept"); // a failed New loses nothing

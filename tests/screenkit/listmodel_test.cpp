@@ -180,6 +180,7 @@ TEST_F(GridTest, CopiesPickedLinesUnderTheirHeadsAndSaysWhyItIsEmpty) {
               "Fund\t1 yr\tStarted\nAalwyn\t-1.00\t30/12/1899\nÊland\t0.50\t09/04/1900\nAll\t11.75\t");
     EXPECT_EQ(grid->model()->index(0, 1).data(Qt::AccessibleTextRole), "1 yr: -1.00");
     EXPECT_TRUE(grid->model()->index(2, 0).data(Qt::FontRole).value<QFont>().bold()) << "the totals";
+    EXPECT_FALSE(grid->model()->flags(grid->model()->index(2, 0)).testFlag(Qt::ItemIsSelectable));
     grid->setEmptyText("nobody");
     EXPECT_FALSE(get("grdFundsEmpty")->isVisible());
     grid->clear();

@@ -1,3 +1,6 @@
+#include <QScrollArea>
+#include <QScrollBar>
+
 #include "screenkit/kit_screen.h"
 
 namespace screenkit {
@@ -38,6 +41,21 @@ TEST_F(KitTest, enterWalksTheFieldsAndTheLastPressesTheDefaultButton) {
     EXPECT_EQ(selected(), text("numMonths")) << "a key that leads nowhere is not typed over the selection";
     for (const char* named : {"dtDay", "optMode(0)", "dtDay"})
         EXPECT_EQ(after("Alt+D"), named) << "a letter of two captions leads to each in turn";
+}
+
+// The toolkit shows a field that Tab leads to, but neither the next one of Enter nor one that is complained of.
+TEST_F(KitTest, inASmallWindowTheFocusComesIntoView) {
+    child->resize(420, 260);
+    settle();
+    EXPECT_FALSE(isSeenWhole("txtName"));
+    EXPECT_EQ(after("Return Return Return Return Return Return"), "txtName");
+    EXPECT_TRUE(isSeenWhole("txtName"));
+    enter("numMonths", "700");
+    auto* bar = screen->findChild<QScrollArea*>()->verticalScrollBar();
+    bar->setValue(bar->maximum());
+    desk.told([this] { click("cmdRun"); });
+    EXPECT_TRUE(isSeenWhole("numMonths"));
+    enter("numMonths", "7");
 }
 
 } // namespace
