@@ -117,6 +117,12 @@ TEST_F(PolInvest, RecordsAreWalkedAddedAndDeletedInTheirOrder) {
     open(3);
     EXPECT_EQ(run.front()->windowTitle(), "Policies & Investments. : Num. 1 of 3");
     EXPECT_FALSE(run.control("cmdBack")->isEnabled());
+    // Space once too often at the end must not press the button beside it, which adds a record: the focus turns round.
+    run.control("cmdForward")->setFocus(Qt::TabFocusReason);
+    for (const int stop : {2, 3, 2, 1}) {
+        run.key(Qt::Key_Space);
+        EXPECT_EQ(run.record().CurPolicy, stop);
+    }
     for (const auto& [button, answer, title, left, back, forward] : presses) {
         if (answer) run.desk.expect(*answer);
         run.click(button);
@@ -128,16 +134,6 @@ TEST_F(PolInvest, RecordsAreWalkedAddedAndDeletedInTheirOrder) {
         EXPECT_EQ(changed(), types() == "1 2 3 " ? 0 : 1);
     }
     EXPECT_EQ(run.desk.last().defaultAnswer, Answer::no);
-}
-
-// Pressing Space once too often at the end must not press the button beside it, which adds a record.
-TEST_F(PolInvest, AtTheEndTheFocusGoesToTheOppositeButton) {
-    open(2);
-    run.control("cmdForward")->setFocus(Qt::TabFocusReason);
-    run.key(Qt::Key_Space);
-    run.key(Qt::Key_Space);
-    EXPECT_EQ(run.record().CurPolicy, 1);
-    EXPECT_EQ(types(), "1 2 ");
 }
 
 TEST_F(PolInvest, LimitsHoldTheUserWithAMessageAndKeepWhatWasTyped) {

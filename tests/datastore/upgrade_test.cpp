@@ -39,7 +39,7 @@ TEST_F(UpgradeTest, EachVersionIsUpgradedToTheCurrentOneAtOnce) {
     }
 }
 
-TEST_F(UpgradeTest, PercentagesBecomeWholeRandOnce) {
+TEST_F(UpgradeTest, PercentagesBecomeWholeRandOnceAndEscalationsLeftNullNone) {
     folder.makeClientDb(3);
     const std::pair<const char*, const char*> cases[] = {
         {"100000, 7.5, 'annually'", "7500"},
@@ -56,7 +56,9 @@ TEST_F(UpgradeTest, PercentagesBecomeWholeRandOnce) {
     int key = 0;
     for (const auto& [row, rand] : cases)
         addDrawing(++key, row);
+    run("INSERT INTO RNAMonIncReq(DCLNO,Escalation) VALUES(1,NULL),(1,6)");
     EXPECT_EQ(version(), datastore::currentVersion);
+    EXPECT_EQ(in("SELECT group_concat(Escalation) FROM RNAMonIncReq"), "0.0,6.0"); // one left Null is none
     key = 0;
     for (const auto& [row, rand] : cases)
         EXPECT_EQ(incomeDrawn(++key), rand) << row;
@@ -97,13 +99,6 @@ TEST_F(UpgradeTest, AVersionThatCannotBeReadEndsTheStart) {
     run("INSERT INTO DataSetup(UpDateDB) VALUES(5)");
     EXPECT_EQ(version(), datastore::currentVersion);
     EXPECT_EQ(in("SELECT group_concat(UpDateDB) FROM DataSetup"), current + ".0,5.0"); // only the first row counts
-}
-
-TEST_F(UpgradeTest, EscalationsLeftNullBecomeZero) {
-    folder.makeClientDb(5);
-    run("INSERT INTO RNAMonIncReq(DCLNO,Escalation) VALUES(1,NULL),(1,6)");
-    EXPECT_EQ(version(), datastore::currentVersion);
-    EXPECT_EQ(in("SELECT group_concat(Escalation) FROM RNAMonIncReq"), "0.0,6.0");
 }
 
 TEST_F(UpgradeTest, HeaderAndFooterLinesGoToBothDatabases) {

@@ -42,6 +42,11 @@ public:
         auto& loan = work.record.loans;
         auto* amount = number("numAmount", loan.Num1, money);
         auto* months = number("numMonths", loan.Num2, whole.upTo(600, "Too many months", "Months!"));
+        // from 1 to 600; a step below 1 wraps round
+        const SpinRule steps{
+            .floor = 0, .holdsFloor = false, .ceiling = 600, .wrapsTo = 40, .rings = true, .focus = [this] {
+                return clickFocus;
+            }};
         auto* total = result("numTotal", places.total, money);
         showsCalculated(total);
         auto* name = text("txtName", places.name, 10);
@@ -51,7 +56,7 @@ public:
         });
         body(column(
             {form({{"&Amount", amount},
-                   {"&Months", row({months, spin("spnMonths", months, monthsSpin())})},
+                   {"&Months", row({months, spin("spnMonths", months, steps)})},
                    {"&Count", number("numCount", places.count, whole.between(-99999, 99999, "Count", "C!"))},
                    {"&Shares", number("numShares", places.shares, whole)},
                    {"Ra&te", number("numRate", places.rate, percent), "% a year"},
@@ -77,13 +82,6 @@ public:
         return added(number(name, place, kind));
     }
     DateField* add(const QString& name, double& place, const DateKind& kind) { return added(date(name, place, kind)); }
-
-    /// From 1 to 600 months; a step below 1 wraps round.
-    SpinRule monthsSpin() {
-        return {.floor = 0, .holdsFloor = false, .ceiling = 600, .wrapsTo = 40, .rings = true, .focus = [this] {
-                    return clickFocus;
-                }};
-    }
 
     /// Opens the panel with the table of figures.
     void table(std::vector<std::vector<double>> rows) {

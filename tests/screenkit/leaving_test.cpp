@@ -145,9 +145,6 @@ TEST_F(LeavingTest, aResultLooksOutOfDateWhileItsInputsAreOthers) {
     EXPECT_TRUE(isStale());
     refresh();
     EXPECT_FALSE(isStale());
-}
-
-TEST_F(LeavingTest, aResultThatIsNotFiniteShowsAsAnError) {
     get<NumberField>("numTotal")->present(std::numeric_limits<double>::infinity());
     EXPECT_EQ(text("numTotal"), "   Error");
     EXPECT_EQ(get<NumberField>("numTotal")->value(), 0);
