@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -205,7 +206,9 @@ QSize Grid::sizeHint() const {
     int characters = 0;
     for (const GridColumn& column : m_list->columns())
         characters += column.characters == 0 ? readable : column.characters + 2;
-    return {fontMetrics().averageCharWidth() * std::clamp(characters, 80, 130), lines};
+    // Beside the columns: the scroll bar, the frame, and what the style leaves between them.
+    const int around = verticalScrollBar()->sizeHint().width() + 2 * frameWidth() + look::lineHeight(this) / 2;
+    return {fontMetrics().averageCharWidth() * std::clamp(characters, 80, 130) + around, lines};
 }
 
 QModelIndex Grid::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
