@@ -58,7 +58,6 @@ QWidget* frmKwikQuotes::rateGroup(const QString& name, const QString& title, std
         auto* original = number(line.control + "DEF", m_original.*line.rate, line.kind);
         original->setLocked(true);
         m_rateFields.push_back(own);
-        m_rateFields.push_back(original);
         rows.push_back({line.caption, {own, row({original, new QLabel(isFee ? "rand" : "%")})}});
     }
     return group(name, title, matrix({"Your rates", "Original rates"}, rows));
@@ -161,13 +160,13 @@ void frmKwikQuotes::openHistory() {
 
 void frmKwikQuotes::showHistory(HistoryOrder order) {
     constexpr const char* growth = "#0.0%";
-    constexpr int nameWidth = 34, growthWidth = 7;                   // characters
+    constexpr int growthWidth = 6;                                   // characters
     FundHistory history = readFundHistory(m_work.paths.UnitsDbPath); // each time: the file may have been replaced
     sortFunds(history.funds, order);
     m_history = std::move(history);
     m_order = order;
     m_ascending[static_cast<std::size_t>(order.column)] = order.ascending;
-    std::vector<GridColumn> columns{GridColumn::text("Unit Trust Fund", nameWidth)};
+    std::vector<GridColumn> columns{GridColumn::text("Unit Trust Fund")};
     for (const char* period : {"1 yr", "2 yr", "3 yr", "5 yr", "7 yr"})
         columns.push_back({period, growth, GridColumn::Kind::figures, growthWidth});
     m_historyGrid->show(std::move(columns), {m_history.funds.size(), [this](std::size_t row, std::size_t column) {

@@ -200,6 +200,13 @@ TEST_F(KwikQuotesScreen, APremiumIsSoughtOnItsOwnPage) {
     run.click("cmdCalculate");
     EXPECT_EQ(run.shown("numPremAnsUT"), "0");
     EXPECT_TRUE(run.control<QLabel>("lblUnreached")->text().startsWith("Unit Trusts"));
+    run.type("numPremPeriod", "0"); // asks for nothing
+    run.click("cmdCalculate");
+    run.expectShown("numPremAnsEndow 0, numPremAnsRA 0");
+    run.type("numPremPeriod", "60");
+    close();
+    run.menu("mnuKwikQuotes");
+    EXPECT_TRUE(isStale("numPremAnsUT")) << "the target is kept, its answer is not";
 }
 
 TEST_F(KwikQuotesScreen, RatesAreUndoneUnlessConfirmedAndHoldIfTheyCannotBeStored) {
