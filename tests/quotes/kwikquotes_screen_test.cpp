@@ -75,6 +75,7 @@ TEST_F(KwikQuotesScreen, EveryControlHoldsItsField) {
 }
 
 TEST_F(KwikQuotesScreen, EachKindHasItsOwnAnswersTableGraphAndReport) {
+    run.record().lifeOfCapital = {500000, 1000, 9, 25, 0}; // not in the report until its panel is opened
     typeQuote();
     const struct {
         const char *option, *letter, *third, *graph, *legend, *title;
@@ -181,6 +182,7 @@ TEST_F(KwikQuotesScreen, SpinnersStepTheQuotationAndLimitsAreTold) {
 }
 
 TEST_F(KwikQuotesScreen, APremiumIsSoughtOnItsOwnPage) {
+    EXPECT_FALSE(isStale("numPremAnsUT")) << "nothing is sought yet";
     run.typeAll("numPremEmv 100000, numPremPeriod 60, numPremGR 10");
     for (const char* ofTheQuote : {"cmdGraph", "cmdAmort", "cmdPrint"})
         EXPECT_FALSE(run.control(ofTheQuote)->isEnabled()) << ofTheQuote;
@@ -193,6 +195,9 @@ TEST_F(KwikQuotesScreen, APremiumIsSoughtOnItsOwnPage) {
     EXPECT_EQ(run.shown("numPremAnsRA").remove(' ').toDouble(), found.retirement.premium);
     EXPECT_EQ(run.shown("numPremAnsUT").remove(' ').toDouble(), found.unitTrust.premium);
     EXPECT_FALSE(isVisible("lblUnreached"));
+    run.click("cmdDefault");
+    run.click("cmdOKDefault");
+    EXPECT_FALSE(isStale("numPremAnsUT")) << "found at the same rates";
     run.click("cmdDefault");
     run.type("numUTComm", "100");
     run.click("cmdOKDefault");
