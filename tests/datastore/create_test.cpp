@@ -102,6 +102,7 @@ TEST(Creator, TakesEffectWholeOrNotAtAll) {
     creator.AddField("Plain", store::Type::Integer, 0, 12);
     for (int twice = 0; twice < 2; ++twice)
         creator.AddIndex("Number, Words", "Both", false, false);
+    creator.AddIndex("Nothing", "Bad", false, false); // a field that is not there: no index, and no error
     creator.AddIndex("Words", "Unique", false, true);
     creator.finish();
     store::Database database(file);

@@ -1,3 +1,6 @@
+#include <chrono>
+#include <random>
+
 #include "datastore/datastore_support.h"
 #include "datastore/save.h"
 
@@ -68,6 +71,45 @@ TEST_F(SaveFaultTest, AFileThatAnotherProgramHolds) {
     }
     EXPECT_EQ(record.ClientChanged, 1);
     EXPECT_EQ(Save(record, file), datastore::Saved::written);
+}
+
+/// Writes a number into every table of a client.
+void stamp(Assessment& record, double number) {
+    record.loans.Num1 = number;
+    record.details.Comments = std::to_string(number);
+    record.itemised.DISAOtherExp.rows[0].Amount = number;
+    record.policies.back().RBEMV = record.capitalGains.assets.back().CapGain = number;
+    record.lumpSums.FstLumpTaken = record.capitalGains.trustOther.back().Amount = number;
+    record.ClientChanged = 1;
+}
+
+TEST_F(SaveFaultTest, AProgramKilledInTheMiddle) {
+    const auto start = std::chrono::steady_clock::now();
+    Save(record, file);
+    const std::chrono::duration<double, std::micro> timeOfOneSave = std::chrono::steady_clock::now() - start;
+    std::mt19937 random(20260301);
+    std::uniform_real_distribution moment(0.0, 3 * timeOfOneSave.count());
+    double number = 100;
+    // On a busy machine the first rounds may be killed before their save: more follow until one save has completed.
+    for (int round = 0; round < 30 || (number <= 101 && round < 200); ++round) {
+        storetest::runAndKill(
+            [&](auto ready) {
+                for (ready();;) {
+                    stamp(record, ++number);
+                    Save(record, file);
+                }
+            },
+            [&] { ::usleep(static_cast<useconds_t>(moment(random))); });
+        // The next start opens the file without a question and finds one complete save.
+        Assessment found;
+        ASSERT_NO_THROW(datastore::startUp(folder.path(), found));
+        ASSERT_NO_THROW(datastore::load(found, folder.paths(), 1));
+        if (found.loans.Num1 > 100) stamp(record, number = found.loans.Num1);
+        expectSameClient(record, found);
+        record.inFile = found.inFile; // the killed process knew what it had saved
+    }
+    EXPECT_GT(number, 101);
+    EXPECT_EQ(in("PRAGMA integrity_check"), "ok");
 }
 
 } // namespace
