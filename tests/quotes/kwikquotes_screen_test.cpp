@@ -109,6 +109,10 @@ TEST_F(KwikQuotesScreen, EachKindHasItsOwnAnswersTableGraphAndReport) {
         EXPECT_EQ(table("grdPayments").back().size(), kind.columns);
         EXPECT_EQ(table("grdPayments")[29][2].toStdString(),
                   base::formatNumber(expected.quote.QuoteValue[30], "### ### ### ### ###.00"));
+        EXPECT_EQ(
+            table("grdPayments")[29].back().toStdString(),
+            base::formatNumber((*kind.letter == 'U' ? expected.quote.QuoteValueDiv : expected.quote.QuoteValue)[30],
+                               "### ### ### ### ###.00"));
         run.click("cmdGridClose");
         run.click("cmdGraph");
         EXPECT_EQ(graph().title, kind.graph);
@@ -148,9 +152,10 @@ TEST_F(KwikQuotesScreen, EachKindHasItsOwnAnswersTableGraphAndReport) {
 TEST_F(KwikQuotesScreen, SpinnersStepTheQuotationAndLimitsAreTold) {
     typeQuote();
     const std::tuple<const char*, const char*, const char*, const char*, int> steps[] = {
-        {"numTerm", "1", "spPeriodDown", "480", 1},       {"numTerm", "480", "spPeriodUp", "1", 0},
-        {"numTerm", "0", "spPeriodUp", "0", 0},           {"numIntRate", "9.25", "spRateUp", "9.750", 0},
-        {"numIntRate", "0.5", "spRateDown", "50.000", 1}, {"numIntRate", "49.75", "spRateUp", "0.500", 0}};
+        {"numTerm", "1", "spPeriodDown", "480", 1},     {"numTerm", "480", "spPeriodUp", "1", 0},
+        {"numTerm", "2", "spPeriodDown", "1", 0},       {"numTerm", "0", "spPeriodUp", "0", 0},
+        {"numIntRate", "9.25", "spRateUp", "9.750", 0}, {"numIntRate", "0.5", "spRateDown", "50.000", 1},
+        {"numIntRate", "49.75", "spRateUp", "0.500", 0}};
     for (const auto& [field, from, button, to, bells] : steps) {
         run.desk.bells = 0;
         run.type(field, from);
