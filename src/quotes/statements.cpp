@@ -15,7 +15,7 @@ std::string trail(double percent) {
 }
 
 std::string ofSingle(const Quote& quote, const char* investment) {
-    return "A once-off commission amount of " + base::formatNumber(quote.InitLump, "# ### ##0") +
+    return "A once-off commission amount of " + base::formatNumber(quote.InitLump, "# ### ###") +
            " is payable on the single " + investment;
 }
 

@@ -102,6 +102,10 @@ TEST(Statements, AreGivenOnlyForWhatIsPaidAndCharged) {
                 if (!texts[i].empty()) given += std::to_string(i + 1);
             EXPECT_EQ(given, expected) << c.kind << c.single << c.annual << c.monthly;
         }
+    const KwikQuotes tiny = inputs("E", 9, 1, 0, 0);
+    EXPECT_EQ(commissionStatements(tiny, low, InvestProCalc(tiny, low))[2],
+              "A once-off commission amount of  is payable on the single premium investment.")
+        << "less than half a rand has no digit to show";
 }
 
 TEST_F(QuoteReports, DefinitionsPrintPlanAnswersSentencesAndMonths) {
