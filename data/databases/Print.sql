@@ -160,7 +160,7 @@ CREATE TABLE [DebtCon] (
     [ANS1] DOUBLE, [ANS2] DOUBLE, [ANS3Text1] TEXT, [ANS3Text2] TEXT, [ANS3] DOUBLE, [YearMon] VARCHAR(255)
 );
 
--- A home loan at six interest rates: rand.
+-- A home loan over six terms: rand.
 CREATE TABLE [BondComp] (
     [PAmt] DOUBLE, [IntRate] DOUBLE, [MonRep1] DOUBLE, [IntPaid1] DOUBLE, [Total1] DOUBLE, [MonRep2] DOUBLE,
     [IntPaid2] DOUBLE, [Total2] DOUBLE, [MonRep3] DOUBLE, [IntPaid3] DOUBLE, [Total3] DOUBLE, [MonRep4] DOUBLE,

@@ -216,6 +216,24 @@ struct DrawDown {
     bool operator==(const DrawDown&) const = default;
 };
 
+/// A stretch of years of a draw-down annuity: what is drawn, and how it and the portfolio grow.
+struct DrawDownPhase {
+    double FromYear = 0, ToYear = 0;
+    double LAInitDraw = 0; ///< income at the start, rand a month
+    double Esc = 0;        ///< escalation of the income
+    double GRLA = 0;       ///< effective growth of the portfolio
+
+    bool operator==(const DrawDownPhase&) const = default;
+};
+
+/// The phases of a draw-down annuity, as on the lines of their table. Kept until the next client, never stored.
+struct DrawDownPhases {
+    DrawDownPhase phase0, phase1;
+    std::vector<DrawDownPhase> further; ///< lines that the user added: kept, but not part of the calculation
+
+    bool operator==(const DrawDownPhases&) const = default;
+};
+
 struct OffShore {
     std::int32_t InvAmount = 0;
     std::int16_t OSPeriod = 0; ///< years
@@ -359,6 +377,7 @@ struct Assessment {
     KwikTax tax;
     InvestComparison comparison;
     DrawDown drawDown;
+    DrawDownPhases drawDownPhases;
     DrawDownCosts drawDownCosts;
     OffShore offShore;
     RRROld rrrOld;

@@ -84,4 +84,12 @@ std::vector<AmortisationRow> yearRows(const Amortisation& table) {
     return rows;
 }
 
+std::vector<std::vector<double>> tableRows(const std::vector<AmortisationRow>& lines) {
+    std::vector<std::vector<double>> rows;
+    rows.reserve(lines.size());
+    for (const AmortisationRow& line : lines)
+        rows.push_back({static_cast<double>(line.number), line.capital, line.interest, line.balance});
+    return rows;
+}
+
 } // namespace calculators

@@ -54,4 +54,7 @@ std::vector<AmortisationRow> monthRows(const Amortisation& table);
 /// The lines of the annual table.
 std::vector<AmortisationRow> yearRows(const Amortisation& table);
 
+/// The same lines as figures for a table on a screen: number, capital, interest, balance.
+std::vector<std::vector<double>> tableRows(const std::vector<AmortisationRow>& lines);
+
 } // namespace calculators

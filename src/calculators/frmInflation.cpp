@@ -5,7 +5,6 @@
 
 #include "calculators/inflationreport.h"
 #include "datastore/paths.h"
-#include "reports/report.h"
 
 namespace calculators {
 
@@ -18,22 +17,18 @@ const NumberKind years = whole.from(0, "The minimum period allowed 0 years", "In
                              .upTo(40, "The maximum period allowed 40 years", "Incorrect Period!");
 const NumberKind rate =
     percent.between(-5, 40, "The range of the Inflation Rate is between -5% and 40%", "Incorrect Inflation Rate!");
-const NumberKind answer{money.mask, false, 22};
+const NumberKind value{money.mask, false, 22};
 
 } // namespace
 
 frmInflation::frmInflation(Workplace& workplace)
-    : Screen(workplace, "frmInflation", "Inflation", workplace.record.changed.InflationChanged),
+    : ResultScreen(workplace, "frmInflation", "Inflation", workplace.record.changed.InflationChanged),
       m_inputs(workplace.record.inflation) {
     auto* cost = number("numPresCost", m_inputs.PresCostInflation, money);
     auto* period = number("numPeriod", m_inputs.PeriodInflation, years);
     auto* inflation = number("numInflaRate", m_inputs.IntRateInflation, rate);
-    m_future = result("numAns1", m_result.futureValue, answer);
-    m_power = result("numAns2", m_result.buyingPower, answer);
-    for (NumberField* line : {m_future, m_power})
-        showsCalculated(line);
+    m_future = answer("numAns1", m_result.futureValue, value);
     m_tooLarge = over(m_future, "Label12", "Amount too large to display");
-    m_ok = okButton();
     const auto ok = [this] { return m_ok; };
     // A step below -5 leads to 30, although the field accepts 40.
     auto* spinRate = spin("spInflation", inflation,
@@ -43,41 +38,29 @@ frmInflation::frmInflation(Workplace& workplace)
         "spPeriod", period,
         {.idleAtZero = true, .floor = 0, .holdsFloor = false, .ceiling = 40, .wrapsTo = 40, .rings = true, .focus = ok},
         [this] { calculate(); });
-    auto* work = button("cmdCalculate", "&Calculate", [this] {
-        calculate();
-        announceAnswer();
-    });
     body(column({form({{"Present cos&t", cost},
                        {"Per&iod", row({period, spinPeriod}), "years"},
                        {"Inflation &rate", row({inflation, spinRate}), "% a year"},
                        {"Future value/cost", m_future},
-                       {"Buying power", m_power}}),
-                 spring(), row({work, button("cmdPrint", "&Print", [this] { openPrint(); }), spring(), m_ok})}));
-    defaultButton(work);
-    m_printPanel = printPanel({}, [this](Destination to) {
-        m_work.reports.run(QString::fromStdString(m_printout.definition), QString::fromStdString(m_printout.title), to);
-    });
+                       {"Buying power", answer("numAns2", m_result.buyingPower, value)}}),
+                 spring(), buttonLine()}));
+    prints();
 }
 
 void frmInflation::calculate() {
     m_result = LTLINFL(m_inputs);
-    for (NumberField* line : {m_future, m_power})
-        line->fill();
     m_tooLarge->setVisible(!(std::fabs(m_result.futureValue) < tooLarge));
-    calculated();
+    showAnswers();
 }
 
-void frmInflation::announceAnswer() {
-    if (m_tooLarge->isHidden()) return announce({m_future, m_power});
+void frmInflation::sayAnswers() {
+    if (m_tooLarge->isHidden()) return ResultScreen::sayAnswers();
     announce(m_future->accessibleName() + " " + m_tooLarge->text());
 }
 
-void frmInflation::openPrint() {
-    calculate();
-    if (!std::isfinite(m_result.futureValue) || !std::isfinite(m_result.buyingPower))
-        return m_ok->setFocus(Qt::OtherFocusReason);
-    m_printout = feedInflation(m_work.paths.PrintDbPath, m_work.record.client.Name, m_inputs, m_result);
-    m_printPanel->open();
+std::optional<datastore::Printout> frmInflation::feed() {
+    if (!std::isfinite(m_result.futureValue) || !std::isfinite(m_result.buyingPower)) return {};
+    return feedInflation(m_work.paths.PrintDbPath, m_work.record.client.Name, m_inputs, m_result);
 }
 
 } // namespace calculators

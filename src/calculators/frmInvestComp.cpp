@@ -1,12 +1,9 @@
 #include "calculators/frmInvestComp.h"
 
-#include <limits>
-
 #include "assessment/tables.h"
 #include "calculators/comparisonscale.h"
 #include "calculators/investcomparisonreport.h"
 #include "datastore/paths.h"
-#include "reports/report.h"
 
 namespace calculators {
 
@@ -16,39 +13,19 @@ namespace {
 
 // An age may be a fraction, which is compared with 65 and 75 unrounded.
 const NumberKind ageKind{"##0.####", false, 8};
-constexpr double noAnswer = std::numeric_limits<double>::quiet_NaN(); // shows as an error
 
 } // namespace
 
 frmInvestComp::frmInvestComp(Workplace& workplace)
-    : Screen(workplace, "frmInvestComp", "Investment Comparison", workplace.record.changed.InvestCompChanged),
+    : ResultScreen(workplace, "frmInvestComp", "Investment Comparison", workplace.record.changed.InvestCompChanged),
       m_inputs(workplace.record.comparison), m_age(workplace.record.tax.Age) {
     auto* who = client();
     auto* sides = row({Item(annuity(), 1), Item(deposit(), 1)});
     m_breakEven = answerLine("txtAns", 60);
     m_breakEven->setAccessibleName("Rate that beats the annuity");
     showsCalculated(m_breakEven);
-    m_ok = okButton();
-    auto* work = button("cmdCalculate", "&Calculate", [this] {
-        calculate();
-        m_breakEven->text().isEmpty() ? announce(m_answers) : announce(m_breakEven->text());
-    });
-    body(column({who, sides, group("fraAnswers", "Result", m_breakEven), spring(),
-                 row({work,
-                      button("cmdPrint", "&Print",
-                             [this] {
-                                 calculate();
-                                 m_printPanel->open();
-                             }),
-                      spring(), m_ok})}));
-    defaultButton(work);
-    m_printPanel = printPanel({}, [this](Destination to) { print(to); });
-}
-
-NumberField* frmInvestComp::answer(const QString& name, double& figure) {
-    m_answers.push_back(result(name, figure, money));
-    showsCalculated(m_answers.back());
-    return m_answers.back();
+    body(column({who, sides, group("fraAnswers", "Result", m_breakEven), spring(), buttonLine()}));
+    prints();
 }
 
 QWidget* frmInvestComp::client() {
@@ -93,19 +70,17 @@ void frmInvestComp::filled() {
 
 void frmInvestComp::calculate() {
     m_result = compareInvestments(m_inputs, m_age);
-    for (NumberField* field : m_answers)
-        m_result.isFinite() ? field->fill() : field->present(noAnswer);
     m_breakEven->setText(m_result.breakEven ? QString::fromStdString(m_result.breakEven->sentence()) : QString());
-    calculated();
+    showAnswers(m_result.isFinite());
 }
 
-void frmInvestComp::print(Destination destination) {
-    calculate(); // quick tax may have changed the age while the panel was open
-    if (!m_result.isFinite()) return focusLater(m_ok);
-    const auto printout =
-        feedInvestmentComparison(m_work.paths.PrintDbPath, m_work.record.client.Name, m_inputs, m_age, m_result);
-    m_work.reports.run(QString::fromStdString(printout.definition), QString::fromStdString(printout.title),
-                       destination);
+void frmInvestComp::sayAnswers() {
+    m_breakEven->text().isEmpty() ? ResultScreen::sayAnswers() : announce(m_breakEven->text());
+}
+
+std::optional<datastore::Printout> frmInvestComp::feed() {
+    if (!m_result.isFinite()) return {};
+    return feedInvestmentComparison(m_work.paths.PrintDbPath, m_work.record.client.Name, m_inputs, m_age, m_result);
 }
 
 } // namespace calculators

@@ -25,14 +25,6 @@ constexpr double monthsOfAnAnnualTable = 13; // twelve months fill one year only
 constexpr const char* figures = "# ### ### ###.00";
 constexpr double noAnswer = std::numeric_limits<double>::quiet_NaN(); // shows as an error
 
-std::vector<std::vector<double>> gridRows(const std::vector<AmortisationRow>& table) {
-    std::vector<std::vector<double>> rows;
-    rows.reserve(table.size());
-    for (const AmortisationRow& line : table)
-        rows.push_back({static_cast<double>(line.number), line.capital, line.interest, line.balance});
-    return rows;
-}
-
 int modeIndex(const assessment::Loans& loan) {
     const auto mode = loanMode(loan.Heading);
     return mode ? static_cast<int>(*mode) : -1;
@@ -182,7 +174,7 @@ void frmLoans::monthlyTable() {
               {"Capital payment ", figures},
               {"Interest payment", figures},
               {"    Balance    ", figures}},
-             gridRows(monthRows(monthlyAmortisation(loan.Num1, loan.Num2, loan.Num3))), m_ok);
+             tableRows(monthRows(monthlyAmortisation(loan.Num1, loan.Num2, loan.Num3))), m_ok);
 }
 
 void frmLoans::annualTable() {
@@ -193,7 +185,7 @@ void frmLoans::annualTable() {
               {"Capital payments", figures},
               {"Interest payment", figures},
               {"    Balance      ", figures}},
-             gridRows(yearRows(CalcAnnAmort(loan))), m_ok);
+             tableRows(yearRows(CalcAnnAmort(loan))), m_ok);
 }
 
 void frmLoans::graph() {

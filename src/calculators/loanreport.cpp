@@ -1,9 +1,9 @@
 #include "calculators/loanreport.h"
 
 #include <array>
-#include <vector>
 
 #include "calculators/amortisation.h"
+#include "calculators/amortisationfeed.h"
 #include "calculators/loans.h"
 
 namespace calculators {
@@ -26,17 +26,6 @@ constexpr std::array<ModeReport, 4> reports{{
     {"LonInRt", "Interest rate calculation of Loan with Annual Amortisation",
      "Interest rate calculation of Loan with Monthly Amortisation"},
 }};
-
-std::vector<datastore::Row> amortRows(const std::vector<AmortisationRow>& table) {
-    std::vector<datastore::Row> rows;
-    rows.reserve(table.size());
-    for (const AmortisationRow& line : table)
-        rows.push_back({{"Year", static_cast<double>(line.number)},
-                        {"Capital", line.capital},
-                        {"Interest", line.interest},
-                        {"Required", line.balance}});
-    return rows;
-}
 
 } // namespace
 
@@ -64,9 +53,9 @@ void feedLoanReport(const std::filesystem::path& printDbPath, const std::string&
                            {"FinNum2", options.charges ? totalRepayments(loan) : 0},
                            {"YearMon", options.amortised ? (options.monthly ? "Month" : "Year") : none}});
     if (options.amortised && options.monthly)
-        feed.replace("Amort", amortRows(monthRows(monthlyAmortisation(loan.Num1, loan.Num2, loan.Num3))));
+        feedAmortisation(feed, monthRows(monthlyAmortisation(loan.Num1, loan.Num2, loan.Num3)));
     else if (options.amortised)
-        feed.replace("Amort", amortRows(yearRows(CalcAnnAmort(loan))));
+        feedAmortisation(feed, yearRows(CalcAnnAmort(loan)));
     feed.commit();
 }
 

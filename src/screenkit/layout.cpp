@@ -107,7 +107,7 @@ QList<QLabel*> labelsOf(const QWidget* field) {
 
 Item spring() { return {static_cast<QWidget*>(nullptr), 1}; }
 
-QLayout* row(std::initializer_list<Item> items) {
+QLayout* row(const std::vector<Item>& items) {
     auto* layout = new QHBoxLayout;
     for (const Item& item : items)
         add(layout, item);

@@ -43,7 +43,7 @@ struct MatrixRow {
     std::vector<Item> cells;
 };
 
-QLayout* row(std::initializer_list<Item> items);
+QLayout* row(const std::vector<Item>& items);
 QLayout* column(std::initializer_list<Item> items);
 /// Labels in one column, fields in the next. A field without a label of its own (a check box) has an empty label.
 QLayout* form(const std::vector<FormRow>& rows);

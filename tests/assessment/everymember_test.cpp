@@ -142,7 +142,7 @@ TEST(EveryMember, OfTheRecordIsStoredByOneLineOrAWorkingValue) {
     working(record.CurPolicy, record.PolicyMonthlyIncome, record.tax.LastScaleTax, record.rrrOld.TotPremPaid);
     working(record.itemised.NARAPolicyIncomeItemise, record.itemised.DTHInvestments.flag,
             record.itemised.DISAInvestments.flag);
-    working(record.drawDownCosts, record.car, record.premiumQuote, record.premiums);
+    working(record.drawDownCosts, record.drawDownPhases, record.car, record.premiumQuote, record.premiums);
     working(record.DCLNO, record.ClientOnFile, record.inFile, record.ClientChanged, record.SaveThenNew, record.changed,
             record.GRINC, record.FinChargeState, record.unstoredRates);
     reached.shareFromHere();

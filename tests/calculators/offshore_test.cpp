@@ -79,7 +79,6 @@ TEST_F(OffShoreScreen, FiguresThatDoNotFitAreToldInTheField) {
     run.front()->refill();
     run.expectShown("numOFMatVal    Error, numLRealMatVal    Error");
     run.click("cmdPrint");
-    run.click("cmdVR");
     EXPECT_TRUE(run.program.reports().previews().empty());
     EXPECT_EQ(RunningProgram::focused(), "cmdOK");
 }

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <vector>
+
+#include "calculators/amortisation.h"
+#include "datastore/printfeed.h"
+
+namespace calculators {
+
+/// Makes these lines the rows of the table `Amort`, from which a report prints an amortisation.
+void feedAmortisation(datastore::PrintFeed& feed, const std::vector<AmortisationRow>& lines);
+
+} // namespace calculators

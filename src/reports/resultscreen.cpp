@@ -1,0 +1,75 @@
+#include "reports/resultscreen.h"
+
+#include <limits>
+
+#include "reports/report.h"
+
+namespace reports {
+
+using namespace screenkit;
+
+NumberField* ResultScreen::answer(const QString& name, Bound<double> place, const NumberKind& kind) {
+    return keptAnswer(result(name, std::move(place), kind));
+}
+
+NumberField* ResultScreen::keptAnswer(NumberField* field) {
+    showsCalculated(field);
+    m_answers.push_back(field);
+    return field;
+}
+
+void ResultScreen::showAnswers(bool areFinite) {
+    for (NumberField* field : m_answers)
+        areFinite ? field->fill() : field->present(std::numeric_limits<double>::quiet_NaN()); // shows as an error
+    calculated();
+}
+
+QLayout* ResultScreen::buttonLine(std::initializer_list<QPushButton*> own) {
+    auto* work = button("cmdCalculate", "&Calculate", [this] {
+        calculate();
+        sayAnswers();
+    });
+    m_ok = okButton();
+    std::vector<Item> line{work};
+    line.insert(line.end(), own.begin(), own.end());
+    line.insert(line.end(), {button("cmdPrint", "&Print", [this] { openPrint(); }), spring(), m_ok});
+    defaultButton(work);
+    return row(line);
+}
+
+QPushButton* ResultScreen::resultButton(const QString& name, const QString& caption, std::function<void()> action) {
+    return button(name, caption, [this, action = std::move(action)] {
+        calculate();
+        action();
+    });
+}
+
+void ResultScreen::prints(std::initializer_list<Item> choices, const std::vector<Field*>& fields) {
+    for (Field* field : fields)
+        untrackedField(field);
+    m_printPanel = printPanel(choices, [this](Destination to) { print(to); });
+    m_hasChoices = choices.size() > 0;
+}
+
+void ResultScreen::sayAnswers() {
+    std::vector<NumberField*> seen;
+    for (NumberField* field : m_answers)
+        if (!field->isHidden()) seen.push_back(field);
+    announce(seen);
+}
+
+void ResultScreen::openPrint() {
+    calculate();
+    if (!m_hasChoices && !feed()) return m_ok->setFocus(Qt::OtherFocusReason);
+    m_printPanel->open();
+}
+
+void ResultScreen::print(Destination destination) {
+    calculate(); // while the panel was open another screen may have changed a figure that this one shares
+    const auto printout = feed();
+    if (!printout) return focusLater(m_ok);
+    m_work.reports.run(QString::fromStdString(printout->definition), QString::fromStdString(printout->title),
+                       destination);
+}
+
+} // namespace reports
