@@ -1,12 +1,7 @@
+#include "assessment/newasset.h"
 #include "assessment/tables.h"
 
 namespace assessment {
-
-namespace {
-// Defaults for a client saved before these fields existed: neither may be 0.
-constexpr double smallBusinessExemption = 1800000; // rand
-constexpr double noSplit = 1;
-} // namespace
 
 const FieldTable<CGTAssetRecord>& cgtDetailsTable() {
     static const FieldTable<CGTAssetRecord> table(
@@ -33,7 +28,9 @@ const FieldTable<CGTAssetRecord>& cgtDetailsTable() {
             {"SellPrice", Double, in<&CGTAssetRecord::SellPrice>},
             {"CapGain", Double, in<&CGTAssetRecord::CapGain>},
             {"SBFiveDed", Text(10), in<&CGTAssetRecord::SBFiveDed>},
-            {"SB750PortDed", blankAs(smallBusinessExemption, Double), in<&CGTAssetRecord::SB750PortDed>},
+            // 0 in the next one and in ExclCOPSplit would change the gain of a client saved before these fields
+            // existed.
+            {"SB750PortDed", blankAs(smallBusinessDeduction, Double), in<&CGTAssetRecord::SB750PortDed>},
             {"LocForeign", Integer, in<&CGTAssetRecord::LocForeign>},
             {"ImproveMadeBefore", Double, in<&CGTAssetRecord::ImproveMadeBefore>},
             {"ItemiseImproveMadeBefore", Integer, in<&CGTAssetRecord::ItemiseImproveMadeBefore>},
