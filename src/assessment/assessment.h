@@ -329,10 +329,21 @@ struct DrawDownCosts {
     bool operator==(const DrawDownCosts&) const = default;
 };
 
-/// A car and its travel claim. Kept for the session, never stored.
+/// A travel claim for one vehicle in one tax year. Kept until the next client, never stored.
 struct CarAll {
-    std::int16_t actualExpensesKept = 1; ///< option value
-    std::int16_t employeeOption = 1;     ///< option value
+    static constexpr double firstDay = 46082; ///< 1 March 2026
+    static constexpr double lastDay = 46446;  ///< 28 February 2027
+
+    std::string description;
+    std::string employee; ///< as printed
+    double vehicleValue = 0;
+    double allowance = 0;           ///< received in the year
+    double closeKm = 0, openKm = 0; ///< readings
+    double businessKm = 0;          ///< from the log book
+    std::int16_t expensesKept = 0;  ///< 1: the claim is by the actual costs below, else by deemed costs
+    double fuel = 0, repairs = 0, insurance = 0, otherCosts = 0, wearAndTear = 0, leasePayments = 0;
+    double startDate = firstDay, endDate = lastDay;
+    std::int16_t includeFuel = 1, includeMaintenance = 1; ///< 1: the employee pays for it
 
     bool operator==(const CarAll&) const = default;
 };

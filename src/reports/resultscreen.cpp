@@ -24,12 +24,12 @@ void ResultScreen::showAnswers(bool areFinite) {
     calculated();
 }
 
-QLayout* ResultScreen::buttonLine(std::initializer_list<QPushButton*> own) {
-    auto* work = button("cmdCalculate", "&Calculate", [this] {
+QLayout* ResultScreen::buttonLine(std::initializer_list<QPushButton*> own, const ResultNames& names) {
+    auto* work = button(names.calculate, "&Calculate", [this] {
         calculate();
         sayAnswers();
     });
-    m_ok = okButton();
+    m_ok = okButton(names.ok);
     std::vector<Item> line{work};
     line.insert(line.end(), own.begin(), own.end());
     line.insert(line.end(), {button("cmdPrint", "&Print", [this] { openPrint(); }), spring(), m_ok});
@@ -44,10 +44,12 @@ QPushButton* ResultScreen::resultButton(const QString& name, const QString& capt
     });
 }
 
-void ResultScreen::prints(std::initializer_list<Item> choices, const std::vector<Field*>& fields) {
+void ResultScreen::prints(std::initializer_list<Item> choices, const std::vector<Field*>& fields,
+                          const PrintNames& names) {
     for (Field* field : fields)
         untrackedField(field);
-    m_printPanel = printPanel(choices, [this](Destination to) { print(to); });
+    m_printPanel = printPanel(
+        choices, [this](Destination to) { print(to); }, names);
     m_hasChoices = choices.size() > 0;
 }
 

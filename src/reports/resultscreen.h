@@ -7,6 +7,11 @@
 
 namespace reports {
 
+/// Names of the buttons of a result screen, for one that needs its own.
+struct ResultNames {
+    QString calculate = "cmdCalculate", ok = "cmdOK";
+};
+
 /// A screen that works out results from its fields and prints them: yellow results, a line of buttons (Calculate, its
 /// own, Print, OK) and the print panel. It calculates when it is filled; the run must then leave the record as it is.
 ///
@@ -25,11 +30,12 @@ protected:
     /// Shows all answers, as errors if the figures give no finite ones, and marks them as up to date.
     void showAnswers(bool areFinite = true);
     /// `cmdCalculate`, the screen's own buttons, `cmdPrint` and `cmdOK`. Enter presses Calculate.
-    QLayout* buttonLine(std::initializer_list<QPushButton*> own = {});
+    QLayout* buttonLine(std::initializer_list<QPushButton*> own = {}, const ResultNames& names = {});
     /// A button for what needs results: calculates, then acts.
     QPushButton* resultButton(const QString& name, const QString& caption, std::function<void()> action);
     /// The print panel, with the screen's choices, such as whether to print a table; they are no edits of the record.
-    void prints(std::initializer_list<screenkit::Item> choices = {}, const std::vector<screenkit::Field*>& fields = {});
+    void prints(std::initializer_list<screenkit::Item> choices = {}, const std::vector<screenkit::Field*>& fields = {},
+                const screenkit::PrintNames& names = {});
 
     /// Works the results out and shows them.
     virtual void calculate() = 0;

@@ -60,4 +60,10 @@ struct Bound {
     }
 };
 
+/// A place for whole rand: cents may be typed, so that a figure can be copied from another paper; they are dropped, not
+/// rounded. A stored figure keeps its cents until it is retyped.
+inline Bound<double> withoutCents(double& place) {
+    return {[&place] { return place; }, [&place](double typed) { place = std::trunc(typed); }};
+}
+
 } // namespace screenkit

@@ -109,6 +109,7 @@ void Screen::focusLater(QWidget* widget) {
 
 void Screen::activate() {
     refill();
+    cameToFront();
     if (std::exchange(m_opened, true)) {
         QTimer::singleShot(0, this, [this] { recoverFocus(); }); // after the window has restored the focus
         return;

@@ -199,6 +199,8 @@ protected:
     static void focusLater(QWidget* widget);
     /// Called after the fields are filled: run a calculation, set what depends on them. Changes made here are no edits.
     virtual void filled() {}
+    /// Called when the screen has come to the front and is filled. Unlike in `filled`, a change of its flag stays.
+    virtual void cameToFront() {}
     /// Called when the user has edited a field.
     virtual void edited() {}
     /// Called when a field has passed its check and the user leaves it or presses a button. For actions that a

@@ -1,7 +1,6 @@
 #include "tax/frmMonthly.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include "base/rounding.h"
 #include "datastore/paths.h"
@@ -62,8 +61,7 @@ frmMonthly::frmMonthly(Workplace& workplace)
 }
 
 NumberField* frmMonthly::randWithoutCents(const QString& name, double& place) {
-    // Cents may be typed, so that a figure can be copied from a payslip; they are dropped, not rounded.
-    return number(name, {[&place] { return place; }, [&place](double typed) { place = std::trunc(typed); }}, wholeRand);
+    return number(name, withoutCents(place), wholeRand);
 }
 
 NumberField* frmMonthly::answer(const QString& name, double& figure) { return keptAnswer(result(name, figure, money)); }
