@@ -30,7 +30,8 @@ struct Fill {
 };
 constexpr Fill fills[] = {{"short", 3, false, false}, {"full", 14, false, true}, {"long", 130, true, true}};
 
-const std::set<std::string> manyRows{"Amort", "ItemisePrint", "PolsInvestsAmorts", "AllDetails", "UnitHist"};
+const std::set<std::string> manyRows{"Amort",    "ItemisePrint", "PolsInvestsAmorts",   "AllDetails",
+                                     "UnitHist", "CGTDetails",   "CGTTrustOtherItemise"};
 
 std::string textFor(const std::string& field, int row, const Fill& fill) {
     const auto has = [&](const char* part) { return field.find(part) != std::string::npos; };

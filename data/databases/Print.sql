@@ -229,10 +229,12 @@ CREATE TABLE [IRP5IncDed] (
     [FstLumpTaken3] VARCHAR(255), [TaxDue] DOUBLE
 );
 
--- Gains and losses from trusts and other sources. All are texts, since the first line is a heading.
+-- Gains and losses from trusts and other sources. All are texts, since the first line holds the title (NewGrid) and the
+-- column heads. The last line holds the total with a caption.
 CREATE TABLE [CGTTrustOtherItemise] (
     [CGTNum] DOUBLE, [Source] VARCHAR(255), [COP Split] VARCHAR(255), [Base Cost] VARCHAR(255),
-    [Proceeds] VARCHAR(255), [Amount] VARCHAR(255), [ExclCOPSplit] VARCHAR(255)
+    [Proceeds] VARCHAR(255), [Amount] VARCHAR(255), [ExclCOPSplit] VARCHAR(255), [NewGrid] VARCHAR(255),
+    [TotalText] VARCHAR(255), [Total] VARCHAR(255)
 );
 
 -- Travel and company car calculation: kilometres and rand. mta02 is not used.
@@ -353,7 +355,8 @@ CREATE TABLE [CGTDetails] (
     [ForeignCapGain4253] DOUBLE, [WTCGTTotal] DOUBLE, [CarryOverCapGain] DOUBLE, [summary] VARCHAR(255),
     [TPCapGain4250] VARCHAR(255), [TLCapGain4251] VARCHAR(255), [TPForeignCapGain4252] VARCHAR(255),
     [TLForeignCapGain4253] VARCHAR(255), [TWTCGTTotal] VARCHAR(255), [TCarryOverCapGain] VARCHAR(255),
-    [T4250] VARCHAR(255), [T4251] VARCHAR(255), [T4252] VARCHAR(255), [T4253] VARCHAR(255)
+    [T4250] VARCHAR(255), [T4251] VARCHAR(255), [T4252] VARCHAR(255), [T4253] VARCHAR(255), [TaxYear] VARCHAR(255),
+    [KnownGains] DOUBLE, [TotalGains] DOUBLE, [NotCounted] VARCHAR(255)
 );
 
 -- Heading of the gains from trusts and other sources: rand.

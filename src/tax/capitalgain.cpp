@@ -1,11 +1,9 @@
 #include "tax/capitalgain.h"
 
-#include <algorithm>
 #include <cmath>
 
 #include "assessment/newasset.h"
 #include "base/day.h"
-#include "base/finite.h"
 #include "base/text.h"
 #include "tax/capitalgainrules.h"
 
@@ -40,14 +38,15 @@ double share(const CGTAssetRecord& asset) { return asset.PerShare / 100; }
 /// The part of this taxpayer alone, of whom a spouse may take half.
 double ownPart(const CGTAssetRecord& asset) { return isSplit(asset) ? share(asset) / 2 : share(asset); }
 
-/// Excluding something never makes a gain a loss.
-double floored(double before, double after) { return before > 0 ? std::max(0.0, after) : after; }
+/// Excluding something never makes a gain a loss. What is not a number stays so, for the caller to see.
+double notBelowZero(double rand) { return rand < 0 ? 0 : rand; }
+double floored(double before, double after) { return before > 0 ? notBelowZero(after) : after; }
 
 double afterSmallBusiness(double gain, const CGTAssetRecord& asset) {
     if (gain <= 0) return sharedOf(gain, asset);
     // The deduction is personal: a split or a partner never halves it.
-    if (base::sameWord(asset.SBFiveDed, "Yes")) return std::max(0.0, sharedOf(gain, asset) - asset.SB750PortDed);
-    if (base::sameWord(asset.SBFiveDed, "No")) return std::max(0.0, sharedOf(gain, asset));
+    if (base::sameWord(asset.SBFiveDed, "Yes")) return notBelowZero(sharedOf(gain, asset) - asset.SB750PortDed);
+    if (base::sameWord(asset.SBFiveDed, "No")) return notBelowZero(sharedOf(gain, asset));
     return gain; // not answered: Delete leaves it empty
 }
 
@@ -55,8 +54,8 @@ double afterResidence(double gain, const CGTAssetRecord& asset) {
     if (gain <= 0) return sharedOf(gain, asset);
     if (!isSplit(asset) && !isUnsplit(asset)) return gain;
     const double part = ownPart(asset);
-    if (asset.PerShare < wholeAsset) return std::max(0.0, part * gain - part * rules.residenceExclusion);
-    return std::max(0.0, isSplit(asset) ? gain / 2 - rules.splitResidenceExclusion : gain - rules.residenceExclusion);
+    if (asset.PerShare < wholeAsset) return notBelowZero(part * gain - part * rules.residenceExclusion);
+    return notBelowZero(isSplit(asset) ? gain / 2 - rules.splitResidenceExclusion : gain - rules.residenceExclusion);
 }
 
 /// The gain in two parts: of the time in which the owner lived there, and of the rest.
@@ -101,7 +100,7 @@ double afterLargeResidence(double gain, const CGTAssetRecord& asset) {
     const double part = ownPart(asset);
     double left = part * first;
     if (gain > 0) {
-        left = std::max(0.0, part * first - part * rules.residenceExclusion);
+        left = notBelowZero(part * first - part * rules.residenceExclusion);
     } else if (asset.ResOccPerc >= wholeAsset) {
         // A loss meets the exclusion of the share before any split, and the limit of the whole. That is meant.
         left = part * first + share(asset) * rules.residenceExclusion;
@@ -203,7 +202,7 @@ AssetGain CGTCALC(const CGTAssetRecord& asset) {
     result.DeemVal = 0;
     if (result.found == GainMethod::timeApportioned) {
         result.apportionment = apportion(asset);
-        result.DeemVal = std::max(0.0, result.apportionment->DeemVal);
+        result.DeemVal = notBelowZero(result.apportionment->DeemVal);
     }
     result.ProfitDisp = gainBy(result.found, asset, result.apportionment.value_or(TimeApportionment{})) + 0.0;
     if (isWhollyExcluded(asset)) {
@@ -218,14 +217,14 @@ AssetGain CGTCALC(const CGTAssetRecord& asset) {
 
 AssetGain workOut(CGTAssetRecord& asset) {
     AssetGain result = CGTCALC(asset);
-    base::keepFinite(asset.CapGain, result.CapGain);
-    base::keepFinite(asset.ProfitDisp, result.ProfitDisp);
-    base::keepFinite(asset.DeemVal, result.DeemVal);
+    if (!result.isFinite()) return result;
+    asset.CapGain = result.CapGain;
+    asset.ProfitDisp = result.ProfitDisp;
+    asset.DeemVal = result.DeemVal;
     return result;
 }
 
-const char* gainLabel(GainMethod method, const CGTAssetRecord& asset) {
-    if (!(asset.SellPrice > 0)) return "";
+const char* methodLabel(GainMethod method) {
     switch (method) {
     case GainMethod::valuation: return "(Using appraised value method)";
     case GainMethod::timeApportioned: return "(Using time apportioned method)";

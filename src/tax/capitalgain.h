@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cmath>
 #include <optional>
 
 #include "assessment/cgt.h"
@@ -51,6 +52,8 @@ struct AssetGain {
 
     /// True if the user may enter a gain instead of zero (`numCapGainUser`).
     bool asksUser() const { return method == GainMethod::lossLimitation; }
+    /// False if the figures are too large for a result.
+    bool isFinite() const { return std::isfinite(CapGain) && std::isfinite(ProfitDisp) && std::isfinite(DeemVal); }
 };
 
 /// Finds method, gain, share and exclusions of one asset from its own figures alone; changes nothing.
@@ -82,12 +85,16 @@ double afterExclusion(double gain, GainExclusion exclusion, const assessment::CG
 /// True for a residence sold for no more than the exclusion by someone who lived there all the time, on any land.
 bool isWhollyExcluded(const assessment::CGTAssetRecord& asset);
 
-/// Works the asset out and stores `CapGain`, `ProfitDisp` and `DeemVal` in it; one that is not finite leaves the old
-/// value.
+/// Works the asset out and stores `CapGain`, `ProfitDisp` and `DeemVal` in it. If one of them is not finite, the old
+/// three stay.
 AssetGain workOut(assessment::CGTAssetRecord& asset);
 
-/// The words for a method beside the gain; empty if the asset has no selling price.
-const char* gainLabel(GainMethod method, const assessment::CGTAssetRecord& asset);
+/// The words for a method; empty for those that need none.
+const char* methodLabel(GainMethod method);
+/// The words beside the gain: those for its method, but none before a selling price is entered.
+inline const char* gainLabel(GainMethod method, const assessment::CGTAssetRecord& asset) {
+    return asset.SellPrice > 0 ? methodLabel(method) : "";
+}
 
 /// Above `numCapGainUser`, where the loss limitation applies.
 inline constexpr const char* lossLimitationText =

@@ -15,10 +15,6 @@ using assessment::CGTAssetRecord;
 constexpr const CapitalGainRules& rules = capitalGains2027;
 constexpr std::int16_t living = 0, died = 1;
 
-bool hasKnownGains(const CapitalGains& gains) {
-    return gains.ItemiseAdditCapGain == 1 || gains.AdditCapGainLocal != 0 || gains.AdditCapGainForeign != 0;
-}
-
 /// The four codes of the tax return; 0 - x, so that no loss is -0.
 YearResults byCode(const YearTotals& totals) {
     const double local = totals.YearLocalProfit, foreign = totals.YearForeignProfit;
@@ -97,6 +93,10 @@ YearTotals yearTotals(const CapitalGains& gains) {
     totals.YearForeignProfit += gains.AdditCapGainForeign;
     totals.YearCapGain = totals.localGain + totals.foreignGain;
     return totals;
+}
+
+bool hasKnownGains(const CapitalGains& gains) {
+    return gains.ItemiseAdditCapGain == 1 || gains.AdditCapGainLocal != 0 || gains.AdditCapGainForeign != 0;
 }
 
 AnnualGain annualGain(const CapitalGains& gains, const YearTotals& totals, std::int16_t Deceased) {

@@ -28,6 +28,9 @@ struct YearTotals {
 };
 YearTotals yearTotals(const assessment::CapitalGains& gains);
 
+/// True if there are gains of trusts or other sources, itemised or not.
+bool hasKnownGains(const assessment::CapitalGains& gains);
+
 /// The gain of both spouses together: a split gain doubled.
 double FullGain(const assessment::CGTAssetRecord& asset);
 
