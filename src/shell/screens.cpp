@@ -11,6 +11,7 @@
 #include "calculators/frmInvestComp.h"
 #include "calculators/frmLifeOfCap.h"
 #include "calculators/frmLoans.h"
+#include "calculators/frmNomEffec.h"
 #include "calculators/frmOffShore.h"
 #include "calculators/frmPremium.h"
 #include "client/frmPersDet.h"
@@ -47,6 +48,7 @@ constexpr ScreenEntry entries[] = {
     {"frmInvestComp", build<calculators::frmInvestComp>, "Investment comparison"},
     {"frmLoans", build<calculators::frmLoans>, "The loan calculator"},
     {"frmPremium", build<calculators::frmPremium>, "The premium for a capital"},
+    {"frmNomEffec", build<calculators::frmNomEffec>, "Nominal and effective interest"},
     {"frmOffShore", build<calculators::frmOffShore>, "Offshore investments"},
     {"frmKwikQuotes", build<quotes::frmKwikQuotes>, "Kwik-Quotes"},
     {"frmHeadFoot", build<reports::frmHeadFoot>, "Your header and footer lines"},

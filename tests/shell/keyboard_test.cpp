@@ -54,6 +54,7 @@ const std::vector<Place> places{
     {"mnuNAEd", "cmdPremium"},
     {"mnuOffShore", ""},
     {"mnuOffShore", "cmdPrint"},
+    {"mnuNomEffec", ""},
     {"mnuKwikQuotes", ""},
     {"mnuKwikQuotes", "cmdPrint"},
     {"mnuKwikQuotes", "cmdLifeOfCap"},
@@ -199,7 +200,8 @@ const std::set<std::string> shadowing{"frmLoans &Fin. charges",
                                       "frmInvestComp &Print",
                                       "frmInvestComp C&ancel",
                                       "frmOffShore &Print",
-                                      "frmOffShore C&ancel"};
+                                      "frmOffShore C&ancel",
+                                      "frmNomEffec &Print"};
 
 /// The access keys in use, each with its captions.
 std::map<QKeySequence, QStringList> lettersOf(const QWidget* scope) {

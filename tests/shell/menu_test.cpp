@@ -45,6 +45,8 @@ const std::set<std::string> working{
     "mnuLifeOfCap",
     "mnuInvestComp",
     "mnuOffShore",
+    "mnuNomEffec",
+    "mnuNomEffec1",
     "mnuKwikQuotes",
 };
 
