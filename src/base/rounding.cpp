@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cassert>
+#include <charconv>
 #include <cmath>
 
 namespace base {
@@ -16,6 +17,14 @@ double roundHalfEven(double x, int decimals) {
     if (!(std::fabs(x) < noFraction)) return x;
     const double scale = powers[static_cast<std::size_t>(decimals)];
     return std::nearbyint(x * scale) / scale;
+}
+
+double shortestDecimal(float x) {
+    std::array<char, 32> digits{};
+    const auto written = std::to_chars(digits.data(), digits.data() + digits.size(), x);
+    double decimal = static_cast<double>(x);
+    std::from_chars(digits.data(), written.ptr, decimal);
+    return decimal;
 }
 
 } // namespace base

@@ -11,4 +11,8 @@ double roundHalfEven(double x);
 /// An x whose scaled value has no fraction or would overflow is returned unchanged.
 double roundHalfEven(double x, int decimals);
 
+/// A single-precision figure as its shortest decimal: 11.35, where the plain double would be 11.3500003815. NaN and
+/// infinities are returned.
+double shortestDecimal(float x);
+
 } // namespace base

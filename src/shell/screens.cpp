@@ -7,6 +7,7 @@
 #include "analyses/frmNADisability.h"
 #include "analyses/frmNAEd.h"
 #include "analyses/frmNARA.h"
+#include "calculators/frmDayBal.h"
 #include "calculators/frmInflation.h"
 #include "calculators/frmInvestComp.h"
 #include "calculators/frmLifeOfCap.h"
@@ -48,6 +49,7 @@ constexpr ScreenEntry entries[] = {
     {"frmInvestComp", build<calculators::frmInvestComp>, "Investment comparison"},
     {"frmLoans", build<calculators::frmLoans>, "The loan calculator"},
     {"frmPremium", build<calculators::frmPremium>, "The premium for a capital"},
+    {"frmDayBal", build<calculators::frmDayBal>, "Daily balance"},
     {"frmNomEffec", build<calculators::frmNomEffec>, "Nominal and effective interest"},
     {"frmOffShore", build<calculators::frmOffShore>, "Offshore investments"},
     {"frmKwikQuotes", build<quotes::frmKwikQuotes>, "Kwik-Quotes"},

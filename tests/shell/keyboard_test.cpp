@@ -54,6 +54,7 @@ const std::vector<Place> places{
     {"mnuNAEd", "cmdPremium"},
     {"mnuOffShore", ""},
     {"mnuOffShore", "cmdPrint"},
+    {"mnuDayBal", ""},
     {"mnuNomEffec", ""},
     {"mnuKwikQuotes", ""},
     {"mnuKwikQuotes", "cmdPrint"},
@@ -201,7 +202,8 @@ const std::set<std::string> shadowing{"frmLoans &Fin. charges",
                                       "frmInvestComp C&ancel",
                                       "frmOffShore &Print",
                                       "frmOffShore C&ancel",
-                                      "frmNomEffec &Print"};
+                                      "frmNomEffec &Print",
+                                      "frmDayBal &Print"};
 
 /// The access keys in use, each with its captions.
 std::map<QKeySequence, QStringList> lettersOf(const QWidget* scope) {

@@ -45,6 +45,8 @@ const std::set<std::string> working{
     "mnuLifeOfCap",
     "mnuInvestComp",
     "mnuOffShore",
+    "mnuDayBal",
+    "mnuDayBal1",
     "mnuNomEffec",
     "mnuNomEffec1",
     "mnuKwikQuotes",
