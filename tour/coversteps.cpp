@@ -90,6 +90,7 @@ void showNeeds(Hands& hands, const QString& look) {
                                      {"mnuLifeOfCap", "life-of-capital-"},
                                      {"mnuInvestComp", "investment-comparison-"},
                                      {"mnuOffShore", "offshore-"},
+                                     {"mnuIncShares", "income-from-shares-"},
                                      {"mnuKwikQuotes", "quote-"}}) {
         hands.menu({"mnuCalc", item});
         picture(&hands.window(), name + look);

@@ -76,4 +76,37 @@ void investOffshore(Hands& hands) {
     hands.click("cmdOK");
 }
 
+void drawFromShares(Hands& hands) {
+    say("Income From Shares: R8 000 a month from R1 200 000 in shares that grow by 11 % a year.");
+    hands.menu({"mnuCalc", "mnuIncShares"});
+    hands.expectFront("frmIncomeShares");
+    hands.enter(std::vector<Entry>{{"numInvestAmount", "1200000"},
+                                   {"numGrowthRate", "11"},
+                                   {"numInitPercRequire", "8000"},
+                                   {"numAnnIncEsca", "5"},
+                                   {"numEffTaxRate", "36"}});
+    hands.click("optMonthly");
+    hands.click("cmdCalculate");
+    say("  " + hands.shown("txtAns"));
+    check(hands.shown("txtAns") == "The capital lasts 18 years and 8 months.", "R8 000 a month");
+    picture(&hands.window(), "income-from-shares");
+    hands.click("cmdAmort");
+    picture(&hands.window(), "income-from-shares-months");
+    hands.click("cmdGridClose");
+    hands.click("cmdGraph");
+    picture(&hands.window(), "income-from-shares-graph");
+    hands.click("cmdOK");
+    hands.type("numInitPercRequire", "9000");
+    hands.click("cmdCalculate");
+    check(hands.shown("txtAns") == "The capital lasts 15 years and 7 months.", "R9 000 a month");
+    hands.click("cmdDefaultRates");
+    picture(&hands.window(), "income-from-shares-rates");
+    hands.click("cmdCancelDefault");
+    hands.click("cmdPrint");
+    hands.click("chkIncComms");
+    hands.click("cmdVR");
+    exportPdf(hands, "income-from-shares-report");
+    hands.click("cmdOK");
+}
+
 } // namespace tour

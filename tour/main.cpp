@@ -97,6 +97,7 @@ void wholeCase() {
         tour::findPremium(hands);
         tour::compareOffers(hands);
         tour::investOffshore(hands);
+        tour::drawFromShares(hands);
         tour::taxAMonth(hands);
         tour::taxAYear(hands);
         tour::save(hands);

@@ -37,6 +37,7 @@ void quote(Hands& hands);
 void findPremium(Hands& hands);
 void compareOffers(Hands& hands);
 void investOffshore(Hands& hands);
+void drawFromShares(Hands& hands);
 void taxAMonth(Hands& hands);
 void taxAYear(Hands& hands);
 void save(Hands& hands);

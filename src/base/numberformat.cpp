@@ -73,6 +73,8 @@ double inPercent(double fraction) {
 
 } // namespace
 
+std::string plainNumber(double value) { return formatNumber(value, "0.###############"); }
+
 int placesOf(std::string_view mask) { return shownPlaces(readMask(mask)); }
 
 std::string formatNumber(double value, std::string_view maskText) {

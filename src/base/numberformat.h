@@ -15,6 +15,9 @@ namespace base {
 /// the number is already in percent. A number that is not finite prints as nothing.
 std::string formatNumber(double value, std::string_view mask);
 
+/// A figure with all its places and no grouping, as in a sentence: "0.5", "12".
+std::string plainNumber(double value);
+
 /// Digits that a mask shows after the point, 0 to 15.
 int placesOf(std::string_view mask);
 

@@ -6,11 +6,8 @@ namespace quotes {
 
 namespace {
 
-/// A percentage as it was typed, with all its places.
-std::string asTyped(double percent) { return base::formatNumber(percent, "0.###############"); }
-
 std::string trail(double percent) {
-    return "Trail commission equal to one twelfth of  " + asTyped(percent) +
+    return "Trail commission equal to one twelfth of  " + base::plainNumber(percent) +
            "% of portfolio value will be paid monthly.";
 }
 
@@ -51,7 +48,7 @@ Statements commissionStatements(const KwikQuotes& inputs, const FundDefaults& fu
         break;
     case Kind::unitTrust:
         say(3, isPaid && funds.UTCOM > 0,
-            "A commission amount, equal to " + asTyped(funds.UTCOM) + " % of investment made, is payable.");
+            "A commission amount, equal to " + base::plainNumber(funds.UTCOM) + " % of investment made, is payable.");
         say(4, isPaid && funds.UTAComPortVal > 0, trail(funds.UTAComPortVal));
         break;
     case Kind::bank: break;

@@ -8,6 +8,7 @@
 #include "analyses/frmNAEd.h"
 #include "analyses/frmNARA.h"
 #include "calculators/frmDayBal.h"
+#include "calculators/frmIncomeShares.h"
 #include "calculators/frmInflation.h"
 #include "calculators/frmInvestComp.h"
 #include "calculators/frmLifeOfCap.h"
@@ -52,6 +53,7 @@ constexpr ScreenEntry entries[] = {
     {"frmDayBal", build<calculators::frmDayBal>, "Daily balance"},
     {"frmNomEffec", build<calculators::frmNomEffec>, "Nominal and effective interest"},
     {"frmOffShore", build<calculators::frmOffShore>, "Offshore investments"},
+    {"frmIncomeShares", build<calculators::frmIncomeShares>, "Income from shares"},
     {"frmKwikQuotes", build<quotes::frmKwikQuotes>, "Kwik-Quotes"},
     {"frmHeadFoot", build<reports::frmHeadFoot>, "Your header and footer lines"},
     {"frmGraph", build<reports::frmGraph>, "Graphs"},

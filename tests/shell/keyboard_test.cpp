@@ -56,6 +56,9 @@ const std::vector<Place> places{
     {"mnuOffShore", "cmdPrint"},
     {"mnuDayBal", ""},
     {"mnuNomEffec", ""},
+    {"mnuIncShares", ""},
+    {"mnuIncShares", "cmdPrint"},
+    {"mnuIncShares", "cmdDefaultRates"},
     {"mnuKwikQuotes", ""},
     {"mnuKwikQuotes", "cmdPrint"},
     {"mnuKwikQuotes", "cmdLifeOfCap"},
@@ -203,7 +206,9 @@ const std::set<std::string> shadowing{"frmLoans &Fin. charges",
                                       "frmOffShore &Print",
                                       "frmOffShore C&ancel",
                                       "frmNomEffec &Print",
-                                      "frmDayBal &Print"};
+                                      "frmDayBal &Print",
+                                      "frmIncomeShares &Print",
+                                      "frmIncomeShares C&ancel"};
 
 /// The access keys in use, each with its captions.
 std::map<QKeySequence, QStringList> lettersOf(const QWidget* scope) {
