@@ -91,6 +91,7 @@ void showNeeds(Hands& hands, const QString& look) {
                                      {"mnuInvestComp", "investment-comparison-"},
                                      {"mnuOffShore", "offshore-"},
                                      {"mnuIncShares", "income-from-shares-"},
+                                     {"mnuLivAnn", "draw-down-"},
                                      {"mnuKwikQuotes", "quote-"}}) {
         hands.menu({"mnuCalc", item});
         picture(&hands.window(), name + look);

@@ -106,6 +106,7 @@ void wholeCase() {
     session([&](Hands& hands) {
         tour::findClient(hands);
         tour::compare(hands, seen);
+        tour::drawDown(hands);
     });
 }
 

@@ -47,6 +47,8 @@ void exitProgram(Hands& hands);
 // The second session, which must find everything again.
 void findClient(Hands& hands);
 void compare(Hands& hands, const Seen& before);
+/// Ends with New.
+void drawDown(Hands& hands);
 
 /// Saves the report in front as name.pdf, with a picture of it, and closes it.
 void exportPdf(Hands& hands, const QString& name);

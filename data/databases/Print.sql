@@ -247,14 +247,15 @@ CREATE TABLE [traveldeduction] (
 );
 INSERT INTO [traveldeduction] DEFAULT VALUES;
 
--- Draw-down annuity: the seven cost settings, two phases (0 and 1), and the years reported. Rand, percent.
+-- Draw-down annuity: the seven cost settings, two phases (0 and 1), the years reported, and how long the income is paid
+-- as a sentence. Rand, percent.
 CREATE TABLE [LivAnn] (
     [BrokerCom] DOUBLE, [SetupCosts] DOUBLE, [AnnPortFee] DOUBLE, [AnnualDiv] DOUBLE, [TrailComm] DOUBLE,
     [MaxIncAllowed] DOUBLE, [MinIncAllowed] DOUBLE, [Name] VARCHAR(255), [LSAmt] DOUBLE, [GRLA] DOUBLE, [MidP] DOUBLE,
     [ESC] DOUBLE, [Ans] DOUBLE, [FromYear0] DOUBLE, [FromYear1] DOUBLE, [ToYear0] DOUBLE, [ToYear1] DOUBLE,
     [LAInitDraw0] DOUBLE, [LAInitDraw1] DOUBLE, [Esc0] DOUBLE, [Esc1] DOUBLE, [GRLA0] DOUBLE, [GRLA1] DOUBLE,
     [T11] DOUBLE, [T21] DOUBLE, [T12] DOUBLE, [T22] DOUBLE, [T13] DOUBLE, [T23] DOUBLE, [T14] DOUBLE, [T24] DOUBLE,
-    [TY20] DOUBLE, [TY21] DOUBLE
+    [TY20] DOUBLE, [TY21] DOUBLE, [Sentence] VARCHAR(255)
 );
 
 -- Settings of monthly tax, copied from Default.Mdb when a month is printed: percent, UIFLimit rand a month.

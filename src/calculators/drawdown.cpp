@@ -147,6 +147,13 @@ bool DrawDownResult::isFinite() const {
     return std::isfinite(NetPercent) && areFinite(YearPortfolio) && areFinite(YearIncome) && areFinite(YearChange);
 }
 
+std::string DrawDownResult::sentence() const {
+    const std::string years = DrawYears == 1 ? "1 year" : std::to_string(DrawYears) + " years";
+    if (end == DrawDownEnd::exhausted) return "The income is paid for " + years + "; the portfolio can't pay another.";
+    if (DrawYears == 0) return {};
+    return "The income is paid for " + years + ".";
+}
+
 DrawDownResult DrawDownCalc(const assessment::DrawDown& annuity, const DrawDownPhases& phases,
                             const DrawDownCosts& costs, double& NomRate) {
     return Run(phases, costs, NomRate).of(annuity.LSAmt);

@@ -3,6 +3,7 @@
 #include "assessment/assessment.h"
 
 #include <array>
+#include <string>
 
 namespace calculators {
 
@@ -29,6 +30,8 @@ struct DrawDownResult {
 
     /// False where the figures are so large that a portfolio has no finite value.
     bool isFinite() const;
+    /// How long the income is paid; empty if the run did not start or has no years.
+    std::string sentence() const;
 };
 
 /// The run, month by month, for at most 600 months.

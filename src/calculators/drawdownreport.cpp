@@ -40,6 +40,7 @@ datastore::Printout feedDrawDown(const std::filesystem::path& printDbPath, const
                                             {"MidP", annuity.Midp},
                                             {"ESC", annuity.Esc},
                                             {"Ans", result.NetPercent},
+                                            {"Sentence", result.sentence()},
                                             {"FromYear0", first.FromYear},
                                             {"ToYear0", first.ToYear},
                                             {"LAInitDraw0", first.LAInitDraw},

@@ -13,6 +13,7 @@
 #include <algorithm>
 
 #include "base/day.h"
+#include "screenkit/enterwalk.h"
 #include "screenkit/look.h"
 #include "screenkit/pages.h"
 #include "screenkit/trouble.h"
@@ -298,7 +299,8 @@ QWidget* Screen::entryBehind(const QWidget* from, const QWidget* within) const {
     // The focus chain includes all windows' controls and ends where it began.
     for (QWidget* next = from->nextInFocusChain(); next != within && next != from; next = next->nextInFocusChain())
         if (within->isAncestorOf(next) && (next->focusPolicy() & Qt::TabFocus) == Qt::TabFocus && next->isEnabled() &&
-            next->isVisibleTo(within) && std::any_of(m_fields.begin(), m_fields.end(), isEntry(next)))
+            next->isVisibleTo(within) && !next->property(passedByEnter).toBool() &&
+            std::any_of(m_fields.begin(), m_fields.end(), isEntry(next)))
             return next;
     return nullptr;
 }

@@ -7,6 +7,7 @@
 #include "analyses/frmNADisability.h"
 #include "analyses/frmNAEd.h"
 #include "analyses/frmNARA.h"
+#include "calculators/frmDDLivAnn.h"
 #include "calculators/frmDayBal.h"
 #include "calculators/frmIncomeShares.h"
 #include "calculators/frmInflation.h"
@@ -54,6 +55,7 @@ constexpr ScreenEntry entries[] = {
     {"frmNomEffec", build<calculators::frmNomEffec>, "Nominal and effective interest"},
     {"frmOffShore", build<calculators::frmOffShore>, "Offshore investments"},
     {"frmIncomeShares", build<calculators::frmIncomeShares>, "Income from shares"},
+    {"frmDDLivAnn", build<calculators::frmDDLivAnn>, "Draw-down annuity"},
     {"frmKwikQuotes", build<quotes::frmKwikQuotes>, "Kwik-Quotes"},
     {"frmHeadFoot", build<reports::frmHeadFoot>, "Your header and footer lines"},
     {"frmGraph", build<reports::frmGraph>, "Graphs"},

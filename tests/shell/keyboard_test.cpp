@@ -59,6 +59,9 @@ const std::vector<Place> places{
     {"mnuIncShares", ""},
     {"mnuIncShares", "cmdPrint"},
     {"mnuIncShares", "cmdDefaultRates"},
+    {"mnuLivAnn", ""},
+    {"mnuLivAnn", "cmdCosts"},
+    {"mnuLivAnn", "cmdPrint"},
     {"mnuKwikQuotes", ""},
     {"mnuKwikQuotes", "cmdPrint"},
     {"mnuKwikQuotes", "cmdLifeOfCap"},
@@ -208,7 +211,9 @@ const std::set<std::string> shadowing{"frmLoans &Fin. charges",
                                       "frmNomEffec &Print",
                                       "frmDayBal &Print",
                                       "frmIncomeShares &Print",
-                                      "frmIncomeShares C&ancel"};
+                                      "frmIncomeShares C&ancel",
+                                      "frmDDLivAnn &Print",
+                                      "frmDDLivAnn C&ancel"};
 
 /// The access keys in use, each with its captions.
 std::map<QKeySequence, QStringList> lettersOf(const QWidget* scope) {

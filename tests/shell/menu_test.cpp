@@ -50,6 +50,7 @@ const std::set<std::string> working{
     "mnuNomEffec",
     "mnuNomEffec1",
     "mnuIncShares",
+    "mnuLivAnn",
     "mnuKwikQuotes",
 };
 
@@ -105,6 +106,7 @@ TEST(Toolbar, EachButtonHasAPictureATipAndANameForScreenReaders) {
                                     "Banking",
                                     "Investment Comparison",
                                     "Offshore Investments",
+                                    "Draw Down Annuity",
                                     "PAYE",
                                     "QuickTax",
                                     "Video Lectures"}));
