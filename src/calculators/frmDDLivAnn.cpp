@@ -112,7 +112,7 @@ NumberKind frmDDLivAnn::withinRange(const NumberKind& kind, const double& place)
 }
 
 QWidget* frmDDLivAnn::annuity() {
-    m_name = shown("txtCLName", 30);
+    m_name = shown("txtCLName", 26);
     const Bound<double> amount = Bound<double>(m_annuity.LSAmt).then([this] { m_rangeEdited = &m_annuity.LSAmt; });
     return group("fraAnnuity", "Annuity",
                  form({{"Name", m_name},
@@ -179,11 +179,10 @@ QWidget* frmDDLivAnn::details() {
     };
     auto* add = button("cmdAddRow", "A&dd row", [this] { m_grid->addRow(); });
     auto* remove = button("cmdDeleteRow", "De&lete row", [this] { m_grid->deleteRow(); });
-    return group("fraMRD", detailsTitle,
-                 column({{m_grid, 1},
-                         note("The first two rows are the two phases. Further rows are kept until another client is "
-                              "opened, but do not count."),
-                         row({add, remove, spring()})}));
+    auto* said =
+        note("The first two rows are the two phases. Further rows are kept until another client is opened, but "
+             "do not count.");
+    return group("fraMRD", detailsTitle, column({{m_grid, 1}, row({Item(said, 1), add, remove})}));
 }
 
 QWidget* frmDDLivAnn::answers() {
