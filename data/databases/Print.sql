@@ -115,7 +115,7 @@ CREATE TABLE [AllDetails] (
 );
 
 -- Real rate of return of an investment: rand, months, percent a year; Pay and inc rows are four further payments and
--- incomes.
+-- incomes, TotPremPaid1 their profit. RateNote says that no rate was found.
 CREATE TABLE [RRR] (
     [SingPremLump] DOUBLE, [MonPrem] DOUBLE, [Period] DOUBLE, [AnnEsc] DOUBLE, [MatVal] DOUBLE, [TotPremPaid] DOUBLE,
     [RRR] DOUBLE, [RRRNEWIntLumpInv] DOUBLE, [RRRNEWPeriod] DOUBLE, [RRRNEWMaturityVal] DOUBLE, [RegMpay1] DOUBLE,
@@ -124,7 +124,7 @@ CREATE TABLE [RRR] (
     [IncEsc2] DOUBLE, [IncEsc3] DOUBLE, [IncEsc4] DOUBLE, [RegMpayDet1] VARCHAR(255), [RegMpayDet2] VARCHAR(255),
     [RegMpayDet3] VARCHAR(255), [RegMpayDet4] VARCHAR(255), [RegMincDet1] VARCHAR(255), [RegMincDet2] VARCHAR(255),
     [RegMincDet3] VARCHAR(255), [RegMincDet4] VARCHAR(255), [TotInvMon] DOUBLE, [TotMonIncDrawn] DOUBLE,
-    [TotPremPaid1] DOUBLE
+    [TotPremPaid1] DOUBLE, [RateNote] TEXT
 );
 
 -- A quotation on an investment: rand, months, percent a year, up to eight sentences on costs. LOA says how long the

@@ -17,6 +17,8 @@
 #include "calculators/frmNomEffec.h"
 #include "calculators/frmOffShore.h"
 #include "calculators/frmPremium.h"
+#include "calculators/frmRRRNEW.h"
+#include "calculators/frmRRROLD.h"
 #include "client/frmPersDet.h"
 #include "client/frmPolInvest.h"
 #include "datastore/frmBrowse.h"
@@ -53,6 +55,8 @@ constexpr ScreenEntry entries[] = {
     {"frmPremium", build<calculators::frmPremium>, "The premium for a capital"},
     {"frmDayBal", build<calculators::frmDayBal>, "Daily balance"},
     {"frmNomEffec", build<calculators::frmNomEffec>, "Nominal and effective interest"},
+    {"frmRRRNEW", build<calculators::frmRRRNEW>, "Real rate of return"},
+    {"frmRRROLD", build<calculators::frmRRROLD>, "Real rate of return"},
     {"frmOffShore", build<calculators::frmOffShore>, "Offshore investments"},
     {"frmIncomeShares", build<calculators::frmIncomeShares>, "Income from shares"},
     {"frmDDLivAnn", build<calculators::frmDDLivAnn>, "Draw-down annuity"},

@@ -45,6 +45,7 @@ const std::set<std::string> working{
     "mnuLifeOfCap",
     "mnuInvestComp",
     "mnuOffShore",
+    "mnuRealRate",
     "mnuDayBal",
     "mnuDayBal1",
     "mnuNomEffec",
