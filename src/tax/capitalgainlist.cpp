@@ -25,9 +25,7 @@ int AssetList::notCounted() const { return std::max(0, CGTMaxNum() - static_cast
 
 void AssetList::describe(std::string description) {
     shown().AssetDesc = std::move(description);
-    if (CGTMaxNum() > 0 || m_new.AssetDesc.empty()) return;
-    m_gains.assets.push_back(std::exchange(m_new, assessment::newAsset()));
-    renumber();
+    if (!m_new.AssetDesc.empty()) m_gains.assets.push_back(std::exchange(m_new, assessment::newAsset()));
 }
 
 void AssetList::step(int direction) {
@@ -70,20 +68,18 @@ bool AssetList::dropEmptyLast() {
     CGTAssetRecord untouched = assessment::newAsset();
     untouched.CGTAssetNum = assets.back().CGTAssetNum;
     if (assets.back() != untouched) return false;
-    m_shown = std::min(CurrentAsset(), CGTMaxNum() - 1);
     assets.pop_back();
     return true;
 }
 
 YearTotals AssetList::ADDITCGTCALC() {
-    if (CurrentAsset() > 0) workOutShown();
+    workOutShown();
     return yearTotals(m_gains);
 }
 
 void AssetList::renumber() {
     for (std::int16_t number = 0; CGTAssetRecord & asset : m_gains.assets)
         asset.CGTAssetNum = ++number;
-    m_shown = CurrentAsset();
 }
 
 void takeItemisedGains(CapitalGains& gains, std::vector<CGTTrustRow> rows) {

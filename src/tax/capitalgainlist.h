@@ -60,7 +60,7 @@ private:
 
     assessment::CapitalGains& m_gains;
     assessment::CGTAssetRecord m_new = assessment::newAsset();
-    int m_shown = 1;
+    int m_shown = 1; ///< may exceed the list after a deletion: CurrentAsset() is what counts
 };
 
 /// The list of known gains as it is typed: one row a source, `copSplit` meaning foreign.

@@ -89,7 +89,7 @@ TEST(CapitalGain, TakesTheShareAndTheExclusions) {
         {"PR", 5, 0, 100, 50, 0, "", 5},        {"PR", 1, 0, 100, 50, 2, "", 0},
         {"PR", -4, 0, 100, 50, 2, "", -1},      {"PR", 4, 0, 50, 100, 2, "", 1, false},
         {"PR", 3.75, 0, 80, 100, 2, "", 0.375}, {"PR", 5, 0, 80, 100, 1, "", 2}, // 4 - 3 lived in, and the other 1
-        {"PR", -5, 0, 80, 100, 1, "", -2},      {"PR", -3.75, 0, 80, 50, 1, "", -0.375},
+        {"PR", -5, 0, 80, 100, 1, "", -2},      {"PR", -3.75, 4, 80, 50, 1, "", -1.125},
         {"PR", 5, 0, 80, 50, 0, "", 2},         {"PR", 5, 4, 80, 100, 0, "", 5},
         {"PR", 7, 4, 50, 50, 2, "", 1},         {"PR", 5, 4, 80, 100, 1, "", 2}, // 2 - 3 on two hectares, 2 beyond, 1
         {"PR", -5, 4, 80, 100, 2, "", -1},      {"PR", 3.75, 4, 80, 50, 1, "", 1.125},
@@ -117,7 +117,7 @@ TEST(CapitalGain, AResidenceSoldForTheExclusionHasNoGainWhateverItsLand) {
         house.SellPrice = price, house.ResOccPerc = lived, house.OrigPurPrice = 0, house.Size = 30;
         const AssetGain gain = workOut(house);
         EXPECT_EQ(static_cast<int>(gain.method), method);
-        EXPECT_EQ(gain.CapGain > 0, method == 4);
+        EXPECT_EQ(gain.CapGain == 0, gain.exclusion == GainExclusion::wholeResidence);
         EXPECT_EQ(gain.ProfitDisp, price); // still declared
     }
     const double before = house.CapGain;
@@ -153,7 +153,7 @@ TEST(CapitalGainYear, AddsThePartAboveTheExclusionToIncome) {
         std::int16_t Deceased;
         YearResults results;
     } cases[] = {
-        {50000, 50000, 0, -7, 0, {50000, 0, 0, 0, 0, -7}},
+        {49999.5, 0.5, 0.5, -7, 0, {0.5, 0, 0.5, 0, 0, -7}},
         {-50000, -60000, 0, 0, 0, {0, 60000, 0, 0, 0, 0}},
         {40000, 1600000, 10001, 0, 0, {1600000, 0, 10001, 0, 0.4, 0}},
         {-70000, -70000, -1, -30, 0, {0, 70000, 0, 1, 0, -20031}},
@@ -186,6 +186,11 @@ TEST(CapitalGainYear, TheLastAssetDecidesUnlessThereAreKnownGains) {
     gains.AdditCapGainLocal = 550000, gains.AdditCapGainForeign = -10000; // declared alone, but not at death
     expectResults(gains, 0, {550000, 0, -10000, 0, 0, -410000});
     expectResults(gains, 1, {0, 0, 0, 0, 0, -800000});
+    dropPositiveLoss(gains);
+    EXPECT_EQ(gains.CarryOverCapGainPrev, -900000);
+    gains.CarryOverCapGainPrev = 1;
+    dropPositiveLoss(gains);
+    EXPECT_EQ(gains.CarryOverCapGainPrev, 0);
 }
 
 TEST(CapitalGainYear, CountsTheFirstThousandAssetsByPlace) {
@@ -210,6 +215,7 @@ TEST(CapitalGainList, GrowsAndShrinksAroundTheAssetShown) {
     AssetList list(gains);
     list.remove();
     list.forward();
+    EXPECT_FALSE(list.dropEmptyLast());
     EXPECT_EQ(list.add(), AssetList::Added::noDescription);
     EXPECT_EQ(list.CurrentAsset(), 0);
     list.describe("Flat");
@@ -219,13 +225,14 @@ TEST(CapitalGainList, GrowsAndShrinksAroundTheAssetShown) {
     EXPECT_EQ(list.add(), AssetList::Added::noDescription);
     list.describe("Shop");
     list.describe(""); // stays an asset, though nothing is in it any more
-    EXPECT_EQ(list.CurrentAsset(), 2);
+    EXPECT_EQ(list.shown().CGTAssetNum, 2);
     EXPECT_TRUE(list.dropEmptyLast());
     EXPECT_FALSE(list.dropEmptyLast());
     EXPECT_EQ(list.CurrentAsset(), 1);
     list.remove();
     EXPECT_EQ(list.shown(), assessment::newAsset());
     EXPECT_TRUE(gains.assets.empty());
+    EXPECT_EQ(list.notCounted(), 0);
 }
 
 TEST(CapitalGainList, ADeletionClearsTheDeductionOfTheAssetsInFront) {
@@ -236,17 +243,19 @@ TEST(CapitalGainList, ADeletionClearsTheDeductionOfTheAssetsInFront) {
     AssetList list(gains);
     list.back();
     list.back();
+    gains.assets[3].SellPrice += million;
     list.remove();
     EXPECT_EQ(list.shown().CGTAssetNum, 3);
-    EXPECT_EQ(list.shown().CapGain, 3.2 * million);
+    EXPECT_EQ(list.shown().CapGain, 4.2 * million);
     EXPECT_EQ(gains.assets[1].CapGain, 0); // not visited since
     EXPECT_EQ(gains.assets[1].SBFiveDed, "");
     EXPECT_EQ(gains.assets[1].SB750PortDed, 0);
     list.remove(); // the last one: the new last is shown
     EXPECT_EQ(list.CurrentAsset(), 2);
+    list.shown().SellPrice += million;
     list.forward();
     EXPECT_EQ(list.CurrentAsset(), 1);
-    EXPECT_EQ(list.ADDITCGTCALC().YearCapGain, 10 * million);
+    EXPECT_EQ(list.ADDITCGTCALC().YearCapGain, 11 * million);
 }
 
 TEST(CapitalGainList, ItemisedGainsAreSummedByPlaceAndSplit) {

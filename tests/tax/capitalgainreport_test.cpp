@@ -81,6 +81,10 @@ TEST_F(CapitalGainReport, EachAssetHasItsRowAndTheFirstTheSummary) {
                  "sources 8.50", "Carried Forward −6.50 Capital Gain Added to Income 5.25",
                  "1 \"O'Brien & <Seun>\", Ṱhohoyanḓou, with ovens and vans Rand", "is taxed on 31.3125 %"});
     EXPECT_FALSE(text.contains("cgtoinc"));
+    Assessment many;
+    many.capitalGains.assets.resize(1001);
+    EXPECT_EQ(tax::feedCapitalGains(print, many, {{}, 1, true}).size(), 2U);
+    EXPECT_EQ(rows("SELECT CGTAssetNum FROM CGTDetails WHERE NotCounted <> ''"), "1001");
 }
 
 TEST_F(CapitalGainReport, KnownGainsFollowTheAssetsOrStandAlone) {
