@@ -162,10 +162,12 @@ std::vector<EditColumn> frmDDLivAnn::columns() {
                                             [this] { return rangeComplaint(FirstIncome::aboveMaximum); });
     const NumberKind endYear = whole.where([](double year) { return year > 1 && year <= 50; },
                                            "Only a value between 1 and 50 can be entered!", detailsTitle);
+    NumberKind rise = escalation;
+    rise.characters = 10; // its head is longer than its figures
     return {{"From year", fromYear, 0, {}},
             {"To year", endYear, 0, {}},
             {"Monthly income", details, 0, {}},
-            {"Escalation %", escalation, 0, {}},
+            {"Escalation %", rise, 0, {}},
             {"Growth %", growth, 0, {}}};
 }
 
