@@ -239,6 +239,7 @@ void frmDDLivAnn::showRows() {
 void frmDDLivAnn::takeRows() {
     const std::vector<EditRow> rows = m_grid->rows();
     m_phases = {};
+    m_rangeEdited = nullptr; // the table has checked the income by its own rule
     for (std::size_t line = 0; line < rows.size(); ++line)
         if (line < 2)
             (line == 0 ? m_phases.phase0 : m_phases.phase1) = phaseOf(rows[line]);
