@@ -108,6 +108,7 @@ TEST(Toolbar, EachButtonHasAPictureATipAndANameForScreenReaders) {
                                     "Investment Comparison",
                                     "Offshore Investments",
                                     "Draw Down Annuity",
+                                    "Real Rate of Return",
                                     "PAYE",
                                     "QuickTax",
                                     "Video Lectures"}));
