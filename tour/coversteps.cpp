@@ -92,6 +92,7 @@ void showNeeds(Hands& hands, const QString& look) {
                                      {"mnuOffShore", "offshore-"},
                                      {"mnuIncShares", "income-from-shares-"},
                                      {"mnuLivAnn", "draw-down-"},
+                                     {"mnuRealRate", "real-rate-"},
                                      {"mnuKwikQuotes", "quote-"}}) {
         hands.menu({"mnuCalc", item});
         picture(&hands.window(), name + look);

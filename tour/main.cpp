@@ -97,6 +97,9 @@ void wholeCase() {
         tour::findPremium(hands);
         tour::compareOffers(hands);
         tour::investOffshore(hands);
+        tour::convertRate(hands);
+        tour::balanceADeposit(hands);
+        tour::measureReturns(hands);
         tour::drawFromShares(hands);
         tour::taxAMonth(hands);
         tour::taxAYear(hands);
