@@ -139,11 +139,7 @@ CapitalGains year(double local, double localProfit, double foreign, double broug
 void expectResults(const CapitalGains& gains, std::int16_t Deceased, const YearResults& e) {
     const YearResults shownBefore{1, 2, 3, 4, 5, 6};
     const YearResults f = CGTTotalCalc(annualGain(gains, yearTotals(gains), Deceased), shownBefore);
-    const auto all = [](const YearResults& r) {
-        return std::vector{r.num4250CapGain,        r.num4251CapGain, r.num4252ForeignCapGain,
-                           r.num4253ForeignCapGain, r.numWTCGTTotal,  r.numCarryOverCapGain};
-    };
-    EXPECT_EQ(all(f), all(e));
+    EXPECT_EQ(f, e) << testing::PrintToString(std::vector{f.num4250CapGain, f.num4251CapGain, f.numCarryOverCapGain});
     EXPECT_FALSE(std::signbit(f.num4251CapGain) || std::signbit(f.num4253ForeignCapGain)); // no "-0"
 }
 
@@ -248,8 +244,7 @@ TEST(CapitalGainList, ADeletionClearsTheDeductionOfTheAssetsInFront) {
     EXPECT_EQ(list.shown().CGTAssetNum, 3);
     EXPECT_EQ(list.shown().CapGain, 4.2 * million);
     EXPECT_EQ(gains.assets[1].CapGain, 0); // not visited since
-    EXPECT_EQ(gains.assets[1].SBFiveDed, "");
-    EXPECT_EQ(gains.assets[1].SB750PortDed, 0);
+    EXPECT_EQ(gains.assets[1].SBFiveDed + std::to_string(gains.assets[1].SB750PortDed), "0.000000");
     list.remove(); // the last one: the new last is shown
     EXPECT_EQ(list.CurrentAsset(), 2);
     list.shown().SellPrice += million;
