@@ -29,15 +29,15 @@ struct SharesTax {
 struct IncomeSharesRun {
     static constexpr int longest = 600;
 
-    bool isMonthly = false;                        ///< the income is drawn each month, not each year
-    double invested = 0;                           ///< the capital after the first costs, rand
-    int months = 0;                                ///< in the run; 0: nothing was invested or required
-    bool ranOut = false;                           ///< its last month could not pay; that month holds zeros
-    std::array<double, longest + 1> ISCapital{};   ///< at the end of the month, rand
-    std::array<double, longest + 1> ISIncome{};    ///< the current income, rand a month or a year
-    std::array<double, longest + 1> ISTax{};       ///< at the last year's end, rand
-    std::array<double, longest + 1> ISYear{};      ///< month / 12
-    std::array<SharesTax, longest / 12 + 1> taxes; ///< by year
+    bool isMonthly = false;                          ///< the income is drawn each month, not each year
+    double invested = 0;                             ///< the capital after the first costs, rand
+    int months = 0;                                  ///< in the run; 0: nothing was invested or required
+    bool ranOut = false;                             ///< its last month could not pay; that month holds zeros
+    std::array<double, longest + 1> ISCapital{};     ///< at the end of the month, rand
+    std::array<double, longest + 1> ISIncome{};      ///< the current income, rand a month or a year
+    std::array<double, longest + 1> ISTax{};         ///< at the last year's end, rand
+    std::array<double, longest + 1> ISYear{};        ///< month / 12
+    std::array<SharesTax, longest / 12 + 1> taxes{}; ///< by year
 
     /// Year 1 to 50. A year after the end has zeros.
     SharesYear year(int number) const;

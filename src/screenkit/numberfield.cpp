@@ -112,7 +112,8 @@ std::optional<Complaint> NumberField::complaint() {
 
 std::optional<Complaint> NumberField::markStoredFault() {
     if (isRefused()) return {}; // it has its own mark and message
-    const auto found = isOwn() ? std::nullopt : fault();
+    auto found = isOwn() ? std::nullopt : fault();
+    if (found && found->text.isEmpty()) found->text = tr("The figure is outside its limits."); // the limit has no words
     look::setMarked(this, found ? found->text : QString());
     return found;
 }
