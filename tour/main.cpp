@@ -103,6 +103,8 @@ void wholeCase() {
         tour::drawFromShares(hands);
         tour::taxAMonth(hands);
         tour::taxAYear(hands);
+        tour::taxLumpSums(hands);
+        tour::estimateEstate(hands);
         tour::save(hands);
         seen = tour::look(hands);
     });

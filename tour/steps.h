@@ -43,6 +43,8 @@ void measureReturns(Hands& hands);
 void drawFromShares(Hands& hands);
 void taxAMonth(Hands& hands);
 void taxAYear(Hands& hands);
+void taxLumpSums(Hands& hands);
+void estimateEstate(Hands& hands);
 void save(Hands& hands);
 Seen look(Hands& hands);
 void exitProgram(Hands& hands);

@@ -203,10 +203,13 @@ CREATE TABLE [PolsInvestsAmorts] (
     [PremInvAmtMonthlyAnnEsc] DOUBLE, [IsFilled] DOUBLE, [WorthAtRetirement] DOUBLE
 );
 
--- Tax saved by retirement funding: rand.
+-- Tax saved by retirement funding: rand. TaxIncCur is the remuneration, TaxIncRA the taxable income,
+-- PortInvestPaySarsPA the capital gains, RaCont the highest contribution, TaxSavingPM the one proposed, NewRA the tax
+-- saved, TaxComitCur and TaxComitRA the parts that SARS and the taxpayer pay. BelowThreshold is 1 if no tax is due.
 CREATE TABLE [RATaxAdvantage] (
     [Heading] VARCHAR(255), [TaxPayerAge] DOUBLE, [TaxIncCur] DOUBLE, [TaxIncRA] DOUBLE, [PortInvestPaySarsPA] DOUBLE,
-    [RaCont] DOUBLE, [TaxSavingPM] DOUBLE, [NewRA] DOUBLE, [TaxComitCur] DOUBLE, [TaxComitRA] DOUBLE, [PerAns] TEXT
+    [RaCont] DOUBLE, [TaxSavingPM] DOUBLE, [NewRA] DOUBLE, [TaxComitCur] DOUBLE, [TaxComitRA] DOUBLE, [PerAns] TEXT,
+    [BelowThreshold] DOUBLE
 );
 INSERT INTO [RATaxAdvantage] DEFAULT VALUES;
 
@@ -216,7 +219,8 @@ CREATE TABLE [DailyBal] (
     [ANS2] DOUBLE
 );
 
--- Lump sums from retirement funds and severance by tax year: rand.
+-- Lump sums from retirement funds and severance by tax year: rand. One of the FstLumpTaken fields holds "T". TaxDue is
+-- the tax on Total, all of them, less the tax on Prior, those taken before.
 CREATE TABLE [IRP5IncDed] (
     [RetireLumpSumBefore] DOUBLE, [RRExGrtCTY02042021] DOUBLE, [RetrenchmentLumps2021] DOUBLE,
     [RetireDeathAfter2021] DOUBLE, [RRExGrtCTY02042022] DOUBLE, [RetrenchmentLumps2022] DOUBLE,
@@ -226,7 +230,8 @@ CREATE TABLE [IRP5IncDed] (
     [RetireDeathAfter2025] DOUBLE, [RRExGrtCTY02042026] DOUBLE, [RetrenchmentLumps2026] DOUBLE,
     [RetireDeathAfter2026] DOUBLE, [RRExGrtCTY02042027] DOUBLE, [RetrenchmentLumps2027] DOUBLE,
     [RetireDeathAfter2027] DOUBLE, [FstLumpTaken1] VARCHAR(255), [FstLumpTaken2] VARCHAR(255),
-    [FstLumpTaken3] VARCHAR(255), [TaxDue] DOUBLE
+    [FstLumpTaken3] VARCHAR(255), [TaxDue] DOUBLE, [Total] DOUBLE, [TaxOnTotal] DOUBLE, [Prior] DOUBLE,
+    [TaxOnPrior] DOUBLE
 );
 
 -- Gains and losses from trusts and other sources. All are texts, since the first line holds the title (NewGrid) and the
@@ -237,7 +242,8 @@ CREATE TABLE [CGTTrustOtherItemise] (
     [TotalText] VARCHAR(255), [Total] VARCHAR(255)
 );
 
--- Travel and company car calculation: kilometres and rand. mta02 is not used.
+-- A travel claim: kilometres and rand; fce, fc, mc and tatc cents a kilometre. mta02 is not used, CARNO is 1, and FCDet
+-- and MCDet are the labels of fc and mc.
 CREATE TABLE [traveldeduction] (
     [TPName] VARCHAR(255), [CARNO] DOUBLE, [mta01] VARCHAR(255), [mta04] DOUBLE, [mta05] DOUBLE, [mta06] DOUBLE,
     [mta07] DOUBLE, [tadeduction] DOUBLE, [MTD] DOUBLE, [MBD] DOUBLE, [mpd] DOUBLE, [mta02] DOUBLE, [mta03] DOUBLE,

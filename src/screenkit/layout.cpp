@@ -150,12 +150,13 @@ QLayout* matrix(const QStringList& columnHeads, const std::vector<MatrixRow>& ro
     auto* layout = new QGridLayout;
     std::vector<QLabel*> heads;
     for (const QString& head : columnHeads) {
-        heads.push_back(new QLabel(head));
+        setCaption(heads.emplace_back(new QLabel), head);
         layout->addWidget(heads.back(), 0, static_cast<int>(heads.size()), Qt::AlignHCenter | Qt::AlignBottom);
     }
     int line = 0;
     for (const MatrixRow& each : rows) {
-        auto* rowHead = new QLabel(each.head);
+        auto* rowHead = new QLabel;
+        setCaption(rowHead, each.head);
         layout->addWidget(rowHead, ++line, 0);
         for (std::size_t i = 0; i < each.cells.size() && i < heads.size(); ++i) {
             const Item& cell = each.cells[i];

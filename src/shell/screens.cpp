@@ -27,7 +27,9 @@
 #include "reports/frmGraph.h"
 #include "reports/frmHeadFoot.h"
 #include "shell/frmBrowser.h"
+#include "tax/frmEstateDutyEst.h"
 #include "tax/frmKwikTax.h"
+#include "tax/frmLumpSum.h"
 #include "tax/frmMonthly.h"
 
 namespace shell {
@@ -66,6 +68,8 @@ constexpr ScreenEntry entries[] = {
     {"frmBrowser", build<shell::frmBrowser>, "Working by keyboard"},
     {"frmKwikTax", build<tax::frmKwikTax>, "Quick tax"},
     {"frmMonthly", build<tax::frmMonthly>, "Monthly tax"},
+    {"frmLumpSum", build<tax::frmLumpSum>, "Tax on lump sums"},
+    {"frmEstateDutyEst", build<tax::frmEstateDutyEst>, "Estate duty"},
 };
 
 constexpr const char* closedWithTheClient[] = {

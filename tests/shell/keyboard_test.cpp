@@ -75,6 +75,11 @@ const std::vector<Place> places{
     {"mnuPAYE", "cmdPrint"},
     {"mnuPAYE", "cmdSettings"},
     {"mnuPAYE", "cmdInfo"},
+    {"mnuTaxLumpSum", ""},
+    {"mnuTaxLumpSum", "cmdPrint"},
+    {"mnuEstateDutyEstimator", ""},
+    {"mnuEstateDutyEstimator", "cmdPrint"},
+    {"mnuEstateDutyEstimator", "cmdSettings"},
 };
 
 bool isEntry(const QWidget* widget) {
@@ -173,7 +178,8 @@ TEST_P(Keyboard, EachEntryHasALabelAndAScreenReaderSaysEachControlInWholeWords) 
                               qobject_cast<QGroupBox*>(widget) != nullptr;
             if (!widget->isVisible() || !said || nameOf(widget).empty() || nameOf(widget).starts_with("qt_")) continue;
             const bool mustHaveLabel = isEntry(widget) && qobject_cast<screenkit::Grid*>(widget) == nullptr;
-            EXPECT_TRUE(!mustHaveLabel || labelled.contains(widget)) << nameOf(widget) << " " << page;
+            const bool isCell = widget->accessibleName().contains(", "); // of a matrix: named after both heads
+            EXPECT_TRUE(!mustHaveLabel || isCell || labelled.contains(widget)) << nameOf(widget) << " " << page;
             const QString name = spoken(widget);
             EXPECT_TRUE(isWholeWords(name)) << nameOf(widget) << " \"" << name.toStdString() << "\" " << page;
             EXPECT_TRUE(button == nullptr || !button->text().contains("&&") || name.contains(" & ")) << nameOf(widget);
@@ -217,7 +223,11 @@ const std::set<std::string> shadowing{"frmLoans &Fin. charges",
                                       "frmIncomeShares &Print",
                                       "frmIncomeShares C&ancel",
                                       "frmDDLivAnn &Print",
-                                      "frmDDLivAnn C&ancel"};
+                                      "frmDDLivAnn C&ancel",
+                                      "frmLumpSum &Print",
+                                      "frmLumpSum C&ancel",
+                                      "frmEstateDutyEst &Print",
+                                      "frmEstateDutyEst C&ancel"};
 
 /// The access keys in use, each with its captions.
 std::map<QKeySequence, QStringList> lettersOf(const QWidget* scope) {

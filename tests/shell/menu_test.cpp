@@ -53,6 +53,8 @@ const std::set<std::string> working{
     "mnuIncShares",
     "mnuLivAnn",
     "mnuKwikQuotes",
+    "mnuTaxLumpSum",
+    "mnuEstateDutyEstimator",
 };
 
 QToolBar* toolbar(RunningProgram& run) { return run.window().findChild<QToolBar*>("Toolbar2"); }
@@ -100,6 +102,7 @@ TEST(Toolbar, EachButtonHasAPictureATipAndANameForScreenReaders) {
                                     "Needs Analysis for Retirement",
                                     "Policies and Investments",
                                     "Needs Analysis for Education",
+                                    "Estate Duty Estimator",
                                     "Inflation",
                                     "Loans",
                                     "Life of Capital",
@@ -109,6 +112,7 @@ TEST(Toolbar, EachButtonHasAPictureATipAndANameForScreenReaders) {
                                     "Offshore Investments",
                                     "Draw Down Annuity",
                                     "Real Rate of Return",
+                                    "Tax On Lump Sums",
                                     "PAYE",
                                     "QuickTax",
                                     "Video Lectures"}));
