@@ -252,7 +252,11 @@ void frmDDLivAnn::takeRows() {
 void frmDDLivAnn::calculate() {
     m_result = DrawDownCalc(m_annuity, m_phases, m_costs, m_NomRate);
     const bool isFinite = m_result.isFinite();
-    m_sentence->setText(isFinite ? QString::fromStdString(m_result.sentence()) : QString());
+    const QString answer = m_result.DrawYears > 0 ? QString::fromStdString(m_result.sentence())
+                           : m_result.end == DrawDownEnd::notStarted
+                               ? "Enter the amount, and the income and growth rate of the first phase."
+                               : "Enter the last year of the first phase.";
+    m_sentence->setText(isFinite ? answer : QString());
     showAnswers(isFinite);
 }
 

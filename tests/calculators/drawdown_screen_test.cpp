@@ -151,6 +151,7 @@ TEST_F(DrawDownScreen, CostsTableGraphAndASave) {
     run.click("cmdGraph");
     EXPECT_FALSE(run.isOpen("frmGraph"));
     EXPECT_EQ(RunningProgram::focused(), "cmdOK");
+    EXPECT_EQ(run.shown("txtAns"), "Enter the amount, and the income and growth rate of the first phase.");
 }
 
 } // namespace
