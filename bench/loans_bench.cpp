@@ -119,7 +119,7 @@ const bench::Register amortisation({
     .ours =
         [] {
             return timeOfAll([](const Loans& loan) {
-                const Amortisation table = calculators::annualAmortisation(loan.Num1, loan.Num2, loan.Num3, 0);
+                const Amortisation table = calculators::annualAmortisation({loan.Num1, loan.Num2, loan.Num3, 0});
                 return table.MonthBalance[240] + table.YearInterest[20];
             });
         },

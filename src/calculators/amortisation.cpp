@@ -11,6 +11,8 @@ namespace calculators {
 
 namespace {
 
+constexpr double monthsOfAnAnnualTable = 13;
+
 std::size_t at(int index) { return static_cast<std::size_t>(index); }
 
 /// The number of months in a table. An old file may hold a period that is no number of months at all.
@@ -31,13 +33,22 @@ AmortisationRow row(const Amortisation& table, const Amortisation::Column& capit
 
 } // namespace
 
-Amortisation monthlyAmortisation(double principal, double months, double percentAYear) {
+bool RepaidLoan::hasMonths() const { return principal != 0 && months != 0 && percentAYear != 0 && repayment != 0; }
+
+bool RepaidLoan::hasYears() const { return hasMonths() && months >= monthsOfAnAnnualTable; }
+
+std::string AmortisationChoice::unit() const {
+    if (!included) return {};
+    return monthly ? "Month" : "Year";
+}
+
+Amortisation monthlyAmortisation(const RepaidLoan& loan) {
     Amortisation table;
-    const double whole = base::roundHalfEven(months);
+    const double whole = base::roundHalfEven(loan.months);
     table.months = tableMonths(whole);
-    const double growth = 1 + monthlyRate(percentAYear);
-    const double pay = repaymentFor(principal, months, percentAYear);
-    double balance = principal;
+    const double growth = 1 + monthlyRate(loan.percentAYear);
+    const double pay = repaymentFor(loan.principal, loan.months, loan.percentAYear);
+    double balance = loan.principal;
     for (int i = 1; i <= table.months; ++i) {
         const double capital = pay * std::pow(growth, -((whole + 1) - i));
         balance = std::fabs(balance - capital);
@@ -48,8 +59,8 @@ Amortisation monthlyAmortisation(double principal, double months, double percent
     return table;
 }
 
-Amortisation annualAmortisation(double principal, double months, double percentAYear, double repayment) {
-    Amortisation table = monthlyAmortisation(principal, months, percentAYear);
+Amortisation annualAmortisation(const RepaidLoan& loan) {
+    Amortisation table = monthlyAmortisation(loan);
     double capitalSoFar = 0, interestSoFar = 0;
     for (int month = 12; month <= table.months; month += 12) {
         const int year = table.AmortYears = month / 12;
@@ -60,15 +71,15 @@ Amortisation annualAmortisation(double principal, double months, double percentA
     if (table.months % 12 == 0) return table;
     table.AmortShape = 2;
     const int partYear = table.years();
-    table.YearCapital[at(partYear)] = principal - capitalSoFar;
-    table.YearInterest[at(partYear)] = (repayment * months - principal) - interestSoFar;
+    table.YearCapital[at(partYear)] = loan.principal - capitalSoFar;
+    table.YearInterest[at(partYear)] = (loan.repayment * loan.months - loan.principal) - interestSoFar;
     table.MonthBalance[at(partYear)] = table.MonthBalance[at(table.months)];
     return table;
 }
 
-Amortisation CalcAnnAmort(const assessment::Loans& loan) {
-    return annualAmortisation(loan.Num1, loan.Num2, loan.Num3, loan.Num4);
-}
+Amortisation CalcAnnAmort(const assessment::Loans& loan) { return annualAmortisation(repaid(loan)); }
+
+RepaidLoan repaid(const assessment::Loans& loan) { return {loan.Num1, loan.Num2, loan.Num3, loan.Num4}; }
 
 std::vector<AmortisationRow> monthRows(const Amortisation& table) {
     std::vector<AmortisationRow> rows;
@@ -82,6 +93,10 @@ std::vector<AmortisationRow> yearRows(const Amortisation& table) {
     for (int i = 1; i <= table.years(); ++i)
         rows.push_back(row(table, table.YearCapital, table.YearInterest, i));
     return rows;
+}
+
+std::vector<AmortisationRow> chosenRows(const RepaidLoan& loan, const AmortisationChoice& choice) {
+    return choice.monthly ? monthRows(monthlyAmortisation(loan)) : yearRows(annualAmortisation(loan));
 }
 
 std::vector<std::vector<double>> tableRows(const std::vector<AmortisationRow>& lines) {

@@ -13,4 +13,9 @@ void feedAmortisation(datastore::PrintFeed& feed, const std::vector<Amortisation
     feed.replace("Amort", rows);
 }
 
+void feedAmortisation(datastore::PrintFeed& feed, const RepaidLoan& loan, const AmortisationChoice& choice) {
+    if (!choice.included) return;
+    feedAmortisation(feed, loan.hasMonths() ? chosenRows(loan, choice) : std::vector<AmortisationRow>{});
+}
+
 } // namespace calculators

@@ -1,15 +1,12 @@
 #include "calculators/frmLoans.h"
 
-#include <QHBoxLayout>
 #include <QLabel>
 #include <limits>
 
-#include "calculators/amortisation.h"
+#include "calculators/frmLoanKinds.h"
 #include "calculators/loanreport.h"
 #include "calculators/loans.h"
 #include "datastore/paths.h"
-#include "reports/frmGraph.h"
-#include "reports/report.h"
 
 namespace calculators {
 
@@ -18,11 +15,6 @@ using namespace screenkit;
 namespace {
 
 const QStringList modeCaptions{"Monthly repayment", "Principal amount", "Repayment period", "Interest rate"};
-const NumberKind months = whole.upTo(600, "The maximum period  allowed is 600 months", "Incorrect Period!");
-const NumberKind rate =
-    percent.upTo(highestEnteredRate, "The maximum interest rate allowed is 50%", "Incorrect Interest Rate!");
-constexpr double monthsOfAnAnnualTable = 13; // twelve months fill one year only: nothing to compare
-constexpr const char* figures = "# ### ### ###.00";
 constexpr double noAnswer = std::numeric_limits<double>::quiet_NaN(); // shows as an error
 
 int modeIndex(const assessment::Loans& loan) {
@@ -30,19 +22,14 @@ int modeIndex(const assessment::Loans& loan) {
     return mode ? static_cast<int>(*mode) : -1;
 }
 
-bool complete(const assessment::Loans& loan) {
-    return loan.Num1 != 0 && loan.Num2 != 0 && loan.Num3 != 0 && loan.Num4 != 0;
-}
-
-bool hasAnnualTable(const assessment::Loans& loan) { return complete(loan) && loan.Num2 >= monthsOfAnAnnualTable; }
-
 } // namespace
 
 frmLoans::frmLoans(Workplace& workplace)
-    : Screen(workplace, "frmLoans", "Loan Calculations", workplace.record.changed.LoansChanged),
+    : AmortisedScreen(workplace, "frmLoans", "Loan Calculations", workplace.record.changed.LoansChanged,
+                      {"cmdLoanGraph", "Interest payment", "# ### ### ###.00", &reports::frmGraph::LoanAmortGraph}),
       m_loans(workplace.record.loans) {
     buildBody();
-    buildPrintPanel();
+    printsWithAmortisation();
 }
 
 void frmLoans::buildBody() {
@@ -51,8 +38,8 @@ void frmLoans::buildBody() {
                        [this](int mode) { m_loans.Heading = modeCaptions[mode].toStdString(); }},
                       [this](int mode) { pickMode(mode); });
     m_principal = number("numPrinAmount", m_loans.Num1, money);
-    m_period = number("numPeriod", m_loans.Num2, months);
-    m_rate = number("numIntRate", m_loans.Num3, rate);
+    m_period = number("numPeriod", m_loans.Num2, loanMonths);
+    m_rate = number("numIntRate", m_loans.Num3, loanRate);
     m_repayment = number("numMonRePay", m_loans.Num4, money);
     m_interest = result("numAns1", m_totalInterest, money);
     m_repayments = result("numAns2", m_totalRepayments, money);
@@ -60,12 +47,6 @@ void frmLoans::buildBody() {
         showsCalculated(line);
     m_modeLabel = heading("Label12(1)");
     m_rateError = over(m_rate, "Text1", "   Error");
-    auto* solveIt = button("cmdCalculate", "&Calculate", [this] {
-        calculate();
-        NumberField* const unknowns[] = {m_repayment, m_principal, m_period, m_rate};
-        announce({unknowns[modeIndex(m_loans)]});
-    });
-    m_ok = okButton();
     body(column({
         m_modeLabel,
         row({group("fraLoanCalcMode", "Calculate Mode", m_modes), group("fraLoan", "Loan",
@@ -76,32 +57,8 @@ void frmLoans::buildBody() {
                                                                               {"Total Interest", m_interest},
                                                                               {"Total Repayments", m_repayments}}))}),
         spring(),
-        row({solveIt, button("cmdFinCharge", "&Fin. charges", [this] { toggleCharges(); }),
-             button("cmdMonAmort", "Mo&nthly Amort.", [this] { monthlyTable(); }),
-             button("cmdAnnAmort", "&Annual Amort.", [this] { annualTable(); }),
-             button("cmdLoanGraph", "Annual &Graph", [this] { graph(); }),
-             button("cmdPrint", "&Print",
-                    [this] {
-                        calculate();
-                        m_printPanel->open();
-                    }),
-             spring(), m_ok}),
+        amortisedButtons(button("cmdFinCharge", "&Fin. charges", [this] { toggleCharges(); })),
     }));
-    defaultButton(solveIt);
-}
-
-void frmLoans::buildPrintPanel() {
-    auto* kinds = options("Option1", {"Annual", "Monthly "}, m_amortOption);
-    m_amortChoice = group("fraIncAmort", "Amortisation", kinds);
-    auto* include = check("Check1", "Include Amorti&zation", m_includeAmort, [this, kinds](bool on) {
-        if (on && m_amortChoice->isHidden()) m_amortOption = 0;
-        kinds->fill();
-        m_amortChoice->setVisible(on);
-    });
-    untrackedField(kinds);
-    untrackedField(include);
-    m_printPanel = printPanel({include, m_amortChoice}, [this](Destination to) { print(to); });
-    m_amortChoice->hide();
 }
 
 QWidget* frmLoans::firstField() { return modeIndex(m_loans) == 1 ? m_period : m_principal; }
@@ -166,45 +123,17 @@ void frmLoans::toggleCharges() {
     showCharges(shown());
 }
 
-void frmLoans::monthlyTable() {
-    const assessment::Loans loan = shown();
-    if (!complete(loan)) return m_principal->takeFocus();
-    showGrid("Monthly Amortisation",
-             {{" Month   ", "##"},
-              {"Capital payment ", figures},
-              {"Interest payment", figures},
-              {"    Balance    ", figures}},
-             tableRows(monthRows(monthlyAmortisation(loan.Num1, loan.Num2, loan.Num3))), m_ok);
+void frmLoans::sayAnswers() {
+    const int mode = modeIndex(m_loans);
+    if (mode >= 0) announce({solvedFields()[static_cast<std::size_t>(mode)]});
 }
 
-void frmLoans::annualTable() {
+std::optional<datastore::Printout> frmLoans::feed() {
     const assessment::Loans loan = shown();
-    if (!hasAnnualTable(loan)) return m_principal->takeFocus();
-    showGrid("Annual Amortisation",
-             {{" Year ", "##"},
-              {"Capital payments", figures},
-              {"Interest payment", figures},
-              {"    Balance      ", figures}},
-             tableRows(yearRows(CalcAnnAmort(loan))), m_ok);
-}
-
-void frmLoans::graph() {
-    const assessment::Loans loan = shown();
-    if (!hasAnnualTable(loan)) return m_ok->setFocus(Qt::OtherFocusReason);
-    const Amortisation table = CalcAnnAmort(loan);
-    m_work.shell.open("frmGraph");
-    if (auto* window = qobject_cast<reports::frmGraph*>(m_work.shell.screen("frmGraph")))
-        window->LoanAmortGraph(table.MonthBalance, table.YearCapital, table.YearInterest, table.AmortShape,
-                               table.AmortYears, table.years());
-}
-
-void frmLoans::print(Destination destination) {
-    const assessment::Loans loan = shown();
-    if (!complete(loan)) return focusLater(m_ok);
-    const LoanReportOptions wanted{charged(), m_includeAmort == 1, m_amortOption == 1};
+    if (!repaid(loan).hasMonths()) return {};
+    const LoanReportOptions wanted{charged(), chosenTable()};
     feedLoanReport(m_work.paths.PrintDbPath, m_work.record.client.Name, loan, wanted);
-    const datastore::Printout report = loanReport(loan, wanted);
-    m_work.reports.run(QString::fromStdString(report.definition), QString::fromStdString(report.title), destination);
+    return loanReport(loan, wanted);
 }
 
 } // namespace calculators

@@ -2,7 +2,6 @@
 
 #include <array>
 
-#include "calculators/amortisation.h"
 #include "calculators/amortisationfeed.h"
 #include "calculators/loans.h"
 
@@ -32,9 +31,9 @@ constexpr std::array<ModeReport, 4> reports{{
 datastore::Printout loanReport(const assessment::Loans& loan, const LoanReportOptions& options) {
     const auto mode = loanMode(loan.Heading).value_or(LoanMode::MonthlyRepayment);
     const ModeReport& report = reports[static_cast<std::size_t>(mode)];
-    const std::string suffix = options.amortised ? "A" : "";
+    const std::string suffix = options.table.included ? "A" : "";
     return {"\\" + (report.definition + suffix) + ".rpt",
-            options.amortised && options.monthly ? report.monthlyTitle : report.annualTitle};
+            options.table.included && options.table.monthly ? report.monthlyTitle : report.annualTitle};
 }
 
 void feedLoanReport(const std::filesystem::path& printDbPath, const std::string& client, const assessment::Loans& loan,
@@ -51,11 +50,8 @@ void feedLoanReport(const std::filesystem::path& printDbPath, const std::string&
                            {"FinNum1", options.charges ? totalInterest(loan) : 0},
                            {"FinText2", options.charges ? "Total Repayments" : none},
                            {"FinNum2", options.charges ? totalRepayments(loan) : 0},
-                           {"YearMon", options.amortised ? (options.monthly ? "Month" : "Year") : none}});
-    if (options.amortised && options.monthly)
-        feedAmortisation(feed, monthRows(monthlyAmortisation(loan.Num1, loan.Num2, loan.Num3)));
-    else if (options.amortised)
-        feedAmortisation(feed, yearRows(CalcAnnAmort(loan)));
+                           {"YearMon", options.table.unit()}});
+    feedAmortisation(feed, repaid(loan), options.table);
     feed.commit();
 }
 

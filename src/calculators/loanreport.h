@@ -4,15 +4,15 @@
 #include <string>
 
 #include "assessment/assessment.h"
+#include "calculators/amortisation.h"
 #include "datastore/printfeed.h"
 
 namespace calculators {
 
 /// What the loan report shows besides the loan itself.
 struct LoanReportOptions {
-    bool charges = false;   ///< total interest and total repayments
-    bool amortised = false; ///< includes an amortisation table ...
-    bool monthly = false;   ///< ... by month rather than by year
+    bool charges = false; ///< total interest and total repayments
+    AmortisationChoice table;
 };
 
 /// Chosen by the loan's mode. Without a table the title is that of the annual one; there is no title of its own.

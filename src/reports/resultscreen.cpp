@@ -18,13 +18,13 @@ NumberField* ResultScreen::keptAnswer(NumberField* field) {
     return field;
 }
 
-void ResultScreen::showAnswers(bool areFinite) {
+void ResultScreen::showAnswers(bool areFinite, std::set<QWidget*> leftAsTheyWere) {
     for (NumberField* field : m_answers)
         areFinite ? field->fill() : field->present(std::numeric_limits<double>::quiet_NaN()); // shows as an error
-    calculated();
+    calculated(0, std::move(leftAsTheyWere));
 }
 
-QLayout* ResultScreen::buttonLine(std::initializer_list<QPushButton*> own, const ResultNames& names) {
+QLayout* ResultScreen::buttonLine(const std::vector<QPushButton*>& own, const ResultNames& names) {
     auto* work = button(names.calculate, "&Calculate", [this] {
         calculate();
         sayAnswers();
@@ -39,7 +39,7 @@ QLayout* ResultScreen::buttonLine(std::initializer_list<QPushButton*> own, const
 
 QPushButton* ResultScreen::resultButton(const QString& name, const QString& caption, std::function<void()> action) {
     return button(name, caption, [this, action = std::move(action)] {
-        calculate();
+        bringUpToDate();
         action();
     });
 }
@@ -67,7 +67,7 @@ void ResultScreen::openPrint() {
 }
 
 void ResultScreen::print(Destination destination) {
-    calculate(); // while the panel was open another screen may have changed a figure that this one shares
+    bringUpToDate();
     const auto printout = feed();
     if (!printout) return focusLater(m_ok);
     m_work.reports.run(QString::fromStdString(printout->definition), QString::fromStdString(printout->title),

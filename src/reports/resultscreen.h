@@ -27,11 +27,12 @@ protected:
                                    const screenkit::NumberKind& kind = screenkit::money);
     /// The same for a result that has its own place on the screen.
     screenkit::NumberField* keptAnswer(screenkit::NumberField* field);
-    /// Shows all answers, as errors if the figures give no finite ones, and marks them as up to date.
-    void showAnswers(bool areFinite = true);
+    /// Shows all answers, as errors if the figures give no finite ones, and marks them as up to date, but for those
+    /// that the calculation left as they were.
+    void showAnswers(bool areFinite = true, std::set<QWidget*> leftAsTheyWere = {});
     /// `cmdCalculate`, the screen's own buttons, `cmdPrint` and `cmdOK`. Enter presses Calculate.
-    QLayout* buttonLine(std::initializer_list<QPushButton*> own = {}, const ResultNames& names = {});
-    /// A button for what needs results: calculates, then acts.
+    QLayout* buttonLine(const std::vector<QPushButton*>& own = {}, const ResultNames& names = {});
+    /// A button for what needs results: brings them up to date, then acts.
     QPushButton* resultButton(const QString& name, const QString& caption, std::function<void()> action);
     /// The print panel, with the screen's choices, such as whether to print a table; they are no edits of the record.
     void prints(std::initializer_list<screenkit::Item> choices = {}, const std::vector<screenkit::Field*>& fields = {},
@@ -39,6 +40,9 @@ protected:
 
     /// Works the results out and shows them.
     virtual void calculate() = 0;
+    /// Brings the results up to date before a table, a graph or a report shows them. While the print panel was open
+    /// another screen may have changed a figure that this one shares.
+    virtual void bringUpToDate() { calculate(); }
     /// Writes what is printed into Print.mdb. Nothing if there is nothing to print: the focus then goes to OK.
     virtual std::optional<datastore::Printout> feed() = 0;
     /// Has a screen reader say what Calculate answered: all results that are shown.

@@ -53,7 +53,7 @@ QColor lockedShade(const QPalette& palette) {
     return {mixed(window.red(), tint.red()), mixed(window.green(), tint.green()), mixed(window.blue(), tint.blue())};
 }
 
-void colour(QLineEdit* line) {
+void colour(QWidget* line) {
     QPalette palette;
     const int kind = line->property(kindOfLine).toInt();
     const bool marked = line->property(markedLine).toBool();
@@ -67,13 +67,13 @@ void colour(QLineEdit* line) {
     line->setPalette(palette);
 }
 
-void setState(QLineEdit* line, const char* name, int state) {
+void setState(QWidget* line, const char* name, int state) {
     line->setProperty(name, state);
     colour(line);
 }
 
 /// Sets the accessible description, and a tip that replaces the line's own until the text is empty again.
-void say(QLineEdit* line, const QString& words) {
+void say(QWidget* line, const QString& words) {
     constexpr const char* ownTip = "ownTip";
     if (!line->property(ownTip).isValid()) line->setProperty(ownTip, line->toolTip());
     line->setToolTip(words.isEmpty() ? line->property(ownTip).toString() : words);
@@ -190,7 +190,7 @@ void setShown(QLineEdit* field) {
     setState(field, kindOfLine, Kind::shown);
 }
 
-void setStale(QLineEdit* result, bool stale) {
+void setStale(QWidget* result, bool stale) {
     if (result->property(staleLine).toBool() == stale) return;
     setState(result, staleLine, stale);
     QFont font = result->font();

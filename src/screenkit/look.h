@@ -34,9 +34,9 @@ void setAnswer(QLineEdit* line);
 /// A text that is shown and not entered: on the window's background, not like a result.
 void setShown(QLineEdit* field);
 
-/// Fades a result whose inputs have changed since it was calculated. Its tip says so, and so does its description for a
+/// Fades a result, a line or a table, whose inputs have changed since it was calculated. Its tip says so, and so does its description for a
 /// screen reader.
-void setStale(QLineEdit* result, bool stale);
+void setStale(QWidget* result, bool stale);
 
 /// Colours a field whose content has a fault. `why` becomes its tip and its description for a screen reader. Empty: no
 /// fault.

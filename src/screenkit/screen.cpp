@@ -169,8 +169,9 @@ void Screen::takeEdit() {
     showWhatIsStale();
 }
 
-void Screen::calculated(int page) {
+void Screen::calculated(int page, std::set<QWidget*> leftAsTheyWere) {
     m_workedFrom[page] = inputs(page);
+    m_leftAsTheyWere[page] = std::move(leftAsTheyWere);
     showWhatIsStale();
 }
 
@@ -181,10 +182,12 @@ void Screen::outdated(int page) {
 
 void Screen::showWhatIsStale() {
     std::map<int, bool> stale; // by page
-    for (QLineEdit* line : m_calculated) {
-        const int page = calculationOf(line);
+    for (QWidget* shown : m_calculated) {
+        const int page = calculationOf(shown);
         if (!stale.contains(page)) stale[page] = !m_workedFrom.contains(page) || m_workedFrom.at(page) != inputs(page);
-        look::setStale(line, stale[page] && line->isReadOnly());
+        const auto* line = qobject_cast<const QLineEdit*>(shown);
+        const bool isEntry = line != nullptr && !line->isReadOnly();
+        look::setStale(shown, (stale[page] || m_leftAsTheyWere[page].contains(shown)) && !isEntry);
     }
 }
 

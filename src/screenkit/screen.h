@@ -7,6 +7,7 @@
 #include <functional>
 #include <map>
 #include <optional>
+#include <set>
 #include <utility>
 #include <vector>
 
@@ -130,13 +131,14 @@ protected:
     void untrackedField(Field* field);
     /// For an input that is not stored with the client: an edit sets no changed flag.
     void unsavedField(Field* field);
-    /// A line that shows a calculated result: it looks out of date from an edit of an input until `calculated`. Has no
-    /// effect while the line itself is an entry.
-    void showsCalculated(QLineEdit* line) { m_calculated.push_back(line); }
+    /// A line or table that shows calculated results: it looks out of date from an edit of an input until `calculated`.
+    /// Has no effect while the line itself is an entry.
+    void showsCalculated(QWidget* shown) { m_calculated.push_back(shown); }
     /// For a date or figure that no calculation uses: editing it does not make results look out of date.
     void notCalculatedFrom(Field* field) { m_asides.push_back(field); }
-    /// Call it after a calculation: the results now match the fields. page: see `worksByPage`.
-    void calculated(int page = 0);
+    /// Call it after a calculation: the results now match the fields, but for those that it left as they were, which
+    /// look out of date until another calculation reaches them. page: see `worksByPage`.
+    void calculated(int page = 0, std::set<QWidget*> leftAsTheyWere = {});
     /// Call it when results no longer match although no field changed, for example after a change of settings.
     void outdated(int page = 0);
     /// Each page of this book is a calculation of its own: its results depend on its own fields alone, and Enter in its
@@ -266,7 +268,8 @@ private:
     Panel* m_gridPanel = nullptr;
     Grid* m_grid = nullptr;
     QWidget* m_afterGrid = nullptr;
-    std::vector<QLineEdit*> m_calculated;
+    std::vector<QWidget*> m_calculated;
+    std::map<int, std::set<QWidget*>> m_leftAsTheyWere; ///< results that the last calculation did not reach, by page
     std::vector<Field*> m_asides;
     std::map<int, std::vector<std::optional<double>>> m_workedFrom; ///< inputs of the last calculation, by page
     QTabWidget* m_workedByPage = nullptr;

@@ -253,8 +253,8 @@ TEST(Loans, AmortisationRows) {
         {25.5, 26, 3, 2, 2},   {1e300, 1000, 84, 2, 83}, {notANumber, 0, 0, 1, 0}, {infinite, 1000, 84, 2, 83},
     };
     for (const auto& [months, monthRows, yearRows, shape, wholeYears] : cases) {
-        const auto table = calculators::annualAmortisation(100000, months, 12, 5000);
-        EXPECT_EQ(calculators::monthRows(calculators::monthlyAmortisation(100000, months, 12)).size(), monthRows);
+        const auto table = calculators::annualAmortisation({100000, months, 12, 5000});
+        EXPECT_EQ(calculators::monthRows(calculators::monthlyAmortisation({100000, months, 12})).size(), monthRows);
         EXPECT_EQ(calculators::yearRows(table).size(), yearRows) << months;
         EXPECT_EQ(table.AmortShape, shape) << months;
         EXPECT_EQ(table.AmortYears, wholeYears) << months;
@@ -264,7 +264,7 @@ TEST(Loans, AmortisationRows) {
 TEST(Loans, ThePartYearTakesWhatIsLeft) {
     // 25 months at 12 %: the formula's repayment is 4 540.675; 5 000 was agreed, which shows in the last year's
     // interest
-    const auto years = calculators::yearRows(calculators::annualAmortisation(100000, 25, 12, 5000));
+    const auto years = calculators::yearRows(calculators::annualAmortisation({100000, 25, 12, 5000}));
     ASSERT_EQ(years.size(), 3U);
     EXPECT_EQ(years[2].number, 3);
     EXPECT_DOUBLE_EQ(years[2].capital, 100000 - (years[0].capital + years[1].capital));
