@@ -101,6 +101,9 @@ void wholeCase() {
         tour::balanceADeposit(hands);
         tour::measureReturns(hands);
         tour::drawFromShares(hands);
+        tour::bustBond(hands);
+        tour::analyseBond(hands);
+        tour::consolidateDebts(hands);
         tour::taxAMonth(hands);
         tour::taxAYear(hands);
         tour::taxLumpSums(hands);
@@ -122,6 +125,7 @@ void anotherLook(const QString& name) {
         tour::picture(&hands.window(), "client-" + name);
         tour::showLoan(hands, "loan-" + name);
         tour::showNeeds(hands, name);
+        tour::showDebts(hands, name);
     });
 }
 

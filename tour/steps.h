@@ -41,6 +41,9 @@ void convertRate(Hands& hands);
 void balanceADeposit(Hands& hands);
 void measureReturns(Hands& hands);
 void drawFromShares(Hands& hands);
+void bustBond(Hands& hands);
+void analyseBond(Hands& hands);
+void consolidateDebts(Hands& hands);
 void taxAMonth(Hands& hands);
 void taxAYear(Hands& hands);
 void taxLumpSums(Hands& hands);
@@ -63,5 +66,7 @@ void showLoan(Hands& hands, const QString& pictureName);
 /// The client's needs analyses but retirement, the premium, and the calculators beside the loans once more, the same
 /// way.
 void showNeeds(Hands& hands, const QString& look);
+/// The bonds and the debts once more.
+void showDebts(Hands& hands, const QString& look);
 
 } // namespace tour

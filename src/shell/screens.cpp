@@ -7,8 +7,11 @@
 #include "analyses/frmNADisability.h"
 #include "analyses/frmNAEd.h"
 #include "analyses/frmNARA.h"
+#include "calculators/frmBondAna.h"
+#include "calculators/frmBondBuster.h"
 #include "calculators/frmDDLivAnn.h"
 #include "calculators/frmDayBal.h"
+#include "calculators/frmDebtCon.h"
 #include "calculators/frmIncomeShares.h"
 #include "calculators/frmInflation.h"
 #include "calculators/frmInvestComp.h"
@@ -54,6 +57,9 @@ constexpr ScreenEntry entries[] = {
     {"frmLifeOfCap", build<calculators::frmLifeOfCap>, "Life of capital"},
     {"frmInvestComp", build<calculators::frmInvestComp>, "Investment comparison"},
     {"frmLoans", build<calculators::frmLoans>, "The loan calculator"},
+    {"frmBondBuster", build<calculators::frmBondBuster>, "Bond buster"},
+    {"frmBondAna", build<calculators::frmBondAna>, "Bond analysis"},
+    {"frmDebtCon", build<calculators::frmDebtCon>, "Debt consolidation"},
     {"frmPremium", build<calculators::frmPremium>, "The premium for a capital"},
     {"frmDayBal", build<calculators::frmDayBal>, "Daily balance"},
     {"frmNomEffec", build<calculators::frmNomEffec>, "Nominal and effective interest"},

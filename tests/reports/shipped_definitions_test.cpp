@@ -74,7 +74,7 @@ qsizetype leastPlaces(const Node& field) {
 
 TEST(ShippedDefinitions, CutNoFigure) {
     // A whole figure's name says what it counts: an age, years, a number; ANS2 of the daily balance are days.
-    static const QRegularExpression counts("Age|Year|Period|[Nn]um$|^Num2$|^term$|^MARGRATE$|^ANS2$|^MonRep\\d");
+    static const QRegularExpression counts("Age|Year|Period|[Nn]um$|^Num2$|^term$|^MARGRATE$|^ANS2$|^Xper$|^MonRep\\d");
     const auto check = [&](const Node& field) {
         if (field.kind != Node::Kind::field || field.mask.isEmpty()) return;
         EXPECT_GE(places(field.mask), leastPlaces(field)) << field.name.toStdString();

@@ -30,6 +30,10 @@ const std::vector<Place> places{
     {"mnuLoansCalc", ""},
     {"mnuLoansCalc", "cmdPrint"},
     {"mnuLoansCalc", "cmdLoanGraph"},
+    {"mnuLoansBondBust", ""},
+    {"mnuLoansBondAna", ""},
+    {"mnuDebtCon", ""},
+    {"mnuDebtCon", "cmdPrint"},
     {"mnuPolInvests", ""},
     {"mnuPolInvests", "cmdPrint"},
     {"mnuPolInvests", "cmdCPI"},
@@ -227,7 +231,13 @@ const std::set<std::string> shadowing{"frmLoans &Fin. charges",
                                       "frmLumpSum &Print",
                                       "frmLumpSum C&ancel",
                                       "frmEstateDutyEst &Print",
-                                      "frmEstateDutyEst C&ancel"};
+                                      "frmEstateDutyEst C&ancel",
+
+                                      "frmBondBuster &Print",
+                                      "frmBondAna &Print",
+                                      "frmDebtCon &Annual Amort.",
+                                      "frmDebtCon C&ancel",
+                                      "frmDebtCon &Print"};
 
 /// The access keys in use, each with its captions.
 std::map<QKeySequence, QStringList> lettersOf(const QWidget* scope) {
