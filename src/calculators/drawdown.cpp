@@ -159,6 +159,15 @@ DrawDownResult DrawDownCalc(const assessment::DrawDown& annuity, const DrawDownP
     return Run(phases, costs, NomRate).of(annuity.LSAmt);
 }
 
+std::vector<AmortisationRow> yearRows(const DrawDownResult& result) {
+    std::vector<AmortisationRow> rows;
+    for (int year = 1; year <= result.DrawYears; ++year) {
+        const auto at = static_cast<std::size_t>(year);
+        rows.push_back({year, result.YearPortfolio[at], result.YearIncome[at], result.YearChange[at]});
+    }
+    return rows;
+}
+
 IncomeRange firstIncomeRange(double LSAmt, const DrawDownCosts& costs) {
     return {costs.MinIncAllowed / 100 * LSAmt / 12, costs.MaxIncAllowed / 100 * LSAmt / 12};
 }

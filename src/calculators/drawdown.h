@@ -1,9 +1,11 @@
 #pragma once
 
-#include "assessment/assessment.h"
-
 #include <array>
 #include <string>
+#include <vector>
+
+#include "assessment/assessment.h"
+#include "calculators/amortisation.h"
 
 namespace calculators {
 
@@ -43,6 +45,9 @@ struct DrawDownResult {
 /// previous run.
 DrawDownResult DrawDownCalc(const assessment::DrawDown& annuity, const assessment::DrawDownPhases& phases,
                             const assessment::DrawDownCosts& costs, double& NomRate);
+
+/// The lines of the yearly table: portfolio, monthly income and its change in percent.
+std::vector<AmortisationRow> yearRows(const DrawDownResult& result);
 
 /// The first monthly incomes allowed by the percentages of the whole amount, before costs, rand.
 struct IncomeRange {

@@ -1,7 +1,5 @@
 #include "calculators/drawdownreport.h"
 
-#include <vector>
-
 #include "calculators/amortisationfeed.h"
 #include "calculators/drawdowncosts.h"
 #include "datastore/settings.h"
@@ -17,15 +15,6 @@ struct SampleYear {
 
 constexpr SampleYear samples[] = {
     {1, "T11", "T21"}, {5, "T12", "T22"}, {10, "T13", "T23"}, {15, "T14", "T24"}, {20, "TY20", "TY21"}};
-
-std::vector<AmortisationRow> yearRows(const DrawDownResult& result) {
-    std::vector<AmortisationRow> rows;
-    for (int year = 1; year <= result.DrawYears; ++year) {
-        const auto at = static_cast<std::size_t>(year);
-        rows.push_back({year, result.YearPortfolio[at], result.YearIncome[at], result.YearChange[at]});
-    }
-    return rows;
-}
 
 } // namespace
 

@@ -265,16 +265,12 @@ void frmDDLivAnn::sayAnswers() {
 }
 
 void frmDDLivAnn::showYears() {
-    std::vector<std::vector<double>> rows;
-    for (std::size_t year = 1; year <= static_cast<std::size_t>(m_result.DrawYears); ++year)
-        rows.push_back({static_cast<double>(year), m_result.YearPortfolio[year], m_result.YearIncome[year],
-                        m_result.YearChange[year]});
     showGrid("Draw Down Annuity",
              {{" Years ", "##"},
               {"Portfolio value ", "### ### ###"},
               {"Monthly income", "### ### ###.00"},
               {"    % Change    ", "### ### ###.00"}},
-             std::move(rows), m_ok);
+             tableRows(yearRows(m_result)), m_ok);
 }
 
 void frmDDLivAnn::draw() {
