@@ -93,7 +93,11 @@ void showNeeds(Hands& hands, const QString& look) {
                                      {"mnuIncShares", "income-from-shares-"},
                                      {"mnuLivAnn", "draw-down-"},
                                      {"mnuRealRate", "real-rate-"},
-                                     {"mnuKwikQuotes", "quote-"}}) {
+                                     {"mnuKwikQuotes", "quote-"},
+                                     {"mnuTaxLumpSum", "lump-sums-"},
+                                     {"mnuEstateDutyEstimator", "estate-duty-"},
+                                     {"mnuRATaxAdv", "retirement-funding-"},
+                                     {"mnuTravClaim", "travel-"}}) {
         hands.menu({"mnuCalc", item});
         picture(&hands.window(), name + look);
     }

@@ -108,6 +108,8 @@ void wholeCase() {
         tour::taxAYear(hands);
         tour::taxLumpSums(hands);
         tour::estimateEstate(hands);
+        tour::seeFundingAdvantage(hands);
+        tour::claimTravel(hands);
         tour::save(hands);
         seen = tour::look(hands);
     });

@@ -48,6 +48,8 @@ void taxAMonth(Hands& hands);
 void taxAYear(Hands& hands);
 void taxLumpSums(Hands& hands);
 void estimateEstate(Hands& hands);
+void seeFundingAdvantage(Hands& hands);
+void claimTravel(Hands& hands);
 void save(Hands& hands);
 Seen look(Hands& hands);
 void exitProgram(Hands& hands);

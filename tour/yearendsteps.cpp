@@ -3,7 +3,8 @@
 #include "tour/journal.h"
 #include "tour/steps.h"
 
-/// The end of a client's tax year: what leaves the retirement funds, and what the estate would cost.
+/// The end of a client's tax year: what leaves the retirement funds, what the estate would cost, what a further
+/// contribution would save, and the claim against a travel allowance.
 namespace tour {
 
 void taxLumpSums(Hands& hands) {
@@ -43,6 +44,54 @@ void estimateEstate(Hands& hands) {
     hands.click("cmdPrint");
     hands.click("cmdVR");
     exportPdf(hands, "estate-duty-report");
+    hands.click("cmdOK");
+}
+
+void seeFundingAdvantage(Hands& hands) {
+    say("R/F Advantage: a contribution of R90 000 from a taxable income of R620 000.");
+    hands.menu({"mnuCalc", "mnuRATaxAdv"});
+    hands.expectFront("frmRATaxAdv");
+    check(!hands.shown("txtLastName").isEmpty(), "the client's name is not proposed");
+    hands.enter(std::vector<Entry>{{"numTaxPayerAge", "45"},
+                                   {"numRemuneration", "640000"},
+                                   {"numTaxableInc", "620000"},
+                                   {"numTaxCGT", "15000"},
+                                   {"numProposedRF", "90000"}});
+    hands.click("cmdRAdvCalculate");
+    hands.expectFigure("numMaxBen", 640000 * 0.275);
+    hands.expectFigure("numTaxSave", 90000 * 0.36); // all in one bracket
+    hands.expectFigure("numPropRFPaidTaxPayer", 90000 * 0.64);
+    picture(&hands.window(), "retirement-funding");
+    hands.click("cmdPrint");
+    hands.click("cmdVR");
+    exportPdf(hands, "retirement-funding-report");
+    hands.click("cmdOkLC");
+}
+
+void claimTravel(Hands& hands) {
+    say("Travel: 28 000 km, 11 000 of them on business, by deemed and by actual costs.");
+    hands.menu({"mnuCalc", "mnuTravClaim"});
+    hands.expectFront("frmCarAll");
+    hands.enter(std::vector<Entry>{{"Text1", "Toyota Corolla"},
+                                   {"silgEdit1", "385000"},
+                                   {"silgEdit2", "72000"},
+                                   {"silgEdit3", "93500"},
+                                   {"silgEdit4", "65500"},
+                                   {"silgEdit5", "11000"}});
+    hands.click("cmdCalculate");
+    hands.expectFigure("sidbEdit1(4)", 11000 * (111273.0 / 28000 + 1.914 + 0.714));
+    picture(&hands.window(), "travel-deemed");
+    hands.click("Option4");
+    hands.enter(std::vector<Entry>{
+        {"silgEdit6", "51000"}, {"silgEdit7", "14500"}, {"silgEdit8", "19800"}, {"silgEdit10", "55000"}});
+    hands.click("cmdCalculate");
+    hands.expectFigure("sidbEdit2(6)", 140300.0 * 11000 / 28000);
+    picture(&hands.window(), "travel-actual");
+    hands.click("Option3"); // the better claim
+    hands.click("cmdPrint");
+    hands.type("Text3", "Naledi Botha");
+    hands.click("cmdVR");
+    exportPdf(hands, "travel-report");
     hands.click("cmdOK");
 }
 

@@ -63,7 +63,8 @@ QLayout* withUnit(const FormRow& row) {
     auto* cell = new QHBoxLayout;
     add(cell, Item(row.field));
     if (!row.unit.isEmpty()) {
-        auto* unit = new QLabel(row.unit);
+        auto* unit = new QLabel;
+        setCaption(unit, row.unit);
         if (QWidget* field = firstWidget(row.field)) unit->setBuddy(field);
         cell->addWidget(unit);
     }

@@ -6,6 +6,7 @@
 
 #include "reports/report.h"
 #include "screenkit/desk.h"
+#include "screenkit/website.h"
 #include "shell/mainwindow.h"
 #include "shell/placing.h"
 #include "shell/program.h"
@@ -27,7 +28,7 @@ void startCalculator(MDIForm1& window) {
 }
 
 void showLectures(MDIForm1& window) {
-    window.workplace().desk.openOnDesktop("https://www.marlowbeck.example/lectures");
+    window.workplace().desk.openOnDesktop(screenkit::pageOfTheMakers("/lectures"));
 }
 
 void showAbout(MDIForm1& window) {

@@ -30,10 +30,12 @@
 #include "reports/frmGraph.h"
 #include "reports/frmHeadFoot.h"
 #include "shell/frmBrowser.h"
+#include "tax/frmCarAll.h"
 #include "tax/frmEstateDutyEst.h"
 #include "tax/frmKwikTax.h"
 #include "tax/frmLumpSum.h"
 #include "tax/frmMonthly.h"
+#include "tax/frmRATaxAdv.h"
 
 namespace shell {
 
@@ -76,6 +78,8 @@ constexpr ScreenEntry entries[] = {
     {"frmMonthly", build<tax::frmMonthly>, "Monthly tax"},
     {"frmLumpSum", build<tax::frmLumpSum>, "Tax on lump sums"},
     {"frmEstateDutyEst", build<tax::frmEstateDutyEst>, "Estate duty"},
+    {"frmRATaxAdv", build<tax::frmRATaxAdv>, "The advantage of retirement funding"},
+    {"frmCarAll", build<tax::frmCarAll>, "Travel claims"},
 };
 
 constexpr const char* closedWithTheClient[] = {

@@ -10,9 +10,7 @@ namespace tax {
 
 namespace {
 
-// For the year to February 2027, Income Tax Act, section 11F.
-constexpr double fundShare = 0.275;         // of remuneration
-constexpr double fundCapAYear = 350000;     // rand
+// For the year to February 2027, Income Tax Act, section 6B.
 constexpr double contributionFree = 3;      // times the beneficiaries' credit
 constexpr double contributionShare = 0.333; // as printed in the deduction tables, not exactly a third
 constexpr double monthsAYear = 12;
@@ -35,8 +33,8 @@ double allowableFund(const MonthlyInputs& month, double inclusionRate) {
     const double income = month.salary + month.employerMedical + month.commissions + month.bonus +
                           month.travel * inclusionRate + month.employerFund;
     const double contributions = month.employerFund + month.employeeFund;
-    const double allowed = contributions <= fundShare * income ? contributions : fundShare * income;
-    return std::min(allowed, fundCapAYear / monthsAYear);
+    const double allowed = std::min(contributions, fundDeduction2027.share * income);
+    return std::min(allowed, fundDeduction2027.cap / monthsAYear);
 }
 
 /// Commissions count for the skills levy but not for UIF; only UIF has a limit.

@@ -58,6 +58,24 @@ struct MedicalCredits {
 };
 inline constexpr MedicalCredits medicalCredits2027{376, 254}; ///< 1 March 2026 to 28 February 2027
 
+/// What contributions to retirement funds may be deducted from income: Income Tax Act, section 11F.
+struct FundDeduction {
+    double share; ///< of remuneration or taxable income, a fraction
+    double cap;   ///< rand a year
+};
+inline constexpr FundDeduction fundDeduction2027{0.275, 350000}; ///< 1 March 2026 to 28 February 2027
+
+/// Incomes below which no tax is due, by age: rand a year.
+struct TaxThresholds {
+    double under65;
+    double from65;
+    double from75;
+
+    constexpr double at(double age) const { return age >= 75 ? from75 : age >= 65 ? from65 : under65; }
+};
+/// 1 March 2025 to 28 February 2026: the primary rebate, and the ones for the age, over 18 %.
+inline constexpr TaxThresholds taxThresholds2026{95750, 148217, 165689};
+
 /// The years whose scale and rebates one user of the tables works with.
 struct TaxRules {
     const TaxYear& scale;

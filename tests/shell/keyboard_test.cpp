@@ -84,6 +84,10 @@ const std::vector<Place> places{
     {"mnuEstateDutyEstimator", ""},
     {"mnuEstateDutyEstimator", "cmdPrint"},
     {"mnuEstateDutyEstimator", "cmdSettings"},
+    {"mnuRATaxAdv", ""},
+    {"mnuRATaxAdv", "cmdPrint"},
+    {"mnuTravClaim", ""},
+    {"mnuTravClaim", "cmdPrint"},
 };
 
 bool isEntry(const QWidget* widget) {
@@ -174,7 +178,7 @@ TEST_P(Keyboard, EachEntryHasALabelAndAScreenReaderSaysEachControlInWholeWords) 
             if (label->buddy() == nullptr || label->text().isEmpty()) continue;
             labelled.insert(label->buddy());
             const QString name = label->isVisible() ? spoken(label) : QString();
-            EXPECT_TRUE(name == name.simplified() && !name.contains("%)")) << name.toStdString();
+            EXPECT_TRUE(name == name.simplified() && name.count('(') == name.count(')')) << name.toStdString();
         }
         for (auto* widget : scope()->findChildren<QWidget*>()) {
             const auto* button = qobject_cast<QAbstractButton*>(widget);
@@ -232,12 +236,15 @@ const std::set<std::string> shadowing{"frmLoans &Fin. charges",
                                       "frmLumpSum C&ancel",
                                       "frmEstateDutyEst &Print",
                                       "frmEstateDutyEst C&ancel",
-
                                       "frmBondBuster &Print",
                                       "frmBondAna &Print",
                                       "frmDebtCon &Annual Amort.",
                                       "frmDebtCon C&ancel",
-                                      "frmDebtCon &Print"};
+                                      "frmDebtCon &Print",
+                                      "frmRATaxAdv &Print",
+                                      "frmRATaxAdv C&ancel",
+                                      "frmCarAll &Print",
+                                      "frmCarAll C&ancel"};
 
 /// The access keys in use, each with its captions.
 std::map<QKeySequence, QStringList> lettersOf(const QWidget* scope) {

@@ -61,6 +61,8 @@ const std::set<std::string> working{
     "mnuKwikQuotes",
     "mnuTaxLumpSum",
     "mnuEstateDutyEstimator",
+    "mnuRATaxAdv",
+    "mnuTravClaim",
 };
 
 QToolBar* toolbar(RunningProgram& run) { return run.window().findChild<QToolBar*>("Toolbar2"); }
@@ -108,6 +110,7 @@ TEST(Toolbar, EachButtonHasAPictureATipAndANameForScreenReaders) {
                                     "Needs Analysis for Retirement",
                                     "Policies and Investments",
                                     "Needs Analysis for Education",
+                                    "R/F Advantage calculator",
                                     "Estate Duty Estimator",
                                     "Inflation",
                                     "Loans",
@@ -120,6 +123,7 @@ TEST(Toolbar, EachButtonHasAPictureATipAndANameForScreenReaders) {
                                     "Real Rate of Return",
                                     "Tax On Lump Sums",
                                     "PAYE",
+                                    "Travel Claim",
                                     "QuickTax",
                                     "Video Lectures"}));
 }
