@@ -23,7 +23,9 @@ TEST(IncomeSharesScreen, HoldsItsFieldsAndCostsAndShowsThemEverywhere) {
     for (const char* button : {"cmdCancelDefault", "cmdOKDefault"}) {
         EXPECT_EQ(stored(), "1|0|0|1|0.5");
         run.click("cmdDefaultRates");
-        run.typeAll("numInitCom 1.25, numInitAdminFee 100.5, numAnnDivBonus 0.5, numAnnManFee 1.5, numTrailComm 0.75");
+        run.typeAll("numInitCom 1.25, numInitAdminFee 100.5, numAnnDivBonus 0.5, numAnnManFee 1.5");
+        run.expectRefused("numTrailComm", "100.5", "Please enter a percentage from 0 to 100.", "Incorrect Percentage");
+        run.type("numTrailComm", "0.75");
         run.click(button);
     }
     EXPECT_EQ(stored(), "1.25|100.5|0.5|1.5|0.75");
@@ -81,6 +83,7 @@ TEST(IncomeSharesScreen, EachKeyOfTheGrowthRateCountsAndOneOutOfRangeBecomesNoth
         RunningProgram::key(Qt::Key_Tab); // no box
         EXPECT_EQ(RunningProgram::focused(), "numGrowthRate");
         EXPECT_EQ(run.record().incomeShares.ISGrowthRate, 0);
+        EXPECT_EQ(run.shown("numGrowthRate"), "0.000");
         expectFirstYear("109 320");
     }
     run.click("cmdOK");
