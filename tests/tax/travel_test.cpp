@@ -31,30 +31,18 @@ TEST(Travel, DividesTheKilometresByTheLogBookElseByTheYear) {
 }
 
 TEST(Travel, ALimitOfTheCostTableBelongsToTheRowBelowAndTheLastRowToAllAbove) {
-    for (const auto& [value, fixed] : {std::pair{0.01, 33940.0},
-                                       {1e5, 33940},
-                                       {2e5, 60688},
-                                       {3e5, 87497},
-                                       {4e5, 111273},
-                                       {5e5, 135048},
-                                       {6e5, 159934},
-                                       {600000.01, 184867},
-                                       {8e5, 211121},
-                                       {9e5, 211121}})
-        EXPECT_EQ(tax::TravelCostTable(value).fixed, fixed) << value;
+    const double values[] = {0.01, 1e5, 2e5, 3e5, 4e5, 5e5, 6e5, 600000.01, 8e5, 9e5};
+    const double fixed[] = {33940, 33940, 60688, 87497, 111273, 135048, 159934, 184867, 211121, 211121};
+    for (int i = 0; i < 10; ++i)
+        EXPECT_EQ(tax::TravelCostTable(values[i]).fixed, fixed[i]) << values[i];
 }
 
 CarAll car(double value, double kilometres, double business, double days, double allowance, bool fuel,
            bool maintenance) {
     CarAll made;
-    made.vehicleValue = value;
-    made.openKm = kilometres == 0 ? 0 : 10000;
-    made.closeKm = made.openKm + kilometres;
-    made.businessKm = business;
-    made.endDate = made.startDate + days - 1;
-    made.allowance = allowance;
-    made.includeFuel = fuel;
-    made.includeMaintenance = maintenance;
+    made.vehicleValue = value, made.allowance = allowance, made.businessKm = business;
+    made.openKm = kilometres == 0 ? 0 : 10000, made.closeKm = made.openKm + kilometres;
+    made.endDate = made.startDate + days - 1, made.includeFuel = fuel, made.includeMaintenance = maintenance;
     return made;
 }
 
