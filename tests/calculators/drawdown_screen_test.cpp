@@ -45,6 +45,7 @@ TEST_F(DrawDownScreen, EveryControlHoldsItsFieldAndItsPlaceInTheReport) {
         if (title[19] != 0) run.click("Check1");
         run.click("cmdVR");
         EXPECT_EQ(run.program.reports().previews().back()->windowTitle(), title);
+        EXPECT_EQ(run.inPrint("SELECT count(*) FROM Amort"), title[19] != 0 ? "20" : "0");
     }
     EXPECT_EQ(run.inPrint("SELECT Name, LSAmt, GRLA, MidP, ESC, printf('%.4f', Ans), FromYear0, ToYear0, LAInitDraw0, "
                           "Esc0, GRLA0, FromYear1, ToYear1, LAInitDraw1, Esc1, GRLA1, BrokerCom, SetupCosts, "
@@ -97,6 +98,7 @@ TEST_F(DrawDownScreen, LimitsAreTold) {
     refuses("numTY(1) 51 0", only("1 and 50"));
     refuses("numInitDraw(1) 100000000 0", only("0 and 99 999 999"));
     refuses("numAnnIncEsc(0) 99 98.9", only("-99 and 99"));
+    refuses("numAnnIncEsc(1) -99 0", only("-99 and 99"));
     refuses("numGrowRate(1) 99.01 99", only("0 and 99"));
     const auto cell = [&](int row, int column, const QString& typed, const QString& told) {
         run.desk.expect(screenkit::Answer::ok);
