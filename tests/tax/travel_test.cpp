@@ -31,10 +31,15 @@ TEST(Travel, DividesTheKilometresByTheLogBookElseByTheYear) {
 }
 
 TEST(Travel, ALimitOfTheCostTableBelongsToTheRowBelowAndTheLastRowToAllAbove) {
-    const double values[] = {0.01, 1e5, 2e5, 3e5, 4e5, 5e5, 6e5, 600000.01, 8e5, 9e5};
-    const double fixed[] = {33940, 33940, 60688, 87497, 111273, 135048, 159934, 184867, 211121, 211121};
-    for (int i = 0; i < 10; ++i)
-        EXPECT_EQ(tax::TravelCostTable(values[i]).fixed, fixed[i]) << values[i];
+    const double rows[][4] = {{100000, 33940, 1.467, 0.474},  {200000, 60688, 1.638, 0.593},
+                              {300000, 87497, 1.779, 0.654},  {400000, 111273, 1.914, 0.714},
+                              {500000, 135048, 2.048, 0.839}, {600000, 159934, 2.349, 0.985},
+                              {700000, 184867, 2.389, 1.105}, {800000, 211121, 2.429, 1.225}};
+    for (const auto& [value, fixed, fuel, maintenance] : rows)
+        for (const double at : {value, value - 99999.99, value == 800000 ? 9e5 : value}) {
+            const tax::TravelCost& cost = tax::TravelCostTable(at);
+            EXPECT_TRUE(cost.fixed == fixed && cost.fuel == fuel && cost.maintenance == maintenance) << at;
+        }
 }
 
 CarAll car(double value, double kilometres, double business, double days, double allowance, bool fuel,
