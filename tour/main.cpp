@@ -109,6 +109,7 @@ void wholeCase() {
         tour::taxLumpSums(hands);
         tour::estimateEstate(hands);
         tour::seeFundingAdvantage(hands);
+        tour::taxTheYearsGains(hands);
         tour::claimTravel(hands);
         tour::save(hands);
         seen = tour::look(hands);

@@ -49,6 +49,7 @@ void taxAYear(Hands& hands);
 void taxLumpSums(Hands& hands);
 void estimateEstate(Hands& hands);
 void seeFundingAdvantage(Hands& hands);
+void taxTheYearsGains(Hands& hands);
 void claimTravel(Hands& hands);
 void save(Hands& hands);
 Seen look(Hands& hands);

@@ -7,7 +7,6 @@
 #include "analyses/itemisereport.h"
 #include "datastore/paths.h"
 #include "reports/report.h"
-#include "screenkit/icon.h"
 #include "screenkit/look.h"
 
 namespace analyses {
@@ -39,11 +38,6 @@ std::vector<EditRow> editRows(const ItemLine& line, const std::vector<ItemRow>& 
 
 QString buttonName(int index) { return QString("cmdItemise(%1)").arg(index); }
 
-void showInUse(QPushButton* push, bool on) {
-    push->setIcon(icon(on ? "itemised" : "itemise"));
-    push->setAccessibleDescription(on ? QObject::tr("In use") : QString());
-}
-
 std::vector<ItemRow> itemRows(const ItemLine& line, const std::vector<EditRow>& shown) {
     std::vector<ItemRow> rows;
     rows.reserve(shown.size());
@@ -64,7 +58,7 @@ std::vector<ItemRow> itemRows(const ItemLine& line, const std::vector<EditRow>& 
 
 ItemisedScreen::ItemisedScreen(Workplace& workplace, const QString& name, const QString& caption, std::int16_t& changed,
                                assessment::Analysis analysis)
-    : Screen(workplace, name, caption, changed), m_changedFlag(changed), m_analysis(analysis) {}
+    : ListScreen(workplace, name, caption, changed), m_changedFlag(changed), m_analysis(analysis) {}
 
 const ItemLine& ItemisedScreen::line(int index) const {
     const auto& lines = itemLines(m_analysis);
@@ -131,90 +125,35 @@ void ItemisedScreen::printItems(Destination destination) {
 
 // ---- the panel
 
-void ItemisedScreen::buildPanel() {
-    if (m_panel != nullptr) return;
-    m_grid = editGrid("grdItemise");
-    untrackedField(m_grid); // the grid edits a copy; OK writes it to the record
-    m_grid->edited = [this] { showTotal(); };
-    m_totalField = result("numItemiseTotal", m_total, wholeRand);
-    auto* add = button("cmdAddRow", tr("Add &row"), [this] { m_grid->addRow(); });
-    auto* remove = button("cmdDeleteRow", tr("&Delete row"), [this] { m_grid->deleteRow(); });
-    auto* ok = button("cmdOKItemise", "&OK", [this] { take(); });
-    auto* cancel = cancelButton("cmdGridClose", "&Cancel", [this] { leavePanel(); });
-    m_panel =
-        panel("fraItemise", {},
-              column({{m_grid, 1}, row({add, remove, spring(), labelled(tr("Total"), m_totalField)})}), {ok, cancel});
-}
-
 void ItemisedScreen::open(const ItemLine& itemised) {
-    buildPanel();
     m_open = &itemised;
-    const QString title = QString::fromStdString(itemised.title);
-    m_panel->setTitle(title);
-    m_grid->setAccessibleName(title);
     std::vector<EditColumn> columns;
     for (const ItemColumn& each : itemised.columns())
         columns.push_back(editColumn(each));
     const int visibleRows = itemised.kind == ItemKind::timed ? 6 : 5; // a further row would bring a scroll bar
-    m_grid->present(std::move(columns), editRows(itemised, itemised.list(m_work.record).rows), visibleRows);
-    m_before = m_grid->rows();
+    const auto total = [this] {
+        m_totalField = result("numItemiseTotal", m_total, wholeRand);
+        return std::vector<Item>{labelled(tr("Total"), m_totalField)};
+    };
+    openList(QString::fromStdString(itemised.title), std::move(columns),
+             editRows(itemised, itemised.list(m_work.record).rows), visibleRows, total);
     showTotal();
-    m_panel->open(m_grid);
 }
 
 void ItemisedScreen::showTotal() {
-    if (m_open == nullptr) return;
-    m_total = sumOfItems(itemRows(*m_open, m_grid->rows()));
+    m_total = sumOfItems(itemRows(*m_open, listRows()));
     m_totalField->fill();
 }
 
-void ItemisedScreen::take() {
+void ItemisedScreen::listTaken(const std::vector<EditRow>& rows) {
     const ItemLine& taken = *m_open;
-    takeItems(m_work.record, taken, itemRows(taken, m_grid->rows()));
+    takeItems(m_work.record, taken, itemRows(taken, rows));
     markChanged();
-    closePanel();
     refresh(taken);
     for (Field* field : m_shown[taken.index].fields)
         field->fill();
     itemsTaken(taken);
     recalculate();
-}
-
-void ItemisedScreen::closePanel() {
-    m_open = nullptr;
-    m_panel->close();
-    m_grid->present({}, {}, 0);
-    m_before.clear();
-}
-
-bool ItemisedScreen::hasChanges() const { return m_grid->hasOpenEntry() || m_grid->rows() != m_before; }
-
-bool ItemisedScreen::leavePanel() {
-    if (m_open == nullptr) return true;
-    if (hasChanges()) {
-        switch (m_work.desk.box(BoxStyle::question, tr("The list has been changed. Do you want to keep the changes?"),
-                                "Marlowbeck", Buttons::yesNoCancel)) {
-        case Answer::yes:
-            if (!checkFields()) return false;
-            take();
-            return true;
-        case Answer::no: break;
-        default: m_grid->takeFocus(); return false;
-        }
-    }
-    closePanel();
-    return true;
-}
-
-bool ItemisedScreen::commitPendingEdits() {
-    return (m_open == nullptr || !hasChanges() || leavePanel()) && Screen::commitPendingEdits();
-}
-
-bool ItemisedScreen::mayClose() { return leavePanel(); }
-
-void ItemisedScreen::clientReplaced() {
-    if (m_open != nullptr) closePanel(); // the list belonged to the previous client
-    Screen::clientReplaced();
 }
 
 } // namespace analyses

@@ -6,21 +6,16 @@
 #include <vector>
 
 #include "analyses/itemise.h"
-#include "screenkit/screen.h"
+#include "screenkit/listpanel.h"
 
 namespace analyses {
 
 /// The common part of the three needs analyses whose money lines may be itemised.
 ///
-/// A line's button opens a panel with a copy of its list. OK stores the copy, and its sum becomes the line's figure;
-/// closing the panel discards the copy, after a question if it was changed. While a list is in use, its line's fields
-/// are locked and its button shows another picture.
-class ItemisedScreen : public screenkit::Screen {
+/// A line's button opens a panel with a copy of its list. OK stores the copy, and its sum becomes the line's figure.
+/// While a list is in use, its line's fields are locked and its button shows another picture.
+class ItemisedScreen : public screenkit::ListScreen<screenkit::Screen> {
     Q_OBJECT
-public:
-    void clientReplaced() override;
-    bool commitPendingEdits() override;
-
 protected:
     ItemisedScreen(screenkit::Workplace& workplace, const QString& name, const QString& caption, std::int16_t& changed,
                    assessment::Analysis analysis);
@@ -43,8 +38,6 @@ protected:
     virtual void itemsTaken(const ItemLine&) {}
     virtual void recalculate() = 0;
 
-    bool mayClose() override;
-
 private:
     struct Shown {
         QPushButton* button = nullptr;
@@ -55,25 +48,18 @@ private:
     void refresh(const ItemLine& line);
     void refreshPolicies();
     QPushButton* small(QPushButton* push, const QString& name) const;
-    void buildPanel();
     void open(const ItemLine& line);
-    void take();
-    /// Closes the panel; false if the user chooses to go on editing.
-    bool leavePanel();
-    void closePanel();
-    bool hasChanges() const;
+    void listTaken(const std::vector<screenkit::EditRow>& rows) override;
+    void listEdited() override { showTotal(); }
     void showTotal();
 
     std::int16_t& m_changedFlag;
     assessment::Analysis m_analysis;
     std::map<int, Shown> m_shown;
     QPushButton* m_policies = nullptr;
-    screenkit::Panel* m_panel = nullptr;
-    screenkit::EditGrid* m_grid = nullptr;
     screenkit::NumberField* m_totalField = nullptr;
     double m_total = 0;
-    const ItemLine* m_open = nullptr; ///< the line whose list is in the panel
-    std::vector<screenkit::EditRow> m_before;
+    const ItemLine* m_open = nullptr; ///< the line whose list is or was last in the panel
 };
 
 } // namespace analyses

@@ -94,6 +94,16 @@ double DateField::read(const QString& text) {
 
 std::optional<double> DateField::dateIn(const QString& text) const { return readDate(text, m_desk.today().year()); }
 
+std::optional<Complaint> DateField::dropRefused() {
+    const auto refused = why();
+    if (!refused) return {};
+    accept();
+    m_stood = base::NoDate;
+    clear();
+    put(base::NoDate);
+    return refused;
+}
+
 void DateField::giveBack() {
     put(m_stood);
     accept();

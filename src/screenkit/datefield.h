@@ -39,6 +39,9 @@ public:
     /// Enters a day number as if the user had typed it. A day beyond the calendar's ends changes nothing.
     void enter(double day);
 
+    /// Empties the field, also in the record, if its text is refused; returns why it was.
+    std::optional<Complaint> dropRefused();
+
     void giveBack() override;
     void fill() override;
     std::optional<Complaint> complaint() override;

@@ -76,6 +76,8 @@ public:
     /// Call it before the record is saved or replaced: commits or drops what the screen holds apart from the record, as
     /// the user decides, and restores borrowed figures. False if the user cancels.
     virtual bool commitPendingEdits();
+    /// Called when another screen has come to the front before it.
+    virtual void wentBehind() {}
     /// Closes without asking or checking, since its client is gone.
     void drop();
     QSize sizeHint() const override;

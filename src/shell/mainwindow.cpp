@@ -10,6 +10,7 @@
 #include <QStyle>
 #include <QToolBar>
 #include <QToolButton>
+#include <utility>
 
 #include "assessment/assessment.h"
 #include "base/text.h"
@@ -224,7 +225,9 @@ void MDIForm1::activated(QMdiSubWindow* window) {
     // Null means that another program or a message box is in front. When the window returns to the same screen, the
     // screen must not be refilled over what the user was typing.
     if (window == nullptr || window == m_front) return;
-    m_front = window;
+    const QPointer<QMdiSubWindow> before = std::exchange(m_front, window);
+    if (auto* behind = before != nullptr ? qobject_cast<Screen*>(before->widget()) : nullptr; behind != nullptr)
+        behind->wentBehind();
     auto* screen = qobject_cast<Screen*>(window->widget());
     if (screen != nullptr) screenkit::guarded(m_work.desk, tr("show the screen"), [&] { screen->activate(); });
 }

@@ -30,6 +30,7 @@
 #include "reports/frmGraph.h"
 #include "reports/frmHeadFoot.h"
 #include "shell/frmBrowser.h"
+#include "tax/frmCGTCalcIncome.h"
 #include "tax/frmCarAll.h"
 #include "tax/frmEstateDutyEst.h"
 #include "tax/frmKwikTax.h"
@@ -76,6 +77,7 @@ constexpr ScreenEntry entries[] = {
     {"frmBrowser", build<shell::frmBrowser>, "Working by keyboard"},
     {"frmKwikTax", build<tax::frmKwikTax>, "Quick tax"},
     {"frmMonthly", build<tax::frmMonthly>, "Monthly tax"},
+    {"frmCGTCalcIncome", build<tax::frmCGTCalcIncome>, "Capital gains tax"},
     {"frmLumpSum", build<tax::frmLumpSum>, "Tax on lump sums"},
     {"frmEstateDutyEst", build<tax::frmEstateDutyEst>, "Estate duty"},
     {"frmRATaxAdv", build<tax::frmRATaxAdv>, "The advantage of retirement funding"},

@@ -21,6 +21,12 @@ public:
     /// Shows the first asset. The gains must live as long as the list; the assets may be replaced from outside.
     explicit AssetList(assessment::CapitalGains& gains) : m_gains(gains) {}
 
+    /// Shows the first asset again, for the assets of another client.
+    void restart() {
+        m_shown = 1;
+        m_new = assessment::newAsset();
+    }
+
     int CGTMaxNum() const { return static_cast<int>(m_gains.assets.size()); }
     /// Number of the asset shown; 0 without assets.
     int CurrentAsset() const;

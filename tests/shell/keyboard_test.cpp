@@ -10,6 +10,7 @@
 #include <map>
 #include <set>
 
+#include "assessment/newasset.h"
 #include "screenkit/panel.h"
 #include "shell/running_program.h"
 
@@ -88,6 +89,12 @@ const std::vector<Place> places{
     {"mnuRATaxAdv", "cmdPrint"},
     {"mnuTravClaim", ""},
     {"mnuTravClaim", "cmdPrint"},
+    {"mnuCapGainsTAx", ""},
+    {"mnuCapGainsTAx", "cmdInfo(0)"},
+    {"mnuCapGainsTAx", "cmdInfo_Two"},
+    {"mnuCapGainsTAx", "cmdItemise"},
+    {"mnuCapGainsTAx", "cmdSummary"},
+    {"mnuCapGainsTAx", "cmdPrint"},
 };
 
 bool isEntry(const QWidget* widget) {
@@ -119,6 +126,8 @@ protected:
     Keyboard() {
         run.record().FinChargeState = "DOWN"; // shows all rows of the loan
         run.record().loans = {"Monthly repayment", 100000, 24, 10, 0};
+        run.record().capitalGains.assets = {2, assessment::newAsset()};
+        run.record().capitalGains.assets.front().AssetDesc = "Shares"; // usable only with a description
         run.menu(GetParam().item);
     }
     void openPanel() {
@@ -196,55 +205,11 @@ TEST_P(Keyboard, EachEntryHasALabelAndAScreenReaderSaysEachControlInWholeWords) 
 }
 
 /// The only captions that may use a letter of the menu bar: their letters were fixed before the menu's.
-const std::set<std::string> shadowing{"frmLoans &Fin. charges",
-                                      "frmLoans &Annual Amort.",
-                                      "frmLoans &Print",
-                                      "frmKwikQuotes &Print",
-                                      "frmKwikQuotes C&ancel",
-                                      "frmNARA &Amortisation",
-                                      "frmNARA &Print",
-                                      "frmKwikTax &Print",
-                                      "frmMonthly &Print",
-                                      "frmLoans C&ancel",
-                                      "frmNARA C&ancel",
-                                      "frmPersDet C&ancel",
-                                      "frmPolInvest C&ancel",
-                                      "frmNADeath &Amortisation",
-                                      "frmNADeath &Print",
-                                      "frmNADeath C&ancel",
-                                      "frmNADisability &Amortisation",
-                                      "frmNADisability &Print",
-                                      "frmNAEd &Print",
-                                      "frmNAEd C&ancel",
-                                      "frmInflation &Print",
-                                      "frmInflation C&ancel",
-                                      "frmLifeOfCap &Print",
-                                      "frmLifeOfCap C&ancel",
-                                      "frmInvestComp &Print",
-                                      "frmInvestComp C&ancel",
-                                      "frmOffShore &Print",
-                                      "frmOffShore C&ancel",
-                                      "frmNomEffec &Print",
-                                      "frmDayBal &Print",
-                                      "frmRRRNEW &Print",
-                                      "frmRRROLD &Print",
-                                      "frmIncomeShares &Print",
-                                      "frmIncomeShares C&ancel",
-                                      "frmDDLivAnn &Print",
-                                      "frmDDLivAnn C&ancel",
-                                      "frmLumpSum &Print",
-                                      "frmLumpSum C&ancel",
-                                      "frmEstateDutyEst &Print",
-                                      "frmEstateDutyEst C&ancel",
-                                      "frmBondBuster &Print",
-                                      "frmBondAna &Print",
-                                      "frmDebtCon &Annual Amort.",
-                                      "frmDebtCon C&ancel",
-                                      "frmDebtCon &Print",
-                                      "frmRATaxAdv &Print",
-                                      "frmRATaxAdv C&ancel",
-                                      "frmCarAll &Print",
-                                      "frmCarAll C&ancel"};
+const std::set<std::string> shadowing{
+    "frmLoans &Fin. charges",        "frmLoans &Annual Amort.",   "frmNARA &Amortisation", "frmNADeath &Amortisation",
+    "frmNADisability &Amortisation", "frmDebtCon &Annual Amort.", "frmCGTCalcIncome &Add", "frmCGTCalcIncome &Forward"};
+/// ... and those that every screen with a print panel has.
+const QStringList shadowingAnywhere{"&Print", "C&ancel"};
 
 /// The access keys in use, each with its captions.
 std::map<QKeySequence, QStringList> lettersOf(const QWidget* scope) {
@@ -272,6 +237,7 @@ TEST_P(Keyboard, EachAccessKeyIsOneCaptionsAndNoneOfOursIsTheMenus) {
         for (const QAction* item : run.window().menuBar()->actions()) {
             const auto taken = letters.find(QKeySequence::mnemonic(item->text()));
             if (taken == letters.end() || taken->first.isEmpty()) continue;
+            if (shadowingAnywhere.contains(taken->second.front())) continue;
             const QString caption = run.front()->objectName() + " " + taken->second.front();
             EXPECT_TRUE(shadowing.contains(caption.toStdString())) << caption.toStdString() << " " << page;
         }

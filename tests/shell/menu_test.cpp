@@ -63,6 +63,7 @@ const std::set<std::string> working{
     "mnuEstateDutyEstimator",
     "mnuRATaxAdv",
     "mnuTravClaim",
+    "mnuCapGainsTAx",
 };
 
 QToolBar* toolbar(RunningProgram& run) { return run.window().findChild<QToolBar*>("Toolbar2"); }
@@ -121,6 +122,7 @@ TEST(Toolbar, EachButtonHasAPictureATipAndANameForScreenReaders) {
                                     "Offshore Investments",
                                     "Draw Down Annuity",
                                     "Real Rate of Return",
+                                    "Capital Gains Tax",
                                     "Tax On Lump Sums",
                                     "PAYE",
                                     "Travel Claim",
