@@ -44,11 +44,10 @@ bool NominalEffectiveResult::isFinite() const {
     return std::isfinite(EffRate) && std::isfinite(ActualInt) && std::isfinite(SimpleRate) && std::isfinite(IntEarned);
 }
 
-bool snapPeriod(assessment::NominalEffective& inputs) {
+void snapPeriod(assessment::NominalEffective& inputs) {
     const double months = frequencyOf(compoundingOf(inputs.IntComp)).monthsOfAPeriod;
-    if (months == 0 || std::fmod(base::roundHalfEven(inputs.PeriodNomEff), months) == 0) return false;
-    inputs.PeriodNomEff = monthsAYear;
-    return true;
+    const bool isWhole = months == 0 || std::fmod(base::roundHalfEven(inputs.PeriodNomEff), months) == 0;
+    if (!isWhole) inputs.PeriodNomEff = monthsAYear;
 }
 
 NominalEffectiveResult NomEffCalc(assessment::NominalEffective& inputs) {

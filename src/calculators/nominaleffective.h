@@ -29,8 +29,8 @@ struct NominalEffectiveResult {
 };
 
 /// Sets PeriodNomEff back to 12 months if it is not a whole number of compounding periods: half-years for semi-annual,
-/// quarters for 3-monthly compounding. True if it did. A period of 0 stays.
-bool snapPeriod(assessment::NominalEffective& inputs);
+/// quarters for 3-monthly compounding. A period of 0 stays.
+void snapPeriod(assessment::NominalEffective& inputs);
 
 /// Interest on `amount` (rand) over PeriodNomEff months at NomRate (percent a year, nominal), compounded IntComp times
 /// a year. Writes PeriodNomEff: 12 if it was 0, otherwise see `snapPeriod`. Then an empty period answers at the second

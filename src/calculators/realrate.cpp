@@ -1,5 +1,6 @@
 #include "calculators/realrate.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -20,10 +21,7 @@ struct Monthly {
     double escalation;
 };
 
-int monthsOf(double period) {
-    if (!(period >= 1)) return 0;
-    return period > longestPeriod ? longestPeriod : static_cast<int>(period);
-}
+int monthsOf(double period) { return period >= 1 ? static_cast<int>(std::min<double>(period, longestPeriod)) : 0; }
 
 /// What these amounts come to in each month: rand.
 template <std::size_t Count>

@@ -37,7 +37,6 @@ public:
 
     /// The first of these steps whose rate reaches the target.
     std::optional<std::int64_t> first(std::int64_t from, std::int64_t to) const {
-        if (from > to) return {};
         if (from == to) return valueAt(m_stream, m_rateOf(from)) < m_target ? std::nullopt : std::optional(from);
         if (highestBetween(m_stream, m_rateOf(from), m_rateOf(to)) < m_target) return {};
         const std::int64_t middle = from + (to - from) / 2;

@@ -67,6 +67,7 @@ TEST(NominalEffectiveScreen, TakesAYearForNoPeriodRefusesLargeFiguresAndStepsThe
     run.expectShown("numPeriod 0, numAns3 0.00");
     run.click("cmdCalculate"); // answers 0 and shows the year that it takes instead
     run.expectShown("numPeriod 12, numAns3 0.00");
+    EXPECT_EQ(RunningProgram::focused(), "cmdOK");
     run.record().GRINC = 0.5;
     for (const QString step : {"12 Up 12.500 13.242", "0.5 Down 50.000 63.209", "50 Up 0.500 0.501"}) {
         run.type("numNomRate", step.section(' ', 0, 0));
