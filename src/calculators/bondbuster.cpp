@@ -21,7 +21,6 @@ bool readsZero(double amount) { return base::roundHalfEven(amount, 2) == 0; }
 
 void repayAsAgreed(BondBuster& result, double term) {
     result.extra = ExtraPayment::none;
-    result.VOLUN = 0;
     result.NewTerm = term;
     result.NewRep = result.BondRep;
     result.XTotInt = result.TotInt;
