@@ -22,7 +22,7 @@ constexpr double lastDayBefore = 37164; // bought later than this, an asset has 
 constexpr const char* types[] = {assessment::unitTrustAsset, assessment::residenceAsset, assessment::smallBusinessAsset,
                                  assessment::otherAsset};
 
-const NumberKind hectares{"# ##0.00##", false, 10};
+const NumberKind hectares{"# ##0.00##", false, 7};
 const NumberKind share = percent.upTo(100, "Only a maximum of 100% can be entered!", {});
 
 QString shownDay(double day) { return QString::fromStdString(base::formatDate(day)); }
@@ -94,13 +94,15 @@ QWidget* frmCGTCalcIncome::typeGroup() {
     m_size = figure("numSize", &Asset::Size, hectares);
     m_residency = figure("numResOccPerc", &Asset::ResOccPerc, share);
     m_deduction = figure("numSB750PortDed", &Asset::SB750PortDed, money);
-    return group(
-        "fraType", "Asset",
-        column({row({m_type, Item(column({help(aboutTypes), spring()}))}),
-                form({{"Si&ze", row({m_size, new QLabel("hectares"), help(aboutResidence)})},
-                      {"Residenc&y period", row({m_residency, new QLabel("%"), help(aboutResidencyPeriod)})}}),
-                row({note("Do you qualify for R 1 800 000 deduction? :"), help(aboutSmallBusiness)}), m_qualifies,
-                note("How much of the S.B. deduction do you qualify for?"), form({{"S.B. deduction", m_deduction}})}));
+    auto* askedDeduction = note("How much of the S.B. deduction do you qualify for?");
+    askedDeduction->setBuddy(m_deduction);
+    m_deduction->setAccessibleName(askedDeduction->text());
+    return group("fraType", "Asset",
+                 column({row({m_type, Item(column({help(aboutTypes), spring()}))}),
+                         form({{"Si&ze", row({m_size, new QLabel("hectares"), help(aboutResidence)})},
+                               {"Residenc&y period", row({m_residency, new QLabel("%"), help(aboutResidencyPeriod)})}}),
+                         note("Do you qualify for R 1 800 000 deduction? :"), m_qualifies, askedDeduction,
+                         row({m_deduction, help(aboutSmallBusiness), spring()})}));
 }
 
 QWidget* frmCGTCalcIncome::baseCostGroup() {
@@ -168,9 +170,9 @@ QWidget* frmCGTCalcIncome::knownGainsGroup() {
     showsCalculated(m_total);
     return group(
         "fraKnown", "Known gains",
-        row({form({{"&Known capital gain/loss from shares, trust etc. Local",
-                    row({m_local, m_itemise, help(aboutKnownGains), spring()})},
-                   {"Known capital gain/loss from shares, trust etc. Foreign", m_foreign}}),
+        row({form({{"&Known capital gain/loss from shares, trust etc. Local", row({m_local, m_itemise, spring()})},
+                   {"Known capital gain/loss from shares, trust etc. Foreign",
+                    row({m_foreign, help(aboutKnownGains), spring()})}}),
              form({{"CGT loss brought forward from last year ", m_loss}, {"Total of Capital Gains", m_total}})}));
 }
 
@@ -189,7 +191,7 @@ QLayout* frmCGTCalcIncome::buttons() {
     });
     m_summaryButton = button("cmdSummary", "&Summary", [this] {
         calculate();
-        m_summary->open();
+        m_summary->open(m_summaryOk);
     });
     m_print = button("cmdPrint", "&Print", [this] {
         calculate();
@@ -289,7 +291,7 @@ void frmCGTCalcIncome::showGain() {
     m_share = m_gain.PerShareAns;
     for (NumberField* field : {m_shareShown, m_capGain, m_deemed, m_total})
         field->fill();
-    m_apportioned->setVisible(asset().DeemVal > 0);
+    setRowVisible(m_apportioned, asset().DeemVal > 0);
     m_method->setText(gainLabel(m_gain.method, asset()));
     m_limitation->setVisible(m_gain.asksUser());
     setRowVisible(m_user, m_gain.asksUser());

@@ -83,7 +83,7 @@ private:
     std::vector<QWidget*> m_always; ///< usable as soon as the asset has a description
     std::vector<screenkit::NumberField*> m_resultFields;
     QPushButton *m_calculate = nullptr, *m_summaryButton = nullptr, *m_print = nullptr, *m_back = nullptr,
-                *m_forward = nullptr, *m_delete = nullptr, *m_itemise = nullptr;
+                *m_forward = nullptr, *m_delete = nullptr, *m_itemise = nullptr, *m_summaryOk = nullptr;
 };
 
 } // namespace tax

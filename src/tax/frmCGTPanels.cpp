@@ -122,11 +122,12 @@ void frmCGTCalcIncome::buildSummary() {
     auto* codes = matrix({"Profit", "Loss"},
                          {{"Local", {row({code(0, "4250"), localProfit}), row({code(1, "4251"), localLoss})}},
                           {"Foreign", {row({code(2, "4252"), foreignProfit}), row({code(3, "4253"), foreignLoss})}}});
+    m_summaryOk = cancelButton("cmdOkSummary", "&OK", [this] { m_summary->close(); });
     m_summary =
         panel("fraSummary", "     CAPITAL GAIN / LOSS",
               column({codes, form({{"Capital Gain Added to Income", added}, {"Capital Loss Carried Forward", carried}}),
                       row({help(aboutSummary), spring()})}),
-              {cancelButton("cmdOkSummary", "&OK", [this] { m_summary->close(); })});
+              {m_summaryOk});
 }
 
 // ---- print
