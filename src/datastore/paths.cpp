@@ -1,6 +1,7 @@
 #include "datastore/paths.h"
 
 #include "store/error.h"
+#include "store/filecopy.h"
 #include "store/files.h"
 
 namespace datastore {
@@ -81,20 +82,15 @@ bool isThere(const fs::path& path) {
     return fs::exists(path, ignored);
 }
 
-bool isSame(const fs::path& one, const fs::path& other) {
-    std::error_code failed;
-    return one == other || (fs::equivalent(one, other, failed) && !failed);
-}
-
 bool isProgramFolder(const fs::path& folder) {
     return isThere(store::existingSpelling(folder / "Default.Mdb")) || isThere(printDbPath(folder));
 }
 
 bool isWrittenForAnother(const Paths& paths) {
     const std::string text = readLocation(paths.programFolder).value_or("");
-    if (const auto writtenFor = parseWrittenFor(text)) return !isSame(*writtenFor, paths.programFolder);
+    if (const auto writtenFor = parseWrittenFor(text)) return !store::isSameFile(*writtenFor, paths.programFolder);
     const fs::path folder = paths.DataDbPath.parent_path();
-    return !isSame(folder, paths.programFolder) && (isProgramFolder(folder) || !isThere(paths.DataDbPath));
+    return !store::isSameFile(folder, paths.programFolder) && (isProgramFolder(folder) || !isThere(paths.DataDbPath));
 }
 
 } // namespace
@@ -119,7 +115,7 @@ void writeDataPath(const fs::path& programFolder, const fs::path& dataDbPath) {
                            "DataPath.txt cannot hold.",
                            "Rename the file or the folder, then try again.");
     std::string text = "\"" + dataDbPath.string() + "\"\r\n";
-    if (!isSame(dataDbPath.parent_path(), programFolder)) text += "\"" + programFolder.string() + "\"\r\n";
+    if (!store::isSameFile(dataDbPath.parent_path(), programFolder)) text += "\"" + programFolder.string() + "\"\r\n";
     store::writeFile(programFolder / locationFile, text);
 }
 
@@ -133,7 +129,7 @@ Paths findPaths(const fs::path& programFolder) {
 
 std::string copiedFolderNotice(const Paths& paths) {
     const fs::path own = ownDataDb(paths.programFolder);
-    if (!isThere(own) || isSame(own, paths.DataDbPath) || !isWrittenForAnother(paths)) return {};
+    if (!isThere(own) || store::isSameFile(own, paths.DataDbPath) || !isWrittenForAnother(paths)) return {};
     return "The clients that you see are those of\n" + paths.DataDbPath.string() + "\nas DataPath.txt says.\n\n" +
            "This folder also has a client file of its own:\n" + own.string() +
            "\nThis folder seems to be a copy of another one. To work with its own file, close Marlowbeck, "

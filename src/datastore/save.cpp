@@ -34,6 +34,7 @@ public:
         writeClientRow(assessment::dataTable());
         writeClientRow(assessment::persDetailsTable());
         if (m_isUpdate) deleteLists();
+        deleteRows(assessment::cgtTrustOtherTable()); // also those that a deleted client left under a new one's key
         writeItemLists();
         writeList(assessment::polsInvestsTable(), m_record.policies);
         deleteRows(assessment::cgtDetailsTable());
@@ -100,7 +101,6 @@ private:
         for (const assessment::ItemTable& line : assessment::itemTables())
             if (line.table != nullptr) deleteRows(*line.table);
         deleteRows(assessment::polsInvestsTable());
-        deleteRows(assessment::cgtTrustOtherTable());
     }
 
     void writeItemLists() {

@@ -13,6 +13,8 @@
 
 #include "store/error.h"
 #include "store/files.h"
+#include "store/openfiles.h"
+#include "store/sqlitecall.h"
 
 namespace store {
 
@@ -73,11 +75,6 @@ Cause causeFrom(int extendedCode, const std::string& words) {
     }
 }
 
-[[noreturn]] void failWith(const fs::path& path, int extendedCode, const std::string& words) {
-    const Cause cause = causeFrom(extendedCode, words);
-    throw Error(cause.number, path.string(), cause.why);
-}
-
 /// Checks what can be checked without opening the file. Opening and closing a second handle on a database would drop
 /// the locks that this process holds on it through another connection.
 void checkBeforeOpening(const fs::path& path) {
@@ -97,6 +94,19 @@ void checkBeforeOpening(const fs::path& path) {
         throw Error(Number::notADatabase, path.string(), size == 0 ? "This file is empty." : "");
 }
 
+void configure(sqlite3* connection) {
+    // Otherwise a misspelt name in double quotes would be read as a text constant.
+    sqlite3_db_config(connection, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
+    sqlite3_db_config(connection, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
+}
+
+} // namespace
+
+void failWith(const fs::path& path, int extendedCode, const std::string& words) {
+    const Cause cause = causeFrom(extendedCode, words);
+    throw Error(cause.number, path.string(), cause.why);
+}
+
 std::unique_ptr<SQLite::Database> connect(const fs::path& path, int flags) {
     try {
         // Each connection is used for one operation on one thread. Without SQLite's own locking a list is read a tenth
@@ -106,14 +116,6 @@ std::unique_ptr<SQLite::Database> connect(const fs::path& path, int flags) {
         failWith(path, error.getExtendedErrorCode(), error.what());
     }
 }
-
-void configure(sqlite3* connection) {
-    // Otherwise a misspelt name in double quotes would be read as a text constant.
-    sqlite3_db_config(connection, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
-    sqlite3_db_config(connection, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
-}
-
-} // namespace
 
 Statement::Statement(Database& database, std::string_view sql) : m_database(&database) {
     try {
@@ -196,13 +198,16 @@ Database::Database(const fs::path& path) : m_path(existingSpelling(path)) {
     if (pageSize.step() && fs::file_size(m_path, error) % static_cast<std::uintmax_t>(pageSize.number(0)) != 0 &&
         !error)
         throw Error(Number::corrupt, m_path.string());
+    noteOpened(m_path); // last: the destructor does not run if the constructor throws
 }
 
 Database::Database(InMemory) : m_connection(connect(":memory:", SQLite::OPEN_READWRITE)) {
     configure(m_connection->getHandle());
 }
 
-Database::~Database() = default;
+Database::~Database() {
+    if (!m_path.empty()) noteClosed(m_path);
+}
 
 void Database::create(const fs::path& path) {
     if (fs::exists(fs::symlink_status(existingSpelling(path)))) throw Error(Number::databaseExists, path.string());

@@ -14,6 +14,7 @@
 
 #include "base/text.h"
 #include "store/error.h"
+#include "store/posix.h"
 
 namespace store {
 
@@ -21,47 +22,12 @@ namespace fs = std::filesystem;
 
 namespace {
 
-Number numberFor(int error) {
-    switch (error) {
-    case ENOENT: return Number::fileNotFound53;
-    case ENOTDIR: return Number::pathNotFound;
-    case EACCES:
-    case EPERM:
-    case EROFS: return Number::permissionDenied;
-    case ENOSPC:
-    case EDQUOT:
-    case EFBIG: return Number::diskFull61;
-    case ENODEV:
-    case ENXIO: return Number::deviceUnavailable;
-    case EEXIST: return Number::fileExists58;
-    case EIO: return Number::deviceError;
-    default: return Number::pathAccess;
-    }
-}
-
-[[noreturn]] void fail(const fs::path& path, int error) {
-    const Number number = numberFor(error);
-    throw Error(number, path.string(),
-                number == Number::pathAccess
-                    ? "The file cannot be used: " + std::generic_category().message(error) + "."
-                    : std::string());
-}
-
-/// Closes an open file at the end of its scope.
-class Handle {
-public:
-    explicit Handle(int handle) : m_handle(handle) {}
-    ~Handle() {
-        if (m_handle >= 0) ::close(m_handle);
-    }
-    Handle(const Handle&) = delete;
-    Handle& operator=(const Handle&) = delete;
-    int get() const { return m_handle; }
-    bool ok() const { return m_handle >= 0; }
-
-private:
-    int m_handle;
-};
+using posix::fail;
+using posix::flushFolder;
+using posix::folderOf;
+using posix::Handle;
+using posix::removeJournals;
+using posix::targetOf;
 
 constexpr const char* temporaryEnding = ".XXXXXX"; // each X becomes a letter or a digit
 
@@ -99,30 +65,6 @@ private:
     fs::path m_target;
     bool m_kept = false;
 };
-
-/// The folder's own entry must reach the disk too, or a power cut could bring the old file back. File systems that
-/// cannot flush a folder keep their entries in order by themselves.
-void flushFolder(const fs::path& folder) {
-    const Handle handle(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (handle.ok()) ::fsync(handle.get());
-}
-
-fs::path folderOf(const fs::path& path) { return path.has_parent_path() ? path.parent_path() : fs::path("."); }
-
-/// The file that is really written: an existing file in its own spelling, or what a link points to.
-fs::path targetOf(const fs::path& path) {
-    fs::path spelled = existingSpelling(path);
-    std::error_code ignored;
-    if (!fs::is_symlink(spelled, ignored)) return spelled;
-    fs::path end = fs::weakly_canonical(spelled, ignored);
-    return end.empty() ? spelled : end;
-}
-
-void removeJournals(const fs::path& database) {
-    std::error_code ignored;
-    for (const char* ending : {"-journal", "-wal", "-shm"})
-        fs::remove(database.string() + ending, ignored);
-}
 
 void removeWithJournals(const fs::path& database) {
     std::error_code ignored;
