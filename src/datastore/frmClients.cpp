@@ -109,7 +109,7 @@ void ClientsScreen::read(bool withBox) {
         } catch (const store::Error& error) {
             m_read.reset();
             m_trouble = QString::fromStdString(error.message());
-            if (withBox) throw;
+            if (withBox && !asksAbout(error)) throw;
         }
     };
     guarded(m_work.desk, tr("read the list of clients"), take);
@@ -160,6 +160,7 @@ void ClientsScreen::showEntry() {
     m_name->setText(QString::fromStdString(client.Name));
     m_description->setText(QString::fromStdString(client.Description));
     m_birthDate->setText(client.BirthDate > 0 ? QString::fromStdString(base::formatDate(client.BirthDate)) : QString());
+    pickedAnew();
 }
 
 void ClientsScreen::narrow() {

@@ -5,6 +5,10 @@
 #include "datastore/clientlist.h"
 #include "screenkit/screen.h"
 
+namespace store {
+class Error;
+}
+
 namespace datastore {
 
 /// Names of the fields beside the client list on a screen.
@@ -34,6 +38,11 @@ protected:
 
     /// Called when the searched text, and with it the list, has changed.
     virtual void narrowed(bool /*bySomeWord*/) {}
+    /// Called when other clients are picked, or the list has been read again.
+    virtual void pickedAnew() {}
+    /// Called when the list can't be read as the screen opens; true if the screen asks what to do, so that the usual
+    /// message is not needed.
+    virtual bool asksAbout(const store::Error& /*error*/) { return false; }
     /// Called when a line is double-clicked.
     virtual void lineOpened() {}
 

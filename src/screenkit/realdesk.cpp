@@ -101,7 +101,8 @@ void followKind(QFileDialog& dialog, const QStringList& filters) {
         dialog.setDefaultSuffix(endingOf(chosen).mid(1)); // without the point, which the dialog adds
         const QFileInfo file(dialog.selectedFiles().value(0));
         for (const QString& filter : filters)
-            if (file.fileName().endsWith(endingOf(filter), Qt::CaseInsensitive))
+            if (file.fileName().endsWith(endingOf(filter), Qt::CaseInsensitive) &&
+                !file.fileName().endsWith(endingOf(chosen), Qt::CaseInsensitive))
                 dialog.selectFile(file.completeBaseName() + endingOf(chosen));
     };
     QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, follow);
@@ -145,7 +146,8 @@ std::optional<QString> RealDesk::fileToSave(const QString& title, const QString&
     followKind(dialog, filters); // before the dialog asks about replacing a file
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
     const QString file = dialog.selectedFiles().constFirst();
-    userSettings().setValue(folderKey, QFileInfo(file).absolutePath());
+    // A backup on a memory stick must not move the folder of the reports.
+    if (QFileInfo(suggested).isRelative()) userSettings().setValue(folderKey, QFileInfo(file).absolutePath());
     return file;
 }
 

@@ -25,6 +25,7 @@
 #include "screenkit/screen.h"
 #include "screenkit/trouble.h"
 #include "shell/commands.h"
+#include "shell/datacare.h"
 #include "shell/frmBrowser.h"
 #include "shell/menuactions.h"
 #include "shell/menukeys.h"
@@ -270,16 +271,7 @@ MDIForm1::Changes MDIForm1::askAboutChanges(const QString& title, const std::fun
     }
 }
 
-void MDIForm1::mnuNewFile_Click() {
-    const auto saveThenNew = [this] {
-        m_work.record.SaveThenNew = 1;
-        mnuSave_Click();
-    };
-    const Changes changes = askAboutChanges("NEW ?", saveThenNew);
-    if (changes == Changes::saved || changes == Changes::kept) return;
-    if (!NEWUNLOAD()) return;
-    open("frmPersDet");
-}
+void MDIForm1::mnuNewFile_Click() { startNewClient(*this); }
 
 void MDIForm1::mnuSave_Click() {
     const BusyCursor busy;

@@ -7,6 +7,7 @@
 #include "reports/report.h"
 #include "screenkit/desk.h"
 #include "screenkit/website.h"
+#include "shell/datacare.h"
 #include "shell/mainwindow.h"
 #include "shell/placing.h"
 #include "shell/program.h"
@@ -41,6 +42,10 @@ constexpr MenuAction actions[] = {
     {"mnuBrowse", [](MDIForm1& window) { window.mnuBrowse_Click(); }},
     {"mnuRetrieve", [](MDIForm1& window) { window.mnuBrowse_Click(); }},
     {"mnuSave", [](MDIForm1& window) { window.mnuSave_Click(); }},
+    {"mnuBackup", mnuBackup_Click},
+    {"mnuRestore", mnuRestore_Click},
+    {"mnuToA", mnuToA_Click},
+    {"mnuFromA", mnuFromA_Click},
     {"mnuPrintSetup", [](MDIForm1& window) { window.workplace().reports.setUpPrinter(); }},
     {"mnuExit", [](MDIForm1& window) { window.close(); }},
     {"mnuCalculator", startCalculator},

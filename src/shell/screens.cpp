@@ -25,6 +25,10 @@
 #include "client/frmPersDet.h"
 #include "client/frmPolInvest.h"
 #include "datastore/frmBrowse.h"
+#include "datastore/frmCOPYToA.h"
+#include "datastore/frmDelete.h"
+#include "datastore/frmMasterDBLocator.h"
+#include "datastore/frmREADFromA.h"
 #include "datastore/frmSaveFileAs.h"
 #include "quotes/frmKwikQuotes.h"
 #include "reports/frmGraph.h"
@@ -49,6 +53,10 @@ screenkit::Screen* build(screenkit::Workplace& workplace) {
 
 constexpr ScreenEntry entries[] = {
     {"frmBrowse", build<datastore::frmBrowse>, "Finding a client again"},
+    {"frmDelete", build<datastore::frmDelete>, "Deleting a client"},
+    {"frmCOPYToA", build<datastore::frmCOPYToA>, "Taking clients to another computer"},
+    {"frmREADFromA", build<datastore::frmREADFromA>, "Taking clients to another computer"},
+    {"frmMasterDBLocator", build<datastore::frmMasterDBLocator>, "Where your data lies, and backups"},
     {"frmSaveFileAs", build<datastore::frmSaveFileAs>, "Saving"},
     {"frmPersDet", build<client::frmPersDet>, "Recording a client"},
     {"frmPolInvest", build<client::frmPolInvest>, "Policies and investments"},
