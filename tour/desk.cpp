@@ -36,7 +36,7 @@ void Desk::checkQuiet() const { check(m_trouble.isEmpty(), m_trouble); }
 void Desk::checkDone() const {
     checkQuiet();
     if (!m_boxes.empty()) fail("the box \"" + m_boxes.front().title + "\" never came");
-    if (!m_files.empty()) fail("nobody asked where to save " + m_files.front());
+    if (!m_files.empty()) fail("nobody asked for the file " + m_files.front());
 }
 
 Answer Desk::box(screenkit::BoxStyle style, const QString& text, const QString& title, screenkit::Buttons buttons,
@@ -71,16 +71,24 @@ void Desk::press(const Expected& expected) {
     QTest::mouseClick(button, Qt::LeftButton);
 }
 
-std::optional<QString> Desk::fileToSave(const QString& title, const QString& suggested, const QStringList&) {
+std::optional<QString> Desk::nextFile(const QString& asked) {
     if (m_files.empty()) {
-        m_trouble = "unexpected file chooser [" + title + "] " + suggested;
+        m_trouble = "unexpected file chooser " + asked;
         return {};
     }
     const QString name = m_files.front();
     m_files.pop_front();
-    say("  asked: [" + title + "] save as " + suggested + " ?");
+    say("  asked: " + asked + " ?");
     say("  answered: " + name);
     return name;
+}
+
+std::optional<QString> Desk::fileToSave(const QString& title, const QString& suggested, const QStringList&) {
+    return nextFile("[" + title + "] save as " + suggested);
+}
+
+std::optional<QString> Desk::fileToOpen(const QString& title, const QString& folder, const QStringList&) {
+    return nextFile("[" + title + "] open " + folder);
 }
 
 } // namespace tour

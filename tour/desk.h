@@ -13,7 +13,7 @@ class Desk : public screenkit::RealDesk {
 public:
     /// The next box must have this title and gets this answer; pictureName: save a picture of it.
     void expect(const QString& title, screenkit::Answer answer, const QString& pictureName = {});
-    /// The name to enter in the next save dialog.
+    /// The name to enter in the next file dialog.
     void expectFile(const QString& name) { m_files.push_back(name); }
 
     /// Ends the tour if something unexpected was asked.
@@ -25,6 +25,7 @@ public:
                           screenkit::Buttons buttons, std::optional<screenkit::Answer> defaultAnswer) override;
     std::optional<QString> fileToSave(const QString& title, const QString& suggested,
                                       const QStringList& filters) override;
+    std::optional<QString> fileToOpen(const QString& title, const QString& folder, const QStringList& filters) override;
     /// Always the same day, so that ages and all figures that depend on them are the same in every tour.
     QDate today() override { return {2026, 6, 15}; }
 
@@ -36,6 +37,7 @@ private:
     };
 
     void press(const Expected& expected);
+    std::optional<QString> nextFile(const QString& asked);
 
     std::deque<Expected> m_boxes;
     std::deque<QString> m_files;

@@ -118,6 +118,7 @@ void wholeCase() {
         tour::findClient(hands);
         tour::compare(hands, seen);
         tour::drawDown(hands);
+        tour::careForClients(hands);
     });
 }
 

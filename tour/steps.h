@@ -60,6 +60,8 @@ void findClient(Hands& hands);
 void compare(Hands& hands, const Seen& before);
 /// Ends with New.
 void drawDown(Hands& hands);
+/// Ends with a blank client and the file as it was.
+void careForClients(Hands& hands);
 
 /// Saves the report in front as name.pdf, with a picture of it, and closes it.
 void exportPdf(Hands& hands, const QString& name);

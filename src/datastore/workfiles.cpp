@@ -21,13 +21,21 @@ WorkFiles::WorkFiles(const fs::path& programFolder)
 
 namespace {
 
-/// Also of a file that does not exist yet: then its name and its folder decide.
+/// A path with its links resolved, also of a file that does not exist yet.
+fs::path resolved(const fs::path& file) {
+    std::error_code failed;
+    fs::path real = fs::weakly_canonical(store::existingSpelling(file), failed);
+    return failed ? file : real;
+}
+
+/// By name, not by content: after a backup that was killed in its last step `Data.bak` and `Data.Mdb` are two names of
+/// one file, which the next backup parts again.
 bool isAnyOf(const fs::path& file, std::initializer_list<fs::path> others) {
-    const fs::path spelled = store::existingSpelling(file);
+    const fs::path real = resolved(file);
     return std::ranges::any_of(others, [&](const fs::path& other) {
-        return store::isSameFile(spelled, other) ||
-               (base::sameName(spelled.filename().string(), other.filename().string()) &&
-                store::isSameFile(spelled.parent_path(), other.parent_path()));
+        const fs::path own = resolved(other);
+        return base::sameName(real.filename().string(), own.filename().string()) &&
+               store::isSameFile(real.parent_path(), own.parent_path());
     });
 }
 

@@ -160,7 +160,7 @@ void MDIForm1::showTips() {
         if (!button->isEnabled())
             tip += tr(": not in this version yet");
         else if (!m_toolbar->isEnabled())
-            tip += tr(": not while Browse or Save As is open");
+            tip += tr(": not while a list of clients or Save As is open");
         else if (!shortcut.isEmpty())
             tip += " (" + shortcut.toString(QKeySequence::NativeText) + ")";
         button->setToolTip(tip);

@@ -196,7 +196,7 @@ TEST(Toolbar, IsDisabledWhileBrowseOrSaveAsIsOpenHoweverTheyClose) {
         ASSERT_TRUE(run.isOpen(screen));
         for (QAction* action : toolbar(run)->actions())
             EXPECT_FALSE(toolbar(run)->widgetForAction(action)->isEnabled());
-        EXPECT_EQ(toolbar(run)->actions().front()->toolTip(), "New: not while Browse or Save As is open");
+        EXPECT_EQ(toolbar(run)->actions().front()->toolTip(), "New: not while a list of clients or Save As is open");
         EXPECT_TRUE(run.window().findChild<QAction*>("mnuSave")->isEnabled());
         close(run);
         RunningProgram::settle();
