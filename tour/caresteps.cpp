@@ -34,7 +34,7 @@ void careForClients(Hands& hands) {
     say("The clients are backed up.");
     withFile(hands, backup, [&] { hands.menu({"mnuFile", "mnuBackup"}); });
 
-    say("The client is copied for another office, and read back: she is now there twice.");
+    say("The client is copied for another office, and read back: he is now there twice.");
     hands.menu({"mnuFile", "mnuToFromA", "mnuToA"});
     hands.expectFront("frmCOPYToA");
     clientsFound(hands, "ndou");

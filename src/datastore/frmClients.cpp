@@ -49,7 +49,8 @@ std::vector<GridColumn> heads() {
 
 ClientsScreen::ClientsScreen(Workplace& workplace, const QString& name, const QString& caption, Grid::Picking picking,
                              const ClientFieldNames& fields)
-    : Screen(workplace, name, caption, untracked()), m_fieldNames(fields) {
+    : Screen(workplace, name, caption, untracked()), m_fieldNames(fields),
+      m_picksAtOnce(picking != Grid::Picking::several) {
     workplace.shell.enableToolbar(false);
     connect(this, &Screen::closed, this, [this] { m_work.shell.enableToolbar(true); });
     m_list = table(
@@ -187,7 +188,7 @@ bool ClientsScreen::eventFilter(QObject* watched, QEvent* event) {
     }
     if (key == Qt::Key_Down || key == Qt::Key_PageDown) {
         m_list->setFocus(Qt::TabFocusReason);
-        if (m_list->picked().empty()) m_list->pickFirst();
+        if (m_picksAtOnce && m_list->picked().empty()) m_list->pickFirst();
         return true;
     }
     const bool sorts = press->modifiers() == Qt::ControlModifier && key >= Qt::Key_1 && key <= Qt::Key_9;

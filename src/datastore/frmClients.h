@@ -70,6 +70,7 @@ private:
     std::optional<ClientSearch> m_finder; ///< created when the first search is typed
     std::optional<Stamp> m_read;          ///< the state of the file that is listed
     QString m_trouble;                    ///< why the file could not be read
+    bool m_picksAtOnce; ///< going to the list picks its first line: a client is loaded by a word, Down and Enter
     bool m_listed = false;
     QLineEdit* m_search = nullptr;
     screenkit::Grid* m_list = nullptr;
