@@ -22,7 +22,7 @@ double roundHalfEven(double x, int decimals) {
 double shortestDecimal(float x) {
     std::array<char, 32> digits{};
     const auto written = std::to_chars(digits.data(), digits.data() + digits.size(), x);
-    double decimal = static_cast<double>(x);
+    auto decimal = static_cast<double>(x);
     std::from_chars(digits.data(), written.ptr, decimal);
     return decimal;
 }
