@@ -95,6 +95,7 @@ void showNeeds(Hands& hands, const QString& look) {
                                      {"mnuRealRate", "real-rate-"},
                                      {"mnuKwikQuotes", "quote-"},
                                      {"mnuTaxLumpSum", "lump-sums-"},
+                                     {"mnuCapGainsTAx", "capital-gains-"},
                                      {"mnuEstateDutyEstimator", "estate-duty-"},
                                      {"mnuRATaxAdv", "retirement-funding-"},
                                      {"mnuTravClaim", "travel-"}}) {
