@@ -13,7 +13,6 @@
 #include "datastore/deletion.h"
 #include "datastore/save.h"
 #include "datastore/transfer.h"
-#include "datastore/workfiles.h"
 #include "store/openfiles.h"
 
 /// The promise of backup, restore and transfer: after any fault every file of clients is complete, old or new.
@@ -66,6 +65,16 @@ protected:
             ::pause();
         });
         ASSERT_TRUE(fs::exists(database.string() + "-journal"));
+    }
+    void whileAnotherHoldsIt(const std::function<void()>& act) const {
+        storetest::runAndKill(
+            [this](auto ready) {
+                store::Database other(file);
+                other.execute("BEGIN IMMEDIATE");
+                ready();
+                ::pause();
+            },
+            act);
     }
     void fetchAndRead(const fs::path& from) {
         datastore::fetchTransferFile(paths(), from);
@@ -123,14 +132,7 @@ TEST_F(DataCareTest, ABackupNeedsTheFileAloneAndUndamaged) {
         store::Database idle(file);
         expectNotRepaired("an idle connection");
     }
-    storetest::runAndKill(
-        [this](auto ready) {
-            store::Database other(file);
-            other.execute("BEGIN IMMEDIATE");
-            ready();
-            ::pause();
-        },
-        [&] { expectNotRepaired("another program"); });
+    whileAnotherHoldsIt([&] { expectNotRepaired("another program"); });
     leaveHotJournal(file);
     backUp();
     EXPECT_EQ(in(clientCount), "3");
@@ -140,23 +142,6 @@ TEST_F(DataCareTest, ABackupNeedsTheFileAloneAndUndamaged) {
     storetest::put(file, bytes);
     expectRefused(3049, "damaged", backUp);
     EXPECT_THROW(backUp(), datastore::NotRepaired);
-}
-
-TEST_F(DataCareTest, WithTheClientsElsewhereEachFileIsBackedUpByItself) {
-    datastore::Paths elsewhere = paths();
-    elsewhere.DataDbPath = backup;
-    fs::copy_file(file, backup);
-    runSql(backup, "DELETE FROM PersDetails WHERE DCLNO=1");
-    EXPECT_FALSE(datastore::isElsewhere(paths()));
-    EXPECT_TRUE(datastore::isElsewhere(elsewhere));
-    const std::string used = storetest::bytesOf(backup);
-    datastore::compactClientDb(elsewhere);
-    EXPECT_EQ(in(clientCount), "3");
-    datastore::compactFileInUse(elsewhere);
-    EXPECT_EQ(rowsOf(compacted, clientCount), "2");
-    EXPECT_EQ(storetest::bytesOf(backup), used);
-    fs::remove(file);
-    expectRefused(3024, "none in the program folder", [&] { datastore::compactClientDb(elsewhere); });
 }
 
 TEST_F(DataCareTest, ACopyIsRefusedOrLeavesWhatWasAtItsPlace) {
@@ -209,14 +194,7 @@ TEST_F(DataCareTest, OnlyAWholeFileOfClientsIsRestored) {
     }
     expectRefused(53, "gone", restore(stick / "gone.mdb"));
     storetest::put(backup, whole);
-    storetest::runAndKill(
-        [this](auto ready) {
-            store::Database other(file);
-            other.execute("BEGIN IMMEDIATE");
-            ready();
-            ::pause();
-        },
-        [&] { expectRefused(3356, "held by another program", restore(backup)); });
+    whileAnotherHoldsIt([&] { expectRefused(3356, "held by another program", restore(backup)); });
     const std::string before = storetest::bytesOf(file);
     restore(file)(); // itself
     EXPECT_EQ(storetest::bytesOf(file), before);
