@@ -30,7 +30,13 @@
 #include "datastore/frmMasterDBLocator.h"
 #include "datastore/frmREADFromA.h"
 #include "datastore/frmSaveFileAs.h"
+#include "diary/frmActPending.h"
+#include "diary/frmCalendar.h"
+#include "diary/frmDiary.h"
+#include "diary/frmFindBirthdays.h"
+#include "diary/frmFindSARS.h"
 #include "quotes/frmKwikQuotes.h"
+#include "reports/frmBlankAnaQuestion.h"
 #include "reports/frmGraph.h"
 #include "reports/frmHeadFoot.h"
 #include "shell/frmBrowser.h"
@@ -90,6 +96,13 @@ constexpr ScreenEntry entries[] = {
     {"frmEstateDutyEst", build<tax::frmEstateDutyEst>, "Estate duty"},
     {"frmRATaxAdv", build<tax::frmRATaxAdv>, "The advantage of retirement funding"},
     {"frmCarAll", build<tax::frmCarAll>, "Travel claims"},
+    {"frmCalendar", build<diary::frmCalendar>, "The diary"},
+    {"frmDiary", build<diary::frmDiary>, "The diary"},
+    {"frmCRM", build<diary::frmCRM>, "The diary"},
+    {"frmActPending", build<diary::frmActPending>, "The diary"},
+    {"frmBlankAnaQuestion", build<reports::frmBlankAnaQuestion>, "Blank questionnaires"},
+    {"frmFindSARS", build<diary::frmFindSARS>, "Review dates and birthdays"},
+    {"frmFindBirthdays", build<diary::frmFindBirthdays>, "Review dates and birthdays"},
 };
 
 constexpr const char* closedWithTheClient[] = {

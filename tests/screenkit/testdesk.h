@@ -65,7 +65,10 @@ public:
         offeredFilters = filters;
         return nextFile();
     }
-    std::optional<QString> input(const QString&, const QString&, const QString&) override { return {}; }
+    std::optional<QString> input(const QString& text, const QString&, const QString& initial) override {
+        asking = {text, initial};
+        return typed;
+    }
     bool choosePrinter(QPrinter& printer) override {
         if (printDialog) return printDialog(printer);
         printer.setOutputFormat(QPrinter::PdfFormat);
@@ -85,6 +88,8 @@ public:
     QString suggestedName;
     QStringList offeredFilters;
     QStringList opened;
+    QStringList asking;           ///< the last question for a line of text, and the text that it began with
+    std::optional<QString> typed; ///< the answer to it; nothing: the user cancels
     QDate day{2026, 11, 22};
     int bells = 0;
     int programsStarted = 0;

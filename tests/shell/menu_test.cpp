@@ -70,6 +70,11 @@ const std::set<std::string> working{
     "mnuRATaxAdv",
     "mnuTravClaim",
     "mnuCapGainsTAx",
+    "mnuReviewDates",
+    "mnuBirthdays",
+    "mnuPrintBlank",
+    "mnuCRM",
+    "mnuActPending",
 };
 
 QToolBar* toolbar(RunningProgram& run) { return run.window().findChild<QToolBar*>("Toolbar2"); }
