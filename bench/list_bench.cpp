@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QLineEdit>
 
+#include "diary/followup.h"
 #include "screenkit/grid.h"
 #include "screenkit/realdesk.h"
 #include "shell/mainwindow.h"
@@ -37,6 +38,8 @@ void addClients(store::Database& database) {
         add.bind(1, static_cast<double>(i)).bind(2, "Mr A " + name).bind(3, 20000.0 + i % 20000);
         add.bind(4, std::to_string(7000000000000 + i)).bind(5, name).bind(6, "Case " + std::to_string(i)).run();
     }
+    database.execute("INSERT INTO [Data] ([DCLNO], [Name], [BirthDate], [IDNumber], [DTHNextReview]) "
+                     "SELECT [DCLNO], [Name], [BirthDate], [IDNumber], 46000 + [DCLNO] % 730 FROM [PersDetails]");
     transaction.commit();
 }
 
@@ -72,6 +75,14 @@ public:
         const double taken = untilPainted([&] { list->sortByHead(5); });
         close();
         return taken;
+    }
+    double reviews(const diary::ReviewSearch& wanted) {
+        return bench::milliseconds([&] { diary::searchReviews(m_program.paths().DataDbPath, wanted); });
+    }
+    double birthdays() {
+        return bench::milliseconds([&] {
+            diary::searchBirthdays(m_program.paths().DataDbPath, {diary::Born::clients, 5}, 46348);
+        });
     }
 
 private:
@@ -129,6 +140,34 @@ const bench::Register sorted({
     .name = "100 000 clients sorted by a text",
     .floor = {},
     .ours = [] { return practice().sort(); },
+    .goal = 300,
+    .rounds = 9,
+});
+
+const bench::Register reviews({
+    .name = "a quarter's reviews of 100 000 clients",
+    .floor = {},
+    .ours =
+        [] {
+            return practice().reviews(
+                {diary::ReviewScope::nextReview, diary::NeedsAnalysis::death, 46000, 46090, true});
+        },
+    .goal = 300,
+    .rounds = 9,
+});
+
+const bench::Register everyone({
+    .name = "all of 100 000 clients in the review list",
+    .floor = {},
+    .ours = [] { return practice().reviews({}); },
+    .goal = 300,
+    .rounds = 9,
+});
+
+const bench::Register birthdays({
+    .name = "birthdays of a month among 100 000 clients",
+    .floor = {},
+    .ours = [] { return practice().birthdays(); },
     .goal = 300,
     .rounds = 9,
 });

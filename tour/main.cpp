@@ -117,6 +117,7 @@ void wholeCase() {
     session([&](Hands& hands) {
         tour::findClient(hands);
         tour::compare(hands, seen);
+        tour::followClientsUp(hands);
         tour::drawDown(hands);
         tour::careForClients(hands);
     });

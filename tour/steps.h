@@ -58,6 +58,8 @@ void exitProgram(Hands& hands);
 // The second session, which must find everything again.
 void findClient(Hands& hands);
 void compare(Hands& hands, const Seen& before);
+/// The diary, the searches of the file and the blank forms.
+void followClientsUp(Hands& hands);
 /// Ends with New.
 void drawDown(Hands& hands);
 /// Ends with a blank client and the file as it was.
