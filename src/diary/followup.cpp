@@ -20,41 +20,40 @@ constexpr int dependants = 8;
 
 std::string digits(double wholeNumber) { return std::to_string(std::llround(wholeNumber)); }
 
-/// Sorts by the text or the date; equal ones stay in the order in which they were found.
-void sortByText(std::vector<FoundClient>& found, const std::vector<std::string>& texts) {
-    std::vector<std::pair<base::SortKey, std::size_t>> order;
-    order.reserve(found.size());
-    for (const std::string& text : texts)
-        order.emplace_back(text, order.size());
-    std::ranges::stable_sort(order, [](const auto& a, const auto& b) { return a.first < b.first; });
-    std::vector<FoundClient> sorted;
-    sorted.reserve(found.size());
-    for (const auto& [key, at] : order)
-        sorted.push_back(std::move(found[at]));
-    found = std::move(sorted);
-}
-
-/// Reads `DBSearch`: name, spouse or dependant, ID number, both dates, and the text to sort by.
+/// Reads `DBSearch`: name, spouse or dependant, ID number and both dates, ordered by a text column, or first by a date.
 std::vector<FoundClient> readFound(store::Database& database, const std::string& other, const std::string& order,
-                                   const std::string& rest) {
+                                   double FoundClient::*date, const std::string& rest = {}) {
     store::Statement rows =
         database.prepare("SELECT [Client Name], " + other + ", [IDNumber], [BirthDate], " +
                          "coalesce([ReviewDate], -693959), " + order + " FROM [DBSearch]" + rest + " ORDER BY rowid");
+    struct Place {
+        base::SortKey text;
+        double date;
+        std::size_t at; ///< equal ones stay in the order in which they were found
+    };
     std::vector<FoundClient> found;
-    std::vector<std::string> texts;
+    std::vector<Place> places;
     while (rows.step()) {
         found.push_back({rows.text(0), rows.text(1), rows.text(2),
                          store::isNull(rows.column(3)) ? base::NoDate : rows.number(3), rows.number(4)});
-        texts.push_back(rows.text(5));
+        places.push_back({base::SortKey(rows.text(5)), date != nullptr ? found.back().*date : 0, places.size()});
     }
-    sortByText(found, texts);
-    return found;
+    std::ranges::sort(places, [](const Place& a, const Place& b) {
+        if (a.date != b.date) return a.date < b.date;
+        if (a.text < b.text) return true;
+        return !(b.text < a.text) && a.at < b.at;
+    });
+    std::vector<FoundClient> sorted;
+    sorted.reserve(found.size());
+    for (const Place& place : places)
+        sorted.push_back(std::move(found[place.at]));
+    return sorted;
 }
 
 /// True for a day number of this month, also before 1900, without a time of day or with one.
 std::string isInMonth(const std::string& field, int month) {
-    return "CAST(strftime('%m', " + field + " + 2415018.5) AS INTEGER) = " + std::to_string(month) + " AND " + field +
-           " > " + digits(base::blankDate);
+    return field + " > " + digits(base::blankDate) + " AND CAST(strftime('%m', " + field +
+           " + 2415018.5) AS INTEGER) = " + std::to_string(month);
 }
 
 void insertBirthdays(store::Database& database, const BirthdaySearch& search) {
@@ -85,22 +84,23 @@ std::vector<FoundClient> searchReviews(const std::filesystem::path& dataDb, cons
     store::Database database(dataDb);
     store::Transaction transaction(database);
     database.execute("DELETE FROM [DBSearch]");
+    // No date in the file becomes what an empty date field holds.
+    const std::string birthDate =
+        "CASE [BirthDate] WHEN " + digits(base::blankDate) + " THEN " + digits(base::NoDate) + " ELSE [BirthDate] END";
     const bool isRange = search.scope != ReviewScope::everyone;
     if (!isRange)
-        database.execute("INSERT INTO [DBSearch] ([Client Name], [BirthDate], [IDNumber]) "
-                         "SELECT [Name], [BirthDate], [IDNumber] FROM [Data] ORDER BY rowid");
+        database.execute("INSERT INTO [DBSearch] ([Client Name], [BirthDate], [IDNumber]) SELECT [Name], " + birthDate +
+                         ", [IDNumber] FROM [Data] ORDER BY rowid");
     else if (search.start != base::NoDate && search.end != base::NoDate) {
         const std::string field = store::bracketed(
             reviewFields[static_cast<int>(search.analysis)][search.scope == ReviewScope::nextReview ? 1 : 0]);
-        database.execute("INSERT INTO [DBSearch] ([Client Name], [BirthDate], [IDNumber], [ReviewDate]) "
-                         "SELECT [Name], [BirthDate], [IDNumber], " +
-                         field + " FROM [Data] WHERE " + field + " BETWEEN " + digits(search.start) + " AND " +
-                         digits(search.end) + " ORDER BY rowid");
+        database.execute(
+            "INSERT INTO [DBSearch] ([Client Name], [BirthDate], [IDNumber], [ReviewDate]) SELECT [Name], " +
+            birthDate + ", [IDNumber], " + field + " FROM [Data] WHERE " + field + " BETWEEN " + digits(search.start) +
+            " AND " + digits(search.end) + " ORDER BY rowid");
     }
-    database.execute("UPDATE [DBSearch] SET [BirthDate] = " + digits(base::NoDate) +
-                     " WHERE [BirthDate] = " + digits(base::blankDate));
-    std::vector<FoundClient> found = readFound(database, "''", "[Client Name]", "");
-    if (isRange && search.byDate) std::ranges::stable_sort(found, {}, &FoundClient::ReviewDate);
+    std::vector<FoundClient> found =
+        readFound(database, "''", "[Client Name]", isRange && search.byDate ? &FoundClient::ReviewDate : nullptr);
     transaction.commit();
     return found;
 }
@@ -119,8 +119,8 @@ std::vector<FoundClient> searchBirthdays(const std::filesystem::path& dataDb, co
     constexpr const char* others[] = {"''", "[Spouse]", "[Dependant]"};
     std::vector<FoundClient> found =
         readFound(database, others[static_cast<int>(search.who)], "[NameOrder]",
+                  search.byDate ? &FoundClient::BirthDate : nullptr,
                   " WHERE [BirthDate] BETWEEN " + digits(range.from) + " AND " + digits(range.to));
-    if (search.byDate) std::ranges::stable_sort(found, {}, &FoundClient::BirthDate);
     transaction.commit();
     return found;
 }

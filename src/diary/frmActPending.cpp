@@ -23,7 +23,7 @@ void frmActPending::show(std::vector<Entry> entries) {
     m_entries = std::move(entries);
     static constexpr Column texts[] = {Column::day, Column::time, Column::name, Column::details, Column::type};
     m_list->show({GridColumn::date("Date"), GridColumn::text("Time", 10), GridColumn::text("Name", 24),
-                  GridColumn::text("Appointment details", 32), GridColumn::text("Type", 14)},
+                  GridColumn::text("Appointment details"), GridColumn::text("Type", 14)},
                  {m_entries.size(), [this](std::size_t line, std::size_t column) -> GridCell {
                       if (column == 0) return m_entries[line].number(Column::day);
                       return QString::fromStdString(m_entries[line].text(texts[column])).simplified();

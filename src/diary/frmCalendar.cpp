@@ -66,8 +66,12 @@ QWidget* frmCalendar::buildCalendar() {
                                      }});
     firstDay->setRows(
         {"1 - Sunday", "2 - Monday", "3 - Tuesday", "4 - Wednesday", "5 - Thursday", "6 - Friday", "7 - Saturday"});
-    auto* months = options(
-        "Option2", {"1", "2", "3"}, m_months, [this](int which) { m_calendar->setMonths(which + 1); }, Qt::Horizontal);
+    const auto setMonths = [this](int which) {
+        const int before = m_calendar->sizeHint().width();
+        m_calendar->setMonths(which + 1);
+        makeRoom(this, size() + QSize(std::max(0, m_calendar->sizeHint().width() - before), 0));
+    };
+    auto* months = options("Option2", {"1", "2", "3"}, m_months, setMonths, Qt::Horizontal);
     for (int i = 0; i < 3; ++i)
         months->option(i)->setAccessibleName(i == 0 ? tr("1 month") : tr("%1 months").arg(i + 1));
     m_dateField = date("txtDateSelected", m_typedDay, requiredDate);
@@ -114,9 +118,9 @@ QWidget* frmCalendar::buildForm() {
     for (const std::string& time : times())
         rows << words(time);
     m_times->setRows(rows);
-    m_names = new ComboField("cboSelectDBName", tr("Name from the client file"), 32, m_client,
+    m_names = new ComboField("cboSelectDBName", tr("Name from the client file"), 24, m_client,
                              {"Name Not Selected", "Marlowbeck"});
-    m_nameField = text("txtDiaryName", m_typedName, 80, 34);
+    m_nameField = text("txtDiaryName", m_typedName, 80, 27);
     m_detailField = memo("txtAppointmentDetail", Bound<QString>(m_details), 4000);
     m_sources = options("optUseNameApp", {"Use This name for Appointment", "Use This name for Appointment"}, m_source,
                         {}, std::nullopt);
@@ -189,8 +193,8 @@ void frmCalendar::showEntries(std::vector<Entry> entries) {
     const auto cell = [this](std::size_t line, std::size_t column) -> GridCell {
         return words(m_entries[line].text(shownColumns[column])).simplified();
     };
-    m_list->show({GridColumn::text("Time", 10), GridColumn::text("Name", 22),
-                  GridColumn::text("Appointment details", 24), GridColumn::text("Type", 14)},
+    m_list->show({GridColumn::text("Time", 10), GridColumn::text("Name", 22), GridColumn::text("Appointment details"),
+                  GridColumn::text("Type", 14)},
                  {m_entries.size(), cell});
     m_list->setSortedBy(0);
     enableButtons();

@@ -29,9 +29,7 @@ void FollowUpScreen::layOut(QLayout* choices) {
     m_list = table("DBGrid1", tr("Clients found"), Grid::Picking::stretch);
     m_list->setVisibleLines(14);
     m_list->setEmptyText(tr("Choose what to look for, then Search."));
-    m_list->show({GridColumn::text("Client Name", 34), GridColumn::date("Date of birth"), GridColumn::text("ID number"),
-                  GridColumn::date("Review date")},
-                 GridRows()); // decides how wide the window opens
+    m_list->show(heads(), GridRows()); // decides how wide the window opens
     m_count = shown("txtFound", 24);
     m_count->setAccessibleName(tr("Found"));
     auto* find = button("cmdSearch", "&Search", [this] { cmdSearch(); });

@@ -92,7 +92,7 @@ TEST_F(FollowUp, FindsBirthdaysByMonthAndAge) {
 }
 
 TEST_F(FollowUp, LeavesTheLastSearchIfItFails) {
-    folder.run("Data.Mdb", "INSERT INTO DBSearch ([Client Name]) VALUES ('before'); CREATE TRIGGER stop AFTER UPDATE "
+    folder.run("Data.Mdb", "INSERT INTO DBSearch ([Client Name]) VALUES ('before'); CREATE TRIGGER stop AFTER INSERT "
                            "ON DBSearch BEGIN SELECT RAISE(ABORT, 'no'); END; INSERT INTO [Data] (DCLNO, BirthDate) "
                            "VALUES (1, -36522)");
     EXPECT_NE(datastoretest::errorOf([&] { searchReviews(file, {}); }), 0);
