@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <random>
+#include <thread>
+
 #include "base/day.h"
 #include "store/store_support.h"
 
@@ -125,6 +129,27 @@ TEST_F(Diary, KeepsThreeTypesOfTheUsersOwn) {
     EXPECT_EQ(LoadDiaryTypes(file), (std::array<UserType, 3>{{{"U.D.D.E. 1"}, {"Tennis", true}, {"U.D.D.E. 3"}}}));
     SaveDiaryType(file, 1, std::string(60, 'x'));
     EXPECT_EQ(LoadDiaryTypes(file)[0].caption, std::string(50, 'x'));
+}
+
+TEST_F(Diary, LosesNoEntryOfAFullDayWhenAMoveIsKilled) {
+    std::vector<Entry> full;
+    for (int i = 0; i < 1000; ++i)
+        full.push_back(makeEntry(day, static_cast<std::size_t>(i % 41), std::to_string(i), 0, "", toDo));
+    SaveDiaryAppoints(file, day, full);
+    EXPECT_EQ(readDay(file, day).size(), 1000U);
+    std::minstd_rand random; // NOLINT: the same pauses each time
+    for (int round = 0; round < 15; ++round) {
+        storetest::runAndKill(
+            [&](auto ready) {
+                ready();
+                for (double from = day, to = day + 1;; std::swap(from, to)) {
+                    const std::vector<Entry> staying = readDay(file, from);
+                    moveEntry(file, from, {staying.begin() + 1, staying.end()}, makeEntry(to, 0, "moved", 0, "", toDo));
+                }
+            },
+            [&] { std::this_thread::sleep_for(std::chrono::milliseconds(random() % 40)); });
+        EXPECT_EQ(readDay(file, day).size() + readDay(file, day + 1).size(), 1000U) << round;
+    }
 }
 
 TEST_F(Diary, NeedsItsFile) {
