@@ -136,7 +136,10 @@ TEST_F(DataCareTest, ABackupNeedsTheFileAloneAndUndamaged) {
     leaveHotJournal(file);
     backUp();
     EXPECT_EQ(in(clientCount), "3");
-    std::string bytes = storetest::bytesOf(file);
+    const std::string sound = storetest::bytesOf(file);
+    run("CREATE TABLE T (A CHECK (A > 0)); PRAGMA ignore_check_constraints=ON; INSERT INTO T VALUES (-1)");
+    expectRefused(3049, "readable, but its check finds a fault", backUp);
+    std::string bytes = sound;
     for (std::size_t at = 3 * 4096; at < bytes.size(); at += 4096)
         bytes.replace(at, 12, 12, '\x55');
     storetest::put(file, bytes);
@@ -171,6 +174,8 @@ TEST_F(DataCareTest, ACopyIsRefusedOrLeavesWhatWasAtItsPlace) {
         EXPECT_EQ(contentsOf(folder.path()).size(), 6U) << "three databases, the link and two files on the stick";
     }
     const storetest::OrdinaryUser user(folder);
+    ::chmod(file.c_str(), 0400);
+    expectRefused(70, "a file that its owner made read-only", [this] { datastore::compactClientDb(paths()); });
     ::chmod(backup.c_str(), 0400);
     expectRefused(70, "read-only file", copyTo(backup));
     ::chmod(stick.c_str(), 0500);
