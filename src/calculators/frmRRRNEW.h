@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "calculators/realratescreen.h"
+#include "calculators/frmRealRate.h"
 
 namespace calculators {
 

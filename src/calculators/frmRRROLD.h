@@ -1,6 +1,6 @@
 #pragma once
 
-#include "calculators/realratescreen.h"
+#include "calculators/frmRealRate.h"
 
 namespace calculators {
 

@@ -56,6 +56,7 @@ void FollowUpScreen::cmdSearch() {
     }
     if (!found) return;
     m_found = std::move(*found);
+    m_bound.emplace(m_work.paths.DataDbPath);
     m_list->setEmptyText(tr("Nobody was found."));
     m_list->show(heads(), {m_found.size(),
                            [this](std::size_t line, std::size_t column) { return cell(m_found[line], column); }});

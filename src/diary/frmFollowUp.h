@@ -1,7 +1,10 @@
 #pragma once
 
+#include <optional>
+
 #include "diary/followup.h"
 #include "screenkit/screen.h"
+#include "store/openfiles.h"
 
 namespace diary {
 
@@ -25,11 +28,14 @@ protected:
     virtual screenkit::GridCell cell(const FoundClient& line, std::size_t column) const = 0;
     virtual datastore::Printout feed(const std::vector<FoundClient>& found) const = 0;
 
+    void closing() override { m_bound.reset(); }
+
 private:
     void cmdSearch();
     void cmdPrint();
 
     std::vector<FoundClient> m_found;
+    std::optional<store::OpenFile> m_bound; ///< while a list is shown, its file must not be replaced
     screenkit::Grid* m_list = nullptr;
     QLineEdit* m_count = nullptr;
     screenkit::PrintPanel* m_printPanel = nullptr;

@@ -38,6 +38,8 @@ TEST_F(FollowUpScreens, ListAndPrintReviewDates) {
     EXPECT_EQ(run.inClients("SELECT count(*) FROM DBSearch"), "0"); // opening writes nothing
     run.click("cmdSearch");
     EXPECT_EQ(list(), (Lines{{"Mr P O'Brien", "25/05/1979", "id1"}, {"Ms A Êksteen", "", ""}}));
+    EXPECT_EQ(run.desk.told([&] { run.menu("mnuBackup"); }).text, // the list shown holds the file
+              "Please ensure that all windows in Marlowbeck are closed and try the Backup data option again!");
     run.click("Option3");
     run.click("Option7");
     run.click("cmdSearch"); // without dates
