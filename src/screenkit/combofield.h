@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QComboBox>
+#include <QWheelEvent>
 
 #include "screenkit/bound.h"
 #include "screenkit/field.h"
