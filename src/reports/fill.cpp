@@ -92,7 +92,8 @@ public:
         check(m_definition.body, hasTable ? &known(m_definition.table, file, m_definition.tableLine) : nullptr);
         const Scope scope = firstRow(m_definition.table);
         return {.title = m_definition.title,
-                .client = printable(m_snapshot.client()).simplified(),
+                // A form without data is nobody's: the name kept from the last printout must not be on it.
+                .client = hasTable ? printable(m_snapshot.client()).simplified() : QString(),
                 .date = {},
                 .headerLines = printable(m_snapshot.headerLines()),
                 .footerLines = printable(m_snapshot.footerLines()),

@@ -1,5 +1,6 @@
 #include "reports/previewwindow.h"
 #include "reports/report.h"
+#include "reports/report_support.h"
 #include "shell/running_program.h"
 
 namespace {
@@ -8,6 +9,7 @@ using shelltest::RunningProgram;
 
 TEST(BlankForms, AreViewedOrPrintedAsTicked) {
     RunningProgram run;
+    run.inPrint("UPDATE Printout SET Client = 'Mr S. Botha'"); // left by the last printout
     run.menu("mnuPrintBlank");
     reports::Engine& reports = run.window().workplace().reports;
     run.click("cmdVR");
@@ -34,6 +36,8 @@ TEST(BlankForms, AreViewedOrPrintedAsTicked) {
         RunningProgram::settle();
         run.click(box);
     }
+    const QString page = reporttest::textOfPdf(reports.pdf("Blank Retirement.rpt"));
+    EXPECT_TRUE(page.contains("Retirement") && !page.contains("Botha")) << page.toStdString();
     run.click("chkRetirement");
     run.click("chkPersonalDetails");
     run.click("cmdVR");
