@@ -26,6 +26,7 @@ bool MenuKeys::eventFilter(QObject*, QEvent* event) {
     case QEvent::KeyPress: {
         const auto* key = static_cast<QKeyEvent*>(event);
         m_altAlone = key->key() == Qt::Key_Alt && (key->modifiers() & others) == 0 && isInFront();
+        if (event->type() == QEvent::KeyPress && choosesItem(key->key())) return true;
         break;
     }
     case QEvent::KeyRelease:
@@ -34,13 +35,31 @@ bool MenuKeys::eventFilter(QObject*, QEvent* event) {
         return true;
     case QEvent::MouseButtonPress:
     case QEvent::Wheel:
-    case QEvent::WindowDeactivate: m_altAlone = false; break;
+    case QEvent::WindowDeactivate: m_altAlone = m_inMenu = false; break;
     default: break;
     }
     return false;
 }
 
+bool MenuKeys::choosesItem(int key) {
+    const bool walks = key == Qt::Key_Left || key == Qt::Key_Right;
+    const bool chooses = key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space;
+    if (!isInFront()) { // a menu is open, and knows its keys
+        if (!walks && chooses) m_inMenu = false;
+        if (walks) m_inMenu = true;
+        return false;
+    }
+    if (!walks && !std::exchange(m_inMenu, false)) return false;
+    QMenuBar* bar = m_window->menuBar();
+    QAction* item = bar->activeAction();
+    if (!chooses || item == nullptr || item->menu() != nullptr) return false;
+    bar->setActiveAction(nullptr);
+    item->trigger();
+    return true;
+}
+
 void MenuKeys::openMenu() {
+    m_inMenu = true;
     const auto items = m_window->menuBar()->actions();
     const auto first = std::find_if(items.begin(), items.end(), [](auto* item) { return item->isEnabled(); });
     if (first != items.end()) m_window->menuBar()->setActiveAction(*first);

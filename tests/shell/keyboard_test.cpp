@@ -255,6 +255,21 @@ TEST_P(Keyboard, EachAccessKeyIsOneCaptionsAndNoneOfOursIsTheMenus) {
     });
 }
 
+TEST(MenuKeys, AnItemWithoutAMenuIsChosenByEnter) {
+    RunningProgram run;
+    const auto press = [](Qt::Key key) {
+        QWidget* popup = QApplication::activePopupWidget();
+        QWidget* focused = QApplication::focusWidget();
+        QTest::keyClick(popup != nullptr ? popup : focused != nullptr ? focused : QApplication::activeWindow(), key);
+        RunningProgram::settle();
+    };
+    press(Qt::Key_F10);
+    for (int i = 0; i < 5; ++i)
+        press(Qt::Key_Right);
+    press(Qt::Key_Return);
+    EXPECT_TRUE(run.isOpen("frmCRM"));
+}
+
 TEST_P(Keyboard, TheMenuOpensByF10ByAltAloneAndByEachLetterThatTheScreenLeavesIt) {
     openPanel();
     auto* bar = run.window().menuBar();
