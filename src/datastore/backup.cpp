@@ -19,11 +19,6 @@ namespace {
 
 constexpr const char* countClients = "SELECT count(*) FROM [PersDetails]";
 
-bool isThere(const fs::path& file) {
-    std::error_code ignored;
-    return fs::exists(file, ignored);
-}
-
 /// Has the file to itself, and has found it undamaged.
 class Repaired {
 public:
@@ -40,22 +35,6 @@ public:
 
 private:
     std::optional<UpkeepDatabase> m_database;
-};
-
-/// Removes a working copy at the end of its scope, unless it has found its place.
-class WorkingCopy {
-public:
-    explicit WorkingCopy(const fs::path& path) : m_path(path) {}
-    ~WorkingCopy() {
-        if (!m_kept) store::removeDatabase(m_path);
-    }
-    WorkingCopy(const WorkingCopy&) = delete;
-    WorkingCopy& operator=(const WorkingCopy&) = delete;
-    void keep() { m_kept = true; }
-
-private:
-    fs::path m_path;
-    bool m_kept = false;
 };
 
 void compactChecked(UpkeepDatabase& source, const fs::path& compacted, const Progress& progress) {
@@ -115,7 +94,7 @@ void compactClientDb(const Paths& paths, const Progress& progress) {
     std::optional<UpkeepDatabase> own;
     if (isElsewhere(paths)) own.emplace(files.own, store::Lock::exclusive, progress);
     UpkeepDatabase& source = own ? *own : *used;
-    WorkingCopy compacted(files.compacted);
+    store::WorkingCopy compacted(files.compacted);
     compactChecked(source, files.compacted, progress);
     store::replaceKeepingOld(files.compacted, source.path(), files.kept);
     compacted.keep();
@@ -125,7 +104,7 @@ void compactFileInUse(const Paths& paths, const Progress& progress) {
     requireSafePlace(paths);
     const fs::path compacted = WorkFiles(paths.programFolder).compacted;
     Repaired used(paths.DataDbPath, progress);
-    WorkingCopy copy(compacted);
+    store::WorkingCopy copy(compacted);
     compactChecked(*used, compacted, progress);
     copy.keep();
 }
@@ -139,7 +118,7 @@ void copyToMedia(const Paths& paths, const fs::path& file, const fs::path& desti
     store::FileBeside beside(destination);
     store::copyFile(file, beside.path(), progress);
     checkCopy(beside.path(), clients, progress);
-    if (isThere(destination)) {
+    if (store::isThere(destination)) {
         store::takeOverRights(beside.path(), destination);
         settleOldFile(destination);
     }
@@ -147,14 +126,14 @@ void copyToMedia(const Paths& paths, const fs::path& file, const fs::path& desti
 }
 
 void restoreClientDb(const Paths& paths, const fs::path& chosen, const fs::path& target, const Progress& progress) {
-    if (isThere(chosen) && store::isSameFile(chosen, target)) return;
+    if (store::isThere(chosen) && store::isSameFile(chosen, target)) return;
     store::FileBeside beside(target);
     store::copyDatabase(chosen, beside.path(), progress);
     checkCopy(beside.path(), {}, progress);
     bringCopyUpToDate(paths, beside.path());
     store::tell(progress, 1);
     std::optional<UpkeepDatabase> old;
-    if (isThere(target)) {
+    if (store::isThere(target)) {
         store::takeOverRights(beside.path(), target);
         try {
             old.emplace(target, store::Lock::exclusive);

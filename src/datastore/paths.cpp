@@ -77,20 +77,16 @@ fs::path findDataDb(const fs::path& programFolder) {
     return own;
 }
 
-bool isThere(const fs::path& path) {
-    std::error_code ignored;
-    return fs::exists(path, ignored);
-}
-
 bool isProgramFolder(const fs::path& folder) {
-    return isThere(store::existingSpelling(folder / "Default.Mdb")) || isThere(printDbPath(folder));
+    return store::isThere(store::existingSpelling(folder / "Default.Mdb")) || store::isThere(printDbPath(folder));
 }
 
 bool isWrittenForAnother(const Paths& paths) {
     const std::string text = readLocation(paths.programFolder).value_or("");
     if (const auto writtenFor = parseWrittenFor(text)) return !store::isSameFile(*writtenFor, paths.programFolder);
     const fs::path folder = paths.DataDbPath.parent_path();
-    return !store::isSameFile(folder, paths.programFolder) && (isProgramFolder(folder) || !isThere(paths.DataDbPath));
+    return !store::isSameFile(folder, paths.programFolder) &&
+           (isProgramFolder(folder) || !store::isThere(paths.DataDbPath));
 }
 
 } // namespace
@@ -129,7 +125,7 @@ Paths findPaths(const fs::path& programFolder) {
 
 std::string copiedFolderNotice(const Paths& paths) {
     const fs::path own = ownDataDb(paths.programFolder);
-    if (!isThere(own) || store::isSameFile(own, paths.DataDbPath) || !isWrittenForAnother(paths)) return {};
+    if (!store::isThere(own) || store::isSameFile(own, paths.DataDbPath) || !isWrittenForAnother(paths)) return {};
     return "The clients that you see are those of\n" + paths.DataDbPath.string() + "\nas DataPath.txt says.\n\n" +
            "This folder also has a client file of its own:\n" + own.string() +
            "\nThis folder seems to be a copy of another one. To work with its own file, close Marlowbeck, "

@@ -67,30 +67,9 @@ std::optional<Which> askWhichFile(Workplace& work, const QString& question, cons
     }
 }
 
-/// The copy of a file elsewhere is made in a working file, which goes at the end.
-class WorkingCopy {
-public:
-    WorkingCopy(const fs::path& file, bool temporary) : m_file(file), m_temporary(temporary) {}
-    ~WorkingCopy() {
-        if (m_temporary) store::removeDatabase(m_file);
-    }
-    WorkingCopy(const WorkingCopy&) = delete;
-    WorkingCopy& operator=(const WorkingCopy&) = delete;
-    const fs::path& path() const { return m_file; }
-
-private:
-    fs::path m_file;
-    bool m_temporary;
-};
-
 void closeScreensOfTheFile(MDIForm1& window) {
     for (const char* name : screensOfTheFile())
         if (auto* open = qobject_cast<screenkit::Screen*>(window.screen(name)); open != nullptr) open->drop();
-}
-
-bool isThere(const fs::path& file) {
-    std::error_code ignored;
-    return fs::exists(file, ignored);
 }
 
 } // namespace
@@ -126,7 +105,8 @@ void mnuBackup_Click(MDIForm1& window) {
     } catch (const datastore::NotRepaired&) {
         return work.desk.tell(BoxStyle::warning, closeWindows, "Marlowbeck");
     }
-    const WorkingCopy copy(inUse ? files.compacted : files.own, inUse);
+    store::WorkingCopy copy(inUse ? files.compacted : files.own);
+    if (!inUse) copy.keep(); // it is the program folder's own file
     const auto destination =
         datastore::askDestination(work.desk, "Backup File Data.Mdb to 'Save In:' destination drive/path?", "Data.Mdb");
     if (!destination) return datastore::tellCancelled(work.desk);
@@ -149,7 +129,7 @@ void mnuRestore_Click(MDIForm1& window) {
     if (!chosen) return tellCancelled();
     const bool isInUse = *which == Which::inUse || !datastore::isElsewhere(work.paths);
     const fs::path target = isInUse ? work.paths.DataDbPath : datastore::WorkFiles(work.paths.programFolder).own;
-    if (!isInUse && !isThere(target)) return desk.tell(BoxStyle::critical, wrongPath, "Path Error!");
+    if (!isInUse && !store::isThere(target)) return desk.tell(BoxStyle::critical, wrongPath, "Path Error!");
     closeScreensOfTheFile(window); // they show keys of the old file
     try {
         if (!screenkit::runLongWork(QObject::tr("Checking and copying the backup"),

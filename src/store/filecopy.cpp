@@ -73,6 +73,11 @@ void keep(const fs::path& target, const fs::path& kept) {
 
 } // namespace
 
+bool isThere(const fs::path& path) {
+    std::error_code ignored;
+    return fs::exists(path, ignored);
+}
+
 bool isSameFile(const fs::path& one, const fs::path& other) {
     std::error_code failed;
     return one == other || (fs::equivalent(one, other, failed) && !failed);

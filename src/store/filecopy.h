@@ -1,10 +1,14 @@
 #pragma once
 
 #include <filesystem>
+#include <utility>
 
 #include "store/progress.h"
 
 namespace store {
+
+/// True if something has this name; false also where that can't be found out.
+bool isThere(const std::filesystem::path& path);
 
 /// True if both paths mean one existing file, or are equal.
 bool isSameFile(const std::filesystem::path& one, const std::filesystem::path& other);
@@ -29,5 +33,22 @@ void replaceKeepingOld(const std::filesystem::path& finished, const std::filesys
 
 /// Removes a database and its journals, if they exist.
 void removeDatabase(const std::filesystem::path& database);
+
+/// Removes a working copy of a database at the end of its scope, unless it has found its place.
+class WorkingCopy {
+public:
+    explicit WorkingCopy(std::filesystem::path path) : m_path(std::move(path)) {}
+    ~WorkingCopy() {
+        if (!m_kept) removeDatabase(m_path);
+    }
+    WorkingCopy(const WorkingCopy&) = delete;
+    WorkingCopy& operator=(const WorkingCopy&) = delete;
+    const std::filesystem::path& path() const { return m_path; }
+    void keep() { m_kept = true; }
+
+private:
+    std::filesystem::path m_path;
+    bool m_kept = false;
+};
 
 } // namespace store

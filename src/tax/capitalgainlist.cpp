@@ -100,15 +100,9 @@ void takeItemisedGains(CapitalGains& gains, std::vector<CGTTrustRow> rows) {
     gains.trustOther = std::move(rows);
 }
 
-std::optional<std::string> yesOrNo(std::string_view typed) {
-    const std::string word = base::trim(typed);
-    for (const char* yes : {"y", "yes"})
-        if (base::sameWord(word, yes)) return "Yes";
-    for (const char* no : {"", "n", "no"})
-        if (base::sameWord(word, no)) return "No";
-    return {};
+bool isYes(std::string_view stored) {
+    const std::string word = base::trim(stored);
+    return base::sameWord(word, "yes") || base::sameWord(word, "y") || word == "1";
 }
-
-bool isYes(std::string_view stored) { return yesOrNo(stored) == "Yes" || base::sameWord(stored, "1"); }
 
 } // namespace tax

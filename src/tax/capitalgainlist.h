@@ -77,10 +77,7 @@ private:
 /// of a row is typed, not worked out from proceeds and base cost.
 void takeItemisedGains(assessment::CapitalGains& gains, std::vector<assessment::CGTTrustRow> rows);
 
-/// "Yes" or "No" for y, yes, n and no in any case and for an empty text (No); nothing for any other text.
-std::optional<std::string> yesOrNo(std::string_view typed);
-
-/// True for a stored "Yes"; files may also hold 1 for it. Anything else is No.
+/// True for a stored "Yes" in any case; files may also hold Y or 1 for it. Anything else is No.
 bool isYes(std::string_view stored);
 
 } // namespace tax

@@ -267,8 +267,8 @@ TEST(CapitalGainList, ItemisedGainsAreSummedByPlaceAndSplit) {
     takeItemisedGains(gains, {{"A", "No", 100, 0, 0, "Yes"}, {"B", "No", -100, 0, 0, ""}});
     EXPECT_EQ(gains.AdditCapGainLocal, -50);
     EXPECT_EQ(gains.ItemiseAdditCapGain, 0); // unhalved they are nothing
-    for (const auto& [typed, answer] : {std::pair("Y", "Yes"), {" yes", "Yes"}, {"nO", "No"}, {"", "No"}, {"x", ""}})
-        EXPECT_EQ(yesOrNo(typed).value_or(""), answer);
+    for (const auto& [stored, means] : {std::pair("Y", true), {" yes", true}, {"1", true}, {"nO", false}, {"", false}})
+        EXPECT_EQ(isYes(stored), means) << stored;
 }
 
 } // namespace
