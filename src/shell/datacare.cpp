@@ -105,12 +105,13 @@ void mnuBackup_Click(MDIForm1& window) {
     } catch (const datastore::NotRepaired&) {
         return work.desk.tell(BoxStyle::warning, closeWindows, "Marlowbeck");
     }
-    store::WorkingCopy copy(inUse ? files.compacted : files.own);
-    if (!inUse) copy.keep(); // it is the program folder's own file
+    std::optional<store::WorkingCopy> temporary; // of a file elsewhere; the program folder's own is never one
+    if (inUse) temporary.emplace(files.compacted);
+    const fs::path& copy = inUse ? files.compacted : files.own;
     const auto destination =
         datastore::askDestination(work.desk, "Backup File Data.Mdb to 'Save In:' destination drive/path?", "Data.Mdb");
     if (!destination) return datastore::tellCancelled(work.desk);
-    if (datastore::writeToMedium(work, copy.path(), *destination, "There is a problem Writing to the Chosen Media?"))
+    if (datastore::writeToMedium(work, copy, *destination, "There is a problem Writing to the Chosen Media?"))
         work.desk.tell(BoxStyle::information, "Backing up of Database completed !", "Marlowbeck");
 }
 

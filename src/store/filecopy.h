@@ -43,7 +43,6 @@ public:
     }
     WorkingCopy(const WorkingCopy&) = delete;
     WorkingCopy& operator=(const WorkingCopy&) = delete;
-    const std::filesystem::path& path() const { return m_path; }
     void keep() { m_kept = true; }
 
 private:
