@@ -26,7 +26,7 @@ namespace {
 /// Removes an unfinished file at the end of its scope.
 class Unfinished {
 public:
-    explicit Unfinished(const fs::path& path) : m_path(path) {}
+    explicit Unfinished(fs::path path) : m_path(std::move(path)) {}
     ~Unfinished() {
         if (!m_finished) ::unlink(m_path.c_str());
     }
