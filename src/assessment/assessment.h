@@ -7,6 +7,7 @@
 
 #include "assessment/cgt.h"
 #include "assessment/changed.h"
+#include "assessment/filetexts.h"
 #include "assessment/itemised.h"
 #include "assessment/lumpsums.h"
 #include "assessment/personaldetails.h"
@@ -405,6 +406,7 @@ struct Assessment {
     double PolicyMonthlyIncome = 0; ///< pensions of all policies, rand a month; computed with them, never stored
     CapitalGains capitalGains;
     LumpSums lumpSums;
+    FileTexts fileTexts;
     FundDefaults funds;
     UnstoredRates unstoredRates; ///< kept when another client comes
 

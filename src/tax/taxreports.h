@@ -8,6 +8,14 @@
 
 namespace tax {
 
+/// A month as its screen shows it; no file has it.
+struct MonthShown {
+    std::string employee; ///< as printed
+    MonthlyInputs inputs;
+    PAYESetup setup;
+    MonthlyTax result;
+};
+
 /// Writes a client's quick tax into Print.mdb for `kwiktep.rpt`. If it throws store::Error, nothing is written.
 void feedQuickTaxReport(const std::filesystem::path& printDbPath, const std::string& client,
                         const assessment::KwikTax& income, const QuickTax& result);
