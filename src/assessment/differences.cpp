@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "assessment/filetextstable.h"
 #include "assessment/tables.h"
 
 namespace assessment {
@@ -47,6 +48,7 @@ std::vector<Difference> differences(Assessment one, Assessment other) {
     compared.row(cgtDetailsOtherTable(), 1, &one.capitalGains, &other.capitalGains);
     compared.rows(cgtTrustOtherTable(), one.capitalGains.trustOther, other.capitalGains.trustOther);
     compared.row(lumpSumTaxTable(), 1, &one.lumpSums, &other.lumpSums);
+    compared.row(fileTextsTable(), 1, &one.fileTexts, &other.fileTexts);
     return compared.found;
 }
 

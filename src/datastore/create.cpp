@@ -187,6 +187,17 @@ void MakeNewDb(store::Database& database) {
     creator.finish();
 }
 
+void completeTable(store::Database& database, const assessment::TableDescription& table) {
+    const std::vector<store::Column> columns = database.columns(table.name());
+    const auto isThere = [&](const assessment::FieldLine& line) {
+        return std::ranges::any_of(columns, [&](const auto& column) { return base::sameName(column.name, line.name); });
+    };
+    if (std::ranges::all_of(table.fields(), isThere)) return;
+    Creator creator(database);
+    describe(creator, table);
+    creator.finish();
+}
+
 void createClientDb(const fs::path& path, const Notice& notice) {
     Creator creator(notice);
     creator.CreateOrOpenDb(path);

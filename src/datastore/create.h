@@ -77,6 +77,10 @@ bool MakeNewDb(const std::filesystem::path& path, const Notice& notice = {});
 /// The same within the caller's transaction.
 void MakeNewDb(store::Database& database);
 
+/// Adds a table that not every client database has, or what it lacks of it, within the caller's transaction. Nothing is
+/// written if it has all its fields.
+void completeTable(store::Database& database, const assessment::TableDescription& table);
+
 /// Creates a client database ready for its first start: the tables, the row of `HeadFoot` and a `DataSetup` of version
 /// 1. It appears complete or not at all, so that a killed program never leaves one without a version. On failure shows
 /// the notice, then throws.

@@ -4,6 +4,7 @@
 
 #include "assessment/rows.h"
 #include "assessment/tables.h"
+#include "datastore/filetexts.h"
 #include "store/database.h"
 #include "store/error.h"
 
@@ -51,6 +52,7 @@ void deleteClient(const std::filesystem::path& dataDbPath, const ClientLine& cli
     for (const assessment::ItemTable& line : assessment::itemTables())
         if (line.table != nullptr) deleteRows(database, *line.table, client.DCLNO);
     deleteRows(database, assessment::polsInvestsTable(), client.DCLNO);
+    deleteFileTexts(database, client.DCLNO, client.DCLNO);
     transaction.commit();
 }
 

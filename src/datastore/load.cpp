@@ -4,6 +4,7 @@
 
 #include "assessment/rows.h"
 #include "assessment/tables.h"
+#include "datastore/filetexts.h"
 #include "datastore/reset.h"
 #include "store/error.h"
 
@@ -34,6 +35,7 @@ public:
         RowReader(m_database, assessment::cgtDetailsOtherTable(), m_key, &m_sum).next(gains);
         RowReader(m_database, assessment::lumpSumTaxTable(), m_key, &m_sum).next(record.lumpSums);
         if (gains.ItemiseAdditCapGain == 1) gains.trustOther = readList(assessment::cgtTrustOtherTable());
+        readFileTexts(record.fileTexts, m_database, m_key, &m_sum);
         record.inFile.contents = m_sum.value();
         record.inFile.file = m_database.state();
     }

@@ -7,6 +7,7 @@
 #include "assessment/tables.h"
 #include "base/day.h"
 #include "base/text.h"
+#include "datastore/filetexts.h"
 #include "datastore/load.h"
 #include "store/error.h"
 
@@ -43,6 +44,7 @@ public:
         writeSideRow(assessment::lumpSumTaxTable(), m_record.lumpSums);
         if (m_record.capitalGains.ItemiseAdditCapGain == 1)
             writeList(assessment::cgtTrustOtherTable(), m_record.capitalGains.trustOther);
+        writeFileTexts(m_record.fileTexts, m_database, m_key, &m_sum);
     }
 
 private:

@@ -8,6 +8,7 @@
 #include "base/text.h"
 #include "datastore/backup.h"
 #include "datastore/create.h"
+#include "datastore/filetexts.h"
 #include "datastore/upgrade.h"
 #include "datastore/workfiles.h"
 #include "store/database.h"
@@ -110,7 +111,7 @@ private:
 class ClientCopier {
 public:
     ClientCopier(store::Database& from, store::Database& to)
-        : m_file(from.path().string()), m_version(readVersion(from)),
+        : m_from(from), m_to(to), m_version(readVersion(from)),
           m_addVersion(to.prepare("INSERT INTO [DataSetup] ([UpDateDB]) VALUES (?)")) {
         for (const TableDescription* table : travellingTables())
             if (from.hasTable(table->name())) m_tables.emplace_back(from, to, *table);
@@ -120,13 +121,18 @@ public:
     void copy(double fromKey, double toKey) {
         for (RowCopier& table : m_tables)
             if (table.copy(fromKey, toKey) == 0 && &table == &m_tables.front())
-                throw store::Error(store::Number::noCurrentRecord, m_file, "A chosen client is no longer in the file.",
+                throw store::Error(store::Number::noCurrentRecord, m_from.path().string(),
+                                   "A chosen client is no longer in the file.",
                                    "Nothing was copied. Choose the clients again.");
+        assessment::FileTexts texts;
+        readFileTexts(texts, m_from, fromKey);
+        writeFileTexts(texts, m_to, toKey);
         m_addVersion.bind(1, m_version).run();
     }
 
 private:
-    std::string m_file;
+    store::Database& m_from;
+    store::Database& m_to;
     double m_version;
     store::Statement m_addVersion;
     std::deque<RowCopier> m_tables;
@@ -175,13 +181,14 @@ double highestKey(store::Database& clients) {
     return highest;
 }
 
-/// A deleted client's capital gains and lump sums would become the new client's.
+/// A deleted client's capital gains, lump sums and texts would become the new client's.
 void removeOrphans(store::Database& clients, double firstKey, double lastKey) {
     for (const TableDescription* table : tablesOfOrphans())
         clients.prepare("DELETE FROM " + store::bracketed(table->name()) + " WHERE [DCLNO] BETWEEN ? AND ?")
             .bind(1, firstKey)
             .bind(2, lastKey)
             .run();
+    deleteFileTexts(clients, firstKey, lastKey);
 }
 
 } // namespace

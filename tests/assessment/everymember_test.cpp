@@ -7,6 +7,7 @@
 #include <typeinfo>
 #include <utility>
 
+#include "assessment/filetextstable.h"
 #include "assessment/tables.h"
 
 namespace {
@@ -134,12 +135,12 @@ TEST(EveryMember, OfTheRecordIsStoredByOneLineOrAWorkingValue) {
     reached.markTable(cpiDefaultTable(), record);
     reached.markTable(cgtDetailsOtherTable(), record.capitalGains);
     reached.markTable(lumpSumTaxTable(), record.lumpSums);
+    reached.markTable(fileTextsTable(), record.fileTexts);
     reached.markTable(mutualFundsTable(), record.funds);
     for (const ItemTable& line : itemTables())
         if (line.list != nullptr) reached.mark(line.list(record.itemised).rows, line.flagField);
     const auto working = [&](const auto&... values) { (reached.mark(values, "working values"), ...); };
-    working(record.capitalGains.assets, record.capitalGains.trustOther, record.policies,
-            record.fileTexts); // they have rows of their own
+    working(record.capitalGains.assets, record.capitalGains.trustOther, record.policies); // they have rows of their own
     working(record.CurPolicy, record.PolicyMonthlyIncome, record.tax.LastScaleTax, record.rrrOld.TotPremPaid);
     working(record.itemised.NARAPolicyIncomeItemise, record.itemised.DTHInvestments.flag,
             record.itemised.DISAInvestments.flag);

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "assessment/assessment.h"
+#include "assessment/filetextstable.h"
 #include "assessment/tables.h"
 #include "datastore/create.h"
 #include "datastore/load.h"
@@ -133,6 +134,7 @@ void eachRow(Assessment& record, Use use) {
     use(assessment::persDetailsTable(), record);
     use(assessment::cgtDetailsOtherTable(), gains);
     use(assessment::lumpSumTaxTable(), record.lumpSums);
+    use(assessment::fileTextsTable(), record.fileTexts);
     each(assessment::polsInvestsTable(), record.policies);
     each(assessment::cgtDetailsTable(), gains.assets);
     each(assessment::cgtTrustOtherTable(), gains.trustOther);
