@@ -14,8 +14,6 @@ namespace client {
 using namespace screenkit;
 
 namespace {
-const QStringList maritalStates{"Single", "Widow/er", "M. ANC with Accrual", "M. ANC w/out Accrual", "Married COP"};
-const QStringList smokerStates{"Smoker", "Not smoked for 2 years", "Never smoked"};
 constexpr int narrow = 10; // characters of a title, initials or a postal code
 constexpr int phone = 20;
 } // namespace
@@ -97,10 +95,12 @@ Item frmPersDet::page(QWidget* person, const Contact& contact, QWidget* status) 
                                    {"Fax, home", line("FaxHome", contact.faxHome)},
                                    {"Ce&ll", line("Cell", contact.cell)},
                                    {"&E-mail", text("txt" + who + "EMail", contact.email, room(contact.email))}}));
-    auto* marital = group("fra" + who + "MaritalStat", "Marital status",
-                          options("opt" + who + "MaritalStat", maritalStates, contact.marital));
+    auto* marital = group(
+        "fra" + who + "MaritalStat", "Marital status",
+        options("opt" + who + "MaritalStat", QStringList(maritalStates.begin(), maritalStates.end()), contact.marital));
     auto* smoker =
-        group("fra" + who + "Smoker", "Smoking", options("opt" + who + "Smoker", smokerStates, contact.smoker));
+        group("fra" + who + "Smoker", "Smoking",
+              options("opt" + who + "Smoker", QStringList(smokerStates.begin(), smokerStates.end()), contact.smoker));
     auto* habits = status != nullptr ? column({smoker, status, spring()}) : column({smoker, spring()});
     auto* left = column({person, spring()});
     auto* right = column({telephones, row({marital, habits}), spring()});
@@ -222,12 +222,9 @@ void frmPersDet::copyPostalToResidential() {
 }
 
 void frmPersDet::print(Destination destination) {
-    feedPersonalDetails(m_work.paths.PrintDbPath, m_work.record,
-                        {maritalStates.value(m_details.CMaritalStat).toStdString(),
-                         maritalStates.value(m_details.SMaritalStat).toStdString(),
-                         smokerStates.value(m_details.CSmoker).toStdString(),
-                         smokerStates.value(m_details.SSmoker).toStdString(), m_includeNotes == 1});
-    m_work.reports.run("\\PersDetl.rpt", "Personal Details ", destination);
+    const auto printout = feedPersonalDetails(m_work.paths.PrintDbPath, m_work.record, m_includeNotes == 1);
+    m_work.reports.run(QString::fromStdString(printout.definition), QString::fromStdString(printout.title),
+                       destination);
 }
 
 } // namespace client

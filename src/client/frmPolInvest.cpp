@@ -37,9 +37,10 @@ void foldSchedule(assessment::Assessment& record, Fold fold) {
 }
 
 bool printPolicies(Workplace& workplace, Destination destination, const PolicyReportOptions& options,
-                   const QString& definition, const QString& title) {
+                   const datastore::Printout& report) {
     foldSchedule(workplace.record, [&] { feedPolicies(workplace.paths.PrintDbPath, workplace.record, options); });
-    return workplace.reports.run(definition, title, destination);
+    return workplace.reports.run(QString::fromStdString(report.definition), QString::fromStdString(report.title),
+                                 destination);
 }
 
 /// Disables a button. If it has the focus, the opposite button gets it, so that one key press too many does no harm.
@@ -51,11 +52,11 @@ void greyOut(QPushButton* button, QPushButton* opposite) {
 } // namespace
 
 bool PrintPolInvList(Workplace& workplace, Destination destination, const PolicyReportOptions& options) {
-    return printPolicies(workplace, destination, options, "\\PolInvestDetails.rpt", "Policies & Investments Details");
+    return printPolicies(workplace, destination, options, policiesDetails);
 }
 
 bool PrintPolInvSchedule(Workplace& workplace, Destination destination, const PolicyReportOptions& options) {
-    return printPolicies(workplace, destination, options, "\\PolInvestSchedule.rpt", "Policies & Investments Schedule");
+    return printPolicies(workplace, destination, options, policiesSchedule);
 }
 
 frmPolInvest::frmPolInvest(Workplace& workplace)

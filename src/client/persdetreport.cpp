@@ -2,7 +2,6 @@
 
 #include "assessment/tables.h"
 #include "base/day.h"
-#include "datastore/printfeed.h"
 
 namespace client {
 
@@ -22,19 +21,28 @@ datastore::Row textsAndDates(assessment::Assessment& record) {
     return row;
 }
 
+/// An old file may hold a number without a caption.
+template <std::size_t Count>
+std::string caption(const std::array<const char*, Count>& captions, std::int16_t option) {
+    const auto chosen = static_cast<std::size_t>(option);
+    return chosen < Count ? captions[chosen] : "";
+}
+
 } // namespace
 
-void feedPersonalDetails(const std::filesystem::path& printDbPath, assessment::Assessment& record,
-                         const PersDetWords& words) {
+datastore::Printout feedPersonalDetails(const std::filesystem::path& printDbPath, assessment::Assessment& record,
+                                        bool notes) {
+    const assessment::PersonalDetails& details = record.details;
     datastore::Row row = textsAndDates(record);
-    if (!words.notes) std::erase_if(row, [](const datastore::Field& field) { return field.name == "Comments"; });
-    row.push_back({"CMaritalStat", words.clientMarital});
-    row.push_back({"SMaritalStat", words.spouseMarital});
-    row.push_back({"CSmoker", words.clientSmoker});
-    row.push_back({"SSmoker", words.spouseSmoker});
+    if (!notes) std::erase_if(row, [](const datastore::Field& field) { return field.name == "Comments"; });
+    row.push_back({"CMaritalStat", caption(maritalStates, details.CMaritalStat)});
+    row.push_back({"SMaritalStat", caption(maritalStates, details.SMaritalStat)});
+    row.push_back({"CSmoker", caption(smokerStates, details.CSmoker)});
+    row.push_back({"SSmoker", caption(smokerStates, details.SSmoker)});
     datastore::PrintFeed feed(printDbPath, record.client.Name);
     feed.replace("PersDetails", feed.printedOf("PersDetails", std::move(row)));
     feed.commit();
+    return {"\\PersDetl.rpt", "Personal Details "};
 }
 
 } // namespace client

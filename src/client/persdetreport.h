@@ -1,21 +1,22 @@
 #pragma once
 
+#include <array>
 #include <filesystem>
-#include <string>
 
 #include "assessment/assessment.h"
+#include "datastore/printfeed.h"
 
 namespace client {
 
-/// The words for the options in the personal details report, and whether it includes the notes.
-struct PersDetWords {
-    std::string clientMarital, spouseMarital, clientSmoker, spouseSmoker; ///< captions of the chosen options
-    bool notes = false;
-};
+/// The options' captions, on the screen and in the report, indexed by `CMaritalStat` and `CSmoker` or the spouse's.
+inline constexpr std::array<const char*, 5> maritalStates{"Single", "Widow/er", "M. ANC with Accrual",
+                                                          "M. ANC w/out Accrual", "Married COP"};
+inline constexpr std::array<const char*, 3> smokerStates{"Smoker", "Not smoked for 2 years", "Never smoked"};
 
-/// Writes the personal details into Print.mdb: texts unchanged, dates as dd/mm/yyyy or a blank, notes only if they are
-/// wanted. Does not change the record. If it throws store::Error, nothing is written.
-void feedPersonalDetails(const std::filesystem::path& printDbPath, assessment::Assessment& record,
-                         const PersDetWords& words);
+/// Writes the personal details into Print.mdb and returns the report to run: texts unchanged, dates as dd/mm/yyyy or a
+/// blank, options as their captions (empty for a number without one), notes only if they are wanted. Does not change
+/// the record. If it throws store::Error, nothing is written.
+datastore::Printout feedPersonalDetails(const std::filesystem::path& printDbPath, assessment::Assessment& record,
+                                        bool notes);
 
 } // namespace client

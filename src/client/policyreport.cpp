@@ -8,7 +8,6 @@
 #include "base/day.h"
 #include "base/rounding.h"
 #include "client/policyschedule.h"
-#include "datastore/printfeed.h"
 
 namespace client {
 
@@ -36,8 +35,6 @@ double printedTotal(const std::vector<ValuesAtRetirement>& values) {
     return std::accumulate(values.begin(), values.end(), 0.0,
                            [](double sum, const ValuesAtRetirement& value) { return sum + toTheCent(value); });
 }
-
-bool isFilled(const Policy& policy) { return policy != Policy{}; }
 
 bool fallsDue(const Policy& policy) {
     return policy.DeathBenUseCashAtRet == 1 || policy.RBEMV != 0 || policy.RBPenLump != 0 || policy.RBProvFLump != 0 ||

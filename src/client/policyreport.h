@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "assessment/assessment.h"
+#include "datastore/printfeed.h"
 
 namespace client {
 
@@ -14,6 +15,13 @@ inline constexpr std::array<const char*, 4> beneficiaries{"Estate", "Spouse", "C
 struct PolicyReportOptions {
     bool notes = false; ///< print the notes of each record
 };
+
+/// The two reports on the rows that `feedPolicies` writes.
+inline const datastore::Printout policiesDetails{"\\PolInvestDetails.rpt", "Policies & Investments Details"};
+inline const datastore::Printout policiesSchedule{"\\PolInvestSchedule.rpt", "Policies & Investments Schedule"};
+
+/// False for a record of the schedule in which nothing is entered.
+inline bool isFilled(const assessment::Policy& policy) { return policy != assessment::Policy{}; }
 
 /// Writes the schedule into Print.mdb: a header row, and a row for each record in its order, numbered from 1.
 ///

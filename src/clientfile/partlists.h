@@ -5,6 +5,10 @@
 /// The parts by subject; parts() puts them in the order of the document.
 namespace clientfile {
 
+/// Why a part can't be printed.
+inline constexpr const char* nothingEntered = "Nothing is entered yet.";
+inline constexpr const char* noResult = "The figures give no result that can be printed.";
+
 std::vector<Part> clientParts();     ///< personal details and policies
 std::vector<Part> analysisParts();   ///< the needs analyses and the quotation
 std::vector<Part> calculatorParts(); ///< loans, banking, investments, annuities
