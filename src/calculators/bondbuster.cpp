@@ -62,4 +62,11 @@ BondBuster BBCalc(const assessment::Bond& bond) {
     return result;
 }
 
+bool keepExtra(assessment::Bond& bond, const BondBuster& result) {
+    const double extra = result.keptExtra(bond.VOLUN);
+    if (!result.isFinite() || extra == bond.VOLUN) return false;
+    bond.VOLUN = extra;
+    return true;
+}
+
 } // namespace calculators

@@ -40,4 +40,7 @@ struct BondBuster {
 /// the three figures of the bond at 0 gives a repayment of 0.
 BondBuster BBCalc(const assessment::Bond& bond);
 
+/// Keeps the raised extra payment in the bond, where the figures have one. Returns whether that changed it.
+bool keepExtra(assessment::Bond& bond, const BondBuster& result);
+
 } // namespace calculators

@@ -72,11 +72,8 @@ void frmBondBuster::filled() { show(BBCalc(m_bond)); }
 void frmBondBuster::calculate() {
     const BusyCursor busy;
     const BondBuster result = BBCalc(m_bond);
-    const double extra = result.keptExtra(m_bond.VOLUN);
-    if (result.isFinite() && extra != m_bond.VOLUN) {
-        m_bond.VOLUN = extra;
-        m_work.record.changed.BondBusterChanged = 1; // the saved client does not have the raised payment yet
-    }
+    // The saved client does not have the raised payment yet.
+    if (keepExtra(m_bond, result)) m_work.record.changed.BondBusterChanged = 1;
     show(result);
 }
 

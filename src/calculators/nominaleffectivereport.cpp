@@ -2,11 +2,15 @@
 
 namespace calculators {
 
+bool isPrintable(const assessment::NominalEffective& inputs, const NominalEffectiveResult& result) {
+    return result.isFinite() && result.IntEarned > 0 && inputs.PeriodNomEff > 0;
+}
+
 std::optional<datastore::Printout> feedNominalEffective(const std::filesystem::path& printDbPath,
                                                         const std::string& client,
                                                         const assessment::NominalEffective& inputs,
                                                         const NominalEffectiveResult& result) {
-    if (!result.isFinite() || !(result.IntEarned > 0 && inputs.PeriodNomEff > 0)) return {};
+    if (!isPrintable(inputs, result)) return {};
     datastore::PrintFeed feed(printDbPath, client);
     feed.replace("NomEffect", {{"Amount", inputs.amount},
                                {"Period", inputs.PeriodNomEff},
