@@ -4,14 +4,10 @@
 #include <utility>
 #include <vector>
 
-#include "clientfile/parts.h"
+#include "clientfile/partlists.h"
 #include "store/error.h"
 
 namespace clientfile {
-
-// Why a part can't be printed.
-inline constexpr const char* nothingEntered = "Nothing is entered yet.";
-inline constexpr const char* noResult = "The figures give no result that can be printed.";
 
 inline void printAll(const Print& print, const datastore::Printout& printout) { print(printout); }
 inline void printAll(const Print& print, const std::vector<datastore::Printout>& printouts) {
