@@ -1,22 +1,17 @@
 #include <algorithm>
 #include <cmath>
 #include <initializer_list>
-#include <ranges>
 
 #include "analyses/coverreport.h"
 #include "analyses/death.h"
 #include "analyses/disability.h"
 #include "analyses/educationreport.h"
-#include "analyses/itemise.h"
 #include "analyses/itemisereport.h"
-#include "analyses/premium.h"
 #include "analyses/retirementreport.h"
 #include "assessment/tables.h"
-#include "base/numberformat.h"
-#include "client/policyschedule.h"
+#include "clientfile/analysisremarks.h"
 #include "clientfile/partlists.h"
 #include "datastore/funds.h"
-#include "finance/capitalpremium.h"
 #include "quotes/quotereport.h"
 #include "store/error.h"
 
@@ -78,6 +73,12 @@ bool isEducationEntered(const Assessment& record) {
     assessment::NAEducation group = record.education;
     blankUnlessShown({&group.EducLastReview, &group.EducNextReview});
     return group != assessment::NAEducation{};
+}
+
+/// The results stored with an analysis in which nothing is entered matter to no one.
+template <bool (*isEntered)(const Assessment&), std::string (*remark)(const Source&)>
+std::string remarkIfEntered(const Source& source) {
+    return isEntered(source.record) ? remark(source) : "";
 }
 
 // ---- the three analyses whose lines may be itemised
@@ -183,24 +184,31 @@ void printQuote(const Source& source, const Choices& choices, const Print& print
 
 std::vector<Part> analysisParts() {
     using enum Choice;
-    return {
-        {"deathAnalysis",
-         "Needs Analysis for Death",
-         {amortisation, notes, itemised},
-         whyNoAnalysis<death>,
-         printAnalysis<death>},
-        {"disabilityAnalysis",
-         "Needs Analysis for Disability",
-         {amortisation, notes, itemised},
-         whyNoAnalysis<disability>,
-         printAnalysis<disability>},
-        {"retirementAnalysis",
-         "Needs Analysis for Retirement",
-         {amortisation, notes, premium, itemised},
-         whyNoAnalysis<retirement>,
-         printAnalysis<retirement>},
-        {"educationAnalysis", "Needs Analysis for Education", {amortisation, premium}, whyNoEducation, printEducation},
-        {"kwikQuotes", "Kwik-Quotes", {commissions, amortisation}, whyNoQuote, printQuote}};
+    return {{"deathAnalysis",
+             "Needs Analysis for Death",
+             {amortisation, notes, itemised},
+             whyNoAnalysis<death>,
+             printAnalysis<death>,
+             remarkIfEntered<isDeathEntered, deathRemark>},
+            {"disabilityAnalysis",
+             "Needs Analysis for Disability",
+             {amortisation, notes, itemised},
+             whyNoAnalysis<disability>,
+             printAnalysis<disability>,
+             remarkIfEntered<isDisabilityEntered, disabilityRemark>},
+            {"retirementAnalysis",
+             "Needs Analysis for Retirement",
+             {amortisation, notes, premium, itemised},
+             whyNoAnalysis<retirement>,
+             printAnalysis<retirement>,
+             remarkIfEntered<isRetirementEntered, retirementRemark>},
+            {"educationAnalysis",
+             "Needs Analysis for Education",
+             {amortisation, premium},
+             whyNoEducation,
+             printEducation,
+             remarkIfEntered<isEducationEntered, educationRemark>},
+            {"kwikQuotes", "Kwik-Quotes", {commissions, amortisation}, whyNoQuote, printQuote}};
 }
 
 } // namespace clientfile
