@@ -114,8 +114,7 @@ void exportAll(const fs::path& definitions, const fs::path& printTemplate, const
         for (const Fill& fill : fills) {
             feedAll(print, reports::tablesOf(definition), fill);
             const auto report = engine.prepare(QString::fromStdString(entry.path().filename().string()));
-            for (int kind = 0; kind < reports::exportFilters().size(); ++kind) {
-                const auto format = static_cast<reports::Format>(kind);
+            for (const reports::Format format : reports::formatsOf(*report)) {
                 const std::string name = entry.path().stem().string() + "-" + fill.name;
                 store::writeFile(out / (name + reports::endingOf(format).toStdString()),
                                  reports::exported(*report, format).toStdString());

@@ -3,6 +3,7 @@
 #include <QDate>
 #include <QString>
 #include <QStringList>
+#include <filesystem>
 #include <optional>
 #include <vector>
 
@@ -33,6 +34,9 @@ struct Row {
     std::vector<Cell> cells;
     bool result = false; ///< the result that the report is about
     bool total = false;  ///< the sum of rows above it
+    /// In the contents of a document: the section, from 0, that the row leads to. Its last cell shows the number of
+    /// that section's first page, written there by layOut. Below 0 for other rows.
+    int leadsTo = -1;
 };
 
 struct Table {
@@ -43,8 +47,9 @@ struct Table {
 
 /// A part of the report's text. `columns` stand side by side, each with its own blocks.
 struct Block {
-    /// `answer` is the sentence that answers the report's question.
-    enum class Kind { title, lead, answer, heading, paragraph, note, rule, table, columns };
+    /// `answer` is the sentence that answers the report's question. Behind a `pageBreak` a new page begins; it never
+    /// stands in columns.
+    enum class Kind { title, lead, answer, heading, paragraph, note, rule, table, columns, pageBreak };
 
     Kind kind = Kind::paragraph;
     std::vector<Run> runs;
@@ -65,6 +70,13 @@ struct Content {
     /// The text beside the date at the head of a page: on the first page the client, unless the heading is that name;
     /// on the others client and title.
     QString headOf(bool firstPage) const;
+};
+
+/// A report as part of a document: it begins on a new page and has the page heads of its own.
+struct Section {
+    QString heading; ///< its line in the contents and the outline; empty if it stands in neither
+    int level = 1;   ///< 1: a chapter begins with it; 2: a further report of that chapter
+    Content content;
 };
 
 QString textOf(const std::vector<Run>& runs);
@@ -89,5 +101,10 @@ QStringList tablesOf(const Definition& definition);
 /// Fills a definition with rows. A missing table or field is a store::Error with the definition's file and line, even
 /// if the section around it would not be printed; a header table without its row is error 3021.
 Content fill(const Definition& definition, const Snapshot& snapshot, const QString& printDatabase);
+
+/// Fills the definition of this name in a folder, found without case and with or without a separator before it
+/// ("\\Lonrepa.rpt"), with the rows of the print database, as printed on that day. Throws store::Error.
+Content filledFrom(const std::filesystem::path& folder, const QString& name, const std::filesystem::path& printDatabase,
+                   const QDate& day);
 
 } // namespace reports

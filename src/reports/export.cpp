@@ -75,10 +75,15 @@ void addRecords(QByteArray& csv, const std::vector<Block>& blocks) {
 
 } // namespace
 
-QStringList exportFilters() {
+std::vector<Format> formatsOf(const Report& report) {
+    if (report.isDocument()) return {Format::pdf, Format::odt};
+    return {Format::pdf, Format::html, Format::odt, Format::csv, Format::xlsx};
+}
+
+QStringList exportFilters(const std::vector<Format>& formats) {
     QStringList filters;
-    for (const Offered& kind : offered)
-        filters << kind.filter;
+    for (const Format format : formats)
+        filters << offered[static_cast<int>(format)].filter;
     return filters;
 }
 
@@ -105,21 +110,23 @@ QString proposedFileName(const QString& client, const QString& title, const QStr
     return name.trimmed() + ending;
 }
 
-QByteArray exported(const Report& report, Format format) {
+QByteArray exported(const Report& report, Format format, const store::Progress& progress) {
     switch (format) {
     case Format::html: return toHtml(report.content);
-    case Format::odt: return output().toOdt(report.content);
+    case Format::odt: return output().toOdt(report);
     case Format::csv: return toCsv(report.content);
     case Format::xlsx: return output().toXlsx(report.content);
     case Format::pdf: break;
     }
-    return toPdf(report);
+    return toPdf(report, progress);
 }
 
-std::vector<PdfHeading> headingsOf(const Layout& layout) {
+namespace {
+
+/// Adds the headings on these pages of a layout.
+void addHeadings(std::vector<PdfHeading>& headings, const Layout& layout, int from, int to) {
     const Faces& faces = Faces::all();
-    std::vector<PdfHeading> headings;
-    for (int page = 0; page < layout.count(); ++page) {
+    for (int page = from; page < to; ++page) {
         const PlacedText* before = nullptr; // the previous piece, if it is part of a heading too
         for (const PlacedText& text : layout.pages[static_cast<std::size_t>(page)].texts) {
             const bool heads = text.face == &faces.title || text.face == &faces.heading;
@@ -133,10 +140,42 @@ std::vector<PdfHeading> headingsOf(const Layout& layout) {
             before = heads ? &text : nullptr;
         }
     }
+}
+
+std::vector<PdfLink> linksOf(const Layout& layout) {
+    std::vector<PdfLink> links;
+    for (int page = 0; page < layout.count(); ++page)
+        for (const PlacedLink& link : layout.pages[static_cast<std::size_t>(page)].links) {
+            constexpr double scale = 72 / unitsPerInch;
+            const QRectF area(link.area.topLeft() * scale, link.area.size() * scale);
+            links.push_back({page, area, layout.firstPages[static_cast<std::size_t>(link.section)]});
+        }
+    return links;
+}
+
+} // namespace
+
+std::vector<PdfHeading> headingsOf(const Report& report) {
+    std::vector<PdfHeading> headings;
+    if (!report.isDocument()) addHeadings(headings, report.layout, 0, report.layout.count());
+    for (std::size_t at = 0; at < report.sections.size(); ++at) {
+        const Section& section = report.sections[at];
+        if (section.heading.isEmpty()) continue;
+        const bool last = at + 1 == report.sections.size();
+        std::vector<PdfHeading> below;
+        addHeadings(below, report.layout, report.layout.firstPages[at],
+                    last ? report.layout.count() : report.layout.firstPages[at + 1]);
+        headings.push_back({section.heading, section.level, report.layout.firstPages[at], 0});
+        for (PdfHeading& heading : below) {
+            if (heading.level == 1) continue; // the line above stands for the report's title
+            heading.level = section.level + 1;
+            headings.push_back(std::move(heading));
+        }
+    }
     return headings;
 }
 
-QByteArray toPdf(const Report& report) {
+QByteArray toPdf(const Report& report, const store::Progress& progress) {
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
@@ -146,12 +185,17 @@ QByteArray toPdf(const Report& report) {
     writer.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, {}));
     QPainter painter(&writer);
     for (int page = 0; page < report.layout.count(); ++page) {
+        store::tell(progress, static_cast<double>(page) / report.layout.count());
         if (page > 0) writer.newPage();
         report.layout.paint(painter, page);
     }
     painter.end();
-    return output().withProperties(bytes, documentTitle(report.content), practiceOf(report.content.headerLines),
-                                   headingsOf(report.layout));
+    store::tell(progress, 1);
+    return output().withProperties(bytes, {.title = documentTitle(report.content),
+                                           .author = practiceOf(report.content.headerLines),
+                                           .headings = headingsOf(report),
+                                           .links = linksOf(report.layout),
+                                           .password = report.password});
 }
 
 QByteArray toCsv(const Content& content) {

@@ -13,19 +13,26 @@ namespace reports {
 
 struct PdfHeading;
 
-/// A finished report: its figures and its pages. It needs no file any more, so several windows and exports can share
-/// it.
+/// A finished report, or a document of several: its figures and its pages. It needs no file any more, so several
+/// windows and exports can share it.
 struct Report {
     QString windowTitle; ///< of its preview, used unchanged; files are titled documentTitle(content)
-    Content content;
+    Content content;     ///< of a document: its title, client and practice, and no text
     Layout layout;
+    std::vector<Section> sections; ///< of a document; empty for a single report
+    QString fileTitle;             ///< stands for the title in a proposed file name, if not empty
+    QString password;              ///< opens the PDF, which is encrypted; none if empty. Kept nowhere else.
+
+    bool isDocument() const { return !sections.empty(); }
 };
 
 /// The file formats of an export, in the order in which they are offered.
 enum class Format { pdf, html, odt, csv, xlsx };
 
-/// The filters for a file dialog, "PDF (*.pdf)" and so on, in the order of Format.
-QStringList exportFilters();
+/// The formats in which a report can be exported, in the order in which they are offered: a document as PDF or ODT.
+std::vector<Format> formatsOf(const Report& report);
+/// Their filters for a file dialog, "PDF (*.pdf)" and so on.
+QStringList exportFilters(const std::vector<Format>& formats);
 /// The file ending, with its point: ".pdf".
 QString endingOf(Format format);
 /// The format of a file name's ending, without case; nothing for another ending.
@@ -37,15 +44,16 @@ QString proposedFileName(const QString& client, const QString& title, const QStr
 
 /// The report as a file of this format. PDF: the printed pages, with text as text. HTML: the text with the header lines
 /// above and the footer lines below. ODT: the text on pages like the printed ones. CSV: UTF-8, one record for each row.
-/// XLSX: numbers as numbers. Throws store::Error if writing the format fails.
-QByteArray exported(const Report& report, Format format);
+/// XLSX: numbers as numbers. Throws store::Error if writing the format fails, store::Cancelled if progress cancels.
+QByteArray exported(const Report& report, Format format, const store::Progress& progress = {});
 
-/// The headings on the pages in order; the lines of one heading are joined.
-std::vector<PdfHeading> headingsOf(const Layout& layout);
+/// The outline of a report: the headings on its pages in order; the lines of one heading are joined. Of a document: the
+/// lines of its contents, each with the headings of that section below it.
+std::vector<PdfHeading> headingsOf(const Report& report);
 
-QByteArray toPdf(const Report& report);
+QByteArray toPdf(const Report& report, const store::Progress& progress = {});
 QByteArray toHtml(const Content& content);
-QByteArray toOdt(const Content& content);
+QByteArray toOdt(const Report& report);
 QByteArray toCsv(const Content& content);
 QByteArray toXlsx(const Content& content);
 

@@ -18,6 +18,7 @@ table { width: 100%; border-collapse: collapse; }
 td, th { padding: 4px 7px; vertical-align: top; }
 th { background-color: #e9eef5; color: #17406b; font-weight: 600; border-bottom: 1px solid #17406b; }
 td { border-bottom: 1px solid #d3d9e2; }
+hr.page { border: none; margin: 0; break-after: page; }
 tr.result td { font-size: 11.5pt; }
 tr.result td, tr.total td { background-color: #f3f6fa; color: #17406b; font-weight: bold; }
 table.columns td.column { border: none; padding: 0 14px 0 0; white-space: normal; }
@@ -64,6 +65,7 @@ private:
         case Block::Kind::note: return addText("p", " class=\"note\"", block.runs);
         case Block::Kind::paragraph: return addText("p", "", block.runs);
         case Block::Kind::rule: m_html += "<hr>\n"; return;
+        case Block::Kind::pageBreak: m_html += "<hr class=\"page\">\n"; return;
         case Block::Kind::table: return addTable(block.table);
         case Block::Kind::columns: return addColumns(block);
         }

@@ -6,6 +6,7 @@
 #include "reports/content.h"
 #include "reports/definition.h"
 #include "reports/snapshot.h"
+#include "store/files.h"
 
 namespace reports {
 namespace {
@@ -200,6 +201,7 @@ private:
         if (styled == "p.answer") return Block::Kind::answer;
         if (styled == "p.note") return Block::Kind::note;
         if (styled == "hr") return Block::Kind::rule;
+        if (styled == "hr.page") return Block::Kind::pageBreak;
         failAt(node.file, node.line, QString("<%1> is not allowed here.").arg(styled));
     }
 
@@ -210,6 +212,9 @@ private:
             if (child.name != "div") failAt(child.file, child.line, "A row of columns may contain only <div>.");
             std::vector<Block> column = flow(child.children, at);
             if (column.empty()) return; // the other columns get its space
+            for (const Block& part : column)
+                if (part.kind == Block::Kind::pageBreak)
+                    failAt(child.file, child.line, "A page can't end between columns.");
             made.widths.push_back(share(child));
             made.columns.push_back(std::move(column));
         });
@@ -383,6 +388,17 @@ QStringList tablesOf(const Definition& definition) {
 
 Content fill(const Definition& definition, const Snapshot& snapshot, const QString& printDatabase) {
     return Filler(definition, snapshot, printDatabase).filled();
+}
+
+Content filledFrom(const std::filesystem::path& folder, const QString& name, const std::filesystem::path& printDatabase,
+                   const QDate& day) {
+    // Leading separators are removed, since screens write "\\Lonrepa.rpt".
+    const std::filesystem::path inside = store::nativePath(name.toStdString()).relative_path();
+    const Definition definition = readDefinition(store::existingSpelling(folder / inside));
+    Content content =
+        fill(definition, Snapshot(printDatabase, tablesOf(definition)), QString::fromStdString(printDatabase.string()));
+    content.date = day.toString("dd/MM/yyyy");
+    return content;
 }
 
 } // namespace reports

@@ -114,7 +114,7 @@ void frmGraph::saveAs() {
         const QByteArray picture = output().exportedGraph(m_graph, format, orientation());
         if (format != GraphFormat::pdf) return picture;
         const QString title = documentTitle(QString::fromStdString(m_graph.title).trimmed(), client);
-        return output().withProperties(picture, title, m_work.reports.practice(), {});
+        return output().withProperties(picture, {.title = title, .author = m_work.reports.practice()});
     };
     if (!screenkit::saveBytes(m_work.desk, "export the graph", *name, bytes)) return;
     screenkit::showSaved(*m_savedLine, *name);

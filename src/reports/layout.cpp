@@ -25,23 +25,22 @@ struct Cursor {
 
 class PageMaker {
 public:
-    explicit PageMaker(const Content& content) : m_content(content), m_frame(content) {}
+    explicit PageMaker(const PageFrame& frame) : m_frame(frame) {}
 
-    Layout made() {
-        m_layout.pages.emplace_back();
-        place(m_content.blocks, PageFrame::flow(), {0, m_frame.top(0)});
-        for (std::size_t page = 0; page < m_layout.pages.size(); ++page)
-            m_frame.add(m_layout.pages[page], page, m_layout.pages.size());
-        return std::move(m_layout);
+    /// The pages of a report, without their frame.
+    std::vector<Page> made(const Content& content) {
+        m_pages.emplace_back();
+        place(content.blocks, PageFrame::flow(), {0, m_frame.top(0)});
+        return std::move(m_pages);
     }
 
 private:
     // ---- the text
 
     Page& page(const Cursor& at) {
-        while (m_layout.pages.size() <= at.page)
-            m_layout.pages.emplace_back();
-        return m_layout.pages[at.page];
+        while (m_pages.size() <= at.page)
+            m_pages.emplace_back();
+        return m_pages[at.page];
     }
     Cursor nextPage(const Cursor& at) const { return {at.page + 1, m_frame.top(at.page + 1)}; }
     bool atTop(const Cursor& at) const { return at.y <= m_frame.top(at.page); }
@@ -66,6 +65,7 @@ private:
         switch (block.kind) {
         case Block::Kind::table: return withSpace(placeTable(block.table, measure, at), spaceAfter(block));
         case Block::Kind::columns: return placeColumns(block, measure, at);
+        case Block::Kind::pageBreak: return atTop(at) ? at : nextPage(at);
         case Block::Kind::rule:
             page(at).fills.push_back({{measure.x, at.y, measure.width, hairline}, ink::hairline});
             return {at.page, at.y + hairline};
@@ -80,6 +80,7 @@ private:
     /// of a table.
     double leastHeight(const Block& block, const Measure& measure) const {
         if (block.kind == Block::Kind::rule) return hairline;
+        if (block.kind == Block::Kind::pageBreak) return 0;
         if (block.kind == Block::Kind::columns) {
             double least = 0;
             for (std::size_t column = 0; column < block.columns.size(); ++column)
@@ -165,10 +166,10 @@ private:
     /// The height of columns side by side, found by placing them on trial pages. Larger than any page if they need a
     /// second one.
     double heightOf(const Block& block, const Measure& measure) {
-        Layout kept = std::exchange(m_layout, {});
+        std::vector<Page> kept = std::exchange(m_pages, {});
         const Cursor start{1, m_frame.top(1)};
         const Cursor end = sideBySide(block, measure, start);
-        m_layout = std::move(kept);
+        m_pages = std::move(kept);
         return end.page == start.page ? end.y - start.y : Layout::pageSize().height();
     }
 
@@ -184,11 +185,12 @@ private:
         std::vector<ShapedCell> cells;
         bool head = false;
         bool banded = false;
+        int leadsTo = -1;
     };
 
     static ShapedRow shapedRow(const Row& row, const Table& table, const Measure& measure, bool head) {
         const Face& face = faceOf(row, head);
-        ShapedRow shaped{.cells = {}, .head = head, .banded = head || row.result || row.total};
+        ShapedRow shaped{.cells = {}, .head = head, .banded = head || row.result || row.total, .leadsTo = row.leadsTo};
         shaped.cells.reserve(row.cells.size());
         double x = measure.x;
         std::size_t column = 0;
@@ -253,6 +255,7 @@ private:
         for (const ShapedCell& cell : row.cells)
             for (std::size_t line = 0; line < cell.text.lines.size(); ++line)
                 addCellLine(on, cell, line, at.y, line);
+        if (row.leadsTo >= 0) on.links.push_back({{measure.x, at.y, measure.width, height}, row.leadsTo});
         return {at.page, at.y + height};
     }
 
@@ -284,10 +287,37 @@ private:
         return at;
     }
 
-    const Content& m_content;
-    PageFrame m_frame;
-    Layout m_layout;
+    const PageFrame& m_frame;
+    std::vector<Page> m_pages;
 };
+
+/// The pages of a report while those of a document are put together.
+struct LaidSection {
+    explicit LaidSection(const Content& content) : frame(content), pages(PageMaker(frame).made(content)) {}
+
+    /// Adds the pages, in their frame, to a layout that will have `count` pages.
+    void addTo(Layout& layout, std::size_t count) {
+        for (std::size_t page = 0; page < pages.size(); ++page) {
+            frame.add(pages[page], page, layout.pages.size() + 1, count);
+            layout.pages.push_back(std::move(pages[page]));
+        }
+    }
+
+    PageFrame frame;
+    std::vector<Page> pages;
+};
+
+/// Writes the page numbers into the rows that lead to a section; false if there is none.
+bool writePageNumbers(Content& content, const std::vector<int>& firstPages) {
+    bool written = false;
+    for (Block& block : content.blocks)
+        for (Row& row : block.table.rows)
+            if (row.leadsTo >= 0) {
+                row.cells.back().runs = {Run{QString::number(firstPages[static_cast<std::size_t>(row.leadsTo)] + 1)}};
+                written = true;
+            }
+    return written;
+}
 
 } // namespace
 
@@ -318,6 +348,31 @@ QString Layout::textOf(int index) const {
     return text;
 }
 
-Layout layOut(const Content& content) { return PageMaker(content).made(); }
+Layout layOut(const Content& content) {
+    LaidSection laid(content);
+    Layout layout;
+    laid.addTo(layout, laid.pages.size());
+    return layout;
+}
+
+Layout layOut(std::vector<Section>& sections, const store::Progress& progress) {
+    Layout layout;
+    std::vector<LaidSection> laid;
+    int count = 0;
+    for (const Section& section : sections) {
+        store::tell(progress, static_cast<double>(laid.size()) / static_cast<double>(sections.size()));
+        laid.emplace_back(section.content);
+        layout.firstPages.push_back(count);
+        count += static_cast<int>(laid.back().pages.size());
+    }
+    for (std::size_t section = 0; section < sections.size(); ++section) {
+        // The numbers have a column to themselves: with or without them, the contents take as many pages.
+        Content& content = sections[section].content;
+        if (writePageNumbers(content, layout.firstPages))
+            laid[section].pages = PageMaker(laid[section].frame).made(content);
+        laid[section].addTo(layout, static_cast<std::size_t>(count));
+    }
+    return layout;
+}
 
 } // namespace reports

@@ -7,11 +7,14 @@
 #include <QString>
 #include <vector>
 
+#include "store/progress.h"
+
 class QPainter;
 
 namespace reports {
 
 struct Content;
+struct Section;
 class Face;
 
 /// A line of text at its place; the point is the start of its baseline.
@@ -26,14 +29,22 @@ struct PlacedFill {
     QColor colour;
 };
 
+/// An area that leads to another part of the document.
+struct PlacedLink {
+    QRectF area;
+    int section; ///< from 0
+};
+
 struct Page {
     std::vector<PlacedFill> fills;
     std::vector<PlacedText> texts;
+    std::vector<PlacedLink> links;
 };
 
 /// A report divided into pages once: screen, paper and PDF all paint these.
 struct Layout {
     std::vector<Page> pages;
+    std::vector<int> firstPages; ///< of each section of a document, from 0; empty for a single report
 
     /// A4 upright, in page units (see face.h).
     static QSizeF pageSize();
@@ -46,5 +57,9 @@ struct Layout {
 
 /// Divides a report into pages; always at least one.
 Layout layOut(const Content& content);
+/// Divides the sections of a document into pages, each section from a new page on. Its pages are those of the report
+/// alone, except that they are numbered through the whole. Writes the page numbers into the rows that lead to a
+/// section. Progress may cancel; then store::Cancelled is thrown.
+Layout layOut(std::vector<Section>& sections, const store::Progress& progress = {});
 
 } // namespace reports

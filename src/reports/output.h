@@ -3,7 +3,6 @@
 #include <QByteArray>
 #include <QPageLayout>
 #include <functional>
-#include <vector>
 
 class QPagedPaintDevice;
 class QWidget;
@@ -12,7 +11,8 @@ namespace reports {
 
 struct Content;
 struct Graph;
-struct PdfHeading;
+struct PdfProperties;
+struct Report;
 
 enum class GraphFormat { png, svg, pdf };
 
@@ -28,9 +28,8 @@ struct Output {
     GraphPane (*newGraphPane)();
     QByteArray (*exportedGraph)(const Graph& graph, GraphFormat format, QPageLayout::Orientation orientation);
     bool (*printGraph)(const Graph& graph, QPagedPaintDevice& device);
-    QByteArray (*withProperties)(const QByteArray& pdf, const QString& title, const QString& author,
-                                 const std::vector<PdfHeading>& headings);
-    QByteArray (*toOdt)(const Content& content);
+    QByteArray (*withProperties)(const QByteArray& pdf, const PdfProperties& properties);
+    QByteArray (*toOdt)(const Report& report);
     QByteArray (*toXlsx)(const Content& content);
 };
 

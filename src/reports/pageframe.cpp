@@ -66,14 +66,14 @@ double PageFrame::top(std::size_t page) const {
     return headTop() + std::max(head.height(), dated) + belowHead;
 }
 
-void PageFrame::add(Page& page, std::size_t index, std::size_t count) const {
+void PageFrame::add(Page& page, std::size_t index, std::size_t number, std::size_t count) const {
     double y = marginTop;
     const Measure whole = flow();
     for (const Paragraph& line : m_header)
         y = addParagraph(page, line, whole.x, y);
     if (!m_header.empty()) page.fills.push_back({{whole.x, y + headerGap, whole.width, frameLine}, ink::strong});
     addHead(page, index);
-    addFooter(page, QString("Page %1 of %2").arg(index + 1).arg(count));
+    addFooter(page, QString("Page %1 of %2").arg(number).arg(count));
 }
 
 void PageFrame::addHead(Page& page, std::size_t index) const {

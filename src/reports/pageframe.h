@@ -30,7 +30,8 @@ public:
     double top(std::size_t page) const;
     double bottom() const { return m_bottom; }
 
-    void add(Page& page, std::size_t index, std::size_t count) const;
+    /// Draws the frame of a page (from 0) of the report, which is page `number` (from 1) of the `count` pages of all.
+    void add(Page& page, std::size_t index, std::size_t number, std::size_t count) const;
 
 private:
     double headTop() const;

@@ -15,7 +15,9 @@
 #include "reports/printing.h"
 #include "screenkit/desk.h"
 #include "screenkit/icon.h"
+#include "screenkit/longwork.h"
 #include "screenkit/savefile.h"
+#include "screenkit/trouble.h"
 
 namespace reports {
 namespace {
@@ -114,8 +116,8 @@ QToolButton* PreviewWindow::exportButton() {
     button->setAccessibleName(tr("Export Report"));
     button->setPopupMode(QToolButton::MenuButtonPopup);
     auto* menu = new QMenu(button);
-    for (int kind = 0; kind < exportFilters().size(); ++kind)
-        menu->addAction(exportFilters()[kind], this, [this, kind] { exportReport(static_cast<Format>(kind)); });
+    for (const Format format : formatsOf(*m_report))
+        menu->addAction(exportFilters({format}).first(), this, [this, format] { exportReport(format); });
     button->setMenu(menu);
     return button;
 }
@@ -167,18 +169,36 @@ void PreviewWindow::showScale(double scale) {
 void PreviewWindow::zoomBy(double factor) { m_view->setScale(m_view->scale() * factor); }
 
 bool PreviewWindow::exportReport(Format first) {
-    QStringList filters = exportFilters();
-    filters.move(static_cast<int>(first), 0);
+    std::vector<Format> formats = formatsOf(*m_report);
+    const auto chosen = std::find(formats.begin(), formats.end(), first);
+    std::rotate(formats.begin(), chosen, std::next(chosen));
+    const QStringList filters = exportFilters(formats);
     const Content& content = m_report->content;
-    const QString proposed = proposedFileName(content.client, content.title, endingOf(first));
+    const QString& title = m_report->fileTitle.isEmpty() ? content.title : m_report->fileTitle;
+    const QString proposed = proposedFileName(content.client, title, endingOf(first));
     const std::optional<QString> name = screenkit::askWhereToSave(m_desk, tr("Export Report"), proposed, filters);
     return name && exportTo(*name);
 }
 
+bool PreviewWindow::agreesToNoPassword() {
+    return m_desk.box(screenkit::BoxStyle::question,
+                      tr("Only a PDF file can carry the password. Anyone can open and read this file.\n"
+                         "Do you want to save it without the password ?"),
+                      tr("Export Report"), screenkit::Buttons::yesNo, screenkit::Answer::no) == screenkit::Answer::yes;
+}
+
 bool PreviewWindow::exportTo(const QString& fileName) {
     const Format format = formatOf(fileName).value_or(Format::pdf);
-    if (!screenkit::saveBytes(m_desk, tr("export the report"), fileName, [&] { return exported(*m_report, format); }))
-        return false;
+    if (!m_report->password.isEmpty() && format != Format::pdf && !agreesToNoPassword()) return false;
+    QByteArray bytes;
+    bool goesOn = true;
+    const bool made = screenkit::guarded(m_desk, tr("export the report"), [&] {
+        goesOn = screenkit::runLongWork(tr("Exporting the report"), [&](const store::Progress& progress) {
+            bytes = exported(*m_report, format, progress);
+        });
+    });
+    if (!made || !goesOn) return false;
+    if (!screenkit::saveBytes(m_desk, tr("export the report"), fileName, [&] { return bytes; })) return false;
     screenkit::showSaved(*m_savedLine, fileName);
     statusBar()->show();
     return true;

@@ -46,6 +46,7 @@ private:
     void showPage(int page);
     void showScale(double scale);
     void zoomBy(double factor);
+    bool agreesToNoPassword();
 
     std::shared_ptr<const Report> m_report;
     screenkit::Desk& m_desk;

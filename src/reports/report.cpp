@@ -4,26 +4,15 @@
 #include <algorithm>
 
 #include "datastore/paths.h"
-#include "reports/definition.h"
 #include "reports/export.h"
 #include "reports/previewwindow.h"
 #include "reports/printing.h"
 #include "reports/snapshot.h"
 #include "screenkit/desk.h"
 #include "screenkit/trouble.h"
-#include "store/files.h"
+#include "store/error.h"
 
 namespace reports {
-namespace {
-
-/// The file for a name. Leading separators are removed, since screens write "\Lonrepa.rpt".
-std::filesystem::path named(const std::filesystem::path& folder, const QString& name) {
-    const std::filesystem::path inside = store::nativePath(name.toStdString()).relative_path();
-    return store::existingSpelling(folder / inside);
-}
-
-} // namespace
-
 Engine::Engine(screenkit::Desk& desk, std::filesystem::path programFolder, PrinterFactory printerFactory)
     : m_desk(desk), m_programFolder(std::move(programFolder)),
       m_printing(std::make_unique<PrinterSession>(desk, std::move(printerFactory))) {}
@@ -44,13 +33,9 @@ bool Engine::run(const QString& definition, const QString& title, Destination de
 }
 
 std::shared_ptr<const Report> Engine::prepare(const QString& definition, const QString& title) const {
-    const Definition read = readDefinition(named(m_programFolder, definition));
-    const std::filesystem::path printDatabase = datastore::printDbPath(m_programFolder);
     auto report = std::make_shared<Report>();
-    report->content =
-        fill(read, Snapshot(printDatabase, tablesOf(read)), QString::fromStdString(printDatabase.string()));
-    report->content.date = m_desk.today().toString("dd/MM/yyyy");
-    report->windowTitle = title.isEmpty() ? read.title : title;
+    report->content = filledFrom(m_programFolder, definition, datastore::printDbPath(m_programFolder), m_desk.today());
+    report->windowTitle = title.isEmpty() ? report->content.title : title;
     report->layout = layOut(report->content);
     return report;
 }
@@ -61,7 +46,7 @@ QByteArray Engine::pdf(const QString& definition, const QString& title) const {
 
 QString Engine::practice() const {
     try {
-        return practiceOf(Snapshot(named(m_programFolder, "Print.mdb"), {}).headerLines());
+        return practiceOf(Snapshot(datastore::printDbPath(m_programFolder), {}).headerLines());
     } catch (const store::Error&) {
         return {}; // only a graph file's author: it can be missing
     }

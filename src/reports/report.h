@@ -49,6 +49,8 @@ public:
     /// The report's pages as a PDF. Throws store::Error.
     QByteArray pdf(const QString& definition, const QString& title = {}) const;
 
+    /// Shows a finished report or document in a window of its own.
+    void show(std::shared_ptr<const Report> report);
     /// The open previews, oldest first.
     std::vector<PreviewWindow*> previews() const;
     void closePreviews();
@@ -65,8 +67,6 @@ public:
     QPrinter& printer();
 
 private:
-    void show(std::shared_ptr<const Report> report);
-
     screenkit::Desk& m_desk;
     std::filesystem::path m_programFolder;
     std::unique_ptr<PrinterSession> m_printing;

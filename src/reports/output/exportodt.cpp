@@ -1,5 +1,6 @@
 #include <QXmlStreamWriter>
 #include <algorithm>
+#include <utility>
 
 #include "reports/export.h"
 #include "reports/output/odtframe.h"
@@ -18,10 +19,21 @@ class FlowWriter {
 public:
     FlowWriter(QXmlStreamWriter& xml, OdtStyles& styles) : m_xml(xml), m_styles(styles) {}
 
+    /// A section of a document begins: on a new page, at its bookmark.
+    void beginSection(std::size_t section) {
+        m_bookmark = odtSectionName(section);
+        if (section > 0) m_styles.beginPage(m_bookmark);
+    }
+
     void add(const std::vector<Block>& blocks, double width) {
         double after = 0;
         for (std::size_t index = 0; index < blocks.size(); ++index) {
             const Block& block = blocks[index];
+            if (block.kind == Block::Kind::pageBreak) {
+                m_styles.beginPage();
+                after = 0;
+                continue;
+            }
             const double before = after + (index == 0 ? 0 : spaceBefore(block));
             addBlock(block, width, before);
             after = spaceAfter(block);
@@ -47,15 +59,24 @@ private:
         const bool title = block.kind == Block::Kind::title;
         const bool heading = title || block.kind == Block::Kind::heading;
         const Face& face = faceOf(block);
-        m_xml.writeStartElement(heading ? "text:h" : "text:p");
-        m_xml.writeAttribute("text:style-name",
-                             m_styles.paragraph({.face = face,
-                                                 .before = before,
-                                                 .keepsNext = heading,
-                                                 .further = block.kind == Block::Kind::answer ? band() : QString()}));
-        if (heading) m_xml.writeAttribute("text:outline-level", title ? "1" : "2");
+        startParagraph(heading ? "text:h" : "text:p",
+                       m_styles.paragraph({.face = face,
+                                           .before = before,
+                                           .keepsNext = heading,
+                                           .further = block.kind == Block::Kind::answer ? band() : QString()}),
+                       heading ? (title ? "1" : "2") : "");
         writeOdtRuns(m_xml, m_styles, block.runs, face);
         m_xml.writeEndElement();
+    }
+
+    /// Starts a paragraph, or a heading of that level, with the bookmark of a section that begins here.
+    void startParagraph(const char* element, const QString& style, const QString& level = {}) {
+        m_xml.writeStartElement(element);
+        m_xml.writeAttribute("text:style-name", style);
+        if (!level.isEmpty()) m_xml.writeAttribute("text:outline-level", level);
+        if (m_bookmark.isEmpty()) return;
+        m_xml.writeEmptyElement("text:bookmark");
+        m_xml.writeAttribute("text:name", std::exchange(m_bookmark, {}));
     }
 
     /// The band behind an answer. Padding only works inside a border, so it has a border of its own colour.
@@ -75,8 +96,8 @@ private:
         const QString line =
             QString(R"(fo:border-bottom="%1 solid %2")").arg(odtLength(hairline), ink::hairline.name());
         static const Face thin{0.5};
-        m_xml.writeEmptyElement("text:p");
-        m_xml.writeAttribute("text:style-name", m_styles.paragraph({.face = thin, .before = before, .further = line}));
+        startParagraph("text:p", m_styles.paragraph({.face = thin, .before = before, .further = line}));
+        m_xml.writeEndElement();
     }
 
     void startTable(const std::vector<double>& columns, double before) {
@@ -125,6 +146,15 @@ private:
         m_xml.writeEndElement();
     }
 
+    /// The page of a section, which a word processor keeps right when the text is changed; `shown` until then.
+    void writePageNumberOf(std::size_t section, const QString& shown) {
+        m_xml.writeStartElement("text:bookmark-ref");
+        m_xml.writeAttribute("text:reference-format", "page");
+        m_xml.writeAttribute("text:ref-name", odtSectionName(section));
+        m_xml.writeCharacters(shown);
+        m_xml.writeEndElement();
+    }
+
     static bool fitsAPage(const Row& row) {
         constexpr qsizetype mostLetters = 600; // a narrow column with so many fills half a page
         return std::all_of(row.cells.begin(), row.cells.end(), [](const Cell& cell) {
@@ -136,10 +166,11 @@ private:
     void addCell(const Row& row, const Cell& cell, std::size_t spanned, double width, bool head, bool keepsNext) {
         const Face& face = faceOf(cell, faceOf(row, head), width);
         startCell(cellLook(row, head), spanned);
-        m_xml.writeStartElement("text:p");
-        m_xml.writeAttribute("text:style-name",
-                             m_styles.paragraph({.face = face, .align = cell.align, .keepsNext = keepsNext}));
-        writeOdtRuns(m_xml, m_styles, cell.runs, face);
+        startParagraph("text:p", m_styles.paragraph({.face = face, .align = cell.align, .keepsNext = keepsNext}));
+        if (row.leadsTo >= 0 && &cell == &row.cells.back())
+            writePageNumberOf(static_cast<std::size_t>(row.leadsTo), cell.text());
+        else
+            writeOdtRuns(m_xml, m_styles, cell.runs, face);
         m_xml.writeEndElement();
         endCell(spanned);
     }
@@ -191,13 +222,18 @@ private:
 
     QXmlStreamWriter& m_xml;
     OdtStyles& m_styles;
+    QString m_bookmark; ///< of a section without any paragraph yet
 };
 
-QByteArray contentXml(const Content& content) {
+QByteArray contentXml(const OdtContents& contents) {
     OdtStyles styles;
     QByteArray body;
     QXmlStreamWriter xml(&body);
-    FlowWriter(xml, styles).add(content.blocks, Layout::pageSize().width() - marginLeft - marginRight);
+    FlowWriter writer(xml, styles);
+    for (std::size_t section = 0; section < contents.size(); ++section) {
+        if (contents.size() > 1) writer.beginSection(section);
+        writer.add(contents[section]->blocks, Layout::pageSize().width() - marginLeft - marginRight);
+    }
     xml.writeEndDocument(); // closes an element still open for attributes
     return odtRoot("document-content") + odtFonts() + "<office:automatic-styles>\n" + styles.xml().toUtf8() +
            "</office:automatic-styles>\n<office:body><office:text>\n" + body +
@@ -206,11 +242,15 @@ QByteArray contentXml(const Content& content) {
 
 } // namespace
 
-QByteArray toOdt(const Content& content) {
+QByteArray toOdt(const Report& report) {
+    OdtContents contents;
+    for (const Section& section : report.sections)
+        contents.push_back(&section.content);
+    if (contents.empty()) contents.push_back(&report.content);
     return zipped({{"mimetype", "application/vnd.oasis.opendocument.text", true}, // other programs expect it first
-                   {"content.xml", contentXml(content)},
-                   {"styles.xml", odtFrame(content)},
-                   {"meta.xml", odtMeta(content)},
+                   {"content.xml", contentXml(contents)},
+                   {"styles.xml", odtFrame(contents)},
+                   {"meta.xml", odtMeta(report.content)},
                    {"settings.xml", odtSettings()},
                    {"META-INF/manifest.xml", odtManifest()}});
 }

@@ -81,6 +81,7 @@ public:
             const bool gap = block->kind == Block::Kind::table || block->kind == Block::Kind::heading;
             if (gap && m_row > 0 && !m_afterHeading) ++m_row;
             m_afterHeading = block->kind == Block::Kind::heading;
+            if (block->kind == Block::Kind::pageBreak && m_row > 0) m_pageBreaks.push_back(m_row);
             if (block->kind == Block::Kind::table)
                 addTable(block->table);
             else if (!block->runs.empty())
@@ -99,6 +100,8 @@ public:
         if (widthOf(0, m_widths.size()) > 1.5 * textWidth) worksheet_set_landscape(m_sheet);
         worksheet_fit_to_pages(m_sheet, 1, 0);
         worksheet_set_footer(m_sheet, "&RPage &P of &N");
+        m_pageBreaks.push_back(0); // the end of the list
+        worksheet_set_h_pagebreaks(m_sheet, m_pageBreaks.data());
     }
 
 private:
@@ -227,6 +230,7 @@ private:
     const SheetPlan& m_plan;
     std::vector<double> m_widths; ///< of the columns, in digits
     lxw_row_t m_row = 0;
+    std::vector<lxw_row_t> m_pageBreaks; ///< above these rows
     bool m_afterHeading = false;
 };
 

@@ -172,20 +172,29 @@ QByteArray odtFonts() {
            "'\" style:font-family-generic=\"swiss\"/></office:font-face-decls>\n";
 }
 
-QByteArray odtFrame(const Content& content) {
+QString odtSectionName(std::size_t section) {
+    return section == 0 ? QString("Standard") : QString("Section%1").arg(section + 1);
+}
+
+QByteArray odtFrame(const OdtContents& contents) {
     OdtStyles styles;
-    QByteArray frame;
-    QXmlStreamWriter xml(&frame);
-    for (const bool firstPage : {false, true})
-        writeHeader(xml, styles, content, firstPage);
-    for (const bool firstPage : {false, true})
-        writeFooter(xml, styles, footerLinesOf(content), firstPage);
+    QByteArray frames;
+    QXmlStreamWriter xml(&frames);
+    for (std::size_t section = 0; section < contents.size(); ++section) {
+        const Content& content = *contents[section];
+        xml.writeStartElement("style:master-page");
+        xml.writeAttribute("style:name", odtSectionName(section));
+        xml.writeAttribute("style:page-layout-name", "Page");
+        for (const bool firstPage : {false, true})
+            writeHeader(xml, styles, content, firstPage);
+        for (const bool firstPage : {false, true})
+            writeFooter(xml, styles, footerLinesOf(content), firstPage);
+        xml.writeEndElement();
+    }
     xml.writeEndDocument();
     return odtRoot("document-styles") + odtFonts() + commonStyles() + "<office:automatic-styles>\n" +
-           styles.xml().toUtf8() + pageLayout() +
-           "</office:automatic-styles>\n<office:master-styles>\n"
-           "<style:master-page style:name=\"Standard\" style:page-layout-name=\"Page\">" +
-           frame + "</style:master-page>\n</office:master-styles>\n</office:document-styles>\n";
+           styles.xml().toUtf8() + pageLayout() + "</office:automatic-styles>\n<office:master-styles>\n" + frames +
+           "\n</office:master-styles>\n</office:document-styles>\n";
 }
 
 QByteArray odtMeta(const Content& content) {

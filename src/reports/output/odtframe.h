@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <vector>
 
 #include "reports/content.h"
 
@@ -12,8 +13,15 @@ namespace reports {
 QByteArray odtRoot(const char* kind);
 QByteArray odtFonts();
 
-/// styles.xml: the paper, with header lines at the top and footer lines and page numbers at the bottom of each page.
-QByteArray odtFrame(const Content& content);
+/// The contents of a report's text, one, or of the sections of a document.
+using OdtContents = std::vector<const Content*>;
+
+/// The page style of a section, from 0, and the bookmark where it begins.
+QString odtSectionName(std::size_t section);
+
+/// styles.xml: the paper, with header lines at the top and footer lines and page numbers at the bottom of each page, in
+/// a page style for each section.
+QByteArray odtFrame(const OdtContents& contents);
 QByteArray odtMeta(const Content& content);
 QByteArray odtSettings();
 QByteArray odtManifest();

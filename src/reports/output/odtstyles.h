@@ -23,6 +23,9 @@ public:
         QString further{};      ///< other properties of the paragraph
     };
 
+    /// The next paragraph or table begins a page: the first of that page style, or if that is empty any page.
+    void beginPage(const QString& pageStyle = {});
+
     QString paragraph(const Text& text);
     QString span(const Face& face);
     QString table(double width, double before);
@@ -37,7 +40,11 @@ public:
     static QString letters(const Face& face);
 
 private:
-    QString named(const char* family, const QString& properties);
+    /// attributes: of the style itself, beside its name and family.
+    QString named(const char* family, const QString& properties, const QString& attributes = {});
+
+    QString m_pageStyle; ///< for the next paragraph or table, as an attribute of its style; empty: none
+    QString m_pageBreak; ///< the same among its properties
 
     QHash<QString, QString> m_names;
     QString m_xml;

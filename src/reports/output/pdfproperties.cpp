@@ -16,11 +16,27 @@ QPDFObjectHandle textObject(const QString& text) { return QPDFObjectHandle::newU
 
 QPDFObjectHandle number(std::size_t value) { return QPDFObjectHandle::newInteger(static_cast<long long>(value)); }
 
+double heightOf(QPDFObjectHandle page) { return page.getKey("/MediaBox").getArrayItem(3).getNumericValue(); }
+
+using Pages = std::vector<QPDFPageObjectHelper>;
+
+/// A place on a page, so many points below its upper edge; the reader keeps its zoom there.
+QPDFObjectHandle placeOn(const Pages& pages, int index, double top) {
+    QPDFObjectHandle page = pages.at(static_cast<std::size_t>(index)).getObjectHandle();
+    QPDFObjectHandle place = QPDFObjectHandle::newArray();
+    place.appendItem(page);
+    place.appendItem(QPDFObjectHandle::newName("/XYZ"));
+    place.appendItem(QPDFObjectHandle::newInteger(0));
+    place.appendItem(QPDFObjectHandle::newReal(heightOf(page) - top, 2));
+    place.appendItem(QPDFObjectHandle::newNull());
+    return place;
+}
+
 /// The outline as PDF stores it: each heading refers to its parent, its neighbours, and its first and last child.
 class Outline {
 public:
-    Outline(QPDF& pdf, const std::vector<PdfHeading>& headings)
-        : m_pdf(pdf), m_headings(headings), m_pages(QPDFPageDocumentHelper(pdf).getAllPages()) {}
+    Outline(QPDF& pdf, const std::vector<PdfHeading>& headings, const Pages& pages)
+        : m_pdf(pdf), m_headings(headings), m_pages(pages) {}
 
     QPDFObjectHandle made() {
         QPDFObjectHandle root = m_pdf.makeIndirectObject(QPDFObjectHandle::parse("<< /Type /Outlines >>"));
@@ -56,24 +72,35 @@ private:
     }
 
     QPDFObjectHandle itemOf(const PdfHeading& heading) {
-        QPDFObjectHandle page = m_pages.at(static_cast<std::size_t>(heading.page)).getObjectHandle();
-        const double height = page.getKey("/MediaBox").getArrayItem(3).getNumericValue();
-        QPDFObjectHandle place = QPDFObjectHandle::newArray();
-        place.appendItem(page);
-        place.appendItem(QPDFObjectHandle::newName("/XYZ"));
-        place.appendItem(QPDFObjectHandle::newInteger(0));
-        place.appendItem(QPDFObjectHandle::newReal(height - heading.top, 2));
-        place.appendItem(QPDFObjectHandle::newNull()); // keeps the reader's zoom
         QPDFObjectHandle item = QPDFObjectHandle::newDictionary();
         item.replaceKey("/Title", textObject(heading.text));
-        item.replaceKey("/Dest", place);
+        item.replaceKey("/Dest", placeOn(m_pages, heading.page, heading.top));
         return m_pdf.makeIndirectObject(item);
     }
 
     QPDF& m_pdf;
     const std::vector<PdfHeading>& m_headings;
-    std::vector<QPDFPageObjectHelper> m_pages;
+    const Pages& m_pages;
 };
+
+void addLink(QPDF& pdf, const Pages& pages, const PdfLink& link) {
+    QPDFObjectHandle page = pages.at(static_cast<std::size_t>(link.page)).getObjectHandle();
+    const double height = heightOf(page);
+    QPDFObjectHandle added = QPDFObjectHandle::parse("<< /Type /Annot /Subtype /Link /Border [0 0 0] >>");
+    QPDFObjectHandle area = QPDFObjectHandle::newArray();
+    for (const double edge :
+         {link.area.left(), height - link.area.bottom(), link.area.right(), height - link.area.top()})
+        area.appendItem(QPDFObjectHandle::newReal(edge, 2));
+    added.replaceKey("/Rect", area);
+    added.replaceKey("/Dest", placeOn(pages, link.target, 0));
+    if (!page.hasKey("/Annots")) page.replaceKey("/Annots", QPDFObjectHandle::newArray());
+    page.getKey("/Annots").appendItem(pdf.makeIndirectObject(added));
+}
+
+/// The form of a password that readers compare: composed letters, in UTF-8.
+std::string encoded(const QString& password) {
+    return password.normalized(QString::NormalizationForm_KC).toStdString();
+}
 
 void setProperties(QPDF& pdf, const QString& title, const QString& author) {
     QPDFObjectHandle info = pdf.getTrailer().getKey("/Info");
@@ -91,20 +118,26 @@ void setProperties(QPDF& pdf, const QString& title, const QString& author) {
 
 } // namespace
 
-QByteArray withProperties(const QByteArray& bytes, const QString& title, const QString& author,
-                          const std::vector<PdfHeading>& headings) {
+QByteArray withProperties(const QByteArray& bytes, const PdfProperties& properties) {
     try {
         QPDF pdf;
         pdf.setSuppressWarnings(true);
         pdf.processMemoryFile("report.pdf", bytes.constData(), static_cast<std::size_t>(bytes.size()));
-        setProperties(pdf, title, author);
-        if (!headings.empty()) {
-            pdf.getRoot().replaceKey("/Outlines", Outline(pdf, headings).made());
+        setProperties(pdf, properties.title, properties.author);
+        const Pages pages = QPDFPageDocumentHelper(pdf).getAllPages();
+        if (!properties.headings.empty()) {
+            pdf.getRoot().replaceKey("/Outlines", Outline(pdf, properties.headings, pages).made());
             pdf.getRoot().replaceKey("/PageMode", QPDFObjectHandle::newName("/UseOutlines"));
         }
+        for (const PdfLink& link : properties.links)
+            addLink(pdf, pages, link);
         QPDFWriter writer(pdf);
         writer.setOutputMemory();
-        writer.setDeterministicID(true);
+        if (const std::string password = encoded(properties.password); password.empty())
+            writer.setDeterministicID(true);
+        else
+            writer.setR6EncryptionParameters(password.c_str(), password.c_str(), true, true, true, true, true, true,
+                                             qpdf_r3p_full, true);
         writer.write();
         const auto buffer = writer.getBufferSharedPointer();
         return {reinterpret_cast<const char*>(buffer->getBuffer()), static_cast<qsizetype>(buffer->getSize())};

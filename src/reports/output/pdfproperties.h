@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QRectF>
 #include <QString>
 #include <vector>
 
@@ -9,14 +10,29 @@ namespace reports {
 /// A heading of a document, as a target in the outline.
 struct PdfHeading {
     QString text;
-    int level = 1;  ///< 1 for the title, 2 for a heading below it
+    int level = 1;  ///< 1 for a title or a chapter, 2 for what stands below it, and so on
     int page = 0;   ///< from 0
     double top = 0; ///< points from the page's upper edge
 };
 
-/// The same PDF with properties that Qt's writer does not set: title, author, language (South African English), and an
-/// outline of its headings, which PDF readers show beside the pages. Throws store::Error if the bytes are no PDF.
-QByteArray withProperties(const QByteArray& pdf, const QString& title, const QString& author,
-                          const std::vector<PdfHeading>& headings);
+/// An area of a page that leads to another page.
+struct PdfLink {
+    int page = 0; ///< from 0
+    QRectF area;  ///< points from the page's upper left corner
+    int target = 0;
+};
+
+struct PdfProperties {
+    QString title;
+    QString author;
+    std::vector<PdfHeading> headings{}; ///< the outline, which PDF readers show beside the pages
+    std::vector<PdfLink> links{};
+    QString password{}; ///< none if empty
+};
+
+/// The same PDF with properties that Qt's writer does not set, and its language, South African English. With a password
+/// it is encrypted with AES of 256 bits: the password opens it, and who has it may do everything. Throws store::Error
+/// if the bytes are no PDF.
+QByteArray withProperties(const QByteArray& pdf, const PdfProperties& properties);
 
 } // namespace reports
