@@ -316,6 +316,18 @@ CREATE TABLE [Printout] (
 );
 INSERT INTO [Printout] DEFAULT VALUES;
 
+-- The client file: its cover, with the day in words; what the adviser wrote, in paragraphs; and a row for each stored
+-- result that is not what the record gives today.
+CREATE TABLE [ClientFileCover] (
+    [Name] VARCHAR(255), [IDNumber] VARCHAR(40), [DateText] VARCHAR(255)
+);
+CREATE TABLE [ClientFileTexts] (
+    [Name] VARCHAR(255), [Basis] TEXT, [Considered] TEXT, [Recommendation] TEXT, [Replacement] TEXT, [Decision] TEXT
+);
+CREATE TABLE [ClientFileRemarks] (
+    [Remark] TEXT
+);
+
 -- Heading (Name) and column heads of the list of clients.
 CREATE TABLE [AllDetailsHeader] (
     [Name] VARCHAR(255), [NameA] VARCHAR(255), [BirthDate] VARCHAR(255), [IDNumber] VARCHAR(255),
