@@ -68,13 +68,17 @@ void writeQuietly(const fs::path& programFolder, const fs::path& dataDbPath) {
 
 fs::path ownDataDb(const fs::path& programFolder) { return store::existingSpelling(programFolder / "Data.Mdb"); }
 
-fs::path findDataDb(const fs::path& programFolder) {
-    if (const auto named = parseDataPath(readLocation(programFolder).value_or("")))
-        return store::existingSpelling(store::nativePath(*named, programFolder));
-    requireUsableName(programFolder);
-    fs::path own = ownDataDb(programFolder);
-    writeQuietly(programFolder, own);
-    return own;
+/// The client database that `DataPath.txt` names.
+std::optional<fs::path> namedDataDb(const fs::path& programFolder) {
+    const auto named = parseDataPath(readLocation(programFolder).value_or(""));
+    if (!named) return {};
+    return store::existingSpelling(store::nativePath(*named, programFolder));
+}
+
+Paths pathsIn(const fs::path& programFolder, fs::path dataDb) {
+    const auto beside = [&](const char* name) { return store::existingSpelling(programFolder / name); };
+    return {programFolder,       std::move(dataDb),  beside("Default.Mdb"), printDbPath(programFolder),
+            beside("units.mdb"), beside("Diary.mdb")};
 }
 
 bool isProgramFolder(const fs::path& folder) {
@@ -117,10 +121,18 @@ void writeDataPath(const fs::path& programFolder, const fs::path& dataDbPath) {
 
 fs::path printDbPath(const fs::path& programFolder) { return store::existingSpelling(programFolder / "Print.mdb"); }
 
+Paths lookUpPaths(const fs::path& programFolder) {
+    return pathsIn(programFolder, namedDataDb(programFolder).value_or(ownDataDb(programFolder)));
+}
+
 Paths findPaths(const fs::path& programFolder) {
-    const auto beside = [&](const char* name) { return store::existingSpelling(programFolder / name); };
-    return {programFolder,       findDataDb(programFolder), beside("Default.Mdb"), printDbPath(programFolder),
-            beside("units.mdb"), beside("Diary.mdb")};
+    std::optional<fs::path> dataDb = namedDataDb(programFolder);
+    if (!dataDb) {
+        requireUsableName(programFolder);
+        dataDb = ownDataDb(programFolder);
+        writeQuietly(programFolder, *dataDb);
+    }
+    return pathsIn(programFolder, std::move(*dataDb));
 }
 
 std::string copiedFolderNotice(const Paths& paths) {

@@ -27,6 +27,9 @@ struct Paths {
 /// `writeDataPath`, for a folder whose path the file can't hold.
 Paths findPaths(const std::filesystem::path& programFolder);
 
+/// The same without writing anything.
+Paths lookUpPaths(const std::filesystem::path& programFolder);
+
 /// The path of Print.mdb in a program folder, for a report that runs before start-up has found the other paths.
 std::filesystem::path printDbPath(const std::filesystem::path& programFolder);
 

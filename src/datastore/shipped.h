@@ -1,8 +1,10 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <string_view>
 
+#include "assessment/headfootlines.h"
 #include "store/database.h"
 
 /// Updates the databases that come with the program. Their sources are part of the executable, since only that is sure
@@ -20,6 +22,13 @@ std::string_view printSource();
 /// works without reports, and a report then says so. Throws store::Error for a folder that can't be written or a full
 /// disk.
 void renewPrintDb(store::Database& clients, const std::filesystem::path& printDbPath);
+
+/// Makes a new Print.mdb, the file not existing yet, with these header and footer lines. The file is readable by its
+/// owner only.
+void createPrintDb(const std::filesystem::path& printDbPath, std::optional<assessment::HeadFootLines> lines);
+
+/// True if the settings lack no table and no field.
+bool hasAllSettings(store::Database& settings);
 
 /// Adds missing tables and fields to the settings, with the values that they are shipped with. The user's own settings
 /// are unchanged; an empty table stays empty. One transaction, or none if nothing is missing.

@@ -44,22 +44,13 @@ bool isUpToDate(const fs::path& printDbPath) {
     }
 }
 
-void copyLines(store::Database& clients, store::Database& print) {
-    assessment::HeadFootLines lines;
+/// None for an old client database without these lines; its upgrade will add and copy them.
+std::optional<assessment::HeadFootLines> linesOf(store::Database& clients) {
     try {
-        lines = readHeadFoot(clients);
+        return readHeadFoot(clients);
     } catch (const store::Error&) {
-        return; // an old client database without these lines; its upgrade will add and copy them
+        return {};
     }
-    writeHeadFoot(print, lines);
-}
-
-void fill(const fs::path& printDbPath, store::Database& clients) {
-    store::Database print(printDbPath);
-    store::Transaction transaction(print);
-    print.execute(printSource());
-    copyLines(clients, print);
-    transaction.commit();
 }
 
 std::vector<std::string> tableNames(store::Database& database) {
@@ -109,8 +100,7 @@ void renewPrintDb(store::Database& clients, const fs::path& printDbPath) {
     if (isUpToDate(printDbPath)) return;
     try {
         store::FileBeside beside(printDbPath);
-        store::Database::create(beside.path());
-        fill(beside.path(), clients);
+        createPrintDb(beside.path(), linesOf(clients));
         beside.replace();
     } catch (const store::Error& error) {
         // The user does not know the temporary file's name.
@@ -118,8 +108,26 @@ void renewPrintDb(store::Database& clients, const fs::path& printDbPath) {
     }
 }
 
+void createPrintDb(const fs::path& printDbPath, std::optional<assessment::HeadFootLines> lines) {
+    store::Database::create(printDbPath);
+    store::Database print(printDbPath);
+    store::Transaction transaction(print);
+    print.execute(printSource());
+    if (lines) writeHeadFoot(print, *lines);
+    transaction.commit();
+}
+
+bool hasAllSettings(store::Database& settings) {
+    if (matchesSource(settings, defaultSource())) return true;
+    store::Database shipped{store::InMemory()};
+    shipped.execute(defaultSource());
+    return std::ranges::all_of(tableNames(shipped), [&](const std::string& table) {
+        return lackingFields(readSettings(shipped, table).row(), settings.columns(table)).empty();
+    });
+}
+
 void completeSettings(store::Database& settings) {
-    if (matchesSource(settings, defaultSource())) return;
+    if (hasAllSettings(settings)) return;
     store::Database shipped{store::InMemory()};
     shipped.execute(defaultSource());
     store::Transaction transaction(settings);

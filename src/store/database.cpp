@@ -9,6 +9,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <array>
+#include <optional>
 #include <system_error>
 
 #include "store/error.h"
@@ -100,6 +102,37 @@ void configure(sqlite3* connection) {
     sqlite3_db_config(connection, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
 }
 
+/// Bytes of the file's header, read through the connection's own handle: closing a second one would drop its locks.
+template <std::size_t Count>
+std::optional<std::array<unsigned char, Count>> headerAt(SQLite::Database& connection, sqlite3_int64 place) {
+    std::array<unsigned char, Count> bytes{};
+    sqlite3_file* file = nullptr;
+    sqlite3_file_control(connection.getHandle(), "main", SQLITE_FCNTL_FILE_POINTER, &file);
+    if (file == nullptr || file->pMethods == nullptr ||
+        file->pMethods->xRead(file, bytes.data(), Count, place) != SQLITE_OK)
+        return {};
+    return bytes;
+}
+
+/// Reading a file with a write-ahead log would make files beside it.
+void requireNoLog(SQLite::Database& connection, const fs::path& path) {
+    constexpr sqlite3_int64 placeOfReadVersion = 19;
+    constexpr unsigned char withLog = 2;
+    const auto version = headerAt<1>(connection, placeOfReadVersion);
+    if (version && version->front() == withLog)
+        throw Error(Number::readOnly, path.string(), "Its last changes are in a log beside it.");
+}
+
+/// The first statement reads the header and all table definitions, so it reveals a damaged file. Another program may
+/// have switched the file to a write-ahead log; with a rollback journal a copy of the one file is complete again.
+const char* firstStatements(Opening opening) {
+    switch (opening) {
+    case Opening::onlyRead: return "SELECT 1 FROM sqlite_master";
+    case Opening::temporary: return "PRAGMA journal_mode=MEMORY; PRAGMA synchronous=OFF";
+    default: return "PRAGMA journal_mode=DELETE; PRAGMA synchronous=FULL";
+    }
+}
+
 } // namespace
 
 void failWith(const fs::path& path, int extendedCode, const std::string& words) {
@@ -187,11 +220,11 @@ std::string Statement::text(int column) const {
 
 Database::Database(const fs::path& path) : m_path(existingSpelling(path)) {
     checkBeforeOpening(m_path);
-    m_connection = connect(m_path, SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX);
+    const Opening opening = openingOf(m_path);
+    m_connection = connect(m_path, opening == Opening::onlyRead ? SQLite::OPEN_READONLY : SQLite::OPEN_READWRITE);
     configure(m_connection->getHandle());
-    // The first statement reads the header and all table definitions, so it reveals a damaged file. Another program may
-    // have switched the file to a write-ahead log; with a rollback journal a copy of the one file is complete again.
-    execute("PRAGMA journal_mode=DELETE; PRAGMA synchronous=FULL");
+    if (opening == Opening::onlyRead) requireNoLog(*m_connection, m_path);
+    execute(firstStatements(opening));
     // SQLite counts a truncated last page as a whole one.
     Statement pageSize = prepare("PRAGMA page_size");
     std::error_code error;
@@ -220,7 +253,7 @@ void Database::create(const fs::path& path) {
     // Set while the file is empty; its journals get the same permissions.
     ::chmod(path.c_str(), S_IRUSR | S_IWUSR);
     // An empty transaction writes the header, which distinguishes a new file from one that was emptied by accident.
-    const int code = connection->tryExec("PRAGMA synchronous=FULL; BEGIN IMMEDIATE; COMMIT");
+    const int code = connection->tryExec(firstStatements(openingOf(path)) + std::string("; BEGIN IMMEDIATE; COMMIT"));
     if (code != SQLITE_OK) failWith(path, connection->getExtendedErrorCode(), connection->getErrorMsg());
 }
 
@@ -242,17 +275,12 @@ std::int64_t Database::lastRow() const { return m_connection->getLastInsertRowid
 
 FileState Database::state() const {
     constexpr sqlite3_int64 placeOfCount = 24;
-    unsigned char count[4] = {};
-    sqlite3_file* file = nullptr;
-    // Read through the connection's own handle: closing a second one would drop its locks.
-    sqlite3_file_control(m_connection->getHandle(), "main", SQLITE_FCNTL_FILE_POINTER, &file);
+    const auto count = headerAt<4>(*m_connection, placeOfCount);
     struct stat info {};
-    if (file == nullptr || file->pMethods == nullptr ||
-        file->pMethods->xRead(file, count, sizeof count, placeOfCount) != SQLITE_OK ||
-        ::stat(m_path.c_str(), &info) != 0)
-        return {};
-    const std::uint32_t changes = std::uint32_t{count[0]} << 24 | std::uint32_t{count[1]} << 16 |
-                                  std::uint32_t{count[2]} << 8 | std::uint32_t{count[3]};
+    if (!count || ::stat(m_path.c_str(), &info) != 0) return {};
+    const auto [first, second, third, last] = *count;
+    const std::uint32_t changes =
+        std::uint32_t{first} << 24 | std::uint32_t{second} << 16 | std::uint32_t{third} << 8 | std::uint32_t{last};
     return {info.st_dev, info.st_ino, info.st_ctim.tv_sec, info.st_ctim.tv_nsec, info.st_size, changes};
 }
 

@@ -62,7 +62,7 @@ struct InMemory {};
 ///
 /// Opening never creates a file and never changes one that it refuses: a missing file is Error 3024, a missing folder
 /// 3044, an empty file or one that is no database 3343, a damaged one 3049. Rollback journal, synchronous=FULL. Waits
-/// up to a second for a busy file, then throws Error 3356.
+/// up to a second for a busy file, then throws Error 3356. `OpenedAs` has a file opened in another way.
 class Database {
 public:
     explicit Database(const std::filesystem::path& path);

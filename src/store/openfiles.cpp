@@ -1,6 +1,7 @@
 #include "store/openfiles.h"
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 #include "store/filecopy.h"
@@ -14,6 +15,11 @@ namespace {
 
 std::vector<fs::path>& openFiles() {
     static std::vector<fs::path> files;
+    return files;
+}
+
+std::vector<std::pair<fs::path, Opening>>& openings() {
+    static std::vector<std::pair<fs::path, Opening>> files;
     return files;
 }
 
@@ -34,5 +40,21 @@ bool isOpenHere(const fs::path& database) {
 
 OpenFile::OpenFile(const fs::path& database) : m_database(existingSpelling(database)) { noteOpened(m_database); }
 OpenFile::~OpenFile() { noteClosed(m_database); }
+
+OpenedAs::OpenedAs(const fs::path& database, Opening opening) : m_database(existingSpelling(database)) {
+    openings().emplace_back(m_database, opening);
+}
+
+OpenedAs::~OpenedAs() {
+    auto& files = openings();
+    const auto found = std::ranges::find(files, m_database, &std::pair<fs::path, Opening>::first);
+    if (found != files.end()) files.erase(found);
+}
+
+Opening openingOf(const fs::path& database) {
+    for (const auto& [file, opening] : openings())
+        if (isSameFile(file, database)) return opening;
+    return Opening::usual;
+}
 
 } // namespace store

@@ -25,4 +25,25 @@ private:
     std::filesystem::path m_database;
 };
 
+/// How this program opens a database file.
+enum class Opening {
+    usual,
+    onlyRead,  ///< writes nothing beside it either; Error 3027 where reading would need that, after a crashed writer
+    temporary, ///< never waits for the disk: a power failure may destroy the file, a crash of the program does not
+};
+
+/// Has every connection to a file opened in this way during its lifetime, also by code that knows nothing of it.
+class OpenedAs {
+public:
+    OpenedAs(const std::filesystem::path& database, Opening opening);
+    ~OpenedAs();
+    OpenedAs(const OpenedAs&) = delete;
+    OpenedAs& operator=(const OpenedAs&) = delete;
+
+private:
+    std::filesystem::path m_database;
+};
+
+Opening openingOf(const std::filesystem::path& database);
+
 } // namespace store
