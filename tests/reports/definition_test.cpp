@@ -39,6 +39,7 @@ TEST_F(Definition, NamesFileAndLineOfEveryFault) {
         {"stray words", "Own.rpt", "Line", "paragraph", "321"},
         {"<table><col width=\"x\"/></table>", "Own.rpt", "Line 5:", "30%", "321"},
         {"<table><col align=\"middle\"/></table>", "Own.rpt", "Line 5:", "\"middle\"", "321"},
+        {"<div>\n<div><hr class=\"page\"/></div></div>", "Own.rpt", "Line 6:", "between columns", "321"},
         {"<p>a</p>\n\n{{>absent}}", "Own.rpt", "Line 7:", "absent.rpt", "321"},
         {"{{>piece}}", "piece.rpt", "Line 2:", "\"Nowhere\"", "3265"},
         {"{{>loop}}", "loop.rpt", "Line 2:", "\"loop\"", "321"},

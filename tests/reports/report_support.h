@@ -2,6 +2,9 @@
 
 #include <gmock/gmock.h>
 
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QPrinter>
 #include <QProcess>
 #include <QTest>
@@ -46,6 +49,25 @@ inline void expectWords(const QString& text, const QStringList& there, const QSt
         EXPECT_FALSE(text.contains(words)) << words.toStdString() << " is in\n" << text.toStdString();
 }
 inline QStringList pagesOfPdf(const QByteArray& pdf) { return textOfPdf(pdf).split('\f', Qt::SkipEmptyParts); }
+
+/// The outline and the objects of a PDF file.
+inline QJsonObject jsonOf(const QString& pdf) {
+    const QStringList asJson{"--json=1", "--json-key=outlines", "--json-key=objects", "--json-key=pages", pdf};
+    return QJsonDocument::fromJson(runTool("qpdf", asJson).toUtf8()).object();
+}
+/// The lines of its outline: "1 Title page 1", with their level in front.
+inline QStringList outlineOf(const QJsonObject& json) {
+    QStringList lines;
+    const std::function<void(const QJsonArray&, int)> add = [&](const QJsonArray& items, int level) {
+        for (const QJsonValue& item : items) {
+            const QString page = QString::number(item["destpageposfrom1"].toInt());
+            lines << QString("%1 %2 page %3").arg(QString::number(level), item["title"].toString(), page);
+            add(item["kids"].toArray(), level + 1);
+        }
+    };
+    add(json["outlines"].toArray(), 1);
+    return lines;
+}
 
 /// The line that contains a word, with single blanks between words.
 inline QString simplifiedLine(const QString& text, const QString& withWord) {
