@@ -99,6 +99,10 @@ bool hasKnownGains(const CapitalGains& gains) {
     return gains.ItemiseAdditCapGain == 1 || gains.AdditCapGainLocal != 0 || gains.AdditCapGainForeign != 0;
 }
 
+bool isPrintable(const CapitalGains& gains, const CGTAssetRecord& shown) {
+    return !shown.AssetDesc.empty() || gains.AdditCapGainLocal != 0 || gains.AdditCapGainForeign != 0;
+}
+
 AnnualGain annualGain(const CapitalGains& gains, const YearTotals& totals, std::int16_t Deceased) {
     AnnualGain year;
     year.YearCapGain = totals.YearCapGain;

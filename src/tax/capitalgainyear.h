@@ -31,6 +31,10 @@ YearTotals yearTotals(const assessment::CapitalGains& gains);
 /// True if there are gains of trusts or other sources, itemised or not.
 bool hasKnownGains(const assessment::CapitalGains& gains);
 
+/// True if there is a year to work out and to print beside this asset, the one shown: it has a description, or the
+/// known gains come to something.
+bool isPrintable(const assessment::CapitalGains& gains, const assessment::CGTAssetRecord& shown);
+
 /// The gain of both spouses together: a split gain doubled.
 double FullGain(const assessment::CGTAssetRecord& asset);
 

@@ -308,10 +308,6 @@ void frmCGTCalcIncome::showPlace() {
     m_notCounted->setVisible(notCounted > 0);
 }
 
-bool frmCGTCalcIncome::hasKnownGains() const {
-    return m_gains.AdditCapGainLocal != 0 || m_gains.AdditCapGainForeign != 0;
-}
-
 void frmCGTCalcIncome::applyRules() {
     const Asset& shown = asset();
     const bool isDescribed = !shown.AssetDesc.empty();
@@ -330,7 +326,7 @@ void frmCGTCalcIncome::applyRules() {
     m_improved->setEnabled(isDescribed && !isUnitTrust);
     m_user->setEnabled(isDescribed && m_gain.asksUser());
     for (QPushButton* work : {m_calculate, m_summaryButton, m_print})
-        work->setEnabled(isDescribed || hasKnownGains());
+        work->setEnabled(isPrintable(m_gains, shown));
     const bool hasOthers = m_list.CGTMaxNum() > 1;
     if (!hasOthers && (m_delete->hasFocus() || m_back->hasFocus() || m_forward->hasFocus())) m_description->takeFocus();
     for (QPushButton* walk : {m_delete, m_back, m_forward})

@@ -59,7 +59,6 @@ private:
     void openKnownGains();
     void listTaken(const std::vector<screenkit::EditRow>& rows) override;
     void print(screenkit::Destination destination);
-    bool hasKnownGains() const;
 
     assessment::CapitalGains& m_gains;
     AssetList m_list;

@@ -26,8 +26,8 @@ frmKwikTax::frmKwikTax(Workplace& workplace)
       m_client(workplace.record.tax) {
     buildBody();
     const auto print = [this](Destination to) {
-        feed(); // monthly tax may have changed the income while the panel was open
-        m_work.reports.run("\\kwiktep.rpt", {}, to);
+        const auto printout = feed(); // monthly tax may have changed the income while the panel was open
+        m_work.reports.run(QString::fromStdString(printout.definition), QString::fromStdString(printout.title), to);
     };
     m_printPanel = printPanel({}, print, printNames);
 }
@@ -88,6 +88,8 @@ void frmKwikTax::openPrint() {
     m_printPanel->open();
 }
 
-void frmKwikTax::feed() { feedQuickTaxReport(m_work.paths.PrintDbPath, m_work.record.client.Name, m_client, m_result); }
+datastore::Printout frmKwikTax::feed() {
+    return feedQuickTaxReport(m_work.paths.PrintDbPath, m_work.record.client.Name, m_client, m_result);
+}
 
 } // namespace tax

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "datastore/printfeed.h"
 #include "screenkit/screen.h"
 #include "tax/kwiktax.h"
 
@@ -19,7 +20,7 @@ private:
     void buildBody();
     void calculate();
     void openPrint();
-    void feed();
+    datastore::Printout feed();
 
     assessment::KwikTax& m_client;
     QuickTax m_result;

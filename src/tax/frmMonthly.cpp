@@ -13,7 +13,6 @@ using namespace screenkit;
 
 namespace {
 
-constexpr const char* title = "Monthly - To export printout click on the suitcase button or goto Help";
 constexpr const char* wrongDate = "Incorrect Date";
 constexpr double inclusionRates[] = {0.8, 0.2};
 
@@ -200,8 +199,21 @@ void frmMonthly::openPrint() {
 }
 
 void frmMonthly::print(Destination destination) {
-    feedMonthlyReport(m_work.paths.PrintDbPath, m_work.record.client.Name, m_employee, m_month, m_setup, m_result);
-    m_work.reports.run("\\Monthly.rpt", title, destination);
+    const auto printout = feedMonthlyReport(m_work.paths.PrintDbPath, m_work.record.client.Name,
+                                            {m_employee, m_month, m_setup, m_result});
+    m_work.reports.run(QString::fromStdString(printout.definition), QString::fromStdString(printout.title),
+                       destination);
+}
+
+std::optional<MonthShown> frmMonthly::shown() const {
+    if (m_month == MonthlyInputs{} || dateFault(m_month) != DateFault::none) return {};
+    MonthShown month{m_employee, m_month, m_setup, m_result};
+    if (m_calculated != m_month) {
+        double previousInclusionRate = m_previousInclusionRate;
+        assessment::KwikTax scale = m_work.record.tax;
+        month.result = monthlyTax(m_month, m_setup, previousInclusionRate, scale);
+    }
+    return month;
 }
 
 } // namespace tax

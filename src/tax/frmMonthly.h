@@ -3,7 +3,7 @@
 #include <optional>
 
 #include "screenkit/screen.h"
-#include "tax/monthlytax.h"
+#include "tax/taxreports.h"
 
 namespace tax {
 
@@ -14,6 +14,9 @@ class frmMonthly : public screenkit::Screen {
 public:
     /// Throws store::Error if the settings can't be read, since no month can be calculated without them.
     explicit frmMonthly(screenkit::Workplace& workplace);
+
+    /// The month as Print would print it now. Nothing while nothing is entered, or if the dates are not valid.
+    std::optional<MonthShown> shown() const;
 
 private:
     screenkit::NumberField* randWithoutCents(const QString& name, double& place);

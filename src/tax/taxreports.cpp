@@ -1,13 +1,12 @@
 #include "tax/taxreports.h"
 
 #include "base/day.h"
-#include "datastore/printfeed.h"
 #include "datastore/settings.h"
 
 namespace tax {
 
-void feedQuickTaxReport(const std::filesystem::path& printDbPath, const std::string& client,
-                        const assessment::KwikTax& income, const QuickTax& result) {
+datastore::Printout feedQuickTaxReport(const std::filesystem::path& printDbPath, const std::string& client,
+                                       const assessment::KwikTax& income, const QuickTax& result) {
     const TaxYear& year = (choosesFebruary2026(income) ? quickTaxFebruary2026 : quickTaxFebruary2027).scale;
     datastore::PrintFeed feed(printDbPath, client);
     feed.replace("kwiktax", {{"AGE", income.Age},
@@ -24,10 +23,12 @@ void feedQuickTaxReport(const std::filesystem::path& printDbPath, const std::str
                              {"YR9798", std::string("Tax calculation used if for the tax year ending ") + year.ends},
                              {"TaxYear", year.ends}});
     feed.commit();
+    return {"\\kwiktep.rpt", ""};
 }
 
-void feedMonthlyReport(const std::filesystem::path& printDbPath, const std::string& client, const std::string& employee,
-                       const MonthlyInputs& month, const PAYESetup& setup, const MonthlyTax& result) {
+datastore::Printout feedMonthlyReport(const std::filesystem::path& printDbPath, const std::string& client,
+                                      const MonthShown& shown) {
+    const auto& [employee, month, setup, result] = shown;
     datastore::PrintFeed feed(printDbPath, client);
     feed.replace(payeSetupTable().name(), datastore::rowOf(payeSetupTable(), setup));
     // The captions that the report prints beside the figures.
@@ -80,6 +81,7 @@ void feedMonthlyReport(const std::filesystem::path& printDbPath, const std::stri
                              {"total", "Total tax deduction"},
                              {"TotalNum", result.totalTaxDeduction}});
     feed.commit();
+    return {"\\Monthly.rpt", "Monthly - To export printout click on the suitcase button or goto Help"};
 }
 
 } // namespace tax

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <string>
 
+#include "datastore/printfeed.h"
 #include "tax/kwiktax.h"
 #include "tax/monthlytax.h"
 
@@ -16,13 +17,14 @@ struct MonthShown {
     MonthlyTax result;
 };
 
-/// Writes a client's quick tax into Print.mdb for `kwiktep.rpt`. If it throws store::Error, nothing is written.
-void feedQuickTaxReport(const std::filesystem::path& printDbPath, const std::string& client,
-                        const assessment::KwikTax& income, const QuickTax& result);
+/// Writes a client's quick tax into Print.mdb and returns the report to run, which has its own title. If it throws
+/// store::Error, nothing is written.
+datastore::Printout feedQuickTaxReport(const std::filesystem::path& printDbPath, const std::string& client,
+                                       const assessment::KwikTax& income, const QuickTax& result);
 
-/// Writes an employee's month, and the settings used, into Print.mdb for `Monthly.rpt`. If it throws store::Error,
-/// nothing is written.
-void feedMonthlyReport(const std::filesystem::path& printDbPath, const std::string& client, const std::string& employee,
-                       const MonthlyInputs& month, const PAYESetup& setup, const MonthlyTax& result);
+/// Writes an employee's month, and the settings used, into Print.mdb and returns the report to run. If it throws
+/// store::Error, nothing is written.
+datastore::Printout feedMonthlyReport(const std::filesystem::path& printDbPath, const std::string& client,
+                                      const MonthShown& shown);
 
 } // namespace tax
