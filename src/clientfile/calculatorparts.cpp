@@ -1,5 +1,6 @@
 #include <cmath>
 
+#include "base/day.h"
 #include "calculators/bondreport.h"
 #include "calculators/dailybalancereport.h"
 #include "calculators/debtreport.h"
@@ -161,7 +162,12 @@ struct IncomeSharesPart {
 };
 
 struct DailyBalancePart {
-    static bool isEntered(const Assessment& client) { return client.dailyBalance != assessment::DailyBalance{}; }
+    /// A date that was cleared holds another number than one that was never filled.
+    static bool isEntered(const Assessment& client) {
+        const assessment::DailyBalance& in = client.dailyBalance;
+        return in.CapAmount != 0 || in.IntRate != 0 || base::isShownOnScreen(in.StartDateDB) ||
+               base::isShownOnScreen(in.EndDateDB);
+    }
     static std::optional<calculators::DailyBalanceResult> result(const Source& source) {
         return calculators::dailyBalance(source.record.dailyBalance);
     }
@@ -297,14 +303,15 @@ std::string remarkOnSingleInvestment(const Source& source) {
     const assessment::RRROld& stored = source.record.rrrOld;
     assessment::RRROld present = stored;
     calculators::RRRCalc(present);
-    std::string remark;
+    std::vector<std::string> sentences;
     if (present.AnnEsc != stored.AnnEsc)
-        remark = "The escalation stored for the premium of the single investment has no effect and counts as 0.";
+        sentences.emplace_back(
+            "The escalation stored for the premium of the single investment has no effect and counts as 0.");
     // The rate is written to the file but not read from it: 0 also means that it is not known here.
     if (stored.RRR != 0 && present.RRR != stored.RRR)
-        remark += std::string(remark.empty() ? "" : " ") +
-                  "The rate of return stored for the single investment is not the one that its own figures give.";
-    return remark;
+        sentences.emplace_back(
+            "The rate of return stored for the single investment is not the one that its own figures give.");
+    return joined(sentences);
 }
 
 } // namespace

@@ -15,6 +15,14 @@ inline void printAll(const Print& print, const std::vector<datastore::Printout>&
         print(each);
 }
 
+/// Several sentences of one remark.
+inline std::string joined(const std::vector<std::string>& sentences) {
+    std::string all;
+    for (const std::string& sentence : sentences)
+        all += (all.empty() ? "" : " ") + sentence;
+    return all;
+}
+
 /// The part of a screen that works a result out and prints it. `Of` has three static functions:
 ///
 ///     bool isEntered(const assessment::Assessment&): whether it holds anything that a person entered for this client;
