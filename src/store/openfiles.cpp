@@ -1,6 +1,7 @@
 #include "store/openfiles.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 #include <vector>
 
@@ -47,14 +48,16 @@ OpenedAs::OpenedAs(const fs::path& database, Opening opening) : m_database(exist
 
 OpenedAs::~OpenedAs() {
     auto& files = openings();
-    const auto found = std::ranges::find(files, m_database, &std::pair<fs::path, Opening>::first);
-    if (found != files.end()) files.erase(found);
+    const auto found =
+        std::find_if(files.rbegin(), files.rend(), [this](const auto& file) { return file.first == m_database; });
+    if (found != files.rend()) files.erase(std::next(found).base());
 }
 
 Opening openingOf(const fs::path& database) {
-    for (const auto& [file, opening] : openings())
-        if (isSameFile(file, database)) return opening;
-    return Opening::usual;
+    const auto& files = openings();
+    const auto found =
+        std::find_if(files.rbegin(), files.rend(), [&](const auto& file) { return isSameFile(file.first, database); });
+    return found == files.rend() ? Opening::usual : found->second;
 }
 
 } // namespace store

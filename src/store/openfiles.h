@@ -32,7 +32,8 @@ enum class Opening {
     temporary, ///< never waits for the disk: a power failure may destroy the file, a crash of the program does not
 };
 
-/// Has every connection to a file opened in this way during its lifetime, also by code that knows nothing of it.
+/// Has every connection to a file opened in this way during its lifetime, also by code that knows nothing of it. Of
+/// several for one file the last one counts.
 class OpenedAs {
 public:
     OpenedAs(const std::filesystem::path& database, Opening opening);

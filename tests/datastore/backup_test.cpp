@@ -262,7 +262,8 @@ TEST_F(DataCareTest, ATransferBringsEveryRowOfTheChosenUnderNewKeys) {
     other.makeClientDb();
     const fs::path theirs = other / "Data.Mdb";
     other.run("Data.Mdb", "INSERT INTO PersDetails(DCLNO) VALUES(41); INSERT INTO LumpSumTax(DCLNO) VALUES(42),(900);"
-                          "INSERT INTO CGTTrustOther(DCLNO) VALUES(141); INSERT INTO CGTDetails(DCLNO) VALUES(42)");
+                          "INSERT INTO CGTTrustOther(DCLNO) VALUES(141); INSERT INTO CGTDetails(DCLNO) VALUES(42);"
+                          "CREATE TABLE ClientFileTexts(DCLNO, Mark); INSERT INTO ClientFileTexts VALUES(139,'x')");
     datastore::fetchTransferFile(other.paths(), stick / "CopyData.Mdb");
     EXPECT_EQ(datastore::transferVersion(other.paths()), 18);
     EXPECT_EQ(datastore::readClients(other.paths()), 100);
@@ -271,6 +272,10 @@ TEST_F(DataCareTest, ATransferBringsEveryRowOfTheChosenUnderNewKeys) {
     EXPECT_EQ(rowsOf(theirs, "SELECT (SELECT max(DCLNO) FROM LumpSumTax), (SELECT count(*) FROM LumpSumTax), (SELECT "
                              "count(*) FROM CGTTrustOther), (SELECT count(*) FROM CGTDetails)"),
               "900|1|0|0");
+    EXPECT_EQ(rowsOf(theirs, "SELECT count(*) FROM ClientFileTexts JOIN PersDetails USING (DCLNO) WHERE Mark="
+                             "FileTextsMark AND length(Mark)=32"),
+              "98"); // without O'Brien's and Cele's, who have none
+    EXPECT_EQ(rowsOf(theirs, "SELECT count(*) FROM ClientFileTexts"), "98");
     // And back: every row of every table that travels is as it was, but for the key.
     for (const assessment::TableDescription* table : assessment::clientTables()) {
         if (table->field("DCLNO") == nullptr || table->name().starts_with("CGT") || table->name() == "LumpSumTax")
@@ -298,6 +303,10 @@ TEST_F(DataCareTest, ATransferBringsEveryRowOfTheChosenUnderNewKeys) {
 }
 
 TEST_F(DataCareTest, AFileThatIsNoTransferFileIsNotRead) {
+    datastore::copyClients(paths(), {2});
+    EXPECT_EQ(rowsOf(transfer, "SELECT count(*) FROM sqlite_master WHERE name='ClientFileTexts'"), "0");
+    fs::remove(transfer);
+    fs::remove(bak);
     expectRefused(3021, "deleted meanwhile", [&] { datastore::copyClients(paths(), {1, 9}); });
     datastore::copyClients(paths(), {1, 2});
     const fs::path good = stick / "CopyData.Mdb";
@@ -341,7 +350,7 @@ TEST_F(DataCareTest, DeletingRemovesTheClientChosenAndNobodyElse) {
         EXPECT_EQ(in("SELECT count(*)>0 FROM " + table->name() + " WHERE DCLNO=1"), stays ? "1" : "0") << table->name();
     }
     EXPECT_EQ(in("SELECT CLName FROM PersDetails ORDER BY CLName"), "Cele\nO'Brien");
-    EXPECT_EQ(in("SELECT count(*) FROM DTHInvestments"), "1");
+    EXPECT_EQ(in("SELECT (SELECT count(*) FROM DTHInvestments), (SELECT count(*) FROM ClientFileTexts)"), "1|0");
     expectRefused(3021, "gone", [&] { datastore::deleteClient(file, clients[0]); });
     run("UPDATE PersDetails SET Name='Dube' WHERE DCLNO=3");
     expectRefused(3197, "another client", [&] { datastore::deleteClient(file, clients[1]); });
