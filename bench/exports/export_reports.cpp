@@ -1,4 +1,5 @@
-// Writes every report definition in every file format, from full tables, for bench/check-exports.
+// Writes every report definition in every file format, from full tables, and a document of all of them, for
+// bench/check-exports.
 //
 //   export_reports DEFINITIONS PRINT.MDB OUT
 
@@ -10,6 +11,7 @@
 #include "base/numberformat.h"
 #include "datastore/printfeed.h"
 #include "reports/definition.h"
+#include "reports/document.h"
 #include "reports/export.h"
 #include "reports/report.h"
 #include "screenkit/look.h"
@@ -97,6 +99,13 @@ void feedAll(const fs::path& print, const QStringList& tables, const Fill& fill)
     feed.commit();
 }
 
+/// Writes a report in each of its formats; file: without an ending.
+void writeAll(const reports::Report& report, const fs::path& file) {
+    for (const reports::Format format : reports::formatsOf(report))
+        store::writeFile(file.string() + reports::endingOf(format).toStdString(),
+                         reports::exported(report, format).toStdString());
+}
+
 void exportAll(const fs::path& definitions, const fs::path& printTemplate, const fs::path& out) {
     const fs::path folder = out / "program";
     fs::remove_all(out);
@@ -108,19 +117,26 @@ void exportAll(const fs::path& definitions, const fs::path& printTemplate, const
     fs::permissions(print, fs::perms::owner_write, fs::perm_options::add);
     screenkit::RealDesk desk;
     const reports::Engine engine(desk, folder);
+    reports::DocumentPlan document{.definitions = folder,
+                                   .printDatabase = print,
+                                   .date = desk.today(),
+                                   .title = "Document",
+                                   .client = "Ms T. Ṱhoho-Nḓou",
+                                   .chapters = {}};
     for (const auto& entry : fs::directory_iterator(definitions)) {
         const reports::Definition definition = reports::readDefinition(folder / entry.path().filename());
         if (definition.title.isEmpty()) continue; // it is included by other definitions
         for (const Fill& fill : fills) {
             feedAll(print, reports::tablesOf(definition), fill);
             const auto report = engine.prepare(QString::fromStdString(entry.path().filename().string()));
-            for (const reports::Format format : reports::formatsOf(*report)) {
-                const std::string name = entry.path().stem().string() + "-" + fill.name;
-                store::writeFile(out / (name + reports::endingOf(format).toStdString()),
-                                 reports::exported(*report, format).toStdString());
-            }
+            writeAll(*report, out / (entry.path().stem().string() + "-" + fill.name));
         }
+        document.chapters.push_back({definition.title, [=, &print](const reports::PrintSection& run) {
+                                         feedAll(print, reports::tablesOf(definition), fills[1]);
+                                         run({entry.path().filename().string(), ""});
+                                     }});
     }
+    writeAll(makeDocument(document), out / "document");
 }
 
 } // namespace

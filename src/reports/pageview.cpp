@@ -1,5 +1,6 @@
 #include "reports/pageview.h"
 
+#include <QApplication>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
@@ -19,6 +20,7 @@ PageView::PageView(std::shared_ptr<const Layout> layout, QWidget* parent)
     setBackgroundRole(QPalette::Dark);
     viewport()->setBackgroundRole(QPalette::Dark);
     viewport()->setCursor(Qt::OpenHandCursor);
+    viewport()->setMouseTracking(true); // a link shows itself by its cursor
     setFocusPolicy(Qt::StrongFocus);
     m_scale = 1;
 }
@@ -146,12 +148,25 @@ void PageView::wheelEvent(QWheelEvent* event) {
     event->accept();
 }
 
+int PageView::targetAt(const QPointF& place) const {
+    for (int page = 0; page < pageCount(); ++page) {
+        const QRectF area = pageArea(page);
+        if (!area.contains(place)) continue;
+        const QPointF onPage = (place - area.topLeft()) * (Layout::pageSize().width() / area.width());
+        for (const PlacedLink& link : m_layout->pages[static_cast<std::size_t>(page)].links)
+            if (link.area.contains(onPage)) return m_layout->firstPages[static_cast<std::size_t>(link.section)];
+    }
+    return -1;
+}
+
 void PageView::mousePressEvent(QMouseEvent* event) {
-    m_dragFrom = event->pos();
+    m_dragFrom = m_pressedAt = event->pos();
     viewport()->setCursor(Qt::ClosedHandCursor);
 }
 
 void PageView::mouseMoveEvent(QMouseEvent* event) {
+    if (event->buttons() == Qt::NoButton)
+        viewport()->setCursor(targetAt(event->position()) < 0 ? Qt::OpenHandCursor : Qt::PointingHandCursor);
     if (!event->buttons().testFlag(Qt::LeftButton)) return;
     const QPoint moved = event->pos() - m_dragFrom;
     horizontalScrollBar()->setValue(horizontalScrollBar()->value() - moved.x());
@@ -159,7 +174,12 @@ void PageView::mouseMoveEvent(QMouseEvent* event) {
     m_dragFrom = event->pos();
 }
 
-void PageView::mouseReleaseEvent(QMouseEvent*) { viewport()->setCursor(Qt::OpenHandCursor); }
+void PageView::mouseReleaseEvent(QMouseEvent* event) {
+    viewport()->setCursor(Qt::OpenHandCursor);
+    const bool dragged = (event->pos() - m_pressedAt).manhattanLength() >= QApplication::startDragDistance();
+    const int target = dragged || event->button() != Qt::LeftButton ? -1 : targetAt(event->position());
+    if (target >= 0) showPage(target);
+}
 
 void PageView::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Space) // forward by a screenful, as in other readers

@@ -8,7 +8,7 @@ namespace reports {
 struct Layout;
 
 /// The pages of a report one below the other. Only the visible part of a page is painted, so a report of a hundred
-/// pages opens as fast as one of two.
+/// pages opens as fast as one of two. A click on a line of a document's contents shows the page that it names.
 class PageView : public QAbstractScrollArea {
     Q_OBJECT
 
@@ -51,12 +51,15 @@ private:
     void rescale(double scale);
     void updateScrollBars();
     void notePage();
+    /// The page that the link at this place leads to; below 0 if there is none.
+    int targetAt(const QPointF& place) const;
 
     std::shared_ptr<const Layout> m_layout;
     Zoom m_zoom = Zoom::pageWidth;
     double m_scale = 0;
     int m_noted = -1;
     QPoint m_dragFrom;
+    QPoint m_pressedAt;
 };
 
 } // namespace reports

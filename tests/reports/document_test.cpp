@@ -6,7 +6,7 @@
 #include <QTimer>
 
 #include "reports/layout_support.h"
-#include "reports/output/pdfproperties.h"
+#include "reports/pageview.h"
 #include "reports/report_support.h"
 
 using namespace reporttest;
@@ -137,6 +137,9 @@ TEST_F(Document, ContentsOutlineAndLinksNameThePageWhereEachPartBegins) {
         }
     }
     EXPECT_EQ(leads.size(), 2 + 1 + 70 + 10);
+    const QString root = objects[objects["trailer"]["/Root"].toString()]["/Outlines"].toString();
+    EXPECT_EQ(objects[root]["/Count"].toInt(), 1 + 1 + 1 + 70) << "at first a reader shows the chapters alone";
+    EXPECT_EQ(objects[objects[root]["/Last"].toString()]["/Count"].toInt(), -1);
     EXPECT_EQ(leads, shown);
 }
 
@@ -233,14 +236,35 @@ TEST_F(Document, PreviewOffersPdfAndOdtAndAsksBeforeAnOdtWithoutThePassword) {
     EXPECT_EQ(storetest::bytesOf(folder / "b.pdf"), "old");
 }
 
+TEST_F(Document, AClickOnALineOfTheContentsShowsItsPage) {
+    engine.show(std::make_shared<reports::Report>(makeDocument(plan)));
+    reports::PreviewWindow* window = engine.previews().front();
+    window->resize(800, 700);
+    reports::PageView& view = window->view();
+    view.setScale(1);
+    view.showPage(1);
+    const double scale = view.logicalDpiX() / reports::unitsPerInch;
+    const QRectF line = window->report().layout.pages[1].links.at(1).area;
+    const double left = (view.viewport()->width() - reports::Layout::pageSize().width() * scale) / 2;
+    const QPoint place(static_cast<int>(left + line.center().x() * scale),
+                       static_cast<int>(view.fontMetrics().height() * 1.2 + line.center().y() * scale));
+    QTest::mousePress(view.viewport(), Qt::LeftButton, {}, place - QPoint(0, 40));
+    QTest::mouseRelease(view.viewport(), Qt::LeftButton, {}, place); // drags the pages
+    EXPECT_EQ(view.currentPage(), 1);
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, place);
+    EXPECT_EQ(view.currentPage(), 5);
+}
+
 TEST_F(Document, AsOdtHasAPageStyleForEachSectionAndItsPagesInTheContents) {
+    plan.chapters.push_back({"Empty", prints({"Empty.rpt"})});
+    define("Empty.rpt", page(""));
     storetest::put(folder / "own.odt", reports::exported(makeDocument(plan), reports::Format::odt).toStdString());
     const QString styles = runTool("unzip", {"-p", pathOf("own.odt"), "styles.xml"});
     QString content = runTool("unzip", {"-p", pathOf("own.odt"), "content.xml"});
-    EXPECT_EQ(styles.count("<style:master-page "), 5);
+    EXPECT_EQ(styles.count("<style:master-page "), 6);
     EXPECT_EQ(styles.count("Principal amount of a loan with amortisation"), 1);
     EXPECT_EQ(content.count("fo:break-before=\"page\""), 1);
-    const std::pair<int, int> sections[] = {{3, 3}, {4, 6}, {5, 10}};
+    const std::pair<int, int> sections[] = {{3, 3}, {4, 6}, {5, 10}, {6, 12}};
     for (const auto& [section, number] : sections) {
         expectWords(content, {QString("style:master-page-name=\"Section%1\"").arg(section),
                               QString("text:name=\"Section%1\"/>").arg(section),

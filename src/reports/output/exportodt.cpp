@@ -34,11 +34,13 @@ public:
                 after = 0;
                 continue;
             }
-            const double before = after + (index == 0 ? 0 : spaceBefore(block));
+            const bool first = index == 0 || blocks[index - 1].kind == Block::Kind::pageBreak;
+            const double before = after + (first ? 0 : spaceBefore(block));
             addBlock(block, width, before);
             after = spaceAfter(block);
         }
-        if (blocks.empty() || endsInTable(blocks.back())) addThinLine();
+        if (blocks.empty()) addEmptyLine();
+        if (!blocks.empty() && endsInTable(blocks.back())) addThinLine();
     }
 
 private:
@@ -95,8 +97,12 @@ private:
     void addRule(double before) {
         const QString line =
             QString(R"(fo:border-bottom="%1 solid %2")").arg(odtLength(hairline), ink::hairline.name());
+        addEmptyLine(before, line);
+    }
+
+    void addEmptyLine(double before = 0, const QString& further = {}) {
         static const Face thin{0.5};
-        startParagraph("text:p", m_styles.paragraph({.face = thin, .before = before, .further = line}));
+        startParagraph("text:p", m_styles.paragraph({.face = thin, .before = before, .further = further}));
         m_xml.writeEndElement();
     }
 

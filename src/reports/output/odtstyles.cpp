@@ -18,10 +18,8 @@ QString OdtStyles::letters(const Face& face) {
 }
 
 void OdtStyles::beginPage(const QString& pageStyle) {
-    if (pageStyle.isEmpty())
-        m_pageBreak = R"( fo:break-before="page")";
-    else
-        m_pageStyle = QString(R"( style:master-page-name="%1")").arg(pageStyle);
+    m_pageBreak = pageStyle.isEmpty() ? R"( fo:break-before="page")" : "";
+    if (!pageStyle.isEmpty()) m_pageStyle = QString(R"( style:master-page-name="%1")").arg(pageStyle);
 }
 
 QString OdtStyles::named(const char* family, const QString& properties, const QString& attributes) {

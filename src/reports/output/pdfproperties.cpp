@@ -14,8 +14,6 @@ namespace {
 
 QPDFObjectHandle textObject(const QString& text) { return QPDFObjectHandle::newUnicodeString(text.toStdString()); }
 
-QPDFObjectHandle number(std::size_t value) { return QPDFObjectHandle::newInteger(static_cast<long long>(value)); }
-
 double heightOf(QPDFObjectHandle page) { return page.getKey("/MediaBox").getArrayItem(3).getNumericValue(); }
 
 using Pages = std::vector<QPDFPageObjectHelper>;
@@ -40,15 +38,16 @@ public:
 
     QPDFObjectHandle made() {
         QPDFObjectHandle root = m_pdf.makeIndirectObject(QPDFObjectHandle::parse("<< /Type /Outlines >>"));
-        addUnder(root, 0, m_headings.size());
+        addUnder(root, 0, m_headings.size(), true);
         return root;
     }
 
 private:
-    /// Adds the headings of this range under `parent`; a heading of a lower level goes under the one before it.
-    void addUnder(QPDFObjectHandle parent, std::size_t from, std::size_t to) {
+    /// Adds the headings of this range under `parent`; a heading of a lower level goes under the one before it. open:
+    /// a reader shows them at once. Gives the number of lines that are shown when `parent` is open.
+    long long addUnder(QPDFObjectHandle parent, std::size_t from, std::size_t to, bool open) {
         QPDFObjectHandle previous = QPDFObjectHandle::newNull();
-        std::size_t count = 0;
+        long long shown = 0;
         for (std::size_t at = from; at < to;) {
             std::size_t next = at + 1;
             while (next < to && m_headings[next].level > m_headings[at].level)
@@ -61,14 +60,16 @@ private:
                 item.replaceKey("/Prev", previous);
                 previous.replaceKey("/Next", item);
             }
-            addUnder(item, at + 1, next);
+            const bool only = at == 0 && next == m_headings.size(); // a report's own title
+            const long long below = addUnder(item, at + 1, next, only);
+            shown += 1 + (only ? below : 0);
             previous = item;
             at = next;
-            ++count;
         }
-        if (count == 0) return;
+        if (shown == 0) return 0;
         parent.replaceKey("/Last", previous);
-        parent.replaceKey("/Count", number(count)); // initially expanded
+        parent.replaceKey("/Count", QPDFObjectHandle::newInteger(open ? shown : -shown));
+        return shown;
     }
 
     QPDFObjectHandle itemOf(const PdfHeading& heading) {
