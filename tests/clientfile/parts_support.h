@@ -1,7 +1,5 @@
 #pragma once
 
-#include <algorithm>
-
 #include "assessment/newasset.h"
 #include "calculators/loans.h"
 #include "calculators/realrate.h"
@@ -19,44 +17,12 @@ using clientfile::Part;
 using clientfile::Source;
 using shelltest::RunningProgram;
 
-inline std::string wordsOf(const std::vector<reports::Run>& runs) {
-    std::string text;
-    for (const reports::Run& run : runs)
-        text += (run.bold ? "*" : "") + std::string(run.italic ? "/" : "") + run.text.toStdString();
-    return text;
-}
-
-inline std::string textOf(const char* kind, const std::vector<reports::Row>& rows) {
-    std::string text;
-    for (const reports::Row& row : rows) {
-        text += std::string(kind) + (row.result ? " result" : "") + (row.total ? " total" : "");
-        for (const reports::Cell& cell : row.cells)
-            text += " | " + wordsOf(cell.runs);
-        text += "\n";
-    }
-    return text;
-}
-
-/// A line for each block and for each row of a table.
-inline std::string textOf(const std::vector<reports::Block>& blocks) {
-    constexpr const char* kinds[] = {"title", "lead", "answer", "heading", "paragraph",
-                                     "note",  "rule", "table",  "columns", "another kind"};
-    std::string text;
-    for (const reports::Block& block : blocks) {
-        text += kinds[std::min<std::size_t>(static_cast<std::size_t>(block.kind), std::size(kinds) - 1)];
-        text += ": " + wordsOf(block.runs) + "\n" + textOf("head", block.table.heads) + textOf("row", block.table.rows);
-        for (const auto& column : block.columns)
-            text += "column\n" + textOf(column);
-    }
-    return text;
-}
-
-/// All that a report says: two reports with the same text have the same words and figures.
+/// All that a report says, a line for each paragraph and each row: two reports with the same text have the same words
+/// and figures.
 inline std::string textOf(const reports::Report& report) {
     const reports::Content& content = report.content;
-    const auto lines = [](const QStringList& all) { return all.join(" / ").toStdString() + "\n"; };
-    return "report: " + lines({report.windowTitle, content.title, content.client, content.date}) +
-           lines(content.headerLines) + textOf(content.blocks) + lines(content.footerLines);
+    return QStringList{report.windowTitle, content.title, content.client, content.date}.join(" / ").toStdString() +
+           "\n" + exported(report, reports::Format::html).toStdString();
 }
 
 /// A client for whom every calculator and tax screen has figures and a result, as their screens leave them. `full` is
@@ -81,25 +47,14 @@ inline assessment::Assessment fullClient(assessment::Assessment full) {
     full.offShore = {500000, 10, 6, 9, 15, 20, 3};
     full.rrrOld = {20000, 1000, 120, 5, 300000, 0, 0};
     calculators::RRRCalc(full.rrrOld);
-    full.rrrNew.RRRNEWIntLumpInv = 10000;
-    full.rrrNew.RRRNEWPeriod = 60;
-    full.rrrNew.RRRNEWMaturityVal = 90000;
-    full.rrrNew.RegMpay1 = 800;
-    full.rrrNew.PayEsc1 = 5;
-    full.rrrNew.RegMinc2 = 100;
-    full.rrrNew.RegMpayDet1 = "Endowment";
+    full.rrrNew = {10000, 60, 90000, 800, 0, 0,           0,  5,  0,  0,  0,  0,  100, 0,
+                   0,     0,  0,     0,   0, "Endowment", "", "", "", "", "", "", ""};
     full.bond = {1200000, 240, 11.5F, 0, 900000, 10.75F};
     full.lifeOfCapital = {1000000, 8000, 9, 18, 6};
     full.incomeShares = {1500000, 12, 90000, 6, 25, "monthly"};
     full.estateDuty = {4000000, 1500000, 200000, 100000, 4500000, 900000, 300000, 50000};
     full.raTaxAdvantage = {600000, 560000, 90000, 0, "", 10000};
-    full.car = {.description = "Citi Golf",
-                .employee = "T. Nḓou",
-                .vehicleValue = 385000,
-                .allowance = 60000,
-                .closeKm = 40000,
-                .openKm = 10000,
-                .businessKm = 12000};
+    full.car = {"Citi Golf", "T. Nḓou", 385000, 60000, 40000, 10000, 12000};
     full.lumpSums.RetireLumpSumBefore = 20000;
     full.lumpSums.RetireDeathAfter.back() = 900000;
     full.lumpSums.FstLumpTaken = 3;
