@@ -80,7 +80,8 @@ struct CapitalGainsPart {
         return year;
     }
     static std::vector<Printout> feed(const Source& source, const Choices& choices, Year year) {
-        year.options.knownGains = choices.contains(Choice::knownGains);
+        // Without assets the known gains are all that the part has.
+        year.options.knownGains = choices.contains(Choice::knownGains) || year.client.capitalGains.assets.empty();
         return feedCapitalGains(source.paths.PrintDbPath, year.client, year.options);
     }
     static std::string remark(const Source& source) {
@@ -136,21 +137,16 @@ struct MonthlyTaxPart {
     }
 };
 
+/// The figures of a travel claim are kept until another client comes.
 struct TravelClaimPart {
-    static bool isEntered(const Assessment& client) { return client.car != assessment::CarAll{}; }
     static std::string whyNot(const Source& source) {
-        if (isEntered(source.record)) return result(source) ? "" : noResult;
+        if (source.record.car != assessment::CarAll{}) return {};
         return "Nothing is held: the travel claim stores nothing, and its screen is not filled for this client.";
     }
-    static std::optional<tax::TravelClaim> result(const Source& source) {
-        const tax::TravelClaim claim = tax::travelClaim(source.record.car);
-        if (!std::isfinite(claim.claim) || !std::isfinite(claim.totalCosts)) return {};
-        return claim;
-    }
     static void print(const Source& source, const Choices&, const Print& print) {
-        if (const auto claim = result(source))
-            print(PrintCarAll1(source.paths.PrintDbPath, source.record.client.Name, source.record.car, *claim,
-                               datastore::readReportLanguage(source.paths.DefaultDbPath)));
+        const assessment::CarAll& car = source.record.car;
+        print(PrintCarAll1(source.paths.PrintDbPath, source.record.client.Name, car, tax::travelClaim(car),
+                           datastore::readReportLanguage(source.paths.DefaultDbPath)));
     }
 };
 
