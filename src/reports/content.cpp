@@ -1,5 +1,9 @@
 #include "reports/content.h"
 
+#include "reports/definition.h"
+#include "reports/snapshot.h"
+#include "store/files.h"
+
 namespace reports {
 
 QString textOf(const std::vector<Run>& runs) {
@@ -43,5 +47,16 @@ QString Content::headOf(bool firstPage) const {
 }
 
 QString Cell::text() const { return textOf(runs); }
+
+Content filledFrom(const std::filesystem::path& folder, const QString& name, const std::filesystem::path& printDatabase,
+                   const QDate& day) {
+    // Leading separators are removed, since screens write "\Lonrepa.rpt".
+    const std::filesystem::path inside = store::nativePath(name.toStdString()).relative_path();
+    const Definition definition = readDefinition(store::existingSpelling(folder / inside));
+    Content content =
+        fill(definition, Snapshot(printDatabase, tablesOf(definition)), QString::fromStdString(printDatabase.string()));
+    content.date = day.toString("dd/MM/yyyy");
+    return content;
+}
 
 } // namespace reports

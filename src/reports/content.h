@@ -103,7 +103,7 @@ QStringList tablesOf(const Definition& definition);
 Content fill(const Definition& definition, const Snapshot& snapshot, const QString& printDatabase);
 
 /// Fills the definition of this name in a folder, found without case and with or without a separator before it
-/// ("\\Lonrepa.rpt"), with the rows of the print database, as printed on that day. Throws store::Error.
+/// ("\Lonrepa.rpt"), with the rows of the print database, as printed on that day. Throws store::Error.
 Content filledFrom(const std::filesystem::path& folder, const QString& name, const std::filesystem::path& printDatabase,
                    const QDate& day);
 

@@ -6,7 +6,6 @@
 #include "reports/content.h"
 #include "reports/definition.h"
 #include "reports/snapshot.h"
-#include "store/files.h"
 
 namespace reports {
 namespace {
@@ -388,17 +387,6 @@ QStringList tablesOf(const Definition& definition) {
 
 Content fill(const Definition& definition, const Snapshot& snapshot, const QString& printDatabase) {
     return Filler(definition, snapshot, printDatabase).filled();
-}
-
-Content filledFrom(const std::filesystem::path& folder, const QString& name, const std::filesystem::path& printDatabase,
-                   const QDate& day) {
-    // Leading separators are removed, since screens write "\\Lonrepa.rpt".
-    const std::filesystem::path inside = store::nativePath(name.toStdString()).relative_path();
-    const Definition definition = readDefinition(store::existingSpelling(folder / inside));
-    Content content =
-        fill(definition, Snapshot(printDatabase, tablesOf(definition)), QString::fromStdString(printDatabase.string()));
-    content.date = day.toString("dd/MM/yyyy");
-    return content;
 }
 
 } // namespace reports
