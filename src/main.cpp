@@ -4,18 +4,22 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <stdexcept>
 #include <string_view>
 
 #include "datastore/programfolder.h"
 #include "screenkit/look.h"
 #include "screenkit/realdesk.h"
 #include "screenkit/trouble.h"
+#include "shell/clientfiles.h"
 #include "shell/mainwindow.h"
 #include "shell/program.h"
 
 namespace {
 
 constexpr const char* help = "Usage: marlowbeck [--help | --version]\n"
+                             "       marlowbeck --client-file KEY --to FILE.pdf\n"
+                             "       marlowbeck --all --to FOLDER\n"
                              "Workstation for financial advisers. It needs a desktop to show its window on; its files "
                              "are in its program folder,\n"
                              "as the guide (F1) explains.\n";
@@ -41,17 +45,54 @@ void endWithoutDisplay(QtMsgType type, const QMessageLogContext&, const QString&
     std::_Exit(EXIT_FAILURE);
 }
 
-} // namespace
+/// A night's run on a server has no session; the toolkit's advice on that would hide the lines that tell of a failure.
+void hideAdvice(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+    endWithoutDisplay(type, context, text);
+}
 
-int main(int argc, char** argv) {
-    if (answered(argc, argv)) return EXIT_SUCCESS;
-    const QtMessageHandler usual = qInstallMessageHandler(endWithoutDisplay);
-    QApplication application(argc, argv);
-    qInstallMessageHandler(usual);
+void setUp(QApplication& application) {
     std::setlocale(LC_NUMERIC, "C"); // the toolkit has set the system's locale; figures here always use the same form
     QApplication::setApplicationName("marlowbeck");
     QApplication::setDesktopFileName("marlowbeck");
     screenkit::look::apply(application);
+}
+
+/// Makes client files and ends: 0 if all are written, 1 if any failed.
+int makeClientFiles(const shell::ClientFileOrder& order, int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen"); // no display is needed
+    qInstallMessageHandler(hideAdvice);
+    QApplication application(argc, argv);
+    setUp(application);
+    bool failed = false;
+    const auto tell = [&failed](const std::string& line) {
+        failed = true;
+        std::fprintf(stderr, "marlowbeck: %s\n", line.c_str());
+    };
+    try {
+        const auto folder = datastore::programFolder(std::filesystem::read_symlink("/proc/self/exe"));
+        shell::writeClientFiles(order, folder, screenkit::RealDesk().today(), tell);
+    } catch (const std::exception& error) {
+        tell(error.what());
+    }
+    return failed ? EXIT_FAILURE : EXIT_SUCCESS;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (answered(argc, argv)) return EXIT_SUCCESS;
+    constexpr int wrongWords = 2;
+    try {
+        if (const auto order = shell::clientFileOrder({argv + 1, argv + argc}))
+            return makeClientFiles(*order, argc, argv);
+    } catch (const std::invalid_argument& fault) {
+        std::fprintf(stderr, "marlowbeck: %s\n", fault.what());
+        return wrongWords;
+    }
+    const QtMessageHandler usual = qInstallMessageHandler(endWithoutDisplay);
+    QApplication application(argc, argv);
+    qInstallMessageHandler(usual);
+    setUp(application);
 
     screenkit::RealDesk desk;
     std::filesystem::path folder;

@@ -111,6 +111,7 @@ void wholeCase() {
         tour::seeFundingAdvantage(hands);
         tour::taxTheYearsGains(hands);
         tour::claimTravel(hands);
+        tour::makeClientFile(hands);
         tour::save(hands);
         seen = tour::look(hands);
     });

@@ -51,6 +51,7 @@ void estimateEstate(Hands& hands);
 void seeFundingAdvantage(Hands& hands);
 void taxTheYearsGains(Hands& hands);
 void claimTravel(Hands& hands);
+void makeClientFile(Hands& hands);
 void save(Hands& hands);
 Seen look(Hands& hands);
 void exitProgram(Hands& hands);

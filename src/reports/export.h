@@ -20,7 +20,7 @@ struct Report {
     Content content;     ///< of a document: its title, client and practice, and no text
     Layout layout;
     std::vector<Section> sections; ///< of a document; empty for a single report
-    QString fileTitle;             ///< stands for the title in a proposed file name, if not empty
+    QString fileClient, fileTitle; ///< stand for client and title in a proposed file name, if not empty
     QString password;              ///< opens the PDF, which is encrypted; none if empty. Kept nowhere else.
 
     bool isDocument() const { return !sections.empty(); }

@@ -174,8 +174,9 @@ bool PreviewWindow::exportReport(Format first) {
     std::rotate(formats.begin(), chosen, std::next(chosen));
     const QStringList filters = exportFilters(formats);
     const Content& content = m_report->content;
+    const QString& client = m_report->fileClient.isEmpty() ? content.client : m_report->fileClient;
     const QString& title = m_report->fileTitle.isEmpty() ? content.title : m_report->fileTitle;
-    const QString proposed = proposedFileName(content.client, title, endingOf(first));
+    const QString proposed = proposedFileName(client, title, endingOf(first));
     const std::optional<QString> name = screenkit::askWhereToSave(m_desk, tr("Export Report"), proposed, filters);
     return name && exportTo(*name);
 }

@@ -21,6 +21,7 @@ constexpr MenuItem items[] = {
     {"mnuFromA", "Read FROM    Remote Media", "mnuToFromA", "frmREADFromA"},
     {"mnuPrep", "&Prepared by details", "mnuFile", "frmHeadFoot"},
     {"mnuPrintSetup", "Printer &Setup", "mnuFile"},
+    {"mnuClientFile", "Client file as one document…", "mnuFile", "frmClientFile"},
     {"mnuPrintBlank", "Print Blank Questionnaires", "mnuFile", "frmBlankAnaQuestion"},
     {"mnuRemotePath", "Remote Database Path", "mnuFile", "frmMasterDBLocator"},
     {"mnuExit", "E&xit", "mnuFile", "", "Ctrl+Q"},

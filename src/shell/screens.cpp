@@ -24,6 +24,7 @@
 #include "calculators/frmRRROLD.h"
 #include "client/frmPersDet.h"
 #include "client/frmPolInvest.h"
+#include "clientfile/frmClientFile.h"
 #include "datastore/frmBrowse.h"
 #include "datastore/frmCOPYToA.h"
 #include "datastore/frmDelete.h"
@@ -86,6 +87,7 @@ constexpr ScreenEntry entries[] = {
     {"frmIncomeShares", build<calculators::frmIncomeShares>, "Income from shares"},
     {"frmDDLivAnn", build<calculators::frmDDLivAnn>, "Draw-down annuity"},
     {"frmKwikQuotes", build<quotes::frmKwikQuotes>, "Kwik-Quotes"},
+    {"frmClientFile", build<clientfile::frmClientFile>, "The client file as one document"},
     {"frmHeadFoot", build<reports::frmHeadFoot>, "Your header and footer lines"},
     {"frmGraph", build<reports::frmGraph>, "Graphs"},
     {"frmBrowser", build<shell::frmBrowser>, "Working by keyboard"},
@@ -110,7 +112,7 @@ constexpr const char* closedWithTheClient[] = {
     "frmKwikQuotes", "frmLoans",         "frmNADeath",    "frmNAEd",          "frmNARA",     "frmNomEffec",
     "frmPremium",    "frmKwikTax",       "frmInvestComp", "frmDDLivAnn",      "frmOffShore", "frmRRROLD",
     "frmRRRNEW",     "frmBondAna",       "frmBondBuster", "frmNADisability",  "frmPersDet",  "frmIncomeShares",
-    "frmPolInvest",  "frmEstateDutyEst", "frmRATaxAdv",   "frmCGTCalcIncome", "frmLumpSum",
+    "frmPolInvest",  "frmEstateDutyEst", "frmRATaxAdv",   "frmCGTCalcIncome", "frmLumpSum",  "frmClientFile",
 };
 
 constexpr const char* closedWithTheFile[] = {

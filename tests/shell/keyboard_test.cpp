@@ -86,6 +86,7 @@ const std::vector<Place> places{
     {"mnuPAYE", "cmdInfo"},
     {"mnuTaxLumpSum", ""},
     {"mnuTaxLumpSum", "cmdPrint"},
+    {"mnuClientFile", ""},
     {"mnuEstateDutyEstimator", ""},
     {"mnuEstateDutyEstimator", "cmdPrint"},
     {"mnuEstateDutyEstimator", "cmdSettings"},

@@ -24,6 +24,7 @@ const std::set<std::string> working{
     "mnuFromA",
     "mnuRemotePath",
     "mnuPrep",
+    "mnuClientFile",
     "mnuPrintSetup",
     "mnuExit",
     "mnuPersDet",
