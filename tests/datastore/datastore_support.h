@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cmath>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -12,6 +13,7 @@
 #include "datastore/paths.h"
 #include "datastore/startup.h"
 #include "datastore/upgrade.h"
+#include "store/openfiles.h"
 #include "store/store_support.h"
 
 namespace datastoretest {
@@ -61,6 +63,34 @@ public:
 
 /// The version of an up-to-date client database as `rowsOf` shows it.
 inline const std::string current = std::to_string(static_cast<int>(datastore::currentVersion));
+
+/// Every file below a folder with its time and bytes.
+inline std::map<std::string, std::string> contentsOf(const fs::path& folder) {
+    std::map<std::string, std::string> files;
+    for (const auto& entry : fs::recursive_directory_iterator(folder))
+        if (entry.is_regular_file())
+            files[entry.path().string()] =
+                std::to_string(entry.last_write_time().time_since_epoch().count()) + storetest::bytesOf(entry.path());
+    return files;
+}
+
+/// Another program carries out these statements on a file, and is killed when `act` has run.
+inline void whileAnother(
+    const fs::path& database, const std::string& sql, const std::function<void()>& act = [] {}) {
+    storetest::runAndKill(
+        [&](auto ready) {
+            const store::OpenedAs asUsual(database, store::Opening::usual); // it knows nothing of ours
+            store::Database other(database);
+            other.execute(sql);
+            ready();
+            ::pause();
+        },
+        act);
+}
+
+/// A change whose first half is written when the program is killed.
+constexpr const char* halfAChange = "PRAGMA cache_size=1; BEGIN; DELETE FROM PersDetails; DELETE FROM DISAOtherExp; "
+                                    "UPDATE Data SET Num1=1";
 
 /// The definition and rows of every table, to compare two states of a file.
 inline std::string dump(const fs::path& path) {

@@ -33,7 +33,7 @@ protected:
 
 TEST_F(SaveFaultTest, AFailingTableLeavesAllOthersUnchanged) {
     int refusing = 0;
-    std::vector<const assessment::TableDescription*> tables = assessment::clientTables();
+    auto tables = assessment::clientTables();
     tables.push_back(&assessment::fileTextsTable());
     for (const assessment::TableDescription* table : tables) {
         if (table->field("DCLNO") == nullptr) continue;
