@@ -207,10 +207,12 @@ TEST_F(Document, PreviewOffersPdfAndOdtAndAsksBeforeAnOdtWithoutThePassword) {
 
     // Cancelled by the box that shows how far it is: the file of that name stays as it was.
     storetest::put(folder / "b.pdf", "old");
-    QTimer::singleShot(0, [] {
+    QTimer clicks;
+    clicks.callOnTimeout([] {
         for (QWidget* shown : QApplication::topLevelWidgets())
             if (auto* work = qobject_cast<QProgressDialog*>(shown)) work->cancel();
     });
+    clicks.start(0);
     report->layout.pages.resize(500, report->layout.pages[3]); // long enough for the box to look for an answer
     EXPECT_FALSE(window->exportTo(pathOf("b.pdf")));
     EXPECT_EQ(storetest::bytesOf(folder / "b.pdf"), "old");
