@@ -113,7 +113,7 @@ QString proposedFileName(const QString& client, const QString& title, const QStr
 QByteArray exported(const Report& report, Format format, const store::Progress& progress) {
     switch (format) {
     case Format::html: return toHtml(report.content);
-    case Format::odt: return output().toOdt(report);
+    case Format::odt: return output().toOdt(report, progress);
     case Format::csv: return toCsv(report.content);
     case Format::xlsx: return output().toXlsx(report.content);
     case Format::pdf: break;

@@ -53,7 +53,7 @@ std::vector<PdfHeading> headingsOf(const Report& report);
 
 QByteArray toPdf(const Report& report, const store::Progress& progress = {});
 QByteArray toHtml(const Content& content);
-QByteArray toOdt(const Report& report);
+QByteArray toOdt(const Report& report, const store::Progress& progress = {});
 QByteArray toCsv(const Content& content);
 QByteArray toXlsx(const Content& content);
 

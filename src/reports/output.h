@@ -4,6 +4,8 @@
 #include <QPageLayout>
 #include <functional>
 
+#include "store/progress.h"
+
 class QPagedPaintDevice;
 class QWidget;
 
@@ -29,7 +31,7 @@ struct Output {
     QByteArray (*exportedGraph)(const Graph& graph, GraphFormat format, QPageLayout::Orientation orientation);
     bool (*printGraph)(const Graph& graph, QPagedPaintDevice& device);
     QByteArray (*withProperties)(const QByteArray& pdf, const PdfProperties& properties);
-    QByteArray (*toOdt)(const Report& report);
+    QByteArray (*toOdt)(const Report& report, const store::Progress& progress);
     QByteArray (*toXlsx)(const Content& content);
 };
 

@@ -231,12 +231,13 @@ private:
     QString m_bookmark; ///< of a section without any paragraph yet
 };
 
-QByteArray contentXml(const OdtContents& contents) {
+QByteArray contentXml(const OdtContents& contents, const store::Progress& progress) {
     OdtStyles styles;
     QByteArray body;
     QXmlStreamWriter xml(&body);
     FlowWriter writer(xml, styles);
     for (std::size_t section = 0; section < contents.size(); ++section) {
+        store::tell(progress, static_cast<double>(section) / static_cast<double>(contents.size()));
         if (contents.size() > 1) writer.beginSection(section);
         writer.add(contents[section]->blocks, Layout::pageSize().width() - marginLeft - marginRight);
     }
@@ -248,13 +249,13 @@ QByteArray contentXml(const OdtContents& contents) {
 
 } // namespace
 
-QByteArray toOdt(const Report& report) {
+QByteArray toOdt(const Report& report, const store::Progress& progress) {
     OdtContents contents;
     for (const Section& section : report.sections)
         contents.push_back(&section.content);
     if (contents.empty()) contents.push_back(&report.content);
     return zipped({{"mimetype", "application/vnd.oasis.opendocument.text", true}, // other programs expect it first
-                   {"content.xml", contentXml(contents)},
+                   {"content.xml", contentXml(contents, progress)},
                    {"styles.xml", odtFrame(contents)},
                    {"meta.xml", odtMeta(report.content)},
                    {"settings.xml", odtSettings()},
