@@ -42,7 +42,8 @@ QString practiceOf(const QStringList& headerLines) {
 
 QString Content::headOf(bool firstPage) const {
     if (!firstPage) return client.isEmpty() ? title : client + " – " + title;
-    const bool isHeading = !blocks.empty() && blocks.front().kind == Block::Kind::title;
+    const bool isHeading =
+        !blocks.empty() && (blocks.front().kind == Block::Kind::title || blocks.front().kind == Block::Kind::cover);
     return isHeading && textOf(blocks.front().runs).simplified() == client ? QString() : client;
 }
 

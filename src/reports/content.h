@@ -48,8 +48,8 @@ struct Table {
 /// A part of the report's text. `columns` stand side by side, each with its own blocks.
 struct Block {
     /// `answer` is the sentence that answers the report's question. Behind a `pageBreak` a new page begins; it never
-    /// stands in columns.
-    enum class Kind { title, lead, answer, heading, paragraph, note, rule, table, columns, pageBreak };
+    /// stands in columns. `cover` is a title in the largest type, with room above it.
+    enum class Kind { title, lead, answer, heading, paragraph, note, rule, table, columns, pageBreak, cover };
 
     Kind kind = Kind::paragraph;
     std::vector<Run> runs;

@@ -42,6 +42,7 @@ struct Node {
 /// - `<p class="lead">` says what the report is, `<p class="answer">` answers its question, in its strongest type,
 ///   `<p class="note">` is small print; `<tr class="result">` holds the figure that answers the question,
 ///   `<tr class="total">` the sum of rows above it.
+/// - `<h1 class="cover">`: a title in the largest type, with room above it, as on the cover of a document.
 /// - `<hr class="page"/>`: a new page begins here, not within columns.
 /// - `<!-- -->`: a comment.
 struct Definition {

@@ -7,6 +7,7 @@ namespace {
 constexpr const char* style = R"(
 body { font-family: 'Roboto', sans-serif; font-size: 10pt; color: #1f232b; max-width: 52em; }
 h1 { font-size: 20pt; font-weight: 600; color: #17406b; margin: 12px 0 4px 0; }
+h1.cover { font-size: 30pt; margin-top: 150px; }
 h2 { font-size: 13pt; font-weight: 600; color: #17406b; margin: 20px 0 6px 0; }
 p, td, th { white-space: pre-wrap; }
 p { margin: 6px 0; }
@@ -59,6 +60,7 @@ private:
     void addBlock(const Block& block) {
         switch (block.kind) {
         case Block::Kind::title: return addText("h1", "", block.runs);
+        case Block::Kind::cover: return addText("h1", " class=\"cover\"", block.runs);
         case Block::Kind::heading: return addText("h2", "", block.runs);
         case Block::Kind::lead: return addText("p", " class=\"lead\"", block.runs);
         case Block::Kind::answer: return addText("p", " class=\"answer\"", block.runs);

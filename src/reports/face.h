@@ -34,7 +34,8 @@ struct Faces {
     Face small{8};
     Face smallest{6.8};
     Face title{16, QFont::DemiBold, QColor(0x17, 0x40, 0x6b)};
-    Face answer{16, QFont::Bold, QColor(0x17, 0x40, 0x6b)}; ///< the strongest text on a page
+    Face cover{30, QFont::DemiBold, QColor(0x17, 0x40, 0x6b)};
+    Face answer{16, QFont::Bold, QColor(0x17, 0x40, 0x6b)}; ///< the strongest text of a report
     Face lead{10.5, QFont::Normal, QColor(0x5b, 0x64, 0x72)};
     Face heading{12, QFont::DemiBold, QColor(0x17, 0x40, 0x6b)};
     Face note{8.5, QFont::Normal, QColor(0x5b, 0x64, 0x72)};

@@ -194,6 +194,7 @@ private:
         const QString styled =
             node.attribute("class").isEmpty() ? node.name : node.name + "." + node.attribute("class");
         if (styled == "h1") return Block::Kind::title;
+        if (styled == "h1.cover") return Block::Kind::cover;
         if (styled == "h2") return Block::Kind::heading;
         if (styled == "p") return Block::Kind::paragraph;
         if (styled == "p.lead") return Block::Kind::lead;

@@ -101,11 +101,13 @@ private:
         const Paragraph paragraph = broken(block.runs, faceOf(block), textMeasure(block, measure).width);
         const bool whole = block.kind == Block::Kind::title || block.kind == Block::Kind::heading || isAnswer(block);
         const std::size_t lines = whole ? paragraph.lines.size() : std::min<std::size_t>(2, paragraph.lines.size());
-        return static_cast<double>(lines) * paragraph.face->lineHeight + (isAnswer(block) ? 2 * answerPadding : 0);
+        return roomAbove(block) + static_cast<double>(lines) * paragraph.face->lineHeight +
+               (isAnswer(block) ? 2 * answerPadding : 0);
     }
 
     Cursor placeParagraph(const Block& block, const Measure& measure, Cursor at) {
         if (isAnswer(block)) return placeAnswer(block, measure, at);
+        at.y += roomAbove(block);
         at = placeLines(broken(block.runs, faceOf(block), measure.width), measure.x, at);
         return {at.page, at.y + spaceAfter(block)};
     }

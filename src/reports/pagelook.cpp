@@ -21,6 +21,7 @@ const Face& faceOf(const Block& block) {
     const Faces& faces = Faces::all();
     switch (block.kind) {
     case Block::Kind::title: return faces.title;
+    case Block::Kind::cover: return faces.cover;
     case Block::Kind::lead: return faces.lead;
     case Block::Kind::answer: return faces.answer;
     case Block::Kind::heading: return faces.heading;
@@ -53,6 +54,8 @@ double spaceBefore(const Block& block) {
     default: return points(3);
     }
 }
+
+double roomAbove(const Block& block) { return block.kind == Block::Kind::cover ? millimetres(62) : 0; }
 
 double spaceAfter(const Block& block) {
     if (block.kind == Block::Kind::table) return look::afterTable;

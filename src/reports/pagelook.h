@@ -44,5 +44,7 @@ const Face& faceOf(const Cell& cell, const Face& row, double width);
 /// The space above a block, unless it is first on its page or column, and the space below it.
 double spaceBefore(const Block& block);
 double spaceAfter(const Block& block);
+/// The room above a block that it has at the top of a page too.
+double roomAbove(const Block& block);
 
 } // namespace reports

@@ -35,7 +35,7 @@ public:
                 continue;
             }
             const bool first = index == 0 || blocks[index - 1].kind == Block::Kind::pageBreak;
-            const double before = after + (first ? 0 : spaceBefore(block));
+            const double before = roomAbove(block) + after + (first ? 0 : spaceBefore(block));
             addBlock(block, width, before);
             after = spaceAfter(block);
         }
@@ -58,7 +58,7 @@ private:
     }
 
     void addText(const Block& block, double before) {
-        const bool title = block.kind == Block::Kind::title;
+        const bool title = block.kind == Block::Kind::title || block.kind == Block::Kind::cover;
         const bool heading = title || block.kind == Block::Kind::heading;
         const Face& face = faceOf(block);
         startParagraph(heading ? "text:h" : "text:p",

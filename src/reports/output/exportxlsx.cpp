@@ -107,6 +107,7 @@ public:
 private:
     static Look lookOf(Block::Kind kind) {
         switch (kind) {
+        case Block::Kind::cover:
         case Block::Kind::title: return Look::title;
         case Block::Kind::heading: return Look::heading;
         case Block::Kind::note: return Look::small;
