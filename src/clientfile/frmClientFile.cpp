@@ -28,7 +28,8 @@ frmClientFile::frmClientFile(Workplace& workplace)
     // The texts have no flag of their own: an edit is a change of the client at once.
     : Screen(workplace, "frmClientFile", "Client File as One Document", workplace.record.ClientChanged) {
     auto* pages = tabs("tabClientFile", {{"&Client and analyses", frontPage()},
-                                         {"Calc&ulations and tax", calculationsPage()},
+                                         {"Calc&ulations", calculationsPage()},
+                                         {"&Tax", taxPage()},
                                          {"Your own te&xts", wordsPage()}});
     m_passwordField =
         text("txtPassword", {[this] { return m_password; }, [this](const QString& typed) { m_password = typed; }},
@@ -38,9 +39,8 @@ frmClientFile::frmClientFile(Workplace& workplace)
     m_remarks = note({});
     m_remarks->setObjectName("lblRemarks");
     m_remarks->hide();
-    body(column({Item(pages, 1), m_remarks,
-                 form({{"Password for the &mail", m_passwordField, "(PDF only; leave it empty for none)"}}), m_saved,
-                 buttons()}));
+    auto* password = form({{"Password for the &mail", m_passwordField, "(PDF only; leave it empty for none)"}});
+    body(column({Item(pages, 1), m_remarks, row({password, Item(m_saved, 1)}), buttons()}));
 }
 
 // ---- the parts
@@ -97,9 +97,12 @@ Item frmClientFile::frontPage() {
 
 Item frmClientFile::calculationsPage() {
     const std::size_t first = m_lines.size();
-    const std::size_t tax = first + calculatorParts().size();
-    auto* calculations = group("fraCalculations", "Calculations", linesOf(first, tax));
-    return row({Item(calculations, 1), Item(group("fraTax", "Tax", linesOf(tax, tax + taxParts().size())), 1)});
+    return group("fraCalculations", "Calculations", linesOf(first, first + calculatorParts().size()));
+}
+
+Item frmClientFile::taxPage() {
+    const std::size_t first = m_lines.size();
+    return group("fraTax", "Tax", linesOf(first, first + taxParts().size()));
 }
 
 Item frmClientFile::wordsPage() {
@@ -114,7 +117,7 @@ Item frmClientFile::wordsPage() {
 }
 
 QLayout* frmClientFile::buttons() {
-    return row({button("cmdAll", "&Tick all", [this] { tickAll(true); }),
+    return row({button("cmdAll", "Tic&k all", [this] { tickAll(true); }),
                 button("cmdNone", "Tick &none", [this] { tickAll(false); }),
                 button("cmdPreview", "Pre&view", [this] { preview(); }),
                 button("cmdPDF", "&Save PDF", [this] { save(reports::Format::pdf); }),

@@ -33,6 +33,7 @@ private:
     QLayout* linesOf(std::size_t first, std::size_t behind);
     screenkit::Item frontPage();
     screenkit::Item calculationsPage();
+    screenkit::Item taxPage();
     screenkit::Item wordsPage();
     QLayout* buttons();
 

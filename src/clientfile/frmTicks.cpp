@@ -26,7 +26,7 @@ constexpr std::array<ChoiceWords, 8> choiceWords{{
     {Choice::itemised, "itemised", "Itemised particulars", true},
     {Choice::commissions, "commissions", "Commissions", true},
     {Choice::charges, "charges", "Financial charges", true},
-    {Choice::knownGains, "knownGains", "Gains from trusts and others", true},
+    {Choice::knownGains, "knownGains", "Known gains", true},
 }};
 
 const ChoiceWords& wordsOf(Choice choice) { return choiceWords.at(static_cast<std::size_t>(choice)); }

@@ -127,11 +127,7 @@ struct LumpSumsPart {
 
 /// The tax of a month stands on its screen alone.
 struct MonthlyTaxPart {
-    static std::string whyNot(const Source& source) {
-        return source.month
-                   ? ""
-                   : "Nothing is held: the monthly tax stores nothing, and its screen is not open or not filled.";
-    }
+    static std::string whyNot(const Source& source) { return source.month ? "" : nothingOnScreen; }
     static void print(const Source& source, const Choices&, const Print& print) {
         if (source.month) print(feedMonthlyReport(source.paths.PrintDbPath, source.record.client.Name, *source.month));
     }
@@ -141,7 +137,7 @@ struct MonthlyTaxPart {
 struct TravelClaimPart {
     static std::string whyNot(const Source& source) {
         if (source.record.car != assessment::CarAll{}) return {};
-        return "Nothing is held: the travel claim stores nothing, and its screen is not filled for this client.";
+        return nothingOnScreen;
     }
     static void print(const Source& source, const Choices&, const Print& print) {
         const assessment::CarAll& car = source.record.car;

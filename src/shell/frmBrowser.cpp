@@ -34,6 +34,7 @@ void frmBrowser::buildPage() {
     m_page->setAccessibleName(tr("User's guide"));
     m_page->setMinimumSize(letter * 75, look::lineHeight(m_page) * 24);
     m_page->setOpenLinks(false);
+    m_page->setSearchPaths({":/guide"}); // its pictures
     connect(m_page, &QTextBrowser::anchorClicked, this, [this](const QUrl& link) {
         if (link.scheme().isEmpty())
             m_page->scrollToAnchor(link.fragment());

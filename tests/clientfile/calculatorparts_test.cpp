@@ -99,8 +99,7 @@ TEST_F(CalculatorParts, AMonthOfPAYEIsThatOfItsScreenWhileThatHoldsOne) {
     run.menu("mnuPAYE");
     const auto shown = [&] { return qobject_cast<tax::frmMonthly*>(run.screen("frmMonthly"))->shown(); };
     EXPECT_FALSE(shown().has_value());
-    EXPECT_EQ(month.whyNot(source),
-              "Nothing is held: the monthly tax stores nothing, and its screen is not open or not filled.");
+    EXPECT_EQ(month.whyNot(source), "Its screen holds no figures, and it stores none.");
     EXPECT_EQ(printedBy(month, source), "");
     // The second month allows another deduction than a first one would.
     for (const char* typed :
@@ -185,8 +184,7 @@ TEST_F(CalculatorParts, SayWhyTheyCannotBePrinted) {
         if (each.part == std::string("retirementFunding")) run.desk.expect(screenkit::Answer::ok); // it says so at View
         EXPECT_EQ(shownBy(screens.at(each.part), "cmdPrint cmdVR", client), "");
     }
-    EXPECT_EQ(part("travelClaim").whyNot(sourceOf(blank)),
-              "Nothing is held: the travel claim stores nothing, and its screen is not filled for this client.");
+    EXPECT_EQ(part("travelClaim").whyNot(sourceOf(blank)), "Its screen holds no figures, and it stores none.");
     // Costs that can't be read are told by printing, else the part would be missing without a word.
     setDefault("DELETE FROM IncFromShares");
     EXPECT_EQ(part("incomeShares").whyNot(sourceOf(fullWith())), "");

@@ -117,6 +117,16 @@ TEST(Start, WithoutADisplaySaysSoInOneLineAndAnswersWhatNeedsNone) {
     runBare(program, {"--help"});
     EXPECT_EQ(program.exitCode(), 0);
     EXPECT_TRUE(program.readAllStandardOutput().startsWith("Usage: marlowbeck"));
+    // Client files need no display either; here there are no clients, and the second order is incomplete.
+    const std::pair<QStringList, int> orders[] = {{{"--client-file", "7", "--to", "/tmp/none.pdf"}, 1},
+                                                  {{"--client-file", "7"}, 2}};
+    for (const auto& [words, code] : orders) {
+        runBare(program, words);
+        EXPECT_EQ(program.exitCode(), code);
+        const QByteArray errors = program.readAllStandardError();
+        EXPECT_EQ(errors.count('\n'), 1) << errors.toStdString();
+        EXPECT_TRUE(errors.startsWith("marlowbeck: ")) << errors.toStdString();
+    }
 }
 
 TEST(Instance, IsHeldByOneProcessUntilItDiesHoweverItDies) {
