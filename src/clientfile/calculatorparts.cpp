@@ -87,8 +87,9 @@ struct BondBusterPart {
         calculators::BondBuster result;
     };
     static bool isEntered(const Assessment& client) {
-        const assessment::Bond& bond = client.bond;
-        return bond.BMBP2 != 0 || bond.OMBP3 != 0 || bond.BMBP4 != 0 || bond.VOLUN != 0;
+        assessment::Bond busted = client.bond;
+        busted.BCMBP2 = busted.BCMBP4 = 0;
+        return busted != assessment::Bond{};
     }
     static std::optional<Busted> result(const Source& source) {
         Busted busted{source.record.bond, {}};
@@ -111,7 +112,11 @@ struct BondBusterPart {
 };
 
 struct BondAnalysisPart {
-    static bool isEntered(const Assessment& client) { return client.bond.BCMBP2 != 0 || client.bond.BCMBP4 != 0; }
+    static bool isEntered(const Assessment& client) {
+        assessment::Bond busted = client.bond;
+        busted.BCMBP2 = busted.BCMBP4 = 0;
+        return busted != client.bond;
+    }
     static std::optional<calculators::BondAnalysis> result(const Source& source) {
         const auto result = calculators::compareBondTerms(source.record.bond);
         if (!result.isFinite()) return {};
@@ -164,9 +169,11 @@ struct IncomeSharesPart {
 struct DailyBalancePart {
     /// A date that was cleared holds another number than one that was never filled.
     static bool isEntered(const Assessment& client) {
-        const assessment::DailyBalance& in = client.dailyBalance;
-        return in.CapAmount != 0 || in.IntRate != 0 || base::isShownOnScreen(in.StartDateDB) ||
-               base::isShownOnScreen(in.EndDateDB);
+        const assessment::DailyBalance blank;
+        assessment::DailyBalance balance = client.dailyBalance;
+        if (!base::isShownOnScreen(balance.StartDateDB)) balance.StartDateDB = blank.StartDateDB;
+        if (!base::isShownOnScreen(balance.EndDateDB)) balance.EndDateDB = blank.EndDateDB;
+        return balance != blank;
     }
     static std::optional<calculators::DailyBalanceResult> result(const Source& source) {
         return calculators::dailyBalance(source.record.dailyBalance);
@@ -184,8 +191,10 @@ struct NominalEffectivePart {
     };
     /// A period of 12 months is no entry: the calculation writes it where there was none.
     static bool isEntered(const Assessment& client) {
-        const assessment::NominalEffective& in = client.nominalEffective;
-        return in.amount != 0 || in.NomRate != 0 || (in.PeriodNomEff != 0 && in.PeriodNomEff != 12);
+        assessment::NominalEffective inputs = client.nominalEffective;
+        if (inputs.PeriodNomEff == 12) inputs.PeriodNomEff = 0;
+        inputs.IntComp = assessment::NominalEffective{}.IntComp;
+        return inputs != assessment::NominalEffective{};
     }
     static Solved solve(const Source& source) {
         Solved solved{source.record.nominalEffective, {}};

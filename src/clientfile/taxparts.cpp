@@ -23,8 +23,10 @@ struct RetirementFundingPart {
     };
     /// Name and age are no entries: the screen takes the client's own where there is none.
     static bool isEntered(const Assessment& client) {
-        const assessment::RATaxAdvantage& in = client.raTaxAdvantage;
-        return in.RARemuneration != 0 || in.RATaxableInc != 0 || in.ProposedRF != 0 || in.TaxCGT != 0;
+        assessment::RATaxAdvantage inputs = client.raTaxAdvantage;
+        inputs.RASurname.clear();
+        inputs.RATaxPayerAge = 0;
+        return inputs != assessment::RATaxAdvantage{};
     }
     static std::optional<Saved> result(const Source& source) {
         Saved saved{tax::startingRATaxAdvantage(source.record, source.today), {}};

@@ -15,6 +15,8 @@ const assessment::Loans neverClears{"Repayment period", 100000, 0, 12, 1000};
 const assessment::Loans inWholeCents{"Monthly repayment", 100000, 25, 12, 4540.68};
 const assessment::DrawDownPhase growing{1, 50, 1, 0, 99};
 
+constexpr auto noDate = static_cast<std::int32_t>(base::NoDate);
+
 const QStringList screens =
     QString("inflation frmInflation, loans frmLoans, bondBuster frmBondBuster, bondAnalysis frmBondAna, "
             "lifeOfCapital frmLifeOfCap, incomeShares frmIncomeShares, dailyBalance frmDayBal, "
@@ -123,7 +125,7 @@ TEST_F(CalculatorParts, SayWhyTheyCannotBePrinted) {
         {"incomeShares", nothing, [](A& of) { of.incomeShares.AnnMonIncShare = "monthly"; }},
         {"incomeShares", noResult, [](A& of) { of.incomeShares.InvestAmount = 1; }},
         {"incomeShares", noResult, [](A& of) { of.incomeShares = {1e308, 99, 1, 0, 0, "monthly"}; }},
-        {"dailyBalance", nothing, [](A& of) { of.dailyBalance.EndDateDB = static_cast<std::int32_t>(base::NoDate); }},
+        {"dailyBalance", nothing, [](A& of) { of.dailyBalance.StartDateDB = of.dailyBalance.EndDateDB = noDate; }},
         {"nominalEffective", nothing,
          [](A& of) { of.nominalEffective.PeriodNomEff = 12, of.nominalEffective.IntComp = 4; }},
         {"nominalEffective", noResult, [](A& of) { of.nominalEffective.amount = of.nominalEffective.NomRate = 8; }},
@@ -133,7 +135,8 @@ TEST_F(CalculatorParts, SayWhyTheyCannotBePrinted) {
         {"drawDownAnnuity", noResult, [](A& of) { of.drawDown.LSAmt = 1e308, of.drawDownPhases.phase0 = growing; }},
         {"realRate", noResult, [](A& of) { of.rrrNew.RegMpay1 = 1e308, of.rrrNew.RRRNEWPeriod = 12; }},
         {"realRateSingle", noResult, [](A& of) { of.rrrOld.MonPrem = 1e308, of.rrrOld.Period = 12; }},
-        {"retirementFunding", nothing, [](A& of) { of.raTaxAdvantage.RATaxPayerAge = 45; }},
+        {"retirementFunding", nothing,
+         [](A& of) { of.raTaxAdvantage.RATaxPayerAge = 45, of.raTaxAdvantage.RASurname = "N"; }},
         {"estateDuty", noResult, [](A& of) { of.estateDuty.PropEstate = of.estateDuty.OtherEstate = 1e308; }},
         {"capitalGains", nothing, [](A& of) { of.capitalGains.assets = {assessment::newAsset()}; }},
         {"capitalGains", noResult, [](A& of) { of.capitalGains.CarryOverCapGainPrev = -1; }},
