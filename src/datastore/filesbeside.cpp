@@ -1,5 +1,7 @@
 #include "datastore/filesbeside.h"
 
+#include <system_error>
+
 #include "datastore/funds.h"
 #include "datastore/load.h"
 #include "datastore/shipped.h"
@@ -90,7 +92,8 @@ void FilesBeside::prepare() {
 
 void FilesBeside::useCopy(fs::path& file) {
     const fs::path folder = m_folder.path() / std::to_string(m_copies.size());
-    fs::create_directory(folder);
+    std::error_code ignored; // the copying tells why it can't
+    fs::create_directory(folder, ignored);
     const fs::path copy = folder / file.filename();
     store::copyDatabase(file, copy);
     m_opened.emplace_back(copy, store::Opening::temporary);

@@ -120,7 +120,8 @@ void requireNoLog(SQLite::Database& connection, const fs::path& path) {
     constexpr unsigned char withLog = 2;
     const auto version = headerAt<1>(connection, placeOfReadVersion);
     if (version && version->front() == withLog)
-        throw Error(Number::readOnly, path.string(), "Its last changes are in a log beside it.");
+        throw Error(Number::readOnly, path.string(), "Its last changes are in a log beside it.",
+                    "Start Marlowbeck once, which takes them over, then try again.");
 }
 
 /// The first statement reads the header and all table definitions, so it reveals a damaged file. Another program may
