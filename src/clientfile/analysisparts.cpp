@@ -85,20 +85,19 @@ std::string remarkIfEntered(const Source& source) {
 
 struct NeedsPart {
     Analysis analysis;
-    const char* itemisedTitle;
     bool (*isEntered)(const Assessment&);
     NeedsAnalysis (*run)(Assessment&, double today);
     datastore::Printout (*feed)(const std::filesystem::path&, const Assessment&, const NeedsAnalysis&,
                                 const analyses::NeedsReportOptions&);
 };
 
-constexpr NeedsPart death{Analysis::death, "Itemised Particulars of the Needs Analysis for Death", isDeathEntered,
+constexpr NeedsPart death{Analysis::death, isDeathEntered,
                           [](Assessment& record, double) { return analyses::runDeath(record); }, analyses::feedDeath};
-constexpr NeedsPart disability{
-    Analysis::disability, "Itemised Particulars of the Needs Analysis for Disability", isDisabilityEntered,
-    [](Assessment& record, double) { return analyses::runDisability(record); }, analyses::feedDisability};
-constexpr NeedsPart retirement{Analysis::retirement, "Itemised Particulars of the Needs Analysis for Retirement",
-                               isRetirementEntered, analyses::runRetirement, analyses::feedRetirement};
+constexpr NeedsPart disability{Analysis::disability, isDisabilityEntered,
+                               [](Assessment& record, double) { return analyses::runDisability(record); },
+                               analyses::feedDisability};
+constexpr NeedsPart retirement{Analysis::retirement, isRetirementEntered, analyses::runRetirement,
+                               analyses::feedRetirement};
 
 bool areFinite(const std::vector<analyses::ShownYear>& years) {
     return std::ranges::all_of(years, [](const analyses::ShownYear& year) {
@@ -126,7 +125,7 @@ void printAnalysis(const Source& source, const Choices& choices, const Print& pr
                       .premium = choices.contains(Choice::premium)}));
     if (!choices.contains(Choice::itemised) || !analyses::anyItemised(record, needs.analysis)) return;
     analyses::feedItemised(source.paths.PrintDbPath, record, needs.analysis);
-    print({analyses::itemisedDefinition, needs.itemisedTitle});
+    print({analyses::itemisedDefinition, analyses::itemisedTitle});
 }
 
 // ---- education
