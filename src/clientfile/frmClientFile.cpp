@@ -142,8 +142,9 @@ void frmClientFile::filled() {
         show(line);
     }
     QStringList remarks;
-    for (const std::string& remark : remarksOn(*source))
-        remarks << QString::fromStdString(remark);
+    for (const Line& line : m_lines)
+        if (const std::string remark = remarkOn(*line.part, *source); !remark.empty())
+            remarks << QString::fromStdString(remark);
     m_remarks->setText(remarks.join("\n"));
     m_remarks->setVisible(!remarks.isEmpty());
 }
@@ -202,7 +203,6 @@ std::shared_ptr<const reports::Report> frmClientFile::make(const Then& then) {
     const datastore::OwnPrintDb printDb(m_work.paths);
     const auto source = currentSource();
     source->paths.PrintDbPath = printDb.path();
-    source->remarks = remarksOn(*source);
     auto report = std::make_shared<reports::Report>();
     const auto work = [&](const store::Progress& progress) {
         *report = reports::makeDocument(planOf(source, m_ticks), progress);

@@ -2,6 +2,7 @@
 
 #include <QSettings>
 #include <array>
+#include <iterator>
 
 #include "base/day.h"
 #include "clientfile/front.h"
@@ -77,17 +78,20 @@ reports::DocumentPlan planOf(const std::shared_ptr<const Source>& source, const 
         plan.chapters.push_back({{}, [source](const PrintSection& print) {
                                      print(feedCover(source->paths.PrintDbPath, source->record, source->today));
                                  }});
-    if (!source->remarks.empty())
-        plan.chapters.push_back(
-            {"Results That Differ From the Record", [source](const PrintSection& print) {
-                 print(feedRemarks(source->paths.PrintDbPath, source->record.client.Name, source->remarks));
-             }});
+    std::vector<std::string> remarks;
+    std::vector<reports::Chapter> chapters;
     for (const Part& part : parts()) {
         if (!ticks.has(part.name) || !part.whyNot(*source).empty()) continue;
-        plan.chapters.push_back({part.title, [source, &part, choices = ticks.of(part)](const PrintSection& print) {
-                                     part.print(*source, choices, print);
-                                 }});
+        if (std::string remark = remarkOn(part, *source); !remark.empty()) remarks.push_back(std::move(remark));
+        chapters.push_back({part.title, [source, &part, choices = ticks.of(part)](const PrintSection& print) {
+                                part.print(*source, choices, print);
+                            }});
     }
+    if (!remarks.empty())
+        plan.chapters.push_back({"Results That Differ From the Record", [source, remarks](const PrintSection& print) {
+                                     print(feedRemarks(source->paths.PrintDbPath, source->record.client.Name, remarks));
+                                 }});
+    std::move(chapters.begin(), chapters.end(), std::back_inserter(plan.chapters));
     return plan;
 }
 

@@ -28,8 +28,8 @@ public:
 QString nameOf(Choice choice);
 QString captionOf(Choice choice);
 
-/// The ticked parts that can be printed, behind a cover, with the remarks on results that differ. The plan keeps the
-/// source alive.
+/// The ticked parts that can be printed, behind a cover and the remarks on their results that differ. The plan keeps
+/// the source alive.
 reports::DocumentPlan planOf(const std::shared_ptr<const Source>& source, const Ticks& ticks);
 
 /// The names of the client and of the document in the name of its file: "Botha" and "client file 2026-11-23".

@@ -18,12 +18,8 @@ const std::vector<Part>& parts() {
     return all;
 }
 
-std::vector<std::string> remarksOn(const Source& source) {
-    std::vector<std::string> remarks;
-    for (const Part& part : parts())
-        if (part.remark != nullptr)
-            if (std::string remark = part.remark(source); !remark.empty()) remarks.push_back(std::move(remark));
-    return remarks;
+std::string remarkOn(const Part& part, const Source& source) {
+    return part.remark != nullptr && part.whyNot(source).empty() ? part.remark(source) : std::string();
 }
 
 } // namespace clientfile

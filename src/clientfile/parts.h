@@ -34,7 +34,6 @@ struct Source {
     datastore::Paths paths;        ///< `PrintDbPath` is the document's own
     double today = 0;
     std::optional<tax::MonthShown> month; ///< the monthly tax on its screen, which is stored nowhere
-    std::vector<std::string> remarks;     ///< where stored results differ, see remarksOn
 };
 
 /// Runs the report of a printout on the rows just fed.
@@ -58,7 +57,7 @@ struct Part {
 /// All parts in the order of the document. The cover comes first; the contents follow it.
 const std::vector<Part>& parts();
 
-/// The sentences on all stored results that are not what the record gives today, in the order of the parts.
-std::vector<std::string> remarksOn(const Source& source);
+/// The part's remark if it can be printed; nobody asks for results that are not there.
+std::string remarkOn(const Part& part, const Source& source);
 
 } // namespace clientfile

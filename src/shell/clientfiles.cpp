@@ -62,7 +62,6 @@ public:
         source->record = m_files.read(key);
         source->paths = m_files.paths();
         source->today = m_today;
-        source->remarks = clientfile::remarksOn(*source);
         const fs::path file = m_order.key ? m_order.to : m_order.to / nameOf(*source, key);
         const auto format = reports::formatOf(QString::fromStdString(file.string())).value();
         const reports::Report report = reports::makeDocument(clientfile::planOf(source, m_ticks));

@@ -205,7 +205,8 @@ TEST_F(AnalysisParts, RemarkWhatIsStoredAndNoLongerTrue) {
            "The premium for the capital of the education analysis is not that of the present rates."}}},
     };
     const R full = analysed();
-    EXPECT_THAT(clientfile::remarksOn(sourceOf(full)), testing::IsEmpty());
+    for (const clientfile::Part& each : clientfile::parts())
+        EXPECT_EQ(remarkOn(each, sourceOf(full)), "");
     for (const auto& [name, cases] : all)
         for (const Case& each : cases) {
             R record = full;

@@ -134,3 +134,19 @@ TEST_F(ClientFileScreen, NamesThePartThatFailsAndKeepsTheOldDocument) {
     EXPECT_TRUE(run.desk.last().text.contains("Personal Details")) << run.desk.last().text.toStdString();
     EXPECT_EQ(storetest::bytesOf(run.folder / "file.pdf"), before);
 }
+
+TEST_F(ClientFileScreen, SaysWhichStoredResultsDifferAndPrintsThemBehindTheContents) {
+    EXPECT_TRUE(run.control<QLabel>("lblRemarks")->isHidden());
+    run.record().loans.Num4 = 1; // another program's repayment
+    run.click("cmdOK");
+    run.menu("mnuClientFile");
+    const QString remark = "The loan stored is not the one that its own figures give.";
+    EXPECT_EQ(run.control<QLabel>("lblRemarks")->text(), remark);
+    const auto pagesOf = [this](const QString& file) {
+        save("cmdPDF", file);
+        return textOf(path(file)).split('\f');
+    };
+    EXPECT_TRUE(pagesOf("with.pdf").at(2).contains(remark));
+    run.click("chkPart(loans)"); // nobody asks for the remark without the part
+    EXPECT_FALSE(pagesOf("without.pdf").join(' ').contains(remark));
+}

@@ -84,7 +84,7 @@ protected:
     /// What the parts are made from on the desk's day.
     Source sourceOf(const assessment::Assessment& record) {
         const QDate today = run.desk.day;
-        return {record, run.program.paths(), *base::dayNumber(today.year(), today.month(), today.day()), {}, {}};
+        return {record, run.program.paths(), *base::dayNumber(today.year(), today.month(), today.day()), {}};
     }
     /// The reports that the screen opens for this client, after these controls are pressed one by one, such as
     /// "cmdPrint Check1 cmdVR"; up to the first one that is not to be seen or disabled, as behind a refused Print. The
