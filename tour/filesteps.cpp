@@ -14,7 +14,7 @@ void makeClientFile(Hands& hands) {
     hands.menu({"mnuFile", "mnuClientFile"});
     hands.expectFront("frmClientFile");
     picture(&hands.window(), "client-file");
-    hands.click("chkChoice(retirement.amortisation)");
+    hands.click("chkChoice(retirementAnalysis.amortisation)");
     const Entry words[] = {
         {"txtBasis", "What the client told us on 2 November 2026, and his salary slips."},
         {"txtConsidered", "Two retirement annuities and a unit trust."},
