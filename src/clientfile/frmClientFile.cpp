@@ -89,10 +89,12 @@ QLayout* frmClientFile::linesOf(std::size_t first, std::size_t behind) {
 
 Item frmClientFile::frontPage() {
     const std::size_t own = clientParts().size() + analysisParts().size();
-    return column({group("fraFront", "Front",
-                         row({tickOf("chkPart(cover)", "Cover", Ticks::cover),
-                              tickOf("chkPart(contents)", "Contents", Ticks::contents), spring()})),
-                   Item(group("fraClient", "Client and analyses", linesOf(0, own)), 1)});
+    m_key = new QLabel;
+    m_key->setObjectName("lblKey");
+    auto* front = row({tickOf("chkPart(cover)", "Cover", Ticks::cover),
+                       tickOf("chkPart(contents)", "Contents", Ticks::contents), spring(), m_key});
+    return column(
+        {group("fraFront", "Front", front), Item(group("fraClient", "Client and analyses", linesOf(0, own)), 1)});
 }
 
 Item frmClientFile::calculationsPage() {
@@ -141,6 +143,8 @@ void frmClientFile::filled() {
         line.why->setText(why);
         show(line);
     }
+    const bool isOnFile = m_work.record.ClientOnFile == 1;
+    m_key->setText(isOnFile ? tr("Key for the command line: %1").arg(m_work.record.DCLNO) : QString());
     QStringList remarks;
     for (const Line& line : m_lines)
         if (const std::string remark = remarkOn(*line.part, *source); !remark.empty())

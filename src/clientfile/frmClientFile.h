@@ -52,7 +52,7 @@ private:
     std::vector<Line> m_lines;
     QString m_password; ///< for this document only; never stored
     screenkit::TextField* m_passwordField = nullptr;
-    QLabel *m_remarks = nullptr, *m_saved = nullptr;
+    QLabel *m_key = nullptr, *m_remarks = nullptr, *m_saved = nullptr;
 };
 
 } // namespace clientfile

@@ -48,6 +48,7 @@ protected:
 } // namespace
 
 TEST_F(ClientFileScreen, GreysWhatHoldsNothingAndRemembersTheTicksOfTheRest) {
+    EXPECT_EQ(run.control<QLabel>("lblKey")->text(), "Key for the command line: 1");
     EXPECT_TRUE(tick("chkPart(loans)")->isEnabled());
     EXPECT_EQ(why("loans"), "");
     EXPECT_FALSE(tick("chkPart(inflation)")->isEnabled());
