@@ -61,8 +61,8 @@ std::string newMark() {
 
 void readFileTexts(FileTexts& texts, store::Database& database, double key, assessment::Checksum* sum) {
     const TableDescription& table = fileTextsTable();
-    if (!hasField(database, table, "DCLNO") || !hasField(database, table, "Mark")) return;
-    const std::string mark = markOf(database, key);
+    if (!hasField(database, table, "DCLNO") || !assessment::firstRow(database, table, key)) return; // as mostly
+    const std::string mark = hasField(database, table, "Mark") ? markOf(database, key) : std::string();
     if (mark.empty()) return;
     store::Statement marks =
         database.prepare("SELECT [Mark] FROM " + store::bracketed(table.name()) + " WHERE [DCLNO]=? ORDER BY rowid");

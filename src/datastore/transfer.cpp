@@ -126,7 +126,7 @@ public:
                                    "Nothing was copied. Choose the clients again.");
         assessment::FileTexts texts;
         readFileTexts(texts, m_from, fromKey);
-        writeFileTexts(texts, m_to, toKey);
+        if (!texts.isEmpty()) writeFileTexts(texts, m_to, toKey);
         m_addVersion.bind(1, m_version).run();
     }
 

@@ -101,10 +101,12 @@ TEST_F(Beside, WorksWhileAnotherProgramWritesAndAfterItCrashed) {
 TEST_F(Beside, ToldOfAFaultNamesTheUsersOwnFile) {
     const std::tuple<int, const char*, std::function<void()>> cases[] = {
         {321, "newest version", [&] { run("UPDATE DataSetup SET UpDateDB=19"); }},
-        {3049, "last backup", // found only in the copy that is to be upgraded
-         [&] {
-             run("UPDATE DataSetup SET UpDateDB=3; PRAGMA writable_schema=ON; UPDATE sqlite_master SET rootpage=9999 "
-                 "WHERE name='RNAMonIncReq'");
+        {3049, "last backup",
+         [&] { // a page that only the upgrade of the copy reads
+             run("UPDATE DataSetup SET UpDateDB=3");
+             std::string bytes = storetest::bytesOf(file);
+             const auto page = std::stoul(in("SELECT rootpage FROM sqlite_master WHERE name='RNAMonIncReq'"));
+             storetest::put(file, bytes.replace((page - 1) * 4096, 8, 8, 'x'));
          }},
         {3024, "last backup", [&] { fs::remove(file); }},
     };
@@ -127,6 +129,8 @@ TEST_F(Beside, APrintDatabaseOfItsOwnDisturbsNoOther) {
     { const datastore::PrintFeed undone(one.path(), "Botha"); }
     const std::string client = "SELECT Client FROM Printout";
     EXPECT_EQ(rowsOf(one.path(), client) + rowsOf(other.path(), client) + rowsOf(print, client), "Adams");
+    ::setenv("TMPDIR", "/no/such/folder", 1);
+    EXPECT_EQ(OwnPrintDb(folder.paths()).path().parent_path().parent_path(), "/tmp");
 }
 
 } // namespace
