@@ -83,8 +83,8 @@ void writeFileTexts(FileTexts& texts, store::Database& database, double key, ass
     completeTable(database, fileTextsTable());
     completeTable(database, assessment::fileTextsMark());
     deleteFileTexts(database, key, key);
-    std::string mark = markOf(database, key);
-    if (mark.empty()) setMark(database, key, mark = newMark());
+    const std::string mark = newMark();
+    setMark(database, key, mark);
     assessment::RowWriter(database, fileTextsTable(), sum).add(texts, {key});
     database.prepare("UPDATE " + store::bracketed(fileTextsTable().name()) + " SET [Mark]=? WHERE rowid=?")
         .bind(1, mark)
