@@ -11,8 +11,7 @@
 namespace {
 
 using namespace datastoretest;
-using datastore::FilesBeside;
-using datastore::OwnPrintDb;
+using datastore::FilesBeside, datastore::OwnPrintDb;
 
 /// Two clients, and a program that has been started once.
 class Beside : public ClientFileTest {
@@ -74,9 +73,10 @@ TEST_F(Beside, ReadsAsALoadDoesAndWritesNothingWhateverMustBeChangedFirst) {
                 << what;
             EXPECT_EQ(found.client.Name + std::to_string(files.clients().size()), "Botha2") << what;
             EXPECT_EQ(errorOf([&] { files.read(9); }), 3021) << what;
-            EXPECT_EQ(files.paths().UpDateDBValue, datastore::currentVersion) << what;
-            EXPECT_EQ(rowsOf(files.paths().PrintDbPath, "SELECT HEADERV0 FROM HeadFoot"), "Khumalo & Partners") << what;
-            EXPECT_EQ(rowsOf(files.paths().DefaultDbPath, "SELECT count(RptLanguage) FROM Setup"), "1") << what;
+            EXPECT_EQ(rowsOf(files.paths().PrintDbPath, "SELECT HEADERV0 FROM HeadFoot") +
+                          rowsOf(files.paths().DefaultDbPath, "SELECT count(RptLanguage) FROM Setup"),
+                      "Khumalo & Partners1")
+                << what;
         }
         EXPECT_TRUE(contentsOf(folder.path()) == before && fs::is_empty(temporary.path())) << what;
         ::chmod(folder.path().c_str(), 0755);
@@ -108,7 +108,6 @@ TEST_F(Beside, ToldOfAFaultNamesTheUsersOwnFile) {
              const auto page = std::stoul(in("SELECT rootpage FROM sqlite_master WHERE name='RNAMonIncReq'"));
              storetest::put(file, bytes.replace((page - 1) * 4096, 8, 8, 'x'));
          }},
-        {3024, "last backup", [&] { fs::remove(file); }},
     };
     for (const auto& [number, advice, spoil] : cases) {
         restore();
@@ -125,6 +124,7 @@ TEST_F(Beside, ToldOfAFaultNamesTheUsersOwnFile) {
 
 TEST_F(Beside, APrintDatabaseOfItsOwnDisturbsNoOther) {
     const OwnPrintDb one(folder.paths()), other(folder.paths());
+    EXPECT_EQ(one.path().parent_path().parent_path(), temporary.path());
     datastore::PrintFeed(one.path(), "Adams").commit();
     { const datastore::PrintFeed undone(one.path(), "Botha"); }
     const std::string client = "SELECT Client FROM Printout";
