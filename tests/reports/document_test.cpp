@@ -86,6 +86,7 @@ TEST_F(Document, ContentsOutlineAndLinksNameThePageWhereEachPartBegins) {
                                  }});
     const reports::Report report = makeDocument(plan);
     expectSound(report.layout);
+    EXPECT_EQ(found(report.layout, "Contents").face, &reports::Faces::all().title);
     const QString pdf = fileOf(reports::toPdf(report));
     const QStringList pages = textOfPdf(pdf).split('\f', Qt::SkipEmptyParts);
     const QJsonObject json = jsonOf(pdf), objects = json["objects"].toObject();
@@ -185,6 +186,7 @@ TEST_F(Document, PreviewOffersPdfAndOdtAndAsksBeforeAnOdtWithoutThePassword) {
     report->password = "secret";
     engine.show(report);
     reports::PreviewWindow* window = engine.previews().front();
+    EXPECT_EQ(window->windowTitle(), QString("Client file - %1").arg(clientName));
     desk.expectFile(pathOf("a.odt"));
     const auto box = desk.asked(screenkit::Answer::no, [&] { EXPECT_FALSE(window->exportReport()); });
     EXPECT_EQ(box.defaultAnswer, screenkit::Answer::no);
