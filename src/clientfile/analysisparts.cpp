@@ -75,12 +75,6 @@ bool isEducationEntered(const Assessment& record) {
     return group != assessment::NAEducation{};
 }
 
-/// The results stored with an analysis in which nothing is entered matter to no one.
-template <bool (*isEntered)(const Assessment&), std::string (*remark)(const Source&)>
-std::string remarkIfEntered(const Source& source) {
-    return isEntered(source.record) ? remark(source) : "";
-}
-
 // ---- the three analyses whose lines may be itemised
 
 struct NeedsPart {
@@ -188,25 +182,25 @@ std::vector<Part> analysisParts() {
              {amortisation, notes, itemised},
              whyNoAnalysis<death>,
              printAnalysis<death>,
-             remarkIfEntered<isDeathEntered, deathRemark>},
+             deathRemark},
             {"disabilityAnalysis",
              "Needs Analysis for Disability",
              {amortisation, notes, itemised},
              whyNoAnalysis<disability>,
              printAnalysis<disability>,
-             remarkIfEntered<isDisabilityEntered, disabilityRemark>},
+             disabilityRemark},
             {"retirementAnalysis",
              "Needs Analysis for Retirement",
              {amortisation, notes, premium, itemised},
              whyNoAnalysis<retirement>,
              printAnalysis<retirement>,
-             remarkIfEntered<isRetirementEntered, retirementRemark>},
+             retirementRemark},
             {"educationAnalysis",
              "Needs Analysis for Education",
              {amortisation, premium},
              whyNoEducation,
              printEducation,
-             remarkIfEntered<isEducationEntered, educationRemark>},
+             educationRemark},
             {"kwikQuotes", "Kwik-Quotes", {commissions, amortisation}, whyNoQuote, printQuote}};
 }
 
