@@ -281,6 +281,18 @@ struct DrawDownPart {
     }
 };
 
+Part drawDownPart() {
+    using P = DrawDownPart;
+    Part part = partOf<P>("drawDownAnnuity", "Draw Down Annuity", {Choice::amortisation});
+    // The phases are kept until the next client and never stored. Without them there is a page of zeros.
+    part.whyNot = [](const Source& source) -> std::string {
+        const bool isLoadedOnly = source.record.drawDownPhases == assessment::DrawDownPhases{};
+        if (P::isEntered(source.record) && isLoadedOnly) return nothingOnScreen;
+        return partOf<P>("", "").whyNot(source);
+    };
+    return part;
+}
+
 /// Either real rate of return, by its group of the record.
 template <auto Group>
 struct RealRatePart {
@@ -340,7 +352,7 @@ std::vector<Part> calculatorParts() {
                                       {Choice::amortisation, Choice::monthly}),
         partOf<InvestmentComparisonPart>("investmentComparison", "Investment Comparison"),
         partOf<OffShorePart>("offshoreInvestments", "Offshore Investments"),
-        partOf<DrawDownPart>("drawDownAnnuity", "Draw Down Annuity", {Choice::amortisation}),
+        drawDownPart(),
         partOf<RealRatePart<&Assessment::rrrNew>>("realRate", "Real Rate of Return", {}, remarkOnPayments),
         partOf<RealRatePart<&Assessment::rrrOld>>("realRateSingle", "Real Rate of Return, single investment", {},
                                                   remarkOnSingleInvestment),

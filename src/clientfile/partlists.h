@@ -7,7 +7,7 @@ namespace clientfile {
 
 /// Why a part can't be printed.
 inline constexpr const char* nothingEntered = "Nothing is entered yet.";
-inline constexpr const char* nothingOnScreen = "Its screen holds no figures, and it stores none.";
+inline constexpr const char* nothingOnScreen = "Its screen holds no figures, and the file has none.";
 inline constexpr const char* noResult = "The figures give no result that can be printed.";
 
 std::vector<Part> clientParts();     ///< personal details and policies

@@ -133,7 +133,8 @@ TEST_F(AnalysisParts, SayWhyTheyCannotBePrinted) {
         }
     Source unread = sourceOf(analysed());
     unread.paths.DefaultDbPath = "/nowhere/Default.Mdb";
-    EXPECT_NE(part("kwikQuotes").whyNot(unread), "");
+    EXPECT_EQ(part("kwikQuotes").whyNot(unread), ""); // else the quotation would be missing without a word
+    EXPECT_THROW(printedBy(part("kwikQuotes"), unread), store::Error);
 }
 
 TEST_F(AnalysisParts, RemarkWhatIsStoredAndNoLongerTrue) {

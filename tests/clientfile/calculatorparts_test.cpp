@@ -1,4 +1,5 @@
 #include "calculators/bondbuster.h"
+#include "clientfile/partlists.h"
 #include "clientfile/parts_support.h"
 #include "tax/frmMonthly.h"
 
@@ -82,7 +83,7 @@ TEST_F(CalculatorParts, AMonthOfPAYEIsThatOfItsScreenWhileThatHoldsOne) {
     run.menu("mnuPAYE");
     const auto shown = [&] { return qobject_cast<tax::frmMonthly*>(run.screen("frmMonthly"))->shown(); };
     EXPECT_FALSE(shown().has_value());
-    EXPECT_EQ(month.whyNot(source), "Its screen holds no figures, and it stores none.");
+    EXPECT_EQ(month.whyNot(source), clientfile::nothingOnScreen);
     EXPECT_EQ(printedBy(month, source), "");
     // The second month allows another deduction than a first one would.
     for (const char* typed :
@@ -156,7 +157,10 @@ TEST_F(CalculatorParts, SayWhyTheyCannotBePrinted) {
         if (each.part == std::string("retirementFunding")) run.desk.expect(screenkit::Answer::ok); // it says so at View
         EXPECT_EQ(shownBy(screenOf(each.part), "cmdPrint cmdVR", client), "");
     }
-    EXPECT_EQ(part("travelClaim").whyNot(sourceOf(blank)), "Its screen holds no figures, and it stores none.");
+    EXPECT_EQ(part("travelClaim").whyNot(sourceOf(blank)), clientfile::nothingOnScreen);
+    A loaded = fullWith();
+    loaded.drawDownPhases = {};
+    EXPECT_EQ(part("drawDownAnnuity").whyNot(sourceOf(loaded)), clientfile::nothingOnScreen);
     // Costs that can't be read are told by printing, else the part would be missing without a word.
     setDefault("DELETE FROM IncFromShares");
     EXPECT_EQ(part("incomeShares").whyNot(sourceOf(fullWith())), "");

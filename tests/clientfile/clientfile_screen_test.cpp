@@ -67,6 +67,8 @@ TEST_F(ClientFileScreen, GreysWhatHoldsNothingAndRemembersTheTicksOfTheRest) {
         EXPECT_FALSE(tick(off)->isChecked()) << off;
     for (const char* on : {"chkPart(contents)", "chkChoice(loans.amortisation)", "chkChoice(loans.monthly)"})
         EXPECT_TRUE(tick(on)->isChecked()) << on;
+    run.click("chkPart(cover)");
+    EXPECT_TRUE(screenkit::userSettings().value("clientFile/parts/cover").toBool());
     run.click("cmdAll");
     EXPECT_TRUE(tick("chkPart(loans)")->isChecked());
     EXPECT_EQ(run.record().ClientChanged, 0); // a tick is no edit of the client
