@@ -98,9 +98,10 @@ struct CapitalGainsPart {
                 "The capital gains stored with these assets are not those that their own figures give: " + others +
                 ".");
         present.assets = stored.assets;
-        if (present != stored) sentences.push_back("The known capital gains stored are not the sum of their own list.");
+        if (present != stored)
+            sentences.emplace_back("The known capital gains stored are not the sum of their own list.");
         if (stored.CarryOverCapGainPrev > 0)
-            sentences.push_back("The capital loss brought forward that is stored is above 0 and counts as a gain.");
+            sentences.emplace_back("The capital loss brought forward that is stored is above 0 and counts as a gain.");
         return joined(sentences);
     }
     /// Their numbers: "2", or "1, 3, 4".
