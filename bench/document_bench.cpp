@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QEvent>
 
+#include "datastore/ownprintdb.h"
 #include "reports/document.h"
 #include "reports/previewwindow.h"
 #include "reports/report.h"
@@ -21,7 +22,10 @@ public:
         for (const auto& entry : fs::directory_iterator(built / "program"))
             if (entry.path().extension() == ".rpt") fs::copy_file(entry.path(), m_folder / entry.path().filename());
         m_plan.definitions = m_folder;
-        m_plan.printDatabase = m_folder / "Print.mdb";
+        datastore::Paths paths;
+        paths.PrintDbPath = m_folder / "Print.mdb";
+        m_own.emplace(paths);
+        m_plan.printDatabase = m_own->path();
         m_plan.chapters.push_back({{}, [this](const reports::PrintSection& print) { addTo(print, 0, "Lonrepa.rpt"); }});
         for (int loan = 1; loan <= 15; ++loan)
             m_plan.chapters.push_back(
@@ -74,6 +78,7 @@ private:
     }
 
     fs::path m_folder;
+    std::optional<datastore::OwnPrintDb> m_own; ///< as for every document
     screenkit::RealDesk m_desk;
     reports::Engine m_reports;
     reports::DocumentPlan m_plan{.definitions = {},

@@ -27,6 +27,13 @@ Face::Face(double pointSize, QFont::Weight weight, const QColor& colour, bool sl
     ascent = (lineHeight + metrics.capHeight()) / 2;
 }
 
+double Face::widthOf(const QString& text) const {
+    constexpr qsizetype most = 4000; // some ten pages of figures
+    if (const auto known = m_widths.constFind(text); known != m_widths.cend()) return *known;
+    if (m_widths.size() >= most) m_widths.clear();
+    return *m_widths.insert(text, metrics.horizontalAdvance(text));
+}
+
 const Faces& Faces::all() {
     static const Faces faces;
     return faces;

@@ -3,6 +3,8 @@
 #include <QColor>
 #include <QFont>
 #include <QFontMetricsF>
+#include <QHash>
+#include <QString>
 
 namespace reports {
 
@@ -24,6 +26,14 @@ public:
     double lineHeight; ///< from one baseline to the next
     double ascent;     ///< from the top of the line to its baseline; spare height is divided between above and below
     QFontMetricsF metrics;
+
+    /// The width of a text on one line. The figures of a table are measured to see whether they fit, and once more to
+    /// be placed; measuring is most of the work of laying out, so the last ones are kept. For the thread of the
+    /// windows.
+    double widthOf(const QString& text) const;
+
+private:
+    mutable QHash<QString, double> m_widths;
 };
 
 /// The typefaces that all reports share.

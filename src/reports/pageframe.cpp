@@ -23,11 +23,9 @@ double addParagraph(Page& page, const Paragraph& paragraph, double x, double y) 
     return y;
 }
 
-double widthOf(const QString& text, const Face& face) { return face.metrics.horizontalAdvance(text); }
-
 void addAtRight(Page& page, const QString& text, const Face& face, double y) {
     const Measure flow = PageFrame::flow();
-    page.texts.push_back({{flow.x + flow.width - widthOf(text, face), y + face.ascent}, text, &face});
+    page.texts.push_back({{flow.x + flow.width - face.widthOf(text), y + face.ascent}, text, &face});
 }
 
 } // namespace
@@ -42,13 +40,13 @@ PageFrame::PageFrame(const Content& content) : m_date(content.date) {
     QStringList footer = content.footerLines;
     while (!footer.isEmpty() && footer.last().isEmpty())
         footer.removeLast();
-    const double besideNumber = width - widthOf("Page 999 of 999", faces.footer) - points(12);
+    const double besideNumber = width - faces.footer.widthOf("Page 999 of 999") - points(12);
     for (const QString& line : footer)
         m_footer.push_back(broken({Run{line.isEmpty() ? QString(" ") : line}}, faces.footer, besideNumber));
     const double footerHeight = std::max(heightOf(m_footer), faces.footer.lineHeight);
     m_bottom = Layout::pageSize().height() - marginBottom - footerHeight - footerGap - aboveFooter;
 
-    const double besideDate = width - widthOf(m_date, faces.header) - points(12);
+    const double besideDate = width - faces.header.widthOf(m_date) - points(12);
     m_client = broken({Run{content.headOf(true)}}, faces.practice, besideDate);
     m_running = broken({Run{content.headOf(false)}}, faces.header, besideDate);
 }

@@ -40,7 +40,7 @@ const Face& faceOf(const Cell& cell, const Face& row, double width) {
     const Face* face = &row;
     if (!cell.number) return row;
     const QString figure = cell.text();
-    while (face->metrics.horizontalAdvance(figure) > width && smaller(*face))
+    while (face->widthOf(figure) > width && smaller(*face))
         face = smaller(*face);
     return *face;
 }

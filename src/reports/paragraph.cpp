@@ -19,7 +19,7 @@ const Face& faceOf(const Run& run, const Face& base) {
 bool fitsOneLine(const std::vector<Run>& runs, const Face& face, double width, Paragraph& paragraph) {
     if (runs.size() != 1 || runs.front().text.contains('\n') || runs.front().text.contains('\t')) return false;
     const Face& own = faceOf(runs.front(), face);
-    const double advance = own.metrics.horizontalAdvance(runs.front().text);
+    const double advance = own.widthOf(runs.front().text);
     if (advance > width) return false;
     paragraph.lines.push_back({{{0, runs.front().text, &own}}, advance});
     return true;
