@@ -131,7 +131,8 @@ std::shared_ptr<Source> frmClientFile::currentSource() {
     source->record = m_work.record;
     source->paths = m_work.paths;
     source->today = today();
-    if (const auto* month = qobject_cast<tax::frmMonthly*>(m_work.shell.screen("frmMonthly"))) (void)month; // TEMP
+    if (const auto* month = qobject_cast<tax::frmMonthly*>(m_work.shell.screen("frmMonthly")))
+        source->month = month->shown();
     return source;
 }
 
@@ -161,11 +162,7 @@ void frmClientFile::show(Line& line) {
     for (std::size_t index = 0; index < line.choices.size(); ++index) {
         CheckField* choice = line.choices[index];
         choice->setVisible(line.isPrintable);
-        if (line.part->choices[index] == Choice::monthly) {
-            choice->setEnabled(isTicked && follows);
-        } else {
-            choice->setEnabled(isTicked);
-        }
+        choice->setEnabled(isTicked && (follows || line.part->choices[index] != Choice::monthly));
         follows = choice->isChecked();
     }
 }

@@ -114,6 +114,17 @@ TEST_F(ClientFileScreen, ShowsAndSavesTheDocumentUnderTheClientsNameAndDay) {
     EXPECT_GT(QFileInfo(path("file.odt")).size(), 1000);
 }
 
+TEST_F(ClientFileScreen, PrintsTheMonthlyTaxWhileItsScreenHoldsFigures) {
+    EXPECT_EQ(why("monthlyTax"), "Its screen holds no figures, and the file has none.");
+    run.menu("mnuPAYE");
+    run.typeAll("silgEdit9 45, numSalRemun 40000");
+    run.menu("mnuClientFile");
+    EXPECT_EQ(why("monthlyTax"), "");
+    save("cmdPDF", "file.pdf");
+    reporttest::expectWords(textOf(path("file.pdf")), {"PAYE Monthly Calculation", "40 000"});
+    EXPECT_EQ(run.record().changed.any(), false); // printing a month taxes no client
+}
+
 TEST_F(ClientFileScreen, LocksThePdfByThePasswordAndAsksBeforeAnOpenOdt) {
     run.type("txtPassword", "Blou berg 7");
     save("cmdPDF", "file.pdf");
