@@ -45,11 +45,6 @@ void endWithoutDisplay(QtMsgType type, const QMessageLogContext&, const QString&
     std::_Exit(EXIT_FAILURE);
 }
 
-/// A night's run on a server has no session; the toolkit's advice on that would hide the lines that tell of a failure.
-void hideAdvice(QtMsgType type, const QMessageLogContext& context, const QString& text) {
-    endWithoutDisplay(type, context, text);
-}
-
 void setUp(QApplication& application) {
     std::setlocale(LC_NUMERIC, "C"); // the toolkit has set the system's locale; figures here always use the same form
     QApplication::setApplicationName("marlowbeck");
@@ -59,8 +54,8 @@ void setUp(QApplication& application) {
 
 /// Makes client files and ends: 0 if all are written, 1 if any failed.
 int makeClientFiles(const shell::ClientFileOrder& order, int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen"); // no display is needed
-    qInstallMessageHandler(hideAdvice);
+    qputenv("QT_QPA_PLATFORM", "offscreen");   // no display is needed
+    qInstallMessageHandler(endWithoutDisplay); // a server's night run needs none of the toolkit's advice on sessions
     QApplication application(argc, argv);
     setUp(application);
     bool failed = false;
