@@ -58,7 +58,7 @@ Item frmClientFile::lineOf(const Part& part) {
     const auto changed = [this, index](bool) { show(m_lines[index]); };
     auto* tick = tickOf(QString("chkPart(%1)").arg(part.name), QString(part.title).replace("&", "&&"), part.name);
     tick->ticked = changed;
-    Line& line = m_lines.emplace_back(Line{.part = &part, .tick = tick, .choices = {}, .why = note({})});
+    Line& line = m_lines.emplace_back(Line{.part = &part, .tick = tick, .choices = {}, .why = new QLabel});
     line.why->setObjectName(QString("lblWhy(%1)").arg(part.name));
     std::vector<Item> items{tick};
     for (const Choice choice : part.choices) {
