@@ -86,6 +86,8 @@ private:
                                  .date = QDate(2026, 11, 23),
                                  .title = "Client file",
                                  .client = "Ms T. Botha",
+                                 .fileClient = {},
+                                 .fileTitle = {},
                                  .chapters = {}};
 };
 

@@ -122,6 +122,8 @@ void exportAll(const fs::path& definitions, const fs::path& printTemplate, const
                                    .date = desk.today(),
                                    .title = "Document",
                                    .client = "Ms T. Ṱhoho-Nḓou",
+                                   .fileClient = {},
+                                   .fileTitle = {},
                                    .chapters = {}};
     for (const auto& entry : fs::directory_iterator(definitions)) {
         const reports::Definition definition = reports::readDefinition(folder / entry.path().filename());

@@ -148,8 +148,9 @@ void frmClientFile::filled() {
     m_key->setText(isOnFile ? tr("Key for the command line: %1").arg(m_work.record.DCLNO) : QString());
     QStringList remarks;
     for (const Line& line : m_lines)
-        if (const std::string remark = remarkOn(*line.part, *source); !remark.empty())
-            remarks << QString::fromStdString(remark);
+        if (line.isPrintable)
+            if (const std::string remark = remarkOn(*line.part, *source); !remark.empty())
+                remarks << QString::fromStdString(remark);
     m_remarks->setText(remarks.join("\n"));
     m_remarks->setVisible(!remarks.isEmpty());
 }
@@ -208,7 +209,6 @@ std::shared_ptr<const reports::Report> frmClientFile::make(const Then& then) {
     const auto work = [&](const store::Progress& progress) {
         *report = reports::makeDocument(planOf(source, m_ticks), progress);
         report->password = m_password;
-        report->fileClient = fileClientOf(m_work.record);
         if (then) then(*report, progress);
     };
     if (!runLongWork(tr("Putting the client file together"), work)) return {};

@@ -72,6 +72,8 @@ reports::DocumentPlan planOf(const std::shared_ptr<const Source>& source, const 
                                .date = dateOf(source->today),
                                .title = "Client file",
                                .client = QString::fromStdString(source->record.client.Name).simplified(),
+                               .fileClient = fileClientOf(source->record),
+                               .fileTitle = fileTitleOf(source->today),
                                .chapters = {},
                                .hasContents = ticks.has(Ticks::contents)};
     if (ticks.has(Ticks::cover))

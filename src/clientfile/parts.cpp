@@ -19,7 +19,7 @@ const std::vector<Part>& parts() {
 }
 
 std::string remarkOn(const Part& part, const Source& source) {
-    return part.remark != nullptr && part.whyNot(source).empty() ? part.remark(source) : std::string();
+    return part.remark != nullptr ? part.remark(source) : std::string();
 }
 
 } // namespace clientfile

@@ -57,7 +57,7 @@ struct Part {
 /// All parts in the order of the document. The cover comes first; the contents follow it.
 const std::vector<Part>& parts();
 
-/// The part's remark if it can be printed; nobody asks for results that are not there.
+/// The part's remark, empty if it has none. For a part that can be printed: nobody asks for results that are not there.
 std::string remarkOn(const Part& part, const Source& source);
 
 } // namespace clientfile

@@ -107,7 +107,8 @@ Report makeDocument(const DocumentPlan& plan, const store::Progress& progress) {
                       .footerLines = first.footerLines,
                       .blocks = {}};
     report.windowTitle = documentTitle(report.content);
-    report.fileTitle = plan.title.left(1).toLower() + plan.title.mid(1) + ' ' + plan.date.toString(Qt::ISODate);
+    report.fileClient = plan.fileClient;
+    report.fileTitle = plan.fileTitle;
     report.layout = layOut(report.sections, [&](double done) { return !progress || progress(fed + (1 - fed) * done); });
     return report;
 }

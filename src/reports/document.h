@@ -29,6 +29,7 @@ struct DocumentPlan {
     QDate date;
     QString title;                 ///< of the document, "Client file"
     QString client;                ///< display name
+    QString fileClient, fileTitle; ///< of the proposed file name, see Report
     std::vector<Chapter> chapters; ///< a cover first
     bool hasContents = true; ///< a table of contents behind the first chapter, if that is a cover, else before all
 };

@@ -1,7 +1,7 @@
 #include "shell/clientfiles.h"
 
+#include <algorithm>
 #include <charconv>
-#include <set>
 #include <stdexcept>
 #include <string_view>
 
@@ -37,6 +37,10 @@ double keyIn(std::string_view word) {
     return key;
 }
 
+std::optional<reports::Format> formatOf(const fs::path& file) {
+    return reports::formatOf(QString::fromStdString(file.string()));
+}
+
 /// Throws for a place that can't take what is ordered, before any work is done.
 void requirePlace(const ClientFileOrder& order) {
     std::error_code ignored;
@@ -44,7 +48,8 @@ void requirePlace(const ClientFileOrder& order) {
         if (!fs::is_directory(order.to, ignored))
             throw store::Error(store::Number::badPath, order.to.string(), "There is no such folder.",
                                "Create the folder first, or name another one.");
-    } else if (!reports::formatOf(QString::fromStdString(order.to.string()))) {
+    } else if (const auto format = formatOf(order.to);
+               format != reports::Format::pdf && format != reports::Format::odt) {
         throw store::Error(store::Number::badPath, order.to.string(), "The file's name must end in .pdf or .odt.");
     }
 }
@@ -63,9 +68,8 @@ public:
         source->paths = m_files.paths();
         source->today = m_today;
         const fs::path file = m_order.key ? m_order.to : m_order.to / nameOf(*source, key);
-        const auto format = reports::formatOf(QString::fromStdString(file.string())).value();
         const reports::Report report = reports::makeDocument(clientfile::planOf(source, m_ticks));
-        store::writeFile(file, reports::exported(report, format).toStdString());
+        store::writeFile(file, reports::exported(report, formatOf(file).value()).toStdString());
     }
 
 private:

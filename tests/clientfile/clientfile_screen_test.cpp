@@ -102,6 +102,8 @@ TEST_F(ClientFileScreen, ShowsAndSavesTheDocumentUnderTheClientsNameAndDay) {
     run.click("cmdPreview");
     const auto previews = run.program.reports().previews();
     ASSERT_EQ(previews.size(), 1U);
+    EXPECT_EQ(previews.front()->report().fileClient + previews.front()->report().fileTitle,
+              "Bothaclient file 2026-11-23");
     const int pages = previews.front()->report().layout.count();
     EXPECT_GE(pages, 5); // cover, contents, personal details, loan, texts
     save("cmdPDF", "file.pdf");

@@ -48,6 +48,8 @@ protected:
                                .date = QDate(2026, 11, 23),
                                .title = "Client file",
                                .client = clientName,
+                               .fileClient = {},
+                               .fileTitle = "client file 2026-11-23",
                                .chapters = {}};
 };
 

@@ -94,6 +94,7 @@ TEST_F(ClientFiles, OneThatFailsIsToldOnALineAndStopsNoOther) {
     const std::pair<shell::ClientFileOrder, const char*> refused[] = {
         {{9, out / "a.pdf"}, "no longer in the"},
         {{1, out / "a.docx"}, ".pdf or .odt"},
+        {{1, out / "a.html"}, ".pdf or .odt"}, // a format of single reports
         {{1, out / "none" / "a.pdf"}, "none"},
         {{{}, out / "none"}, "no such folder"},
     };
