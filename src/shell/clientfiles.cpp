@@ -50,7 +50,8 @@ void requirePlace(const ClientFileOrder& order) {
                                "Create the folder first, or name another one.");
     } else if (const auto format = formatOf(order.to);
                format != reports::Format::pdf && format != reports::Format::odt) {
-        throw store::Error(store::Number::badPath, order.to.string(), "The file's name must end in .pdf or .odt.");
+        throw store::Error(store::Number::badPath, order.to.string(), "The file's name must end in .pdf or .odt.",
+                           "Name the file {name}.pdf, for example.");
     }
 }
 
